@@ -1,0 +1,25 @@
+include(CMakePackageConfigHelpers)
+
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+foreach(package QELG QELPROEngine)
+  set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
+  install(TARGETS ${package} EXPORT ${package}Targets
+          RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+          ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+          INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${package_dir})
+  configure_package_config_file(cmake/${package}Config.cmake.in ${package}Config.cmake INSTALL_DESTINATION ${package_dir})
+  write_basic_package_version_file(${package}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake
+          DESTINATION ${package_dir})
+  string(TOLOWER ${package} pc_name)
+  configure_file(cmake/${pc_name}.pc.in ${pc_name}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
+
+if(QELPRO_TOOL)
+  install(TARGETS qelpro RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()

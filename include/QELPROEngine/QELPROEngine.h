@@ -1,0 +1,11 @@
+#pragma once
+
+/// Everything that the library exports.
+
+#include "QELPROEngine/CQELPRORSVReader_Manipulator.h"
+#include "QELPROEngine/CQELPRORSVWriter_Manipulator.h"
+#include "QELPROEngine/CQELPROReader_Manipulator.h"
+#include "QELPROEngine/CQELPROWriter_Manipulator.h"
+#include "QELPROEngine/CQELProcessData_Manipulator.h"
+#include "QELPROEngine/CQELProcessValueReader.h"
+#include "QELPROEngine/version.h"

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <type_traits>
+
+#include "QELPROEngine/CQELPROReader_Manipulator.h"
+#include "QELPROEngine/CQELPROWriter_Manipulator.h"
+#include "core/session.h"
+
+/// What every exported section member does: hand its arguments to the session's block of that section.
+namespace qel {
+
+using Session = CQELPROIOBase;
+
+inline bool is_done(int result) { return result == to_int(Result::done); }
+
+template <class Value>
+bool is_null([[maybe_unused]] Value value) {
+  if constexpr (std::is_pointer_v<Value>) {
+    return value == nullptr;
+  } else {
+    return false;
+  }
+}
+
+/// No exception leaves the library: running out of memory is a failure like any other.
+template <class Work>
+bool attempt(Work work) noexcept {
+  try {
+    return work();
+  } catch (...) {
+    return false;
+  }
+}
+
+template <class Block, class Encoding, class... Values>
+bool read(Session* session, Block Session::*block, const Key<Encoding>& key, Place place, Values&... values) {
+  return session != nullptr && attempt([&] { return is_done((session->*block).Read(key, place, values...)); });
+}
+
+/// A null text is never written.
+template <class Block, class Encoding, class... Values>
+bool write(Session* session, Block Session::*block, const Key<Encoding>& key, Place place, Values... values) {
+  return session != nullptr && !(is_null(values) || ...) && attempt([&] { return is_done((session->*block).Write(key, place, values...)); });
+}
+
+}  // namespace qel

@@ -1,0 +1,58 @@
+#include <new>
+
+#include "QELPROEngine/CQELPROReader_Manipulator.h"
+#include "api/forward.h"
+#include "api/ownership.h"
+
+CQELPROReader_Manipulator::CQELPROReader_Manipulator() : session_(nullptr), raw_reads_disabled_(0) {}
+
+CQELPROReader_Manipulator::CQELPROReader_Manipulator(const CQELPROReader_Manipulator& other)
+    : session_(qel::share(other.session_)), raw_reads_disabled_(other.raw_reads_disabled_) {}
+
+CQELPROReader_Manipulator& CQELPROReader_Manipulator::operator=(const CQELPROReader_Manipulator& other) {
+  CQELPROReader* previous = session_;
+  session_ = qel::share(other.session_);
+  raw_reads_disabled_ = other.raw_reads_disabled_;
+  qel::release(previous);
+  return *this;
+}
+
+CQELPROReader_Manipulator::~CQELPROReader_Manipulator() { qel::release(session_); }
+
+bool CQELPROReader_Manipulator::OpenSession() {
+  if (session_ == nullptr) {
+    session_ = qel::make_session<CQELPROReader>();
+    raw_reads_disabled_ = 0;
+  }
+  return session_ != nullptr;
+}
+
+bool CQELPROReader_Manipulator::SetFilePath(const char* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading); }
+
+bool CQELPROReader_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading); }
+
+bool CQELPROReader_Manipulator::SetFilePtr(std::FILE*& stream) { return OpenSession() && qel::lend(*session_, stream); }
+
+void CQELPROReader_Manipulator::CloseFile() {
+  if (session_ != nullptr) {
+    session_->document().CloseFile();
+  }
+}
+
+bool CQELPROReader_Manipulator::GetFilePath(const char*& path) {
+  if (session_ == nullptr) {
+    return false;
+  }
+  path = session_->document().narrow_path();
+  return true;
+}
+
+bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
+  return raw_reads_disabled_ == 0 && session_ != nullptr &&
+         qel::attempt([&] { return qel::is_done(session_->document().ReadOnce(section, key, value, buffer, size)); });
+}
+
+bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value, char* buffer, unsigned int /*size*/) {
+  return raw_reads_disabled_ == 0 && session_ != nullptr &&
+         qel::attempt([&] { return session_->document().ScanValue(session_->document().own_path(), section, key, value, buffer); });
+}

@@ -1,0 +1,9 @@
+#include "api/forward.h"
+
+// [Unit]
+
+void CQELPROWriter_Manipulator::WriteUnitBlock() {
+  if (session_ != nullptr) {
+    session_->unit.WriteUnits();
+  }
+}

@@ -1,0 +1,3 @@
+#include "QELPROEngine/version.h"
+
+int GetPRODLLVersion() { return 9103; }

@@ -1,0 +1,72 @@
+#include <cstdarg>
+
+#include "QELPROEngine/CQELPROWriter_Manipulator.h"
+#include "api/forward.h"
+#include "api/ownership.h"
+#include "platform/format.h"
+
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() : session_(nullptr) {}
+
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other)
+    : session_(qel::share(other.session_)), path_(other.path_) {}
+
+CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(const CQELPROWriter_Manipulator& other) {
+  CQELPROWriter* previous = session_;
+  session_ = qel::share(other.session_);
+  path_ = other.path_;
+  qel::release(previous);
+  return *this;
+}
+
+CQELPROWriter_Manipulator::~CQELPROWriter_Manipulator() { qel::release(session_); }
+
+bool CQELPROWriter_Manipulator::OpenSession() {
+  if (session_ == nullptr) {
+    session_ = qel::make_session<CQELPROWriter>();
+  }
+  return session_ != nullptr;
+}
+
+bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
+  if (path == nullptr || !OpenSession()) {
+    return false;
+  }
+  path_ = path;
+  return qel::open(*session_, path, CQELPROIO::kWriting);
+}
+
+bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }
+
+bool CQELPROWriter_Manipulator::SetFilePtr(std::FILE*& stream) { return OpenSession() && qel::lend(*session_, stream); }
+
+void CQELPROWriter_Manipulator::CloseFile() {
+  if (session_ != nullptr) {
+    session_->document().CloseFile();
+  }
+}
+
+bool CQELPROWriter_Manipulator::GetFilePath(const char*& path) {
+  if (session_ == nullptr) {
+    return false;
+  }
+  path = session_->document().narrow_path();
+  return true;
+}
+
+bool CQELPROWriter_Manipulator::WriteString(const char* section, const char* key, const char* value) {
+  return session_ != nullptr && qel::attempt([&] { return qel::is_done(session_->document().WriteOnce(section, key, value)); });
+}
+
+bool CQELPROWriter_Manipulator::WriteItems(const char* section, const char* key, const char* format, ...) {
+  if (session_ == nullptr || format == nullptr) {
+    return false;
+  }
+  std::va_list arguments;
+  va_start(arguments, format);
+  const bool done = qel::attempt([&] {
+    const std::optional<std::string> value = qel::platform::format(format, arguments);
+    return value && WriteString(section, key, value->c_str());
+  });
+  va_end(arguments);
+  return done;
+}

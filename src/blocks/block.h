@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "blocks/encoding.h"
+#include "blocks/key.h"
+#include "core/document.h"
+
+/// The base of the section blocks: one object per section kind, which names its section and reads and writes its keys
+/// through the session's document. A block keeps no values.
+///
+/// Every operation yields the document's result, or -1 while no document is attached.
+class CQELPROBlockIOBase {
+ public:
+  explicit CQELPROBlockIOBase(const char* section) { CQELPROBlockIOBase::SetSectionName(section); }
+  CQELPROBlockIOBase(const CQELPROBlockIOBase&) = delete;
+  CQELPROBlockIOBase& operator=(const CQELPROBlockIOBase&) = delete;
+  virtual ~CQELPROBlockIOBase() = default;
+
+  /// Renames the block for the rest of the session. A name is cut at 255 characters.
+  virtual void SetSectionName(const char* name);
+
+  /// False for null, which leaves the block as it is.
+  virtual bool AttachDocument(CQELPROIO* document);
+
+  /// Looks the key up and scans its value. How much of it scans does not count: a value that was found is a success.
+  template <class Encoding, class... Values>
+  int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+    char* text = nullptr;
+    const int result = Find(key.text, place, text);
+    if (result == qel::to_int(qel::Result::done)) {
+      Encoding::scan(text, values...);
+    }
+    return result;
+  }
+
+  template <class Encoding, class... Values>
+  int Write(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
+    return Store(key.text, place, Encoding::print(values...), Encoding::kLimit);
+  }
+
+ protected:
+  /// The value text of a key, in the document's shared buffer.
+  int Find(const char* key, qel::Place place, char*& text);
+  int Store(const char* key, qel::Place place, const std::string& text, std::size_t limit);
+
+  [[nodiscard]] CQELPROIO* document() const { return document_; }
+  [[nodiscard]] const char* name() const { return name_; }
+
+ private:
+  static constexpr std::size_t kNameSize = 256;
+
+  char name_[kNameSize] = {};
+  CQELPROIO* document_ = nullptr;
+};

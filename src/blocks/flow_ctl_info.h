@@ -1,0 +1,21 @@
+#pragma once
+
+#include "blocks/block.h"
+
+/// [FlowCTLInfo]: how many melt inlets the run has, and what controls each.
+namespace qel::flow_ctl_info {
+
+inline constexpr char kSection[] = "[FlowCTLInfo]";
+
+inline constexpr Key<Integer> kTotalInlet{"TotalInlet", {"FlowCTLInfo_ReadTotalInlet"}, {}, "the number of inlets"};
+inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
+    "FlowCTL-%d", {"FlowCTLInfo_ReadFlowCTL"}, {}, "two control codes of an inlet, the second its control type; a number that is missing is 0"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet};
+
+}  // namespace qel::flow_ctl_info
+
+class CQELPROBlockIOFlowCTLInfo : public CQELPROBlockIOBase {
+ public:
+  CQELPROBlockIOFlowCTLInfo() : CQELPROBlockIOBase(qel::flow_ctl_info::kSection) {}
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace qel {
+
+/// The exported members that serve a key; most keys have one, some none, a few several.
+using Members = std::array<const char*, 3>;
+
+/// One key of a section as everything but its encoding sees it: the catalogue, the tool and the documents run from this.
+struct KeyInfo {
+  const char* text;  ///< As it stands in the file; with "%d" where the point number goes.
+  Members readers;
+  Members writers;
+  const char* meaning;   ///< What the value is, with its unit where the file states one.
+  const char* encoding;  ///< The encoding's name.
+};
+
+/// A key with its encoding: the type that scans and prints its values.
+template <class Encoding>
+struct Key : KeyInfo {
+  constexpr Key(const char* key, Members read, Members write, const char* what) : KeyInfo{key, read, write, what, Encoding::kName} {}
+};
+
+/// The numbers that go into a numbered key and into the name of an indexed section.
+struct Place {
+  int point = 0;
+  int section = 0;
+};
+
+constexpr Place in_section(int number) { return {0, number}; }
+constexpr Place at_point(int number) { return {number, 0}; }
+constexpr Place at_point(int number, int section) { return {number, section}; }
+
+}  // namespace qel

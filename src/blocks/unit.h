@@ -1,0 +1,28 @@
+#pragma once
+
+#include "blocks/block.h"
+
+/// [Unit]: the units in which the file's values are given. They are fixed.
+namespace qel::unit {
+
+inline constexpr char kSection[] = "[Unit]";
+
+inline constexpr Key<Text> kTime{"Time", {}, {"WriteUnitBlock"}, "the unit of times, \"sec\""};
+inline constexpr Key<Text> kTemp{"Temp", {}, {"WriteUnitBlock"}, "the unit of temperatures, \"oC\""};
+inline constexpr Key<Text> kPres{"Pres", {}, {"WriteUnitBlock"}, "the unit of pressures, \"MPa\""};
+inline constexpr Key<Text> kFR{"FR", {}, {"WriteUnitBlock"}, "the unit of flow rates, \"cc/sec\""};
+inline constexpr Key<Text> kIP{"IP", {}, {"WriteUnitBlock"}, "the unit of injection pressures, \"MPa\""};
+inline constexpr Key<Text> kPP{"PP", {}, {"WriteUnitBlock"}, "the unit of packing pressures, \"MPa\""};
+inline constexpr Key<Text> kVolume{"Volume", {}, {"WriteUnitBlock"}, "the unit of volumes, \"cc\""};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTime, &kTemp, &kPres, &kFR, &kIP, &kPP, &kVolume};
+
+}  // namespace qel::unit
+
+class CQELPROBlockIOUnit : public CQELPROBlockIOBase {
+ public:
+  CQELPROBlockIOUnit() : CQELPROBlockIOBase(qel::unit::kSection) {}
+
+  /// Writes every entry, whatever becomes of each.
+  void WriteUnits();
+};

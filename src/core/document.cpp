@@ -1,0 +1,292 @@
+#include "core/document.h"
+
+#include <cstring>
+#include <string_view>
+
+#include "core/scan_value.h"
+#include "core/text.h"
+
+using qel::Entry;
+using qel::Line;
+using qel::LineScanner;
+using qel::Result;
+using qel::Store;
+using qel::Target;
+using qel::platform::OsFile;
+using qel::platform::RandomAccess;
+
+namespace {
+
+constexpr std::size_t kValueBuffer = 4096;
+
+// One for the whole thread: a text result lives until its next lookup through any document.
+char* shared_value_buffer() {
+  thread_local char buffer[kValueBuffer];
+  return buffer;
+}
+
+Result deliver(std::string_view text, char*& value, char* buffer, std::size_t size) {
+  if (buffer == nullptr) {
+    buffer = shared_value_buffer();
+    size = kValueBuffer;
+  }
+  if (text.size() >= size) {
+    return Result::no_open;
+  }
+  std::memcpy(buffer, text.data(), text.size());
+  buffer[text.size()] = '\0';
+  value = buffer;
+  return Result::done;
+}
+
+Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target, char*& value, char* buffer, std::size_t size) {
+  if (lines.failed()) {
+    return Result::no_open;
+  }
+  if (!line) {
+    return Result::absent;
+  }
+  return deliver(target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text), value, buffer, size);
+}
+
+bool open_or_create(OsFile& file, const char* path) { return file.open_for_update(path) || file.create(path); }
+
+// Runs a store on a file that was opened for it, and counts a failing close as a failing store.
+template <class Work>
+Result store_into(OsFile& file, Work work) {
+  Store store(file);
+  const Result result = work(store);
+  return file.close() ? result : Result::no_open;
+}
+
+std::string_view view(const char* text) { return text != nullptr ? std::string_view(text) : std::string_view(); }
+
+}  // namespace
+
+CQELPROIO::~CQELPROIO() {
+  if (file_.is_open() && stream_ != nullptr) {
+    std::fclose(stream_);
+  }
+}
+
+RandomAccess& CQELPROIO::held() {
+  if (lent_ != nullptr) {
+    return *lent_;
+  }
+  return file_;
+}
+
+bool CQELPROIO::release_held() {
+  lent_.reset();
+  const bool closed_stream = stream_ == nullptr || std::fclose(stream_) == 0;
+  stream_ = nullptr;
+  return file_.close() && closed_stream;
+}
+
+void CQELPROIO::remember(const char* path) {
+  path_copy_ = path;
+  path_ = path;
+  wide_path_ = nullptr;
+}
+
+void CQELPROIO::remember(const wchar_t* path) {
+  wide_path_copy_ = path;
+  wide_path_ = path;
+  path_ = nullptr;
+}
+
+template <class Character>
+bool CQELPROIO::open(const Character* path, int mode) {
+  if (path == nullptr) {
+    return false;
+  }
+  if (mode == kWriting) {
+    OsFile file;
+    if constexpr (std::is_same_v<Character, char>) {
+      if (!open_or_create(file, path)) {
+        return false;
+      }
+    } else if (!file.open_for_update(path)) {
+      return false;
+    }
+    remember(path);
+    return file.close();
+  }
+  release_held();
+  if (!file_.open_for_reading(path)) {
+    return false;
+  }
+  attached_ = indexed_ = true;
+  remember(path);
+  return true;
+}
+
+bool CQELPROIO::SetFilePath(const char* path, int mode) { return open(path, mode); }
+
+bool CQELPROIO::SetFilePath(const wchar_t* path, int mode) { return open(path, mode); }
+
+bool CQELPROIO::SetFilePtr(std::FILE*& stream) {
+  if (stream == nullptr) {
+    return false;
+  }
+  if (file_.is_open()) {
+    release_held();
+  }
+  stream_ = stream;
+  lent_ = std::make_unique<qel::platform::LentStream>(stream);
+  attached_ = true;
+  indexed_ = false;
+  path_ = nullptr;
+  wide_path_ = nullptr;
+  return true;
+}
+
+bool CQELPROIO::GetFilePtr(std::FILE*& stream) {
+  if (!holds_file()) {
+    return false;
+  }
+  if (stream_ == nullptr) {
+    stream_ = file_.duplicate_as_stream();
+  }
+  stream = stream_;
+  return stream_ != nullptr;
+}
+
+void CQELPROIO::CloseFile() { release_held(); }
+
+bool CQELPROIO::open_path(OsFile& file) const {
+  return wide_path_ != nullptr ? file.open_for_reading(wide_path_copy_.c_str()) : file.open_for_reading(path_copy_.c_str());
+}
+
+bool CQELPROIO::open_path_for_update(OsFile& file) const {
+  return wide_path_ != nullptr ? file.open_for_update(wide_path_copy_.c_str()) : open_or_create(file, path_copy_.c_str());
+}
+
+int CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) { return GetValue(section, key, value, nullptr, 0, index); }
+
+int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index) {
+  const Target target{view(section), view(key), index};
+  OsFile own;
+  if (!attached_) {
+    if (path_ == nullptr && wide_path_ == nullptr) {
+      return to_int(Result::no_file);
+    }
+    if (!open_path(own)) {
+      return to_int(Result::no_open);
+    }
+  } else if (!holds_file()) {
+    return to_int(Result::no_file);
+  }
+  RandomAccess& file = attached_ ? held() : own;
+  std::optional<LineScanner> lines;
+  std::optional<Line> line;
+  if (indexed_) {
+    line = find_indexed(file, target, index_, lines);
+  } else {
+    lines.emplace(file, 0);
+    line = find_plainly(*lines, target);
+  }
+  return to_int(deliver(*lines, line, target, value, buffer, size));
+}
+
+int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
+  const Target target{view(section), view(key)};
+  if (path_ != nullptr) {
+    OsFile file;
+    if (!file.open_for_reading(path_copy_.c_str())) {
+      return to_int(Result::no_open);
+    }
+    LineScanner lines(file, 0);
+    return to_int(deliver(lines, find_in_section(lines, target), target, value, buffer, size));
+  }
+  if (!holds_file()) {
+    return to_int(Result::no_file);
+  }
+  LineScanner lines(held(), 0);
+  return to_int(deliver(lines, find_plainly(lines, target), target, value, buffer, size));
+}
+
+int CQELPROIO::SetValue(const char* section, const char* key, const char* value, int index) {
+  const Entry entry{{view(section), view(key), index}, view(value)};
+  if (value == nullptr || is_refused(entry)) {
+    return to_int(Result::no_open);
+  }
+  if (attached_) {
+    if (!holds_file()) {
+      return to_int(Result::no_file);
+    }
+    const Result result = Store(held()).set(entry, false);
+    return result == Result::absent ? InsertValue(own_path(), section, key, value) : to_int(result);
+  }
+  if (path_ == nullptr && wide_path_ == nullptr) {
+    return to_int(Result::no_file);
+  }
+  OsFile file;
+  if (!open_path_for_update(file)) {
+    return to_int(Result::no_open);
+  }
+  // A new key of an existing section needs the narrow path.
+  const bool may_insert = path_ != nullptr;
+  const Result result = store_into(file, [&](Store& store) { return store.set(entry, may_insert); });
+  return to_int(result == Result::absent ? Result::no_open : result);
+}
+
+int CQELPROIO::WriteOnce(const char* section, const char* key, const char* value) {
+  const Entry entry{{view(section), view(key)}, view(value)};
+  if (value == nullptr || is_refused(entry)) {
+    return to_int(Result::no_open);
+  }
+  if (path_ != nullptr) {
+    OsFile file;
+    if (!open_or_create(file, path_copy_.c_str())) {
+      return to_int(Result::no_open);
+    }
+    return to_int(store_into(file, [&](Store& store) { return store.set(entry, true); }));
+  }
+  if (!holds_file()) {
+    return to_int(Result::no_file);
+  }
+  const Result result = Store(held()).set(entry, false);
+  return to_int(result == Result::absent ? Result::no_open : result);
+}
+
+int CQELPROIO::InsertValue(const char* path, const char* section, const char* key, const char* value) {
+  const Entry entry{{view(section), view(key)}, view(value)};
+  OsFile file;
+  if (path == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path)) {
+    return to_int(Result::no_open);
+  }
+  return to_int(store_into(file, [&](Store& store) { return store.insert(entry); }));
+}
+
+int CQELPROIO::ReplaceValue(const char* section, const char* key, const char* value) {
+  const Entry entry{{view(section), view(key)}, view(value)};
+  OsFile file;
+  if (path_ == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path_copy_.c_str())) {
+    return to_int(Result::no_open);
+  }
+  return to_int(store_into(file, [&](Store& store) { return store.replace(entry); }));
+}
+
+bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer) {
+  OsFile file;
+  if (path == nullptr || section == nullptr || key == nullptr || !file.open_for_reading(path)) {
+    return false;
+  }
+  std::string contents;
+  const std::optional<std::string_view> text = qel::scan_value(file, section, key, contents);
+  if (!text) {
+    return false;
+  }
+  if (buffer == nullptr) {
+    thread_local char own[kValueBuffer];
+    if (text->size() >= kValueBuffer) {
+      return false;
+    }
+    buffer = own;
+  }
+  std::memcpy(buffer, text->data(), text->size());
+  buffer[text->size()] = '\0';
+  value = buffer;
+  return true;
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/lookup.h"
+#include "core/result.h"
+#include "core/store.h"
+#include "platform/lent_stream.h"
+#include "platform/os_file.h"
+
+/// The document over one process file.
+///
+/// It keeps no contents: every lookup reads the file and every store changes it before it returns. Results are 1 done,
+/// 0 the file cannot be opened (or a store was refused), -1 no file, -2 section, key or line not there.
+class CQELPROIO {
+ public:
+  CQELPROIO() = default;
+  CQELPROIO(const CQELPROIO&) = delete;
+  CQELPROIO& operator=(const CQELPROIO&) = delete;
+  virtual ~CQELPROIO();
+
+  static constexpr int kReading = 0;
+  static constexpr int kWriting = 1;
+
+  /// Reading (any mode but 1) holds the file open and keeps an index of offsets that later files do not clear.
+  /// Writing holds nothing: every store opens the path again. A wide path never creates a file.
+  virtual bool SetFilePath(const wchar_t* path, int mode);
+  virtual bool SetFilePath(const char* path, int mode);
+
+  /// Lends a stream that the caller keeps. Lookups scan it from the top.
+  virtual bool SetFilePtr(std::FILE*& stream);
+  virtual bool GetFilePtr(std::FILE*& stream);
+
+  /// Closes the held stream, whoever opened it. Lookups and stores answer -1 from then on, until the next open.
+  virtual void CloseFile();
+
+  /// The value of a key (index below 0) or the index-th line of a section, in a buffer that the thread's next lookup
+  /// overwrites. Only a result of 1 touches the pointer.
+  virtual int GetValue(const char* section, const char* key, char*& value, int index);
+
+  /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the buffer alone.
+  int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index);
+
+  /// Stores the value of a key (index below 0) or the index-th line of a section.
+  int SetValue(const char* section, const char* key, const char* value, int index);
+  int InsertValue(const char* path, const char* section, const char* key, const char* value);
+  int ReplaceValue(const char* section, const char* key, const char* value);
+
+  /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes on into later sections.
+  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer);
+
+  /// The caller's own pointer, or null when the file was given by a wide path or a stream.
+  [[nodiscard]] const char* narrow_path() const { return path_; }
+  /// The document's own copy of the narrow path, or null where `narrow_path` is null.
+  [[nodiscard]] const char* own_path() const { return path_ != nullptr ? path_copy_.c_str() : nullptr; }
+
+  /// A lookup by key that neither uses nor extends the index of offsets, over the path or the held stream.
+  int ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size);
+  /// A store by path, or into the held stream where there is none.
+  int WriteOnce(const char* section, const char* key, const char* value);
+
+ private:
+  template <class Character>
+  bool open(const Character* path, int mode);
+  void remember(const char* path);
+  void remember(const wchar_t* path);
+  bool release_held();
+  [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
+  qel::platform::RandomAccess& held();
+  bool open_path(qel::platform::OsFile& file) const;
+  bool open_path_for_update(qel::platform::OsFile& file) const;
+
+  const char* path_ = nullptr;
+  const wchar_t* wide_path_ = nullptr;
+  std::string path_copy_;
+  std::wstring wide_path_copy_;
+  qel::SectionIndex index_;
+  qel::platform::OsFile file_;                       // opened by this document for reading
+  std::unique_ptr<qel::platform::LentStream> lent_;  // lent by the caller
+  std::FILE* stream_ = nullptr;                      // the lent stream, or one handed out over `file_`
+  bool attached_ = false;
+  bool indexed_ = false;
+};

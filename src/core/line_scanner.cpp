@@ -1,0 +1,157 @@
+#include "core/line_scanner.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/text.h"
+
+namespace qel {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// The longest line with a line break of two bytes, which counts as one character.
+constexpr std::size_t kLongestInBytes = text::kLongestLine + 1;
+
+const char* find_byte(const char* begin, std::size_t count, char byte) { return static_cast<const char*>(std::memchr(begin, byte, count)); }
+
+}  // namespace
+
+LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected)
+    : file_(&file), capacity_(expected), window_offset_(from) {
+  buffer_.reset(new char[capacity_]);
+  window_ = buffer_.get();
+  if (from == 0 && fill() && std::string_view(window_, length_).substr(0, kByteOrderMark.size()) == kByteOrderMark) {
+    at_ = kByteOrderMark.size();
+  }
+}
+
+LineScanner::LineScanner(std::string_view contents, std::int64_t from)
+    : window_(contents.data()), length_(contents.size()), at_(static_cast<std::size_t>(from)), at_end_(true) {
+  if (from == 0 && contents.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
+    at_ = kByteOrderMark.size();
+  }
+}
+
+// Sees to it that the window holds a whole line from the current position on, or all that is left of the file.
+bool LineScanner::fill() {
+  while (!at_end_ && available() < kLongestInBytes) {
+    if (length_ != 0 && capacity_ < kBlock) {
+      std::unique_ptr<char[]> larger(new char[kBlock]);
+      std::memcpy(larger.get(), window_ + at_, available());
+      buffer_ = std::move(larger);
+      capacity_ = kBlock;
+    } else {
+      std::memmove(buffer_.get(), window_ + at_, available());
+    }
+    window_offset_ += static_cast<std::int64_t>(at_);
+    length_ -= at_;
+    at_ = 0;
+    window_ = buffer_.get();
+    const std::size_t room = capacity_ - length_;
+    const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), buffer_.get() + length_, room);
+    if (got < 0) {
+      failed_ = true;
+      at_end_ = true;
+      break;
+    }
+    length_ += static_cast<std::size_t>(got);
+    at_end_ = static_cast<std::size_t>(got) < room;
+  }
+  return available() != 0 && !failed_;
+}
+
+// Whether everything from here to the end of the file is blanks.
+bool LineScanner::is_padding(std::size_t begin) {
+  const std::int64_t offset = window_offset_ + static_cast<std::int64_t>(begin);
+  if (offset < first_text_behind_) {
+    return false;
+  }
+  const std::string_view rest(window_ + begin, length_ - begin);
+  const std::size_t text = rest.find_first_not_of(' ');
+  if (text != std::string_view::npos) {
+    first_text_behind_ = offset + static_cast<std::int64_t>(text);
+    return false;
+  }
+  if (at_end_) {
+    return true;
+  }
+  char block[4096];
+  for (std::int64_t at = window_offset_ + static_cast<std::int64_t>(length_);;) {
+    const std::int64_t got = file_->read_at(at, block, sizeof block);
+    if (got <= 0) {
+      return true;
+    }
+    const std::size_t found = std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(' ');
+    if (found != std::string_view::npos) {
+      first_text_behind_ = at + static_cast<std::int64_t>(found);
+      return false;
+    }
+    at += got;
+  }
+}
+
+bool LineScanner::next(Line& line) {
+  const char* line_break = find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
+  if (line_break == nullptr && available() < kLongestInBytes) {
+    if (!fill()) {
+      return false;
+    }
+    line_break = find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
+  }
+  const char* begin = window_ + at_;
+  std::size_t length = line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : text::kLongestLine;
+  if (line_break != nullptr && length > 0 && begin[length - 1] == '\r') {
+    --length;
+  }
+  std::size_t consumed = 0;
+  if (length < text::kLongestLine) {
+    consumed = static_cast<std::size_t>(line_break - begin) + 1;
+    inside_long_line_ = false;
+  } else {
+    consumed = length = std::min(available(), text::kLongestLine);
+    if (!inside_long_line_ && *begin == ' ' && is_padding(at_)) {
+      return false;
+    }
+    inside_long_line_ = true;
+  }
+  line.start = window_offset_ + static_cast<std::int64_t>(at_);
+  line.end = line.start + static_cast<std::int64_t>(consumed);
+  const char* terminator = find_byte(begin, length, '\0');
+  line.text = {begin, terminator != nullptr ? static_cast<std::size_t>(terminator - begin) : length};
+  at_ += consumed;
+  return true;
+}
+
+bool LineScanner::next_starting_with(char first, Line& line) {
+  while (available() != 0 || fill()) {
+    const char* begin = window_ + at_;
+    const char* hit = find_byte(begin, available(), first);
+    const std::string_view before(begin, hit != nullptr ? static_cast<std::size_t>(hit - begin) : available());
+    if (hit == begin) {
+      return next(line);
+    }
+    // The position stands at the start of a line: go on to the start of the last line before the hit.
+    const std::size_t last_break = before.rfind('\n');
+    if (last_break != std::string_view::npos) {
+      at_ += last_break + 1;
+      inside_long_line_ = false;
+      if (hit == window_ + at_) {
+        return next(line);
+      }
+    }
+    // The hit is inside that line, or behind what the window holds of it; parts of a long line count as lines.
+    if ((hit != nullptr || last_break == std::string_view::npos) && !next(line)) {
+      return false;
+    }
+  }
+  return false;
+}
+
+std::size_t length_without_padding(std::string_view contents) {
+  const std::size_t last_break = contents.rfind('\n');
+  const bool padded = last_break != std::string_view::npos && text::only_blanks(contents.substr(last_break + 1));
+  return padded ? last_break + 1 : contents.size();
+}
+
+}  // namespace qel

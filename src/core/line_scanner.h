@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "platform/random_access.h"
+
+namespace qel {
+
+struct Line {
+  std::int64_t start = 0;
+  std::int64_t end = 0;   ///< The offset behind the line and its line break.
+  std::string_view text;  ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+};
+
+/// Walks over the lines of a file.
+///
+/// - A line ends at "\n" or "\r\n". One that is longer than `text::kLongestLine` comes as several lines.
+/// - A byte order mark at the start of the file belongs to no line.
+/// - Blanks behind the last line break are padding that an earlier store left, and no line.
+class LineScanner {
+ public:
+  /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects to read.
+  LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock);
+  /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line begins.
+  explicit LineScanner(std::string_view contents, std::int64_t from = 0);
+
+  /// The next line; false at the end of the file, or when it cannot be read.
+  bool next(Line& line);
+
+  /// The next line whose first byte is `first`. Much faster than asking `next` for each line between.
+  bool next_starting_with(char first, Line& line);
+
+  [[nodiscard]] bool failed() const { return failed_; }
+
+  static constexpr std::size_t kFirstBlock = 8 * 1024;
+  static constexpr std::size_t kBlock = 64 * 1024;
+
+ private:
+  bool fill();
+  bool is_padding(std::size_t begin);
+  [[nodiscard]] std::size_t available() const { return length_ - at_; }
+
+  platform::RandomAccess* file_ = nullptr;
+  std::unique_ptr<char[]> buffer_;
+  std::size_t capacity_ = 0;
+  const char* window_ = nullptr;
+  std::int64_t window_offset_ = 0;
+  std::size_t length_ = 0;
+  std::size_t at_ = 0;
+  bool at_end_ = false;
+  bool failed_ = false;
+  bool inside_long_line_ = false;
+  std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
+};
+
+/// The length of the contents without the padding that an earlier store left behind the last line break.
+std::size_t length_without_padding(std::string_view contents);
+
+}  // namespace qel

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "core/line_scanner.h"
+#include "platform/random_access.h"
+
+namespace qel {
+
+/// What is looked for: the entry of a key, or the line at a position (1 is the first line behind the header).
+struct Target {
+  std::string_view section;
+  std::string_view key;
+  int index = kByKey;
+
+  static constexpr int kByKey = -1;
+  [[nodiscard]] bool by_key() const { return index < 0; }
+};
+
+/// Where the headers and entries that a reading session has passed begin. It only grows, and it is never checked
+/// against the file: a session assumes that its file stays as it is.
+class SectionIndex {
+ public:
+  void learn_section(std::string_view name, std::int64_t offset);
+  void learn_line(std::string_view section, std::string_view key, std::int64_t offset);
+
+  [[nodiscard]] std::optional<std::int64_t> section(std::string_view name) const;
+  [[nodiscard]] std::optional<std::int64_t> line(std::string_view section, std::string_view key) const;
+
+  /// The greatest offset of a line learnt so far: the headers before it are all known. 0 while no line is known.
+  [[nodiscard]] std::int64_t furthest_line() const { return furthest_; }
+
+ private:
+  std::unordered_map<std::string, std::int64_t> sections_;
+  std::unordered_map<std::string, std::int64_t> lines_;
+  std::int64_t furthest_ = 0;
+};
+
+/// The plain scan: the section begins at the first line whose first token is its name, and a key is searched for from
+/// there to the end of the file, later sections included.
+std::optional<Line> find_plainly(LineScanner& lines, const Target& target);
+
+/// The first line whose first token is the section's name, as the plain scan takes it.
+bool find_plain_header(LineScanner& lines, std::string_view section, Line& header);
+
+/// Whether the line at a position (counted from 1 behind the header) is the one the plain scan looks for.
+bool is_target(const Target& target, const Line& line, int position);
+
+/// The indexed scan, as one-shot raw reads use it: the section ends at the next header line. The section index is not
+/// consulted, and left as it is.
+std::optional<Line> find_in_section(LineScanner& lines, const Target& target);
+
+/// The same from the line behind the header on.
+std::optional<Line> find_behind_header(LineScanner& lines, const Target& target);
+
+/// The indexed lookup of a reading session. The line's text is only valid while `lines` lives.
+std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines);
+
+}  // namespace qel

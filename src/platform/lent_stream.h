@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+
+#include "platform/random_access.h"
+
+namespace qel::platform {
+
+/// A stream that the caller opened and keeps. Its position afterwards is unspecified; what was written is flushed.
+class LentStream final : public RandomAccess {
+ public:
+  explicit LentStream(std::FILE* stream) : stream_(stream) {}
+
+  std::int64_t size() override;
+  std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
+  bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
+  bool secure_growth(std::int64_t old_size, std::int64_t new_size) override;
+  bool truncate(std::int64_t size) override;
+  bool flush() override;
+
+ private:
+  std::FILE* stream_;
+};
+
+}  // namespace qel::platform

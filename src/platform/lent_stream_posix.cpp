@@ -1,0 +1,55 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/lent_stream.h"
+
+namespace qel::platform {
+
+std::int64_t LentStream::size() {
+  std::clearerr(stream_);
+  if (::fseeko(stream_, 0, SEEK_END) != 0) {
+    return -1;
+  }
+  return static_cast<std::int64_t>(::ftello(stream_));
+}
+
+std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
+  std::clearerr(stream_);
+  if (::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) != 0) {
+    return -1;
+  }
+  const std::size_t got = std::fread(to, 1, count, stream_);
+  return std::ferror(stream_) != 0 ? -1 : static_cast<std::int64_t>(got);
+}
+
+bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  std::clearerr(stream_);
+  return ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) == 0 && std::fwrite(from, 1, count, stream_) == count && flush();
+}
+
+bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
+  const int fd = ::fileno(stream_);
+  if (fd < 0) {
+    return true;  // a stream over memory: its own write tells
+  }
+  const int flags = ::fcntl(fd, F_GETFL);
+  if (flags < 0 || (flags & O_APPEND) != 0 || (flags & O_ACCMODE) == O_RDONLY) {
+    return false;  // bytes would land elsewhere than asked, or nowhere
+  }
+  if (new_size <= old_size) {
+    return true;
+  }
+  return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, old_size, new_size - old_size) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+bool LentStream::truncate(std::int64_t size) {
+  const int fd = ::fileno(stream_);
+  return fd >= 0 && flush() && ::ftruncate(fd, static_cast<off_t>(size)) == 0;
+}
+
+bool LentStream::flush() { return std::fflush(stream_) == 0; }
+
+}  // namespace qel::platform

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+
+#include "platform/random_access.h"
+
+namespace qel::platform {
+
+/// A regular file that this library opened itself. Anything else under the path (a directory, a pipe,
+/// a device) counts as a file that cannot be opened. Bytes are never translated.
+class OsFile final : public RandomAccess {
+ public:
+  OsFile() = default;
+  ~OsFile() override;
+
+  bool open_for_reading(const char* path);
+  bool open_for_reading(const wchar_t* path);
+  /// Opens an existing file for reading and writing; never creates one.
+  bool open_for_update(const char* path);
+  bool open_for_update(const wchar_t* path);
+  /// Creates the file; an existing one is opened with its contents as they are.
+  bool create(const char* path);
+
+  [[nodiscard]] bool is_open() const { return handle_ != kClosed; }
+  /// False when the operating system reports that something written earlier was lost.
+  bool close();
+
+  std::int64_t size() override;
+  std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
+  bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
+  bool secure_growth(std::int64_t old_size, std::int64_t new_size) override;
+  bool truncate(std::int64_t size) override;
+  bool flush() override { return true; }
+
+  /// A stream over the same file with a position of its own, for a caller that asks for one. The caller closes it.
+  std::FILE* duplicate_as_stream();
+
+ private:
+  static constexpr std::intptr_t kClosed = -1;
+  bool adopt(std::intptr_t handle);
+
+  std::intptr_t handle_ = kClosed;
+};
+
+}  // namespace qel::platform

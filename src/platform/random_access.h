@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace qel::platform {
+
+/// A file as an array of bytes. Every call names its own offset; there is no current position.
+class RandomAccess {
+ public:
+  RandomAccess() = default;
+  RandomAccess(const RandomAccess&) = delete;
+  RandomAccess& operator=(const RandomAccess&) = delete;
+  virtual ~RandomAccess() = default;
+
+  /// The length in bytes, or -1 when it cannot be told.
+  virtual std::int64_t size() = 0;
+
+  /// Reads up to `count` bytes; fewer only at the end of the file. -1 on failure.
+  virtual std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) = 0;
+
+  /// Writes all of `count` bytes, or fails.
+  virtual bool write_at(std::int64_t offset, const char* from, std::size_t count) = 0;
+
+  /// Makes sure that the file can grow from `old_size` to `new_size` before any old byte is touched.
+  /// The length that `size` tells stays `old_size`.
+  virtual bool secure_growth(std::int64_t old_size, std::int64_t new_size) = 0;
+
+  virtual bool truncate(std::int64_t size) = 0;
+
+  /// Hands everything written to the operating system; false when that failed.
+  virtual bool flush() = 0;
+};
+
+}  // namespace qel::platform

@@ -1,0 +1,43 @@
+#include "support/scratch.h"
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+namespace qelpro_test {
+
+Scratch::Scratch() {
+  std::random_device random;
+  do {
+    folder_ = (std::filesystem::temp_directory_path() / ("qelpro-" + std::to_string(random()))).string();
+  } while (!std::filesystem::create_directory(folder_));
+}
+
+Scratch::~Scratch() {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+std::string Scratch::file(std::string_view contents, std::string_view name) const {
+  const std::string result = path(name);
+  put_bytes(result, contents);
+  return result;
+}
+
+std::string bytes_of(const std::string& path) {
+  std::ifstream stream(path, std::ios::binary);
+  std::ostringstream contents;
+  contents << stream.rdbuf();
+  return contents.str();
+}
+
+void put_bytes(const std::string& path, std::string_view contents) {
+  std::ofstream(path, std::ios::binary).write(contents.data(), static_cast<std::streamsize>(contents.size()));
+}
+
+bool exists(const std::string& path) { return std::filesystem::exists(path); }
+
+std::string data_path(std::string_view name) { return QELPRO_TEST_DATA "/" + std::string(name); }
+
+}  // namespace qelpro_test
