@@ -23,6 +23,9 @@ class Snapshot {
     int number;
     std::string_view value;
   };
+  /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the place of "%d", ascending.
+  [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
+
   /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order.
   [[nodiscard]] std::vector<Numbered> numbered(std::string_view section, std::string_view prefix, int most) const;
 
