@@ -8,4 +8,5 @@
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "QELPROEngine/CQELProcessData_Manipulator.h"
 #include "QELPROEngine/CQELProcessValueReader.h"
+#include "QELPROEngine/CQEL_ProcessAdapter.h"
 #include "QELPROEngine/version.h"

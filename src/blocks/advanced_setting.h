@@ -14,6 +14,8 @@ inline constexpr Key<Real> kCycleTime{"CycleTime", {"AdvancedSetting_ReadCycleTi
 
 inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
 
+inline constexpr SectionInfo kInfo{kSection, "the mold's opening direction, the clamp force and the cycle time", kKeys, std::size(kKeys)};
+
 }  // namespace qel::advanced_setting
 
 class CQELPROBlockIOAdvancedSetting : public CQELPROBlockIOBase {

@@ -22,6 +22,8 @@ inline constexpr Key<Real> kSkin2ndEnterTime{
 inline constexpr const KeyInfo* kKeys[] = {&kFillTime,         &kFRSet,           &kFRPoint, &kIPSet, &kIPPoint, &kSkin2ndEnterType,
                                            &kSkin2ndEnterSwch, &kSkin2ndEnterTime};
 
+inline constexpr SectionInfo kInfo{kSection, "the filling stage of a co-injection run's second skin", kKeys, std::size(kKeys)};
+
 }  // namespace qel::co_injection_flow_x
 
 class CQELPROBlockIOCoInjectionFlowX : public CQELPROBlockIOFlowX {

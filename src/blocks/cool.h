@@ -23,6 +23,8 @@ inline constexpr Key<Integer> kControlType{
 inline constexpr const KeyInfo* kKeys[] = {&kCoolTime,    &kOpenTime,  &kEjectTemp,   &kAirTemp,    &kInitialMoldbaseTemperature,
                                            &kCoolantTemp, &kCoolantFR, &kCoolingType, &kControlType};
 
+inline constexpr SectionInfo kInfo{kSection, "cycle times, temperatures and the kind of cooling", kKeys, std::size(kKeys)};
+
 }  // namespace qel::cool
 
 class CQELPROBlockIOCool : public CQELPROBlockIOBase {

@@ -28,6 +28,8 @@ inline constexpr Key<ControlPoint> kPressureControlPoint{
 
 inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint, &kPressureControlPoint};
 
+inline constexpr SectionInfo kInfo{kSection, "a cooling channel", kKeys, std::size(kKeys)};
+
 }  // namespace qel::cool_channel_x
 
 class CQELPROBlockIOCoolChannelX : public CQELPROBlockIOBase {

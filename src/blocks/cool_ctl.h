@@ -17,6 +17,8 @@ inline constexpr Key<Integer> kM{"M-%d", {"CoolCTL_ReadCoolantSystem"}, {"CoolCT
 
 inline constexpr const KeyInfo* kKeys[] = {&kT, &kF, &kP, &kM};
 
+inline constexpr SectionInfo kInfo{kSection, "the coolant at each entrance", kKeys, std::size(kKeys)};
+
 }  // namespace qel::cool_ctl
 
 class CQELPROBlockIOCoolCTL : public CQELPROBlockIOBase {

@@ -16,6 +16,8 @@ inline constexpr Key<CoolantLine> kCoolant{
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolant};
 
+inline constexpr SectionInfo kInfo{kSection, "the coolants, one line each", kKeys, std::size(kKeys)};
+
 }  // namespace qel::coolant
 
 class CQELPROBlockIOCoolant : public CQELPROBlockIOBase {

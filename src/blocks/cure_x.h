@@ -36,6 +36,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kCureTime, &kCurePres, &kCureTemp,  
                                            &kCPSet,    &kCPPoint,  &kUserCPSet, &kUserCPPoint, &kCTDisplayType, &kCTProfileType,
                                            &kCTSet,    &kCTPoint,  &kUserCTSet, &kUserCTPoint};
 
+inline constexpr SectionInfo kInfo{kSection, "the curing stage of an inlet", kKeys, std::size(kKeys)};
+
 }  // namespace qel::cure_x
 
 class CQELPROBlockIOCureX : public CQELPROBlockIOBase {

@@ -19,6 +19,8 @@ inline constexpr Key<IntegerAndReal> kCriteriaNode{
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode, &kCriteriaNode};
 
+inline constexpr SectionInfo kInfo{kSection, "the sensor and criteria nodes that decide ejection", kKeys, std::size(kKeys)};
+
 }  // namespace qel::eject_criteria
 
 class CQELPROBlockIOEjectCriteria : public CQELPROBlockIOBase {

@@ -66,12 +66,37 @@ inline constexpr Key<Integer> kUserTPSet{
 inline constexpr Key<RealPair> kUserTPPoint{
     "UserTP-%d", {"FlowX_ReadUserTPProfile"}, {"FlowX_WriteUserTPProfile"}, "a point of the transfer pressure profile as the user entered it"};
 
-inline constexpr const KeyInfo* kKeys[] = {
-    &kFillTime,        &kMaxFillingTime, &kMeltTemp,      &kMoldTemp,      &kInjectPres,    &kPreFill,       &kInjVol,        &kTransTime,
-    &kMaxTransferTime, &kResnTemp,       &kTransPres,     &kInitConv,      &kMaxFR,         &kMaxPress,      &kIsPushBack,    &kPushBackEnterTime,
-    &kPushBackTime,    &kFRDisplayType,  &kIPDisplayType, &kTPDisplayType, &kFRProfileType, &kIPProfileType, &kTPProfileType, &kFRStrokeMode,
-    &kIPStrokeMode,    &kTPStrokeMode,   &kFRSet,         &kFRPoint,       &kIPSet,         &kIPPoint,       &kTPSet,         &kTPPoint,
-    &kUserFRSet,       &kUserFRPoint,    &kUserIPSet,     &kUserIPPoint,   &kUserTPSet,     &kUserTPPoint};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Integer> kFlowPackMode{"FlowPackMode", {}, {}, "the code of the filling and packing mode"};
+inline constexpr Key<Real> kHotRunnerTemperatureDiff{"HotRunnerTemperatureDiff", {}, {}, "the temperature difference of the hot runner"};
+inline constexpr Key<Text> kMaterial{"Material", {}, {}, "the material"};
+inline constexpr Key<Integer> kCoreEnterType{"CoreEnterType", {}, {}, "the code of what makes the core material enter"};
+inline constexpr Key<Real> kCoreEnterSwch{"CoreEnterSwch", {}, {}, "the switch value at which the core material enters"};
+inline constexpr Key<Real> kCoreEnterTime{"CoreEnterTime", {}, {}, "the time at which the core material enters, in sec"};
+inline constexpr Key<Real> kFluidTemp{"FluidTemp", {}, {}, "the fluid temperature, in oC"};
+inline constexpr Key<Integer> kFluidEnterType{"FluidEnterType", {}, {}, "the code of what makes the fluid enter"};
+inline constexpr Key<Real> kFluidEnterSwch{"FluidEnterSwch", {}, {}, "the switch value at which the fluid enters"};
+inline constexpr Key<Real> kFluidEnterTime{"FluidEnterTime", {}, {}, "the time at which the fluid enters, in sec"};
+inline constexpr Key<Real> kFluidDelayTime{"FluidDelayTime", {}, {}, "the delay of the fluid, in sec"};
+inline constexpr Key<Real> kTimeConstFR{"TimeConstFR-%d", {}, {}, "a time constant of the flow rate"};
+inline constexpr Key<Real> kTimeConstIP{"TimeConstIP-%d", {}, {}, "a time constant of the injection pressure"};
+inline constexpr Key<Real> kTimeConstPP{"TimeConstPP-%d", {}, {}, "a time constant of the packing pressure"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kFillTime,        &kMaxFillingTime, &kMeltTemp,       &kMoldTemp,
+                                           &kInjectPres,      &kPreFill,        &kInjVol,         &kTransTime,
+                                           &kMaxTransferTime, &kResnTemp,       &kTransPres,      &kInitConv,
+                                           &kMaxFR,           &kMaxPress,       &kIsPushBack,     &kPushBackEnterTime,
+                                           &kPushBackTime,    &kFRDisplayType,  &kIPDisplayType,  &kTPDisplayType,
+                                           &kFRProfileType,   &kIPProfileType,  &kTPProfileType,  &kFRStrokeMode,
+                                           &kIPStrokeMode,    &kTPStrokeMode,   &kFRSet,          &kFRPoint,
+                                           &kIPSet,           &kIPPoint,        &kTPSet,          &kTPPoint,
+                                           &kUserFRSet,       &kUserFRPoint,    &kUserIPSet,      &kUserIPPoint,
+                                           &kUserTPSet,       &kUserTPPoint,    &kFlowPackMode,   &kHotRunnerTemperatureDiff,
+                                           &kMaterial,        &kCoreEnterType,  &kCoreEnterSwch,  &kCoreEnterTime,
+                                           &kFluidTemp,       &kFluidEnterType, &kFluidEnterSwch, &kFluidEnterTime,
+                                           &kFluidDelayTime,  &kTimeConstFR,    &kTimeConstIP,    &kTimeConstPP};
+
+inline constexpr SectionInfo kInfo{kSection, "the filling stage of an inlet", kKeys, std::size(kKeys)};
 
 }  // namespace qel::flow_x
 

@@ -51,6 +51,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kGasTime,       &kGasPres,       &kG
                                            &kGPDisplayType, &kGPProfileType, &kGRSet,     &kGRPoint,    &kGPSet,         &kGPPoint,
                                            &kUserGRSet,     &kUserGRPoint,   &kUserGPSet, &kUSerGPPoint};
 
+inline constexpr SectionInfo kInfo{kSection, "gas-assisted filling at a gas inlet", kKeys, std::size(kKeys)};
+
 }  // namespace qel::gas_f_x
 
 class CQELPROBlockIOGasFX : public CQELPROBlockIOBase {

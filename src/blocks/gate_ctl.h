@@ -14,6 +14,8 @@ inline constexpr Key<Real> kET{"ET-%d", {"GateCTL_ReadEndTime"}, {"GateCTL_Write
 
 inline constexpr const KeyInfo* kKeys[] = {&kAutoShutOffValveGateEOP, &kST, &kET};
 
+inline constexpr SectionInfo kInfo{kSection, "when each gate is open", kKeys, std::size(kKeys)};
+
 }  // namespace qel::gate_ctl
 
 class CQELPROBlockIOGateCTL : public CQELPROBlockIOBase {

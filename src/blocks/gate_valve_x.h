@@ -22,6 +22,8 @@ inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d",
 
 inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
 
+inline constexpr SectionInfo kInfo{kSection, "a valve gate", kKeys, std::size(kKeys)};
+
 }  // namespace qel::gate_valve_x
 
 class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {

@@ -19,6 +19,8 @@ inline constexpr Key<Real> kPreHeatingTime{
 
 inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitConversion, &kPelletDiameter, &kPelletHeight, &kPreHeatingTime};
 
+inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion of IC package encapsulation", kKeys, std::size(kKeys)};
+
 }  // namespace qel::ic_package
 
 class CQELPROBlockIOICPackage : public CQELPROBlockIOBase {

@@ -62,6 +62,27 @@ inline constexpr Key<SizeTriple> kMachineDimension{
 inline constexpr Key<Integer> kBarrelCompressionCtrl{
     "BarrelCompressionCtrl", {"Machine_ReadBarrelCompressionCtrl"}, {}, "the code of the barrel compression's control"};
 
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Real> kNozzleVolume{"NozzleVolume", {}, {}, "the volume of the nozzle"};
+inline constexpr Key<Integer> kMachineEnergyType{"MachineEnergyType", {}, {}, "the code of what drives the machine"};
+inline constexpr Key<Real> kHydraulicPressureTransferFactor{
+    "HydraulicPressureTransferFactor", {}, {}, "the transfer factor of the hydraulic pressure"};
+inline constexpr Key<Real> kPITCHSIZE{"PITCHSIZE", {}, {}, "the screw pitch"};
+inline constexpr Key<Real> kSCREWSPEED{"SCREWSPEED", {}, {}, "the screw speed, beside \"ScrewSpeed\""};
+inline constexpr Key<Real> kSCREWDIAFEED{"SCREWDIAFEED", {}, {}, "the screw diameter in the feed zone"};
+inline constexpr Key<Real> kSCREWDIATRANSITION{"SCREWDIATRANSITION", {}, {}, "the screw diameter in the transition zone"};
+inline constexpr Key<Real> kSCREWDIAMETERING{"SCREWDIAMETERING", {}, {}, "the screw diameter in the metering zone"};
+inline constexpr Key<Real> kCHANNELDEEPFEED{"CHANNELDEEPFEED", {}, {}, "the channel depth in the feed zone"};
+inline constexpr Key<Real> kCHANNELDEEPMETERING{"CHANNELDEEPMETERING", {}, {}, "the channel depth in the metering zone"};
+inline constexpr Key<Real> kSECTIONDEPFEED{"SECTIONDEPFEED", {}, {}, "the length of the feed zone"};
+inline constexpr Key<Real> kSECTIONDEPTRANSITION{"SECTIONDEPTRANSITION", {}, {}, "the length of the transition zone"};
+inline constexpr Key<Real> kSECTIONDEPMETERING{"SECTIONDEPMETERING", {}, {}, "the length of the metering zone"};
+inline constexpr Key<Real> kNUMBERPITCHFEED{"NUMBERPITCHFEED", {}, {}, "the number of pitches in the feed zone"};
+inline constexpr Key<Real> kNUMBERPITCHTRANSITION{"NUMBERPITCHTRANSITION", {}, {}, "the number of pitches in the transition zone"};
+inline constexpr Key<Real> kNUMBERPITCHMETERING{"NUMBERPITCHMETERING", {}, {}, "the number of pitches in the metering zone"};
+inline constexpr Key<Real> kNOZZLEDIAMETER{"NOZZLEDIAMETER", {}, {}, "the diameter of the nozzle"};
+inline constexpr Key<Real> kNOZZLELENGTH{"NOZZLELENGTH", {}, {}, "the length of the nozzle"};
+
 inline constexpr const KeyInfo* kKeys[] = {&kMaker,
                                            &kGrade,
                                            &kLastModifiedDate,
@@ -94,7 +115,27 @@ inline constexpr const KeyInfo* kKeys[] = {&kMaker,
                                            &kMachineWeight,
                                            &kMachineDimensionText,
                                            &kMachineDimension,
-                                           &kBarrelCompressionCtrl};
+                                           &kBarrelCompressionCtrl,
+                                           &kNozzleVolume,
+                                           &kMachineEnergyType,
+                                           &kHydraulicPressureTransferFactor,
+                                           &kPITCHSIZE,
+                                           &kSCREWSPEED,
+                                           &kSCREWDIAFEED,
+                                           &kSCREWDIATRANSITION,
+                                           &kSCREWDIAMETERING,
+                                           &kCHANNELDEEPFEED,
+                                           &kCHANNELDEEPMETERING,
+                                           &kSECTIONDEPFEED,
+                                           &kSECTIONDEPTRANSITION,
+                                           &kSECTIONDEPMETERING,
+                                           &kNUMBERPITCHFEED,
+                                           &kNUMBERPITCHTRANSITION,
+                                           &kNUMBERPITCHMETERING,
+                                           &kNOZZLEDIAMETER,
+                                           &kNOZZLELENGTH};
+
+inline constexpr SectionInfo kInfo{kSection, "the injection molding machine", kKeys, std::size(kKeys)};
 
 }  // namespace qel::machine
 

@@ -47,6 +47,8 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kGasDosageAmount,  &kGasSaturationPressure, &kNozzleShutoff, &kAdvancedType,      &kRamPosition,
     &kPartWeight};
 
+inline constexpr SectionInfo kInfo{kSection, "foaming and gas dosage", kKeys, std::size(kKeys)};
+
 }  // namespace qel::micro_cellular_molding
 
 class CQELPROBlockIOMicroCellularMolding : public CQELPROBlockIOBase {

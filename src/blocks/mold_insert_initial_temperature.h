@@ -24,6 +24,8 @@ inline constexpr Key<MoldInsertLineOfFour> kMoldInsertOfFour{
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalMoldInsert, &kMoldInsert, &kMoldInsertOfFour};
 
+inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each mold insert", kKeys, std::size(kKeys)};
+
 }  // namespace qel::mold_insert_initial_temperature
 
 class CQELPROBlockIOMoldInsertInitialTemperature : public CQELPROBlockIOBase {

@@ -15,6 +15,8 @@ inline constexpr Key<MoldMetalLine> kMaterial{"%d",
 
 inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
 
+inline constexpr SectionInfo kInfo{kSection, "the mold metals, one material line each", kKeys, std::size(kKeys)};
+
 }  // namespace qel::mold_metal_material
 
 class CQELPROBlockIOMoldMetalMaterial : public CQELPROBlockIOBase {

@@ -17,6 +17,8 @@ inline constexpr Key<Integer> kControlType{
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldPreHeatType, &kMoldPreHeatTime, &kMoldPreHeatTemperature, &kMaxMoldPreHeatTime, &kControlType};
 
+inline constexpr SectionInfo kInfo{kSection, "preheating of the mold", kKeys, std::size(kKeys)};
+
 }  // namespace qel::mold_preheat
 
 class CQELPROBlockIOMoldPreHeat : public CQELPROBlockIOBase {

@@ -23,6 +23,8 @@ inline constexpr Key<ControlPoint> kPressureControlPoint{
 
 inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint, &kPressureControlPoint};
 
+inline constexpr SectionInfo kInfo{kSection, "a channel that preheats the mold", kKeys, std::size(kKeys)};
+
 }  // namespace qel::mold_preheat_cool_channel_x
 
 class CQELPROBlockIOMoldPreHeatCoolChannelX : public CQELPROBlockIOCoolChannelX {

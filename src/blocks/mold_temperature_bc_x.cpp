@@ -3,39 +3,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "blocks/name_buffer.h"
-#include "blocks/words.h"
-
 using qel::Result;
-
-namespace {
-
-// The words of a header line: integer, name, integer. The name may hold blanks; three words or fewer are scanned as they
-// come.
-void scan_header_line(const char* text, int& first, char*& name, int& second) {
-  thread_local qel::NameBuffer buffer;
-  constexpr const char* kSeparators = " \t\n";
-  qel::fields::clear(first, second);
-  const std::vector<std::string> words = qel::split(text, kSeparators);
-  if (words.size() < 4) {
-    std::string word;
-    qel::fields::scan(text, first, word, second);
-    name = buffer.keep(word);
-    return;
-  }
-  qel::fields::scan(words.front().c_str(), first);
-  qel::fields::scan(words.back().c_str(), second);
-  std::string_view middle(text);
-  middle.remove_prefix(middle.find_first_not_of(kSeparators));
-  middle.remove_prefix(middle.find_first_of(kSeparators));
-  middle.remove_prefix(middle.find_first_not_of(kSeparators));
-  middle.remove_suffix(middle.size() - middle.find_last_not_of(kSeparators) - 1);
-  middle.remove_suffix(middle.size() - middle.find_last_of(kSeparators));
-  middle.remove_suffix(middle.size() - middle.find_last_not_of(kSeparators) - 1);
-  name = buffer.keep(middle);
-}
-
-}  // namespace
 
 int CQELPROBlockIOMoldTemperatureBCX::ReadBC(int& first, char*& name, int& second, int line) {
   if (line < 1) {
@@ -47,7 +15,7 @@ int CQELPROBlockIOMoldTemperatureBCX::ReadBC(int& first, char*& name, int& secon
   char* text = nullptr;
   const int result = document()->GetValue(this->name(), "", text, line);
   if (result == to_int(Result::done)) {
-    scan_header_line(text, first, name, second);
+    qel::PositionalHeader::scan(text, first, name, second);
   }
   return result;
 }
@@ -59,7 +27,7 @@ int CQELPROBlockIOMoldTemperatureBCX::WriteBC(int first, const char* name, int s
   if (document() == nullptr) {
     return to_int(Result::no_file);
   }
-  const std::string text = qel::fields::print("\t", first, name, second);
+  const std::string text = qel::PositionalHeader::print(first, name, second);
   return text.size() < qel::kCompoundLimit ? document()->SetValue(this->name(), "", text.c_str(), line) : to_int(Result::no_open);
 }
 
@@ -98,9 +66,7 @@ int CQELPROBlockIOMoldTemperatureBCX::ReadBCSetting(double& a, double& b, int se
   std::string line;
   const int found = document()->VisitLines(name(), position, [&line](const char* text) { line = text; });
   if (found == to_int(Result::done)) {
-    int number = 0;
-    char separator = 0;
-    qel::fields::scan(line.c_str(), number, separator, a, b);
+    qel::PositionalSetting::scan(line.c_str(), a, b);
   }
   return found;
 }
@@ -111,6 +77,6 @@ int CQELPROBlockIOMoldTemperatureBCX::WriteBCSetting(double a, double b, int set
   if (result != to_int(Result::done)) {
     return result;
   }
-  const std::string text = qel::fields::print_one(condition) + " = " + qel::fields::print("\t", a, b);
+  const std::string text = qel::PositionalSetting::print(condition, a, b);
   return document()->SetValue(name(), "", text.c_str(), position);
 }

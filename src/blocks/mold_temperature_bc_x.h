@@ -1,6 +1,7 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/positional_encoding.h"
 
 /// [MoldTemperatureBC-%d]: a mold temperature boundary condition.
 namespace qel::mold_temperature_bc_x {
@@ -20,6 +21,22 @@ inline constexpr Key<RealPair> kBCPoint{
     "BC-%d", {"MoldTemperatureBCX_ReadBCProfile"}, {"MoldTemperatureBCX_WriteBCProfile"}, "a point of its profile"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
+
+inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condition", kKeys, std::size(kKeys)};
+
+inline constexpr Key<PositionalHeader> kHeaderLine{"header line",
+                                                   {"MoldTemperatureBCX_ReadBC"},
+                                                   {"MoldTemperatureBCX_WriteBC"},
+                                                   "one for each boundary condition: the number of its setting lines, its name, an integer"};
+inline constexpr Key<PositionalSetting> kSettingLine{"setting line",
+                                                     {"MoldTemperatureBCX_ReadBCSetting"},
+                                                     {"MoldTemperatureBCX_WriteBCSetting"},
+                                                     "behind the header lines, one condition after the other: the condition, two reals"};
+
+inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
+
+inline constexpr SectionInfo kPositionalInfo{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
+                                             "mold temperature boundary conditions, in lines addressed by position", kLines, std::size(kLines)};
 
 }  // namespace qel::mold_temperature_bc_x
 

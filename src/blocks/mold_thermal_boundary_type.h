@@ -27,7 +27,13 @@ inline constexpr Key<RealWithNote> kHotRunner_HTC{"HotRunner_HTC",
                                                   {"MoldTemperatureBoundaryType_WriteHTCHotRunner"},
                                                   "the coefficient in the hot runner, with a note that reading passes over"};
 
-inline constexpr const KeyInfo* kKeys[] = {&kType, &kFlow, &kPack, &kDetached_HTC, &kHotRunner_HTC};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Integer> kUserMode{"UserMode", {}, {}, "the code of the user mode"};
+inline constexpr Key<Real> kNuNum{"NuNum", {}, {}, "the Nusselt number"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kType, &kFlow, &kPack, &kDetached_HTC, &kHotRunner_HTC, &kUserMode, &kNuNum};
+
+inline constexpr SectionInfo kInfo{kSection, "the heat transfer between melt and mold", kKeys, std::size(kKeys)};
 
 }  // namespace qel::mold_thermal_boundary_type
 

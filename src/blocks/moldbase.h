@@ -13,6 +13,8 @@ inline constexpr Key<MoldbaseLine> kMoldbase{
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 
+inline constexpr SectionInfo kInfo{kSection, "the mold bases, one material line each", kKeys, std::size(kKeys)};
+
 }  // namespace qel::moldbase
 
 class CQELPROBlockIOMoldbase : public CQELPROBlockIOBase {

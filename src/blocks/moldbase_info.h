@@ -13,6 +13,8 @@ inline constexpr Key<IntegerAndQuotedName> kMoldbase{
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 
+inline constexpr SectionInfo kInfo{kSection, "numbered mold bases with their names", kKeys, std::size(kKeys)};
+
 }  // namespace qel::moldbase_info
 
 class CQELPROBlockIOMoldbaseInfo : public CQELPROBlockIOBase {

@@ -19,6 +19,8 @@ inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d", {"OverflowX_ReadGate
 
 inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
 
+inline constexpr SectionInfo kInfo{kSection, "the valve of an overflow", kKeys, std::size(kKeys)};
+
 }  // namespace qel::overflow
 
 class CQELPROBlockIOOverflow : public CQELPROBlockIOBase {

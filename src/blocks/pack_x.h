@@ -25,8 +25,22 @@ inline constexpr Key<Integer> kUserPPSet{
 inline constexpr Key<RealPair> kUserPPPoint{
     "UserPP-%d", {"PackX_ReadUserPPProfile"}, {"PackX_WriteUserPPProfile"}, "a point of the packing pressure profile as the user entered it"};
 
-inline constexpr const KeyInfo* kKeys[] = {&kPackTime,      &kPackPres, &kPackSwch, &kIgnoreLimitation, &kMaxEOFRatio, &kPPDisplayType,
-                                           &kPPProfileType, &kPPSet,    &kPPPoint,  &kUserPPSet,        &kUserPPPoint};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Real> kMaxPressSlop{"MaxPressSlop", {}, {}, "the steepest slope of the pressure"};
+inline constexpr Key<Integer> kShutoff{"Shutoff", {}, {}, "the code of the shut-off"};
+inline constexpr Key<Integer> kMaterialType{"MaterialType", {}, {}, "the code of the kind of material"};
+inline constexpr Key<Real> kFluidPres{"FluidPres", {}, {}, "the fluid pressure, in MPa"};
+inline constexpr Key<Real> kFluidMaxFR{"FluidMaxFR", {}, {}, "the highest flow rate of the fluid, in cc/sec"};
+inline constexpr Key<Integer> kFluidProfileType{"FluidProfileType", {}, {}, "how the fluid pressure profile was entered"};
+inline constexpr Key<Integer> kFluidSet{"FluidSet", {}, {}, "the number of fluid pressure points"};
+inline constexpr Key<RealPair> kFluidPoint{"Fluid-%d", {}, {}, "a point of the fluid pressure profile"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kPackTime,      &kPackPres,         &kPackSwch, &kIgnoreLimitation, &kMaxEOFRatio,
+                                           &kPPDisplayType, &kPPProfileType,    &kPPSet,    &kPPPoint,          &kUserPPSet,
+                                           &kUserPPPoint,   &kMaxPressSlop,     &kShutoff,  &kMaterialType,     &kFluidPres,
+                                           &kFluidMaxFR,    &kFluidProfileType, &kFluidSet, &kFluidPoint};
+
+inline constexpr SectionInfo kInfo{kSection, "the packing stage of an inlet", kKeys, std::size(kKeys)};
 
 }  // namespace qel::pack_x
 

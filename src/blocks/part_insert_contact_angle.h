@@ -10,10 +10,14 @@ inline constexpr char kSection[] = "[PartInsertContactAngle]";
 
 inline constexpr Key<Integer> kGroupCount{
     "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups"};
-inline constexpr Key<ContactAngle> kGroup{
-    "%d", {"PartInsertContactAngle_ReadAngle"}, {"PartInsertContactAngle_WriteGroup"}, "a group: its name in double quotes, and its angle"};
+inline constexpr Key<ContactAngle> kGroup{"%d",
+                                          {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
+                                          {"PartInsertContactAngle_WriteGroup"},
+                                          "a group: its name in double quotes, and its angle"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
+
+inline constexpr SectionInfo kInfo{kSection, "the contact angle of each part insert group", kKeys, std::size(kKeys)};
 
 }  // namespace qel::part_insert_contact_angle
 

@@ -24,6 +24,8 @@ inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
 
+inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each part insert", kKeys, std::size(kKeys)};
+
 }  // namespace qel::part_insert_initial_temperature
 
 class CQELPROBlockIOPartInsertInitialTemperature : public CQELPROBlockIOBase {

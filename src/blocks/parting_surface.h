@@ -29,6 +29,8 @@ inline constexpr Key<IntegerAndThreeReals> kCoreMoldbase{
 
 inline constexpr const KeyInfo* kKeys[] = {&kCavityPart, &kCavityMoldbase, &kCorePart, &kCoreMoldbase};
 
+inline constexpr SectionInfo kInfo{kSection, "the cavity and core sides", kKeys, std::size(kKeys)};
+
 }  // namespace qel::parting_surface
 
 class CQELPROBlockIOPartingSurface : public CQELPROBlockIOBase {

@@ -34,6 +34,8 @@ inline constexpr Key<Real> kRP_IPSingle{"RP_IP-%d",
 inline constexpr const KeyInfo* kKeys[] = {&kRamDir,     &kIsVPswitch,  &kVPswitchRam, &kSuckBack,   &kRP_FRSet,
                                            &kRP_FRPoint, &kRP_FRSingle, &kRP_IPSet,    &kRP_IPPoint, &kRP_IPSingle};
 
+inline constexpr SectionInfo kInfo{kSection, "profiles over the ram's stroke, and the V/P switch-over by ram position", kKeys, std::size(kKeys)};
+
 }  // namespace qel::ram_position
 
 class CQELPROBlockIORamPosition : public CQELPROBlockIOBase {

@@ -24,6 +24,9 @@ inline constexpr Key<Real> kPreHeatTime{
 
 inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitPelletConv, &kPelletDiameter, &kPelletHeight, &kPreHeatTime};
 
+inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion where the inlet conversion is transient", kKeys,
+                                   std::size(kKeys)};
+
 }  // namespace qel::transient_inlet_conv
 
 class CQELPROBlockIOTransientInletConv : public CQELPROBlockIOBase {

@@ -16,6 +16,8 @@ inline constexpr Key<FourRealsAndInteger> kCoolant{"Coolant-%d",
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolantNo, &kCoolant};
 
+inline constexpr SectionInfo kInfo{kSection, "variable cooling", kKeys, std::size(kKeys)};
+
 }  // namespace qel::var_cool_ctl
 
 class CQELPROBlockIOVarCoolCTL : public CQELPROBlockIOBase {
