@@ -34,8 +34,8 @@ class LineScanner {
 
   [[nodiscard]] bool failed() const { return failed_; }
 
-  static constexpr std::size_t kFirstBlock = 8 * 1024;
-  static constexpr std::size_t kBlock = 64 * 1024;
+  static constexpr std::size_t kFirstBlock = std::size_t{8} * 1024;
+  static constexpr std::size_t kBlock = std::size_t{64} * 1024;
 
  private:
   bool fill();

@@ -9,4 +9,5 @@ class App;
 void add_new(CLI::App& app, int& status);
 void add_get(CLI::App& app, int& status);
 void add_set(CLI::App& app, int& status);
+void add_show(CLI::App& app, int& status);
 void add_process(CLI::App& app, int& status);

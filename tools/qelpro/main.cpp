@@ -17,6 +17,7 @@ int main(int count, char** arguments) try {
   add_new(app, status);
   add_get(app, status);
   add_set(app, status);
+  add_show(app, status);
   add_process(app, status);
   try {
     app.parse(count, arguments);

@@ -9,9 +9,10 @@
 #include <fstream>
 #include <optional>
 #include <random>
-#include <sstream>
 #include <stdexcept>
 #include <string_view>
+
+#include "document_text.h"
 
 namespace {
 
@@ -38,13 +39,6 @@ std::optional<std::string> value_in_reach(const std::string& file, const std::st
   const auto value = value_of(reader, section, key);
   std::fclose(stream);
   return value;
-}
-
-std::string contents_of(const Path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream contents;
-  contents << stream.rdbuf();
-  return contents.str();
 }
 
 // A file that is gone at the end of the scope.
@@ -85,32 +79,21 @@ struct Span {
   std::size_t reached = std::string::npos;
 };
 
-bool is_header(std::string_view line) {
-  line = line.substr(0, line.find_last_not_of(" \t\r") + 1);
-  return line.size() > 1 && line.front() == '[' && line.back() == ']';
-}
-
 Span find_section(std::string_view text, std::string_view section) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   Span span;
-  std::size_t at = text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
-  while (at < text.size()) {
-    const std::size_t end = std::min(text.find('\n', at), text.size() - 1) + 1;
-    std::string_view line = text.substr(at, end - at);
-    line = line.substr(0, line.find('\n'));
-    if (span.begin != std::string::npos && is_header(line)) {
-      span.end = at;
-      return span;
+  span.end = text.size();
+  for (const TextLine& line : lines_of(text)) {
+    if (span.begin != std::string::npos && is_header(line.text)) {
+      span.end = line.begin;
+      break;
     }
-    if (line.substr(0, line.find_first_of(" \t=\r")) == section) {
-      span.reached = std::min(span.reached, at);
-      if (is_header(line)) {
-        span.begin = at;
+    if (first_token(line.text) == section) {
+      span.reached = std::min(span.reached, line.begin);
+      if (is_header(line.text)) {
+        span.begin = line.begin;
       }
     }
-    at = end;
   }
-  span.end = text.size();
   return span;
 }
 
@@ -154,7 +137,7 @@ std::string store_in_section_alone(const std::string& file, const std::string& t
   if (!write(alone.path().string(), section, key, value)) {
     return kRefused;
   }
-  std::string new_section = contents_of(alone.path());
+  std::string new_section = contents_of(alone.path().string());
   if (span.end != text.size()) {
     new_section.resize(new_section.find_last_of('\n') + 1);  // blanks that a shorter value left
   }
