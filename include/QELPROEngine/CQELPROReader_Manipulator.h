@@ -754,6 +754,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
  private:
   bool OpenSession();
 
-  CQELPROReader* session_;
-  unsigned int raw_reads_disabled_;
+  CQELPROReader* session_ = nullptr;
+  unsigned int raw_reads_disabled_ = 0;
 };

@@ -638,6 +638,6 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
  private:
   bool OpenSession();
 
-  CQELPROWriter* session_;
+  CQELPROWriter* session_ = nullptr;
   std::string path_;
 };

@@ -69,6 +69,6 @@ class QELPROENGINE_API CQEL_ProcessAdapter {
   void GetMaterialTemperature(double& mold, double& melt);
 
  private:
-  CQELPROWriter_Manipulator* writer_;
-  const char* path_;
+  CQELPROWriter_Manipulator* writer_ = nullptr;
+  const char* path_ = nullptr;
 };

@@ -117,6 +117,7 @@ bool CQELPROIO::open(const Character* path, int mode) {
     return false;
   }
   attached_ = indexed_ = true;
+  index_.turn_to_another_file();
   remember(path);
   return true;
 }

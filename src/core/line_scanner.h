@@ -38,7 +38,7 @@ class LineScanner {
   static constexpr std::size_t kBlock = std::size_t{64} * 1024;
 
  private:
-  bool fill();
+  bool read_more();
   bool is_padding(std::size_t begin);
   [[nodiscard]] std::size_t available() const { return length_ - at_; }
 

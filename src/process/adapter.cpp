@@ -30,15 +30,17 @@ void release(CQELPROWriter_Manipulator* writer) {
 
 }  // namespace
 
-CQEL_ProcessAdapter::CQEL_ProcessAdapter() : writer_(nullptr), path_(nullptr) {}
+CQEL_ProcessAdapter::CQEL_ProcessAdapter() = default;
 
 CQEL_ProcessAdapter::CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other) : writer_(share(other.writer_)), path_(other.path_) {}
 
 CQEL_ProcessAdapter& CQEL_ProcessAdapter::operator=(const CQEL_ProcessAdapter& other) {
-  CQELPROWriter_Manipulator* previous = writer_;
-  writer_ = share(other.writer_);
-  path_ = other.path_;
-  release(previous);
+  if (this != &other) {
+    CQELPROWriter_Manipulator* previous = writer_;
+    writer_ = share(other.writer_);
+    path_ = other.path_;
+    release(previous);
+  }
   return *this;
 }
 

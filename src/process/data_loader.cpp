@@ -118,14 +118,16 @@ unsigned int project_type(const QELG_SimulatorProcess& process) {
 
 }  // namespace
 
-CQELProcessData_Manipulator::CQELProcessData_Manipulator() : reader_(nullptr) {}
+CQELProcessData_Manipulator::CQELProcessData_Manipulator() = default;
 
 CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) : reader_(share(other.reader_)) {}
 
 CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(const CQELProcessData_Manipulator& other) {
-  CQELPROReader_Manipulator* shared = share(other.reader_);
-  Dispose();
-  reader_ = shared;
+  if (this != &other) {
+    CQELPROReader_Manipulator* shared = share(other.reader_);
+    Dispose();
+    reader_ = shared;
+  }
   return *this;
 }
 
