@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <string>
 
 #include "platform/number.h"
@@ -10,6 +11,17 @@ namespace qel::fields {
 inline bool scan_one(const char*& at, int& value) { return platform::scan_int(at, value); }
 inline bool scan_one(const char*& at, double& value) { return platform::scan_real(at, value); }
 inline bool scan_one(const char*& at, char& value) { return platform::scan_char(at, value); }
+
+/// " %c": a character behind white space, which is skipped.
+struct Separator {};
+inline bool scan_one(const char*& at, Separator& /*dropped*/) {
+  char character = 0;
+  const char* next = at + std::strspn(at, " \t\n\v\f\r");
+  const bool found = platform::scan_char(next, character);
+  at = found ? next : at;
+  return found;
+}
+
 inline bool scan_one(const char*& at, std::string& value) { return platform::scan_word(at, value); }
 
 /// Scans as one scan format does: the first field that does not scan ends it, and the rest keep their values.

@@ -22,7 +22,7 @@ struct PositionalSetting {
   using Values = std::tuple<double, double>;
   static void scan(const char* text, double& a, double& b) {
     int number = 0;
-    char separator = 0;
+    fields::Separator separator;
     fields::scan(text, number, separator, a, b);
   }
   static std::string print(int number, double a, double b) { return fields::print_one(number) + " = " + fields::print("\t", a, b); }

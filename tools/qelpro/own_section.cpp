@@ -36,7 +36,7 @@ std::optional<std::string> value_in_reach(const std::string& file, const std::st
   if (!reader.SetFilePtr(stream)) {
     return std::nullopt;
   }
-  const auto value = value_of(reader, section, key);
+  auto value = value_of(reader, section, key);
   std::fclose(stream);
   return value;
 }
@@ -97,11 +97,11 @@ Span find_section(std::string_view text, std::string_view section) {
   return span;
 }
 
-// Puts text in the place of [begin, end) of the file. What the file grows by is written first: when there is no room for
+// Puts the new section in the place of the old one. What the file grows by is written first: when there is no room for
 // it, no old byte has been touched.
-std::string splice(const std::string& file, const std::string& old_text, std::size_t begin, std::size_t end, const std::string& text) {
-  std::string whole = old_text.substr(0, begin) + text + old_text.substr(end);
-  whole.resize(std::max(whole.size(), old_text.size()), ' ');
+std::string splice(const std::string& file, const std::string& whole_text, const Span& span, const std::string& new_section) {
+  std::string whole = whole_text.substr(0, span.begin) + new_section + whole_text.substr(span.end);
+  whole.resize(std::max(whole.size(), whole_text.size()), ' ');
   std::fstream stream(file, std::ios::in | std::ios::out | std::ios::binary);
   const auto put = [&stream, &whole](std::size_t from, std::size_t to) {
     stream.seekp(static_cast<std::streamoff>(from));
@@ -111,13 +111,13 @@ std::string splice(const std::string& file, const std::string& old_text, std::si
   if (!stream) {
     return "cannot be opened for writing";
   }
-  if (!put(old_text.size(), whole.size())) {
+  if (!put(whole_text.size(), whole.size())) {
     stream.close();
     std::error_code ignored;
-    std::filesystem::resize_file(file, old_text.size(), ignored);
+    std::filesystem::resize_file(file, whole_text.size(), ignored);
     return "no room for it";
   }
-  return put(begin, old_text.size()) ? "" : "cannot be written";
+  return put(span.begin, whole_text.size()) ? "" : "cannot be written";
 }
 
 bool write(const std::string& file, const std::string& section, const std::string& key, const std::string& value) {
@@ -141,7 +141,7 @@ std::string store_in_section_alone(const std::string& file, const std::string& t
   if (span.end != text.size()) {
     new_section.resize(new_section.find_last_of('\n') + 1);  // blanks that a shorter value left
   }
-  return splice(file, text, span.begin, span.end, new_section);
+  return splice(file, text, span, new_section);
 }
 
 }  // namespace

@@ -34,6 +34,6 @@ void add_set(CLI::App& app, int& status) {
   command->add_option("SECTION", arguments->section, "The section, with or without its brackets")->required();
   command->add_option("KEY", arguments->key, "The key")->required();
   command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")->required();
-  command->footer("A value that begins with \"-\" comes behind \"--\".");
+  command->footer("A value that begins with a dash comes behind '--'.");
   command->callback([arguments, &status] { status = set(*arguments); });
 }
