@@ -222,6 +222,19 @@ TEST(Store, WritesALineByIndexOfTheGreatestLength) {
   expect_refused("[A]", "", line + "v", 1);
 }
 
+TEST(Store, MeasuresTheLineInTheLayoutThatItIsWrittenIn) {
+  const std::string value(text::kLongestLine - 1 - 4, 'v');
+  EXPECT_EQ(after_set("[A]\n", "[A]", "x", value), "[A]\nx = " + value + "\n");
+  EXPECT_EQ(after_insert("", "[A]", "x", value), "\n[A]\nx = " + value + "\n");
+  EXPECT_EQ(after_replace("[A]\nx = 1\n", "[A]", "x", value), "[A]\nx = " + value + "\n");
+  MemoryFile file("[A]\n");
+  EXPECT_EQ(set(file, "[A]", "x", value + "v"), Result::no_open);
+  EXPECT_EQ(insert(file, "[A]", "x", value + "v"), Result::no_open);
+  EXPECT_EQ(replace(file, "[A]", "x", value + "v"), Result::no_open);
+  EXPECT_EQ(set(file, "[B]", "x", value), Result::no_open) << "a padded line would be too long";
+  EXPECT_EQ(file.writes, 0);
+}
+
 TEST(StoreByIndex, ReplacesALineWhole) {
   EXPECT_EQ(after_set("[A]\nfirst\nsecond\n[B]\n", "[A]", "", "one", 1), "[A]\none\nsecond\n[B]\n  ");
   EXPECT_EQ(after_set("[A]\nfirst\n\nthird\n", "[A]", "", "two", 2), "[A]\nfirst\ntwo\nthird\n");
