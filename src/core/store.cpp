@@ -38,7 +38,7 @@ bool is_refused(const Entry& entry) {
   if (!text::is_findable(target.section) || !fits(target.section) || has_line_break(without_trailing_break(entry.value))) {
     return true;
   }
-  if (target.by_key() && !text::is_findable(target.key)) {
+  if (target.index == 0 || (target.by_key() && !text::is_findable(target.key))) {
     return true;
   }
   // A line that reads as a header would end the section it stands in.

@@ -240,6 +240,11 @@ TEST(StoreByIndex, ReplacesALineWhole) {
   EXPECT_EQ(after_set("[A]\nfirst\n\nthird\n", "[A]", "", "two", 2), "[A]\nfirst\ntwo\nthird\n");
 }
 
+TEST(StoreByIndex, RefusesIndexZeroWhichAddressesNoLine) {
+  expect_refused("[A]", "x", "1", 0);
+  expect_refused("[C]", "", "line", 0);
+}
+
 TEST(StoreByIndex, AlwaysCreatesThePositionalHeader) {
   const std::string created = "\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nline\n";
   EXPECT_EQ(after_set("", "[SURFACE", "", "line", 1), created);
