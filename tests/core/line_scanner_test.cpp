@@ -190,11 +190,12 @@ TEST(NextStartingWith, AgreesOverBlocksOfManyLines) {
   expect_same_jumps(contents, '[');
 }
 
-TEST(LengthWithoutPadding, TakesBlanksBehindTheLastLineBreakAway) {
+TEST(LengthWithoutPadding, TakesBlanksAtTheEndOfTheFileAway) {
   EXPECT_EQ(length_without_padding("a\n   "), 2U);
   EXPECT_EQ(length_without_padding("a\n"), 2U);
   EXPECT_EQ(length_without_padding("a\n b"), 4U);
-  EXPECT_EQ(length_without_padding("a\n \t "), 5U);
+  EXPECT_EQ(length_without_padding("a\n \t "), 4U);
+  EXPECT_EQ(length_without_padding("a\n b  "), 4U);
   EXPECT_EQ(length_without_padding(""), 0U);
   EXPECT_EQ(length_without_padding("   "), 3U);
 }

@@ -108,6 +108,16 @@ TEST(Store, UsesTheBlanksOfAnEarlierStoreAgain) {
   EXPECT_EQ(file.bytes, "[A]\n" + x("123") + "y = 2\n  ");
 }
 
+TEST(Store, UsesTheBlanksBehindALastLineWithoutALineBreakAgain) {
+  MemoryFile file("[A]\n" + x("12345") + "y = 2");
+  for (int i = 0; i < 100; ++i) {
+    ASSERT_EQ(set(file, "[A]", "x", "1"), Result::done);
+    ASSERT_EQ(set(file, "[A]", "x", "12345"), Result::done);
+  }
+  EXPECT_EQ(file.bytes, "[A]\n" + x("12345") + "y = 2");
+  EXPECT_EQ(after_set("[A]\nx = 1   ", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n");
+}
+
 TEST(Store, PutsANewEntryInThePlaceOfPadding) {
   EXPECT_EQ(after_set("[A]\nx = 1\n    ", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n");
   EXPECT_EQ(after_set("[A]\nx = 1\n          ", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n    ");
