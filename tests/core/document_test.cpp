@@ -275,6 +275,13 @@ TEST_F(Document, CountsTheHeaderAsLineOneWhenItResumesThere) {
   EXPECT_EQ(look(document, "[A]", "", 1), "[A]");
 }
 
+TEST_F(Document, TakesALineOnTheFirstByteForNotFound) {
+  read("[A]\nx = 1\nsecond\n");
+  EXPECT_EQ(look(document, "[A]", "x"), "1");
+  EXPECT_EQ(look(document, "[A]", "", 1), "-2") << "the header itself, at offset 0";
+  EXPECT_EQ(look(document, "[A]", "k", 3), "second");
+}
+
 TEST_F(Document, ReadsLinesByIndexThroughAStreamAsTheyStand) {
   lend("\n[A]\n  first = 1  \nsecond\n[B]\nfourth\n", "r");
   EXPECT_EQ(look(document, "[A]", "", 1), "first = 1");
