@@ -111,6 +111,9 @@ bool CQELPROIO::open(const Character* path, int mode) {
       return false;
     }
     remember(path);
+    // A file that is held stays in use; one that was closed gives way to the path.
+    attached_ = holds_file();
+    indexed_ = indexed_ && attached_;
     return file.close();
   }
   release_held();

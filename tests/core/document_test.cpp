@@ -484,6 +484,29 @@ TEST_F(Document, AnswersNoFileOnceItsOwnIsClosed) {
   EXPECT_EQ(look(document, "[A]", "x"), "1");
 }
 
+TEST_F(Document, StoresByANewPathOnceALentStreamIsClosed) {
+  lend("[A]\nx = 1\n");
+  document.CloseFile();
+  const std::string next = scratch.file("[A]\nx = 1\n", "next.pro");
+  ASSERT_TRUE(document.SetFilePath(next.c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kDone);
+  EXPECT_EQ(look(document, "[A]", "x"), "2");
+  EXPECT_EQ(bytes_of(next), "[A]\nx                    = 2\n");
+  EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
+}
+
+TEST_F(Document, StoresThroughAStreamThatIsStillLentWhateverPathItIsGiven) {
+  lend("[A]\nx = 1\n");
+  const std::string next = scratch.file("[A]\nx = 1\n", "next.pro");
+  ASSERT_TRUE(document.SetFilePath(next.c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kDone);
+  EXPECT_EQ(bytes_of(path), "[A]\nx                    = 2\n");
+  EXPECT_EQ(bytes_of(next), "[A]\nx = 1\n");
+  EXPECT_EQ(document.SetValue("[A]", "y", "3", kByKey), kDone) << "a new key of a section goes by the path";
+  EXPECT_EQ(bytes_of(next), "[A]\nx = 1\ny = 3\n");
+  std::fclose(stream);
+}
+
 TEST_F(Document, StoresThroughALentStream) {
   lend("[A]\nx = 1\ny = 2\n");
   EXPECT_EQ(document.SetValue("[A]", "x", "5", kByKey), kDone);
