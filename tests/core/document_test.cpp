@@ -682,4 +682,27 @@ TEST_F(Document, LosesNothingWhereAFileMayGrowNoFurther) {
   EXPECT_EQ(bytes_of(path).substr(0, 10), "[A]\nx = 2\n");
 }
 
+TEST_F(Document, LosesNothingWhereAFileOfALentStreamMayGrowNoFurther) {
+  const std::string contents = "[A]\nx = 1\n" + std::string(8000, '#') + "\n[B]\ny = 2\n";
+  make(contents);
+  EXPECT_TRUE(in_child({.longest_file = contents.size() + 5}, [&] {
+    CQELPROIO lent;
+    stream = std::fopen(path.c_str(), "r+");
+    const bool refused = lent.SetFilePtr(stream) && lent.SetValue("[A]", "x", "longer", kByKey) == kNoOpen &&
+                         lent.SetValue("[C]", "x", "1", kByKey) == kNoOpen && lent.WriteOnce("[A]", "x", "longer") == kNoOpen;
+    const bool intact = look(lent, "[A]", "x") == "1" && look(lent, "[B]", "y") == "2";
+    return std::fclose(stream) == 0 && refused && intact;
+  }));
+  EXPECT_TRUE(bytes_of(path) == contents);
+}
+
+TEST_F(Document, DoesNotReadWithoutEndFromALentDevice) {
+  stream = std::fopen("/dev/zero", "r+");
+  ASSERT_TRUE(document.SetFilePtr(stream));
+  EXPECT_EQ(look(document, "[A]", "x"), "0");
+  EXPECT_EQ(look_once(document, "[A]", "x"), "0");
+  EXPECT_EQ(document.SetValue("[A]", "x", "1", kByKey), kNoOpen);
+  std::fclose(stream);
+}
+
 }  // namespace

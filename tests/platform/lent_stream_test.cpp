@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <string>
 
+#include "support/child.h"
 #include "support/scratch.h"
 
 namespace {
@@ -94,6 +95,18 @@ TEST_F(Lent, CannotReadWhatIsOpenForWritingAlone) {
   stream = std::fopen(path.c_str(), "w");
   LentStream file(stream);
   EXPECT_EQ(read(file, 0, 1), "failed");
+}
+
+TEST_F(Lent, IsAsGoodAsNewAfterAWriteThatFailed) {
+  path = scratch.file("0123456789");
+  EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12}, [&] {
+    std::FILE* limited = std::fopen(path.c_str(), "r+");
+    LentStream file(limited);
+    const bool failed = !file.write_at(8, "abcdefgh", 8);
+    return failed && file.write_at(8, "89", 2) && file.truncate(10) && file.size() == 10 && read(file, 0, 20) == "0123456789" &&
+           std::fclose(limited) == 0;
+  }));
+  EXPECT_EQ(bytes_of(path), "0123456789");
 }
 
 TEST(LentPipe, HasNoLength) {
