@@ -211,4 +211,12 @@ TEST_F(Indexed, FindsNothingWhereTheFileEndsBeforeAKnownLine) {
   EXPECT_EQ(find({"[A]", "y"}), kNothing);
 }
 
+TEST_F(Indexed, TakesAKnownLineAtOffsetZeroForNotFoundInEveryFile) {
+  index.learn_line("[A]", "x", 0);
+  file.bytes = "x = 1\n";
+  EXPECT_EQ(find({"[A]", "x"}), kNothing);
+  file.bytes = "\xEF\xBB\xBFx = 1\n";
+  EXPECT_EQ(find({"[A]", "x"}), kNothing);
+}
+
 }  // namespace
