@@ -43,7 +43,8 @@ Result deliver(const LineScanner& lines, const std::optional<Line>& line, const 
   if (lines.failed()) {
     return Result::no_open;
   }
-  if (!line) {
+  // A line on the file's first byte counts as not found; only a lookup by index that resumes at a header gets there.
+  if (!line || line->start == 0) {
     return Result::absent;
   }
   return deliver(target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text), value, buffer, size);
@@ -110,6 +111,9 @@ bool CQELPROIO::open(const Character* path, int mode) {
       return false;
     }
     remember(path);
+    // A file that is held stays in use; one that was closed gives way to the path.
+    attached_ = holds_file();
+    indexed_ = indexed_ && attached_;
     return file.close();
   }
   release_held();

@@ -150,9 +150,7 @@ bool LineScanner::next_starting_with(char first, Line& line) {
 }
 
 std::size_t length_without_padding(std::string_view contents) {
-  const std::size_t last_break = contents.rfind('\n');
-  const bool padded = last_break != std::string_view::npos && text::only_blanks(contents.substr(last_break + 1));
-  return padded ? last_break + 1 : contents.size();
+  return contents.find('\n') == std::string_view::npos ? contents.size() : contents.find_last_not_of(' ') + 1;
 }
 
 }  // namespace qel

@@ -55,7 +55,8 @@ class LineScanner {
   std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
 };
 
-/// The length of the contents without the padding that an earlier store left behind the last line break.
+/// The length of the contents without the padding that an earlier store left at their end: behind the last line break,
+/// or behind the text of a last line that has none, where blanks belong to no value either.
 std::size_t length_without_padding(std::string_view contents);
 
 }  // namespace qel

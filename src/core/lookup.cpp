@@ -155,7 +155,7 @@ std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& tar
   Line line;
   if (const auto known = index.line(target.section, target.key)) {
     lines.emplace(file, *known, kOneLine);
-    return lines->next(line) ? std::optional(line) : std::nullopt;
+    return *known != 0 && lines->next(line) ? std::optional(line) : std::nullopt;
   }
   if (SectionIndex::Section* section = index.section(target.section)) {
     if (const std::optional<Line> found = find_behind_passed(file, target, index, *section, lines)) {
