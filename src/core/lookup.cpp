@@ -112,8 +112,6 @@ std::optional<Line> find_in_section(LineScanner& lines, const Target& target) {
   return find_header(lines, target.section, nullptr, line) ? find_inside(lines, target, nullptr, false) : std::nullopt;
 }
 
-std::optional<Line> find_behind_header(LineScanner& lines, const Target& target) { return find_inside(lines, target, nullptr, false); }
-
 std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines) {
   constexpr std::size_t kOneLine = 512;
   constexpr std::size_t kOneSection = 4096;

@@ -329,6 +329,23 @@ TEST(DataLoader, TheLastOfTheMostInletsIsLoaded) {
   EXPECT_EQ(dump(*process->GetFlowPackOfInlet(4095)), "  InletControlType 2\n  FillTime 5\n");
 }
 
+TEST(DataLoader, ManyInletsInALongSectionCostNoMoreThanTheFile) {
+  std::string file = "[FlowCTLInfo]\nTotalInlet = -1\n";
+  for (int i = 1; i <= 100000; ++i) {
+    file += "FlowCTL-" + std::to_string(i) + " = 1 2\n";
+  }
+  file += "FlowCTL-4096] = 1 3\n";
+  for (int i = 1; i <= 4096; ++i) {
+    file += "[Flow-" + std::to_string(i) + "]\nFillTime = " + std::to_string(i) + "\n";
+  }
+  const Scratch scratch;
+  const Process process = load_file(scratch.file(file));
+  ASSERT_NE(process, nullptr);
+  ASSERT_EQ(process->GetNumOfInlets(), 4096U);
+  EXPECT_EQ(dump(*process->GetFlowPackOfInlet(0)), "  FillTime 1\n");
+  EXPECT_EQ(dump(*process->GetFlowPackOfInlet(4095)), "  InletControlType 3\n  FillTime 4096\n");
+}
+
 TEST(DataLoader, HugeCountsCostNoMoreThanTheFile) {
   EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2147483647\nFR-2147483647 = 7 8\nFR-1 = 1 2\nFR-2147483648 = 9 9\nTPSet = 2147483647\nIPSet = 2147483647\n"
                    "[Pack-1]\nPPSet = 2147483647\nPP-2147483646 = 5 6\nFluidSet = 2147483647\n[Cure-1]\nCPSet = 2147483647\nCP-2147483647 = 3 4\n"),
