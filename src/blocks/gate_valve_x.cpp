@@ -23,16 +23,16 @@ Snapshot snapshot_of(const char* path) {
 
 std::string section_of(int valve) { return qel::numbered(qel::gate_valve_x::kSection, valve); }
 
-int integer(const Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
+int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
   if (const auto text = file.value(section, key.text)) {
     Integer::scan(std::string(*text).c_str(), otherwise);
   }
   return otherwise;
 }
 
-int identifier(const Snapshot& file, int valve) { return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0); }
+int identifier(Snapshot& file, int valve) { return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0); }
 
-std::optional<int> find_valve(const Snapshot& file, int id) {
+std::optional<int> find_valve(Snapshot& file, int id) {
   const int total = integer(file, qel::summary::kSection, qel::summary::kTotalGateCTL, 0);
   if (id == 0) {
     // A valve without an identifier counts, so that the search ends behind the valves that the file holds.
@@ -54,7 +54,8 @@ std::optional<int> find_valve(const Snapshot& file, int id) {
 }  // namespace
 
 int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve, const char* path) {
-  const int count = integer(snapshot_of(path), section_of(valve), qel::gate_valve_x::kGCSet, 1);
+  Snapshot file = snapshot_of(path);
+  const int count = integer(file, section_of(valve), qel::gate_valve_x::kGCSet, 1);
   if (document() == nullptr) {
     return to_int(Result::no_file);
   }
@@ -67,6 +68,7 @@ int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int poin
 }
 
 int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path) {
-  const std::optional<int> valve = find_valve(snapshot_of(path), id);
+  Snapshot file = snapshot_of(path);
+  const std::optional<int> valve = find_valve(file, id);
   return valve ? WriteGateSetting(text, point, *valve, path) : to_int(Result::absent);
 }

@@ -144,10 +144,8 @@ std::optional<Line> find_plainly(LineScanner& lines, const Target& target) {
 
 std::optional<Line> find_in_section(LineScanner& lines, const Target& target) {
   Line line;
-  return find_header(lines, target.section, nullptr, line, nullptr) ? find_behind_header(lines, target) : std::nullopt;
+  return find_header(lines, target.section, nullptr, line, nullptr) ? find_inside(lines, target, nullptr, nullptr, false) : std::nullopt;
 }
-
-std::optional<Line> find_behind_header(LineScanner& lines, const Target& target) { return find_inside(lines, target, nullptr, nullptr, false); }
 
 std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines) {
   constexpr std::size_t kOneLine = 512;

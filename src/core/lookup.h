@@ -63,9 +63,6 @@ bool is_target(const Target& target, const Line& line, int position);
 /// consulted, and left as it is.
 std::optional<Line> find_in_section(LineScanner& lines, const Target& target);
 
-/// The same from the line behind the header on.
-std::optional<Line> find_behind_header(LineScanner& lines, const Target& target);
-
 /// The indexed lookup of a reading session. The line's text is only valid while `lines` lives.
 std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines);
 

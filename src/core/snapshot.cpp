@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <system_error>
+#include <utility>
 
 #include "core/lookup.h"
 #include "core/text.h"
@@ -38,6 +39,7 @@ bool Snapshot::load(const char* path) {
   if (file.read_at(0, contents_.data(), contents_.size()) != size) {
     return false;
   }
+  sorted_section_ = -1;
   LineScanner lines(contents_);
   for (Line line; lines.next_starting_with('[', line);) {
     if (text::is_header(line.text)) {
@@ -47,14 +49,30 @@ bool Snapshot::load(const char* path) {
   return true;
 }
 
-std::optional<std::string_view> Snapshot::value(std::string_view section, std::string_view key) const {
+void Snapshot::sort_entries_behind(std::int64_t header_end) {
+  sorted_section_ = header_end;
+  sorted_.clear();
+  LineScanner lines(contents_, header_end);
+  for (Line line; lines.next(line) && !text::is_header(line.text);) {
+    const std::string_view key = text::first_token(line.text);
+    if (!key.empty()) {
+      sorted_.push_back({key, text::entry_value(line.text)});
+    }
+  }
+  std::sort(sorted_.begin(), sorted_.end(),
+            [](const Entry& a, const Entry& b) { return std::pair(a.key, a.key.data()) < std::pair(b.key, b.key.data()); });
+}
+
+std::optional<std::string_view> Snapshot::value(std::string_view section, std::string_view key) {
   const auto found = sections_.find(std::string(section));
   if (found == sections_.end()) {
     return std::nullopt;
   }
-  LineScanner lines(contents_, found->second);
-  const std::optional<Line> line = find_behind_header(lines, {section, key});
-  return line ? std::optional(text::entry_value(line->text)) : std::nullopt;
+  if (found->second != sorted_section_) {
+    sort_entries_behind(found->second);
+  }
+  const auto entry = std::lower_bound(sorted_.begin(), sorted_.end(), key, [](const Entry& a, std::string_view b) { return a.key < b; });
+  return entry != sorted_.end() && entry->key == key ? std::optional(entry->value) : std::nullopt;
 }
 
 std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most) const {

@@ -31,10 +31,13 @@ inline constexpr Item<QELG_SimulatorProcess> kCaeHeader[] = {
 
 // [Summary]
 inline constexpr Item<QELG_SimulatorProcess> kSummary[] = {
-    {summary::kTotalNodeEM.text, set_process_TotalNodeEM},           {summary::kTotalGateCTL.text, set_process_TotalGateCTL},
-    {summary::kTotalNodeBC.text, set_process_TotalNodeBC},           {summary::kSymVolRatio.text, set_process_SymVolRatio},
-    {summary::kTotalSTLNodeEC.text, set_process_TotalSTLNodeEC},     {summary::kTotalGrpCCL.text, set_process_TotalGrpCCL},
-    {summary::kTotalOverFlowCTL.text, set_process_TotalOverFlowCTL},
+    {summary::kTotalNodeEM.text, set_process_TotalNodeEM},           {summary::kTotalNodeEC.text, set_process_TotalNodeEC},
+    {summary::kTotalGateCTL.text, set_process_TotalGateCTL},         {summary::kTotalNodeMB.text, set_process_TotalNodeMB},
+    {summary::kTotalNodeBC.text, set_process_TotalNodeBC},           {summary::kTotalNodeMMM.text, set_process_TotalNodeMMM},
+    {summary::kSymVolRatio.text, set_process_SymVolRatio},           {summary::kTotalNodeHR.text, set_process_TotalNodeHR},
+    {summary::kTotalSTLNodeEC.text, set_process_TotalSTLNodeEC},     {summary::kTotalSTLNodeHR.text, set_process_TotalSTLNodeHR},
+    {summary::kTotalGrpCCL.text, set_process_TotalGrpCCL},           {summary::kTotalGrpCCS.text, set_process_TotalGrpCCS},
+    {summary::kTotalOverFlowCTL.text, set_process_TotalOverFlowCTL}, {summary::kIsTransientInletConv.text, set_process_IsTransientInletConv},
 };
 
 // [FlowCTL]
@@ -134,15 +137,19 @@ inline constexpr Item<QELG_SimulatorFlowPackProcess> kFlow[] = {
 
 // A packing section
 inline constexpr Item<QELG_SimulatorFlowPackProcess> kPack[] = {
-    {pack_x::kPackTime.text, set_process_PackTime},           {pack_x::kPackSwch.text, set_process_PackSwch},
-    {pack_x::kPPDisplayType.text, set_process_PPDisplayType}, {pack_x::kMaxPressSlop.text, set_process_MaxPressSlop},
-    {pack_x::kMaterialType.text, set_process_MaterialType},   {pack_x::kFluidMaxFR.text, set_process_FluidMaxFR},
+    {pack_x::kPackTime.text, set_process_PackTime},           {pack_x::kPackPres.text, set_process_PackPres},
+    {pack_x::kPackSwch.text, set_process_PackSwch},           {pack_x::kMaxEOFRatio.text, set_process_MaxEOFRatio},
+    {pack_x::kPPDisplayType.text, set_process_PPDisplayType}, {pack_x::kPPProfileType.text, set_process_PPProfileType},
+    {pack_x::kMaxPressSlop.text, set_process_MaxPressSlop},   {pack_x::kShutoff.text, set_process_Shutoff},
+    {pack_x::kMaterialType.text, set_process_MaterialType},   {pack_x::kFluidPres.text, set_process_FluidPres},
+    {pack_x::kFluidMaxFR.text, set_process_FluidMaxFR},       {pack_x::kFluidProfileType.text, set_process_FluidProfileType},
 };
 
 // A curing section; it feeds the setters of packing, and its profile type stands under the key of packing.
 inline constexpr Item<QELG_SimulatorFlowPackProcess> kCure[] = {
-    {cure_x::kCureTime.text, set_process_PackTime},
-    {cure_x::kCPDisplayType.text, set_process_PPDisplayType},
+    {cure_x::kCureTime.text, set_process_PackTime},           {cure_x::kCurePres.text, set_process_PackPres},
+    {cure_x::kCureSwch.text, set_process_PackSwch},           {cure_x::kCPDisplayType.text, set_process_PPDisplayType},
+    {cure_x::kPPProfileType.text, set_process_PPProfileType},
 };
 
 }  // namespace qel::loading

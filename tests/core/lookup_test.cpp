@@ -118,9 +118,12 @@ TEST_F(Indexed, StopsAtTheNextHeader) {
 TEST_F(Indexed, LearnsEveryHeaderUpToTheWantedOne) {
   file.bytes = "[A]\nx = 1\n[B] \ny = 2\n[not\n[C]\nz = 3\n[D]\n";
   EXPECT_EQ(find({"[C]", "z"}), "z = 3");
-  EXPECT_EQ(index.section("[A]"), 0);
-  EXPECT_EQ(index.section("[B]"), 10);
-  EXPECT_EQ(index.section("[C]"), 26);
+  ASSERT_NE(index.section("[A]"), nullptr);
+  EXPECT_EQ(index.section("[A]")->header, 0);
+  ASSERT_NE(index.section("[B]"), nullptr);
+  EXPECT_EQ(index.section("[B]")->header, 10);
+  ASSERT_NE(index.section("[C]"), nullptr);
+  EXPECT_EQ(index.section("[C]")->header, 26);
   EXPECT_FALSE(index.section("[not"));
   EXPECT_FALSE(index.section("[D]"));
 }
@@ -128,7 +131,8 @@ TEST_F(Indexed, LearnsEveryHeaderUpToTheWantedOne) {
 TEST_F(Indexed, LearnsFirstTokensOfHeaders) {
   file.bytes = "\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nline\n";
   EXPECT_EQ(find({"[SURFACE", "", 1}), "line");
-  EXPECT_EQ(index.section("[SURFACE"), 1);
+  ASSERT_NE(index.section("[SURFACE"), nullptr);
+  EXPECT_EQ(index.section("[SURFACE")->header, 1);
   EXPECT_FALSE(index.section("[SURFACE ELEMENT BOUNDARY CONDITION NAME]"));
 }
 
