@@ -16,7 +16,7 @@ namespace qelpro_test {
 namespace {
 
 constexpr int kThreads = 8;
-constexpr int kRounds = 40;
+constexpr int kRounds = 200;
 
 template <class Work>
 void on_threads(Work work) {
