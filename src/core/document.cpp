@@ -1,6 +1,5 @@
 #include "core/document.h"
 
-#include <cstring>
 #include <string_view>
 
 #include "core/scan_value.h"
@@ -33,7 +32,7 @@ Result deliver(std::string_view text, char*& value, char* buffer, std::size_t si
   if (text.size() >= size) {
     return Result::no_open;
   }
-  std::memcpy(buffer, text.data(), text.size());
+  text.copy(buffer, text.size());
   buffer[text.size()] = '\0';
   value = buffer;
   return Result::done;
@@ -318,7 +317,7 @@ bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key
     }
     buffer = own;
   }
-  std::memcpy(buffer, text->data(), text->size());
+  text->copy(buffer, text->size());
   buffer[text->size()] = '\0';
   value = buffer;
   return true;
