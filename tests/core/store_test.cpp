@@ -171,7 +171,8 @@ TEST(Store, LeavesTheLineBreaksOfOtherLinesAlone) {
 }
 
 TEST(Store, WritesBytesItDoesNotOwnBackAsTheyWere) {
-  const std::string rest("y = \0\x01\xFF\r\r\n\0\n[B]\n\t \nlast", 25);
+  using namespace std::string_literals;
+  const std::string rest = "y = \0\x01\xFF\r\r\n\0\n[B]\n\t \nlast"s;
   EXPECT_EQ(after_set("[A]\nx = 1\n" + rest, "[A]", "x", "long"), "[A]\n" + x("long") + rest);
 }
 
