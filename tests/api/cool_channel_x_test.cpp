@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/scratch.h"
+#include "support/section_members.h"
+
+namespace qelpro_test {
+namespace {
+
+INSTANTIATE_TEST_SUITE_P(CoolChannelX, SectionReader,
+                         testing::Values(reads(READER(CoolChannelX_ReadDiameter), "[CoolChannel-6]", "Diameter", "381.25", 381.25, 6),
+                                         reads(READER(CoolChannelX_ReadGroupID), "[CoolChannel-3]", "GroupID", "257", 257, 3),
+                                         reads(READER(CoolChannelX_ReadTimeSection), "[CoolChannel-5]", "TimeSet", "259", 259, 5),
+                                         zeroing(reads(READER(CoolChannelX_ReadControlPointSetting), "[CoolChannel-2]", "TCP-4", "0.5\t2\t60\t8.5\t1",
+                                                       0.5, 2, 60.0, 8.5, 1, 4, 2)),
+                                         zeroing(reads(READER(CoolChannelX_ReadPressureControlPointSetting), "[CoolChannel-4]", "TCPP-6",
+                                                       "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 6, 4))),
+                         name_of_row);
+
+INSTANTIATE_TEST_SUITE_P(CoolChannelX, SectionWriter,
+                         testing::Values(writes(WRITER(CoolChannelX_WriteDiameter), "[CoolChannel-2]", "Diameter", "382.75", 382.75, 2),
+                                         writes(WRITER(CoolChannelX_WriteGroupID), "[CoolChannel-4]", "GroupID", "258", 258, 4),
+                                         writes(WRITER(CoolChannelX_WriteTimeSection), "[CoolChannel-6]", "TimeSet", "260", 260, 6),
+                                         writes(WRITER(CoolChannelX_WriteControlPointSetting), "[CoolChannel-3]", "TCP-5", "0.5\t2\t60\t8.5\t1", 0.5,
+                                                2, 60.0, 8.5, 1, 5, 3),
+                                         writes(WRITER(CoolChannelX_WritePressureControlPointSetting), "[CoolChannel-5]", "TCPP-7",
+                                                "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 7, 5)),
+                         name_of_row);
+
+// The first field of the control point that a channel hands out; -1 when there is none.
+double first_field(bool (Reader::*member)(double&, int&, double&, double&, int&, int, int), const std::string& path) {
+  Reader reader;
+  double first = -1;
+  int second = 0;
+  double third = 0;
+  double fourth = 0;
+  int fifth = 0;
+  return reader.SetFilePath(path.c_str()) && (reader.*member)(first, second, third, fourth, fifth, 1, 1) ? first : -1;
+}
+
+TEST(CoolChannelX, ControlPointIsChosenByTheControlTypeOfCooling) {
+  const Scratch scratch;
+  const std::string points = "[CoolChannel-1]\nTCP-1 = 1 0 0 0 0\nTCPP-1 = 2 0 0 0 0\n";
+  const struct {
+    const char* control;
+    double first;
+  } rows[] = {{"[Cool]\nControlType = 1\n", 2},
+              {"[Cool]\nControlType = 0\n", 1},
+              {"[Cool]\nControlType = 2\n", 1},
+              {"[Cool]\nCoolTime = 1\n", 1},
+              {"", 1},
+              {"[MoldPreheat]\nControlType = 1\n", 1},
+              {"[Cool]\nControlType = x\n", 1}};
+  for (const auto& row : rows) {
+    const std::string path = scratch.file(row.control + points);
+    EXPECT_EQ(first_field(&Reader::CoolChannelX_ReadControlPointSetting, path), row.first) << row.control;
+    EXPECT_EQ(first_field(&Reader::CoolChannelX_ReadPressureControlPointSetting, path), 2) << row.control;
+  }
+}
+
+TEST(CoolChannelX, PressureControlledPointIsNotReplacedByTheOther) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[Cool]\nControlType = 1\n[CoolChannel-1]\nTCP-1 = 1 0 0 0 0\n");
+  EXPECT_EQ(first_field(&Reader::CoolChannelX_ReadControlPointSetting, path), -1);
+}
+
+TEST(CoolChannelX, WritersDoNotLookAtTheControlType) {
+  const Scratch scratch;
+  const std::string before = "[Cool]\nControlType = 1\n";
+  const std::string path = scratch.file(before);
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_TRUE(writer.CoolChannelX_WriteControlPointSetting(1, 2, 3, 4, 5, 1, 1));
+  EXPECT_EQ(bytes_of(path), before + "\n[CoolChannel-1]\n" + padded("TCP-1", "1\t2\t3\t4\t5") + "\n");
+}
+
+TEST(CoolChannelX, TimeSectionStandsUnderTimeSet) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[CoolChannel-1]\nTimeSet = 1\n[CoolChannel-2]\nTimeSet = 3\n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  int count = 0;
+  EXPECT_TRUE(reader.CoolChannelX_ReadTimeSection(count, 2));
+  EXPECT_EQ(count, 3);
+}
+
+}  // namespace
+}  // namespace qelpro_test
