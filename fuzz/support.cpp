@@ -50,7 +50,8 @@ std::string bytes_of_file() {
 }
 
 void fail(const std::string& message) {
-  std::fprintf(stderr, "%s\n", message.c_str());
+  std::fwrite(message.data(), 1, message.size(), stderr);  // NUL bytes included
+  std::fputc('\n', stderr);
   std::abort();
 }
 

@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/scratch.h"
+#include "support/section_members.h"
+
+namespace qelpro_test {
+namespace {
+
+INSTANTIATE_TEST_SUITE_P(
+    PartInsert, SectionReader,
+    testing::Values(reads(READER(PartInsertInitialTemperature_ReadTotalPartInsert), "[PartInsertInitialTemperature]", "TotalPartInsert", "120", 120),
+                    reads("PartInsertInitialTemperature_ReadPartInsert",
+                          Taking<int&, char*&, double&, int>::of(&CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
+                          "[PartInsertInitialTemperature]", "PartInsert-4", "3\tPin\t80.5", 3, "Pin", 80.5, 4),
+                    reads("PartInsertInitialTemperature_ReadPartInsert",
+                          Taking<int&, char*&, double&, int&, int>::of(&CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
+                          "[PartInsertInitialTemperature]", "PartInsert-5", "3\tCore Pin A\t80.5\t2", 3, "Core Pin A", 80.5, 2, 5)),
+    name_of_row);
+
+INSTANTIATE_TEST_SUITE_P(PartInsert, SectionWriter,
+                         testing::Values(writes(WRITER(PartInsertInitialTemperature_WriteTotalPartInsert), "[PartInsertInitialTemperature]",
+                                                "TotalPartInsert", "123", 123),
+                                         writes(WRITER(PartInsertInitialTemperature_WritePartInsert), "[PartInsertInitialTemperature]",
+                                                "PartInsert-7", "3\tCore Pin A\t80.5", 3, "Core Pin A", 80.5, 7)),
+                         name_of_row);
+
+struct Insert {
+  int id;
+  const char* name;
+  double temperature;
+  int fourth;
+};
+
+// What the four-output reader makes of the line of an insert.
+void expect_line(const std::string& text, int number, const Insert& expected) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-" + std::to_string(number) + " = " + text + "\n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  char before[] = "before";
+  int id = -1;
+  char* name = before;
+  double temperature = -1;
+  int fourth = -1;
+  EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, number)) << text;
+  EXPECT_EQ(id, expected.id) << text;
+  EXPECT_STREQ(name, expected.name) << text;
+  EXPECT_EQ(temperature, expected.temperature) << text;
+  EXPECT_EQ(fourth, expected.fourth) << text;
+}
+
+TEST(PartInsert, FourPiecesBetweenTabs) {
+  expect_line("3\tCore Pin A\t80\t2", 1, {3, "Core Pin A", 80, 2});
+  expect_line("3\tCore  Pin\t80.5\t9", 1, {3, "Core  Pin", 80.5, 9});
+}
+
+TEST(PartInsert, LastWordAboveTheInsertNumberIsTheTemperature) {
+  expect_line("3\tCore Pin A\t80", 1, {3, "Core Pin A", 80, 1});
+  expect_line("3 Core   Pin 80.5", 2, {3, "Core Pin", 80.5, 2});
+}
+
+TEST(PartInsert, LastWordUpToTheInsertNumberIsTheFourthField) {
+  expect_line("4 Plate 1 2", 2, {4, "Plate", 1, 2});
+  expect_line("4 Plate 60.5 -3", 2, {4, "Plate", 60.5, -3});
+}
+
+TEST(PartInsert, WholeTemperatureUpToTheInsertNumberIsTakenForTheFourthField) {
+  // "5" is the temperature, and reads as the fourth field of insert 7; no number is left for the temperature.
+  expect_line("3 40 Pin 5", 7, {3, "40", 0, 5});
+}
+
+TEST(PartInsert, LastWordThatIsNoNumberLeavesAllWordsToTheName) { expect_line("3 Pin hot", 1, {0, "3 Pin hot", 0, 0}); }
+
+TEST(PartInsert, LineWithoutWordsHasNoName) {
+  expect_line("", 1, {0, nullptr, 0, 0});
+  expect_line("9", 1, {0, nullptr, 9, 1});
+}
+
+TEST(PartInsert, ThreeOutputsTakeTheFirstWordForTheName) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-1 = 3\tCore Pin A\t80\nPartInsert-2 = \n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  int id = -1;
+  char* name = nullptr;
+  double temperature = -1;
+  EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, 1));
+  EXPECT_EQ(id, 3);
+  EXPECT_STREQ(name, "Core");
+  EXPECT_EQ(temperature, 0);
+  EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, 2));
+  EXPECT_EQ(id, 0);
+  EXPECT_STREQ(name, "");
+  EXPECT_EQ(temperature, 0);
+}
+
+}  // namespace
+}  // namespace qelpro_test
