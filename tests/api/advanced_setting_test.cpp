@@ -9,15 +9,15 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(AdvancedSetting, SectionReader,
-                         testing::Values(reads(READER(AdvancedSetting_ReadOpenDirection), "[AdvancedSetting]", "OpenDirection", "219.5\t-438\t0.125",
-                                               219.5, -438.0, 0.125),
-                                         reads(READER(AdvancedSetting_ReadClampForce), "[AdvancedSetting]", "ClampForce", "331.75", 331.75)),
+                         testing::Values(reads(READER(AdvancedSetting_ReadOpenDirection), "[AdvancedSetting]", "OpenDirection", "222.5\t-444\t0.125",
+                                               222.5, -444.0, 0.125),
+                                         reads(READER(AdvancedSetting_ReadClampForce), "[AdvancedSetting]", "ClampForce", "336.25", 336.25)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(AdvancedSetting, SectionWriter,
                          testing::Values(writes(WRITER(AdvancedSetting_WriteOpenDirection), "[AdvancedSetting]", "OpenDirection",
-                                                "220.5\t-440\t0.125", 220.5, -440.0, 0.125),
-                                         writes(WRITER(AdvancedSetting_WriteClampForce), "[AdvancedSetting]", "ClampForce", "333.25", 333.25)),
+                                                "223.5\t-446\t0.125", 223.5, -446.0, 0.125),
+                                         writes(WRITER(AdvancedSetting_WriteClampForce), "[AdvancedSetting]", "ClampForce", "337.75", 337.75)),
                          name_of_row);
 
 TEST(CycleTime, IsTheNumberThatTheTextBeginsWith) {

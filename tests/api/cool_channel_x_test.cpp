@@ -9,23 +9,23 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(CoolChannelX, SectionReader,
-                         testing::Values(reads(READER(CoolChannelX_ReadDiameter), "[CoolChannel-6]", "Diameter", "381.25", 381.25, 6),
-                                         reads(READER(CoolChannelX_ReadGroupID), "[CoolChannel-3]", "GroupID", "257", 257, 3),
-                                         reads(READER(CoolChannelX_ReadTimeSection), "[CoolChannel-5]", "TimeSet", "259", 259, 5),
-                                         zeroing(reads(READER(CoolChannelX_ReadControlPointSetting), "[CoolChannel-2]", "TCP-4", "0.5\t2\t60\t8.5\t1",
-                                                       0.5, 2, 60.0, 8.5, 1, 4, 2)),
-                                         zeroing(reads(READER(CoolChannelX_ReadPressureControlPointSetting), "[CoolChannel-4]", "TCPP-6",
-                                                       "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 6, 4))),
+                         testing::Values(reads(READER(CoolChannelX_ReadDiameter), "[CoolChannel-4]", "Diameter", "385.75", 385.75, 4),
+                                         reads(READER(CoolChannelX_ReadGroupID), "[CoolChannel-6]", "GroupID", "260", 260, 6),
+                                         reads(READER(CoolChannelX_ReadTimeSection), "[CoolChannel-3]", "TimeSet", "262", 262, 3),
+                                         zeroing(reads(READER(CoolChannelX_ReadControlPointSetting), "[CoolChannel-5]", "TCP-7", "0.5\t2\t60\t8.5\t1",
+                                                       0.5, 2, 60.0, 8.5, 1, 7, 5)),
+                                         zeroing(reads(READER(CoolChannelX_ReadPressureControlPointSetting), "[CoolChannel-2]", "TCPP-9",
+                                                       "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 9, 2))),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(CoolChannelX, SectionWriter,
-                         testing::Values(writes(WRITER(CoolChannelX_WriteDiameter), "[CoolChannel-2]", "Diameter", "382.75", 382.75, 2),
-                                         writes(WRITER(CoolChannelX_WriteGroupID), "[CoolChannel-4]", "GroupID", "258", 258, 4),
-                                         writes(WRITER(CoolChannelX_WriteTimeSection), "[CoolChannel-6]", "TimeSet", "260", 260, 6),
-                                         writes(WRITER(CoolChannelX_WriteControlPointSetting), "[CoolChannel-3]", "TCP-5", "0.5\t2\t60\t8.5\t1", 0.5,
-                                                2, 60.0, 8.5, 1, 5, 3),
-                                         writes(WRITER(CoolChannelX_WritePressureControlPointSetting), "[CoolChannel-5]", "TCPP-7",
-                                                "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 7, 5)),
+                         testing::Values(writes(WRITER(CoolChannelX_WriteDiameter), "[CoolChannel-5]", "Diameter", "387.25", 387.25, 5),
+                                         writes(WRITER(CoolChannelX_WriteGroupID), "[CoolChannel-2]", "GroupID", "261", 261, 2),
+                                         writes(WRITER(CoolChannelX_WriteTimeSection), "[CoolChannel-4]", "TimeSet", "263", 263, 4),
+                                         writes(WRITER(CoolChannelX_WriteControlPointSetting), "[CoolChannel-6]", "TCP-8", "0.5\t2\t60\t8.5\t1", 0.5,
+                                                2, 60.0, 8.5, 1, 8, 6),
+                                         writes(WRITER(CoolChannelX_WritePressureControlPointSetting), "[CoolChannel-3]", "TCPP-3",
+                                                "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 3, 3)),
                          name_of_row);
 
 // The first field of the control point that a channel hands out; -1 when there is none.

@@ -9,13 +9,13 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(Coolant, SectionReader,
-                         testing::Values(reads(READER(Coolant_ReadCoolant), "[Coolant]", "6", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
-                                               4.0, 5, "Water", 0.01, 2, 6)),
+                         testing::Values(reads(READER(Coolant_ReadCoolant), "[Coolant]", "9", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
+                                               4.0, 5, "Water", 0.01, 2, 9)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(Coolant, SectionWriter,
-                         testing::Values(writes(WRITER(Coolant_WriteCoolant), "[Coolant]", "7", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
-                                                4.0, 5, "Water", 0.01, 2, 7)),
+                         testing::Values(writes(WRITER(Coolant_WriteCoolant), "[Coolant]", "3", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
+                                                4.0, 5, "Water", 0.01, 2, 3)),
                          name_of_row);
 
 struct Fields {

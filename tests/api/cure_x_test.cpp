@@ -23,7 +23,8 @@ INSTANTIATE_TEST_SUITE_P(CureX, SectionReader,
                                          reads(READER(CureX_ReadCTProfileType), "[Cure-5]", "CTProfileType", "124", 124, 5),
                                          reads(READER(CureX_ReadCTSection), "[Cure-6]", "CTSet", "125", 125, 6),
                                          reads(READER(CureX_ReadCTProfile), "[Cure-2]", "CT-9", "125.5\t1250", 125.5, 1250.0, 9, 2),
-                                         reads(READER(CureX_ReadUserCTSection), "[Cure-3]", "UserCTSet", "127", 127, 3)),
+                                         reads(READER(CureX_ReadUserCTSection), "[Cure-3]", "UserCTSet", "127", 127, 3),
+                                         reads(READER(CureX_ReadUserCTProfile), "[Cure-4]", "UserCT-4", "127.5\t1270", 127.5, 1270.0, 4, 4)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(CureX, SectionWriter,

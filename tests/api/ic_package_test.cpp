@@ -9,19 +9,19 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(ICPackage, SectionReader,
-                         testing::Values(reads(READER(ICPackage_ReadInitConversionType), "[ICPackage]", "InitConversionType", "188", 188),
-                                         reads(READER(ICPackage_ReadInitPelletConversion), "[ICPackage]", "InitConversion", "283.75", 283.75),
-                                         reads(READER(ICPackage_ReadPelletDiameter), "[ICPackage]", "PelletDiameter", "286.75", 286.75),
-                                         reads(READER(ICPackage_ReadPelletHeight), "[ICPackage]", "PelletHeight", "289.75", 289.75),
-                                         reads(READER(ICPackage_ReadPreHeatTime), "[ICPackage]", "PreHeatingTime", "292.75", 292.75)),
+                         testing::Values(reads(READER(ICPackage_ReadInitConversionType), "[ICPackage]", "InitConversionType", "191", 191),
+                                         reads(READER(ICPackage_ReadInitPelletConversion), "[ICPackage]", "InitConversion", "288.25", 288.25),
+                                         reads(READER(ICPackage_ReadPelletDiameter), "[ICPackage]", "PelletDiameter", "291.25", 291.25),
+                                         reads(READER(ICPackage_ReadPelletHeight), "[ICPackage]", "PelletHeight", "294.25", 294.25),
+                                         reads(READER(ICPackage_ReadPreHeatTime), "[ICPackage]", "PreHeatingTime", "297.25", 297.25)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(ICPackage, SectionWriter,
-                         testing::Values(writes(WRITER(ICPackage_WriteInitConversionType), "[ICPackage]", "InitConversionType", "189", 189),
-                                         writes(WRITER(ICPackage_WriteInitPelletConversion), "[ICPackage]", "InitConversion", "285.25", 285.25),
-                                         writes(WRITER(ICPackage_WritePelletDiameter), "[ICPackage]", "PelletDiameter", "288.25", 288.25),
-                                         writes(WRITER(ICPackage_WritePelletHeight), "[ICPackage]", "PelletHeight", "291.25", 291.25),
-                                         writes(WRITER(ICPackage_WritePreHeatTime), "[ICPackage]", "PreHeatingTime", "294.25", 294.25)),
+                         testing::Values(writes(WRITER(ICPackage_WriteInitConversionType), "[ICPackage]", "InitConversionType", "192", 192),
+                                         writes(WRITER(ICPackage_WriteInitPelletConversion), "[ICPackage]", "InitConversion", "289.75", 289.75),
+                                         writes(WRITER(ICPackage_WritePelletDiameter), "[ICPackage]", "PelletDiameter", "292.75", 292.75),
+                                         writes(WRITER(ICPackage_WritePelletHeight), "[ICPackage]", "PelletHeight", "295.75", 295.75),
+                                         writes(WRITER(ICPackage_WritePreHeatTime), "[ICPackage]", "PreHeatingTime", "298.75", 298.75)),
                          name_of_row);
 
 TEST(ICPackage, OneKeyStandsInTwoSections) {

@@ -10,13 +10,13 @@ namespace {
 
 INSTANTIATE_TEST_SUITE_P(
     MoldPreheatCoolChannelX, SectionReader,
-    testing::Values(reads(READER(MoldPreheat_CoolChannelX_ReadDiameter), "[MPreheat_CoolChannel-6]", "Diameter", "403.75", 403.75, 6),
-                    reads(READER(MoldPreheat_CoolChannelX_ReadGroupID), "[MPreheat_CoolChannel-2]", "GroupID", "271", 271, 2),
-                    reads(READER(MoldPreheat_CoolChannelX_ReadTimeSection), "[MPreheat_CoolChannel-3]", "TimeSet", "272", 272, 3),
-                    zeroing(reads(READER(MoldPreheat_CoolChannelX_ReadControlPointSetting), "[MPreheat_CoolChannel-4]", "TCP-9", "0.5\t2\t60\t8.5\t1",
-                                  0.5, 2, 60.0, 8.5, 1, 9, 4)),
-                    zeroing(reads(READER(MoldPreheat_CoolChannelX_ReadPressureControlPointSetting), "[MPreheat_CoolChannel-5]", "TCPP-3",
-                                  "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 3, 5))),
+    testing::Values(reads(READER(MoldPreheat_CoolChannelX_ReadDiameter), "[MPreheat_CoolChannel-4]", "Diameter", "408.25", 408.25, 4),
+                    reads(READER(MoldPreheat_CoolChannelX_ReadGroupID), "[MPreheat_CoolChannel-5]", "GroupID", "274", 274, 5),
+                    reads(READER(MoldPreheat_CoolChannelX_ReadTimeSection), "[MPreheat_CoolChannel-6]", "TimeSet", "275", 275, 6),
+                    zeroing(reads(READER(MoldPreheat_CoolChannelX_ReadControlPointSetting), "[MPreheat_CoolChannel-2]", "TCP-5", "0.5\t2\t60\t8.5\t1",
+                                  0.5, 2, 60.0, 8.5, 1, 5, 2)),
+                    zeroing(reads(READER(MoldPreheat_CoolChannelX_ReadPressureControlPointSetting), "[MPreheat_CoolChannel-3]", "TCPP-6",
+                                  "0.5\t2\t60\t8.5\t1", 0.5, 2, 60.0, 8.5, 1, 6, 3))),
     name_of_row);
 
 // The first field of the control point that a channel hands out; -1 when there is none.
