@@ -2,6 +2,8 @@
 
 /// Everything that the library exports.
 
+#include "QELPROEngine/CQELMachineIdentification.h"
+#include "QELPROEngine/CQELPCSInterpolator.h"
 #include "QELPROEngine/CQELPRORSVReader_Manipulator.h"
 #include "QELPROEngine/CQELPRORSVWriter_Manipulator.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"

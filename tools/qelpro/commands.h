@@ -11,3 +11,5 @@ void add_get(CLI::App& app, int& status);
 void add_set(CLI::App& app, int& status);
 void add_show(CLI::App& app, int& status);
 void add_process(CLI::App& app, int& status);
+void add_machines(CLI::App& app, int& status);
+void add_coolant(CLI::App& app, int& status);

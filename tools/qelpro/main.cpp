@@ -19,6 +19,8 @@ int main(int count, char** arguments) try {
   add_set(app, status);
   add_show(app, status);
   add_process(app, status);
+  add_machines(app, status);
+  add_coolant(app, status);
   try {
     app.parse(count, arguments);
   } catch (const CLI::ParseError& error) {

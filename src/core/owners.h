@@ -1,0 +1,26 @@
+#pragma once
+
+/// What copies of an exported object share: a record that counts its owners, of which the last one deletes it.
+namespace qel {
+
+template <class Record>
+struct Shared : Record {
+  int owners = 1;
+};
+
+template <class Record>
+Shared<Record>* share(Shared<Record>* record) {
+  if (record != nullptr) {
+    ++record->owners;
+  }
+  return record;
+}
+
+template <class Record>
+void release(Shared<Record>* record) {
+  if (record != nullptr && --record->owners == 0) {
+    delete record;
+  }
+}
+
+}  // namespace qel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/random_access.h"
+
+namespace qel::refdata {
+
+/// Walks over the lines of a reference data file.
+///
+/// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted as one, comes in pieces.
+/// What stands behind a NUL byte of a line is not seen. A byte order mark at the start of the file belongs to no line.
+class BoundedLines {
+ public:
+  /// The file outlives the lines.
+  explicit BoundedLines(platform::RandomAccess& file);
+
+  /// The next line without its line break; false, and an empty line, at the end of the file or when it cannot be read.
+  bool next(std::string& line);
+
+  static constexpr std::size_t kLongestLine = 1023;
+
+ private:
+  bool next_byte(char& byte);
+
+  platform::RandomAccess* file_;
+  std::unique_ptr<char[]> block_;
+  std::int64_t offset_ = 0;
+  std::size_t at_ = 0;
+  std::size_t length_ = 0;
+};
+
+}  // namespace qel::refdata

@@ -1,0 +1,174 @@
+#include <cstring>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "QELPROEngine/CQELMachineIdentification.h"
+#include "core/owners.h"
+#include "platform/os_file.h"
+#include "refdata/machine_bank.h"
+
+namespace {
+
+// A path that is given in one of two ways; the other is empty then.
+struct Path {
+  std::string narrow;
+  std::wstring wide;
+
+  void set(const char* text) {
+    narrow = text;
+    wide.clear();
+  }
+  void set(const wchar_t* text) {
+    wide = text;
+    narrow.clear();
+  }
+  [[nodiscard]] bool open(qel::platform::OsFile& file) const {
+    if (!wide.empty()) {
+      return file.open_for_reading(wide.c_str());
+    }
+    return !narrow.empty() && file.open_for_reading(narrow.c_str());
+  }
+};
+
+}  // namespace
+
+struct QELMachineRecord {
+  std::vector<const char*> handed_out;
+  int version = 0;
+  Path user_bank;
+  Path identification;
+  qel::refdata::Makers makers;
+};
+
+namespace {
+
+using Record = qel::Shared<QELMachineRecord>;
+
+Record* record_of(QELMachineRecord* record) { return static_cast<Record*>(record); }
+
+Record* make_record() {
+  try {
+    return new Record;
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+template <class Character>
+void set_path(QELMachineRecord* record, Path QELMachineRecord::*path, const Character* text) {
+  if (record == nullptr || text == nullptr) {
+    return;
+  }
+  try {
+    (record->*path).set(text);
+  } catch (const std::bad_alloc&) {
+    return;  // the path before stays
+  }
+}
+
+// No terminator is added when the text fills the buffer.
+bool copy_bounded(const std::string& text, char* buffer, unsigned int size) {
+  std::strncpy(buffer, text.c_str(), size);
+  return true;
+}
+
+const std::vector<std::string>* grades_of(const QELMachineRecord* record, const char* maker) {
+  if (record == nullptr || maker == nullptr) {
+    return nullptr;
+  }
+  const auto found = record->makers.find(maker);
+  return found != record->makers.end() ? &found->second : nullptr;
+}
+
+template <class Texts, class TextOf>
+bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, const char*** list, int* count) {
+  if (texts.empty() || list == nullptr || count == nullptr) {
+    return false;
+  }
+  try {
+    std::vector<const char*> pointers;
+    pointers.reserve(texts.size());
+    for (const auto& text : texts) {
+      pointers.push_back(text_of(text).c_str());
+    }
+    record.handed_out = std::move(pointers);
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+  *list = record.handed_out.data();
+  *count = static_cast<int>(record.handed_out.size());
+  return true;
+}
+
+}  // namespace
+
+CQELMachineIdentification::CQELMachineIdentification() : record_(make_record()) {}
+
+CQELMachineIdentification::CQELMachineIdentification(const CQELMachineIdentification& other) : record_(qel::share(record_of(other.record_))) {}
+
+CQELMachineIdentification& CQELMachineIdentification::operator=(const CQELMachineIdentification& other) {
+  if (this != &other) {
+    QELMachineRecord* previous = record_;
+    record_ = qel::share(record_of(other.record_));
+    qel::release(record_of(previous));
+  }
+  return *this;
+}
+
+CQELMachineIdentification::~CQELMachineIdentification() { qel::release(record_of(record_)); }
+
+void CQELMachineIdentification::SetMachineUserBankPath(const char* path) { set_path(record_, &QELMachineRecord::user_bank, path); }
+void CQELMachineIdentification::SetMachineUserBankPath(const wchar_t* path) { set_path(record_, &QELMachineRecord::user_bank, path); }
+void CQELMachineIdentification::SetIdentificationPath(const char* path) { set_path(record_, &QELMachineRecord::identification, path); }
+void CQELMachineIdentification::SetIdentificationPath(const wchar_t* path) { set_path(record_, &QELMachineRecord::identification, path); }
+
+bool CQELMachineIdentification::LoadFileData() try {
+  if (record_ == nullptr) {
+    return false;
+  }
+  record_->makers.clear();
+  record_->handed_out.clear();
+  qel::platform::OsFile file;
+  return record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+} catch (const std::bad_alloc&) {
+  return false;
+}
+
+int CQELMachineIdentification::GetMakerCount() { return record_ != nullptr ? static_cast<int>(record_->makers.size()) : 0; }
+
+bool CQELMachineIdentification::GetMaker(int index, char* buffer, unsigned int size) {
+  if (index < 0 || index >= GetMakerCount() || buffer == nullptr || size == 0) {
+    return false;
+  }
+  return copy_bounded(std::next(record_->makers.begin(), index)->first, buffer, size);
+}
+
+int CQELMachineIdentification::GetGradeCount(const char* maker) {
+  const std::vector<std::string>* grades = grades_of(record_, maker);
+  return grades != nullptr ? static_cast<int>(grades->size()) : 0;
+}
+
+bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buffer, unsigned int size) {
+  if (index < 0 || index >= GetGradeCount(maker) || buffer == nullptr || size == 0) {
+    return false;
+  }
+  return copy_bounded((*grades_of(record_, maker))[static_cast<std::size_t>(index)], buffer, size);
+}
+
+bool CQELMachineIdentification::GetAllMaker(const char*** makers, int* count) {
+  return record_ != nullptr && hand_out(
+                                   *record_, record_->makers, [](const auto& maker) -> const std::string& { return maker.first; }, makers, count);
+}
+
+bool CQELMachineIdentification::GetAllGrade(const char* maker, const char*** grades, int* count) {
+  const std::vector<std::string>* found = grades_of(record_, maker);
+  return found != nullptr && hand_out(
+                                 *record_, *found, [](const std::string& grade) -> const std::string& { return grade; }, grades, count);
+}
+
+bool CQELMachineIdentification::HasMachineIdentification(const char* /*maker*/, const char* /*grade*/, const char* /*third*/) { return false; }
+
+bool CQELMachineIdentification::GetALLIdentity(const char* /*first*/, const char* /*second*/, const char*** /*texts*/, int* /*count*/) {
+  return false;
+}
