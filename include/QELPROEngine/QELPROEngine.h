@@ -2,10 +2,12 @@
 
 /// Everything that the library exports.
 
+#include "QELPROEngine/CPROIO_Manipulator.h"
 #include "QELPROEngine/CQELPRORSVReader_Manipulator.h"
 #include "QELPROEngine/CQELPRORSVWriter_Manipulator.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "QELPROEngine/CQELProcessData_Manipulator.h"
 #include "QELPROEngine/CQELProcessValueReader.h"
+#include "QELPROEngine/QELPRO_MMM_MECHANICAL.h"
 #include "QELPROEngine/version.h"
