@@ -3,6 +3,9 @@ include(CMakePackageConfigHelpers)
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
+# From the folder of the .pc files back to the prefix.
+file(RELATIVE_PATH back_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+
 foreach(package QELG QELPROEngine)
   set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
   install(TARGETS ${package} EXPORT ${package}Targets

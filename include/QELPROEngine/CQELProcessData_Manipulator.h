@@ -39,5 +39,5 @@ class QELPROENGINE_API CQELProcessData_Manipulator {
   void LoadRamposition(QELG_SimulatorProcess& process);
   void LoadInlets(QELG_SimulatorProcess& process);
 
-  CQELPROReader_Manipulator* reader_;
+  CQELPROReader_Manipulator* reader_ = nullptr;
 };

@@ -9,5 +9,6 @@
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "QELPROEngine/CQELProcessData_Manipulator.h"
 #include "QELPROEngine/CQELProcessValueReader.h"
+#include "QELPROEngine/CQEL_ProcessAdapter.h"
 #include "QELPROEngine/QELPRO_MMM_MECHANICAL.h"
 #include "QELPROEngine/version.h"

@@ -4,16 +4,18 @@
 #include "api/forward.h"
 #include "api/ownership.h"
 
-CQELPROReader_Manipulator::CQELPROReader_Manipulator() : session_(nullptr), raw_reads_disabled_(0) {}
+CQELPROReader_Manipulator::CQELPROReader_Manipulator() = default;
 
 CQELPROReader_Manipulator::CQELPROReader_Manipulator(const CQELPROReader_Manipulator& other)
     : session_(qel::share(other.session_)), raw_reads_disabled_(other.raw_reads_disabled_) {}
 
 CQELPROReader_Manipulator& CQELPROReader_Manipulator::operator=(const CQELPROReader_Manipulator& other) {
-  CQELPROReader* previous = session_;
-  session_ = qel::share(other.session_);
-  raw_reads_disabled_ = other.raw_reads_disabled_;
-  qel::release(previous);
+  if (this != &other) {
+    CQELPROReader* previous = session_;
+    session_ = qel::share(other.session_);
+    raw_reads_disabled_ = other.raw_reads_disabled_;
+    qel::release(previous);
+  }
   return *this;
 }
 

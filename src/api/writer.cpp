@@ -5,16 +5,18 @@
 #include "api/ownership.h"
 #include "platform/format.h"
 
-CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() : session_(nullptr) {}
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() = default;
 
 CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other)
     : session_(qel::share(other.session_)), path_(other.path_) {}
 
 CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(const CQELPROWriter_Manipulator& other) {
-  CQELPROWriter* previous = session_;
-  session_ = qel::share(other.session_);
-  path_ = other.path_;
-  qel::release(previous);
+  if (this != &other) {
+    CQELPROWriter* previous = session_;
+    session_ = qel::share(other.session_);
+    path_ = other.path_;
+    qel::release(previous);
+  }
   return *this;
 }
 

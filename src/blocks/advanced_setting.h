@@ -2,10 +2,19 @@
 
 #include "blocks/block.h"
 
-/// [AdvancedSetting]
+/// [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
 namespace qel::advanced_setting {
 
 inline constexpr char kSection[] = "[AdvancedSetting]";
+
+inline constexpr Key<RealTriple> kOpenDirection{
+    "OpenDirection", {"AdvancedSetting_ReadOpenDirection"}, {"AdvancedSetting_WriteOpenDirection"}, "the direction in which the mold opens: x, y, z"};
+inline constexpr Key<Real> kClampForce{"ClampForce", {"AdvancedSetting_ReadClampForce"}, {"AdvancedSetting_WriteClampForce"}, "the clamp force"};
+inline constexpr Key<Real> kCycleTime{"CycleTime", {"AdvancedSetting_ReadCycleTime"}, {}, "the cycle time, in sec; a text that holds no number is 0"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
+
+inline constexpr SectionInfo kInfo{kSection, "the mold's opening direction, the clamp force and the cycle time", kKeys, std::size(kKeys)};
 
 }  // namespace qel::advanced_setting
 

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 #include <cstring>
-#include <string_view>
 
 #include "platform/number.h"
 
+using qel::numbered;
 using qel::Result;
 
-namespace {
-
-// Puts the number in the place of the pattern's "%d" or "%ld"; a text without one stays as it is.
-std::string numbered(std::string_view pattern, int number) {
+std::string qel::numbered(std::string_view pattern, int number) {
   const std::size_t percent = pattern.find('%');
   std::string text(pattern.substr(0, percent));
   if (percent != std::string_view::npos) {
@@ -20,8 +17,6 @@ std::string numbered(std::string_view pattern, int number) {
   }
   return text;
 }
-
-}  // namespace
 
 void CQELPROBlockIOBase::SetSectionName(const char* name) {
   std::memset(name_, 0, kNameSize);

@@ -1,10 +1,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "blocks/encoding.h"
 #include "blocks/key.h"
 #include "core/document.h"
+
+namespace qel {
+
+/// Puts the number in the place of the pattern's "%d" or "%ld"; a text without one stays as it is.
+std::string numbered(std::string_view pattern, int number);
+
+}  // namespace qel
 
 /// The base of the section blocks: one object per section kind, which names its section and reads and writes its keys
 /// through the session's document. A block keeps no values.

@@ -23,8 +23,15 @@ inline constexpr Key<Integer> kSettingMode{"SettingMode", {"CaeHeader_ReadSettin
 inline constexpr Key<FirstOfIntegerPair> kProjectType{
     "ProjectType", {"CaeHeader_ReadProjectType"}, {}, "the project type: 8 co-injection, 11 two melt entrances; a second number is dropped"};
 
-inline constexpr const KeyInfo* kKeys[] = {&kVersion,     &kRelease,           &kProject,  &kEngineer,     &kParent,      &kType,
-                                           &kFileVersion, &kFileVersionNumber, &kFileType, &kSmartSetting, &kSettingMode, &kProjectType};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Integer> kFlagUNF{"FlagUNF", {}, {}, "a flag of the simulator"};
+inline constexpr Key<Integer> kFlagEncapsulationCM{"FlagEncapsulationCM", {}, {}, "a flag of the simulator: encapsulation"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kVersion,     &kRelease,     &kProject,           &kEngineer,           &kParent,
+                                           &kType,        &kFileVersion, &kFileVersionNumber, &kFileType,           &kSmartSetting,
+                                           &kSettingMode, &kProjectType, &kFlagUNF,           &kFlagEncapsulationCM};
+
+inline constexpr SectionInfo kInfo{kSection, "the release and project that the analysis belongs to", kKeys, std::size(kKeys)};
 
 }  // namespace qel::cae_header
 

@@ -1,11 +1,34 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/compound_encoding.h"
 
-/// [CoolChannel-%d]
+/// [CoolChannel-%d]: a cooling channel.
 namespace qel::cool_channel_x {
 
+/// The control type that makes a channel's control points those by pressure.
+inline constexpr int kControlByPressure = 1;
+
 inline constexpr char kSection[] = "[CoolChannel-%d]";
+
+inline constexpr Key<Real> kDiameter{"Diameter", {"CoolChannelX_ReadDiameter"}, {"CoolChannelX_WriteDiameter"}, "the channel's diameter"};
+inline constexpr Key<Integer> kGroupID{"GroupID", {"CoolChannelX_ReadGroupID"}, {"CoolChannelX_WriteGroupID"}, "the channel's group"};
+inline constexpr Key<Integer> kTimeSet{
+    "TimeSet", {"CoolChannelX_ReadTimeSection"}, {"CoolChannelX_WriteTimeSection"}, "the number of control points"};
+inline constexpr Key<ControlPoint> kFlowControlPoint{
+    "TCP-%d",
+    {"CoolChannelX_ReadControlPointSetting"},
+    {"CoolChannelX_WriteControlPointSetting"},
+    "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, an integer; what the text does not supply is 0"};
+inline constexpr Key<ControlPoint> kPressureControlPoint{
+    "TCPP-%d",
+    {"CoolChannelX_ReadPressureControlPointSetting"},
+    {"CoolChannelX_WritePressureControlPointSetting"},
+    "a control point by pressure: a real, the coolant system, the temperature, the pressure, an integer; what the text does not supply is 0"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint, &kPressureControlPoint};
+
+inline constexpr SectionInfo kInfo{kSection, "a cooling channel", kKeys, std::size(kKeys)};
 
 }  // namespace qel::cool_channel_x
 

@@ -2,10 +2,22 @@
 
 #include "blocks/block.h"
 
-/// [CoolCTL]
+/// [CoolCTL]: the coolant at each entrance.
 namespace qel::cool_ctl {
 
 inline constexpr char kSection[] = "[CoolCTL]";
+
+inline constexpr Key<Real> kT{
+    "T-%d", {"CoolCTL_ReadCoolantTemperature"}, {"CoolCTL_WriteCoolantTemperature"}, "the coolant temperature at an entrance, in oC"};
+inline constexpr Key<Real> kF{
+    "F-%d", {"CoolCTL_ReadCoolantFlowRate"}, {"CoolCTL_WriteCoolantFlowRate"}, "the coolant flow rate at an entrance, in cc/sec"};
+inline constexpr Key<Real> kP{
+    "P-%d", {"CoolCTL_ReadCoolantPressure"}, {"CoolCTL_WroteCoolantPressure"}, "the coolant pressure at an entrance, in MPa"};
+inline constexpr Key<Integer> kM{"M-%d", {"CoolCTL_ReadCoolantSystem"}, {"CoolCTL_WriteCoolantSystem"}, "the coolant system of an entrance"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kT, &kF, &kP, &kM};
+
+inline constexpr SectionInfo kInfo{kSection, "the coolant at each entrance", kKeys, std::size(kKeys)};
 
 }  // namespace qel::cool_ctl
 

@@ -1,11 +1,25 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/compound_encoding.h"
 
-/// [EjectCriteria]
+/// [EjectCriteria]: the sensor and criteria nodes that decide ejection.
 namespace qel::eject_criteria {
 
 inline constexpr char kSection[] = "[EjectCriteria]";
+
+inline constexpr Key<Integer> kTotalSensorNode{
+    "TotalSensorNode", {"EjectCriteria_ReadTotalSensorNode"}, {"EjectCriteria_WriteTotalSensorNode"}, "the number of sensor nodes"};
+inline constexpr Key<Integer> kSensorNode{
+    "SensorNode-%d", {"EjectCriteria_ReadSensorNode"}, {"EjectCriteria_WriteSensorNode"}, "the node of a sensor"};
+inline constexpr Key<Integer> kTotalCriteriaNode{
+    "TotalCriteriaNode", {"EjectCriteria_ReadTotalCriteriaNode"}, {"EjectCriteria_WriteTotalCriteriaNode"}, "the number of criteria nodes"};
+inline constexpr Key<IntegerAndReal> kCriteriaNode{
+    "CriteriaNode-%d", {"EjectCriteria_ReadCriteriaNode"}, {"EjectCriteria_WriteCriteriaNode"}, "the node of a criterion, and the criterion's value"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode, &kCriteriaNode};
+
+inline constexpr SectionInfo kInfo{kSection, "the sensor and criteria nodes that decide ejection", kKeys, std::size(kKeys)};
 
 }  // namespace qel::eject_criteria
 

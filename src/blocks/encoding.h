@@ -2,13 +2,18 @@
 
 #include <cstddef>
 #include <string>
+#include <tuple>
+
+#include "blocks/fields.h"
 
 /// How the text of an entry becomes typed values and the reverse. Each encoding is one pair of functions:
 ///
-/// - `scan` sets what the text supplies, in order, and leaves the rest as it was;
+/// - `scan` sets what the text supplies, in order. What it does not supply keeps its value, or is 0 where the encoding
+///   says that it clears its outputs;
 /// - `print` gives the text to store.
 ///
-/// `kLimit` is the size of the text buffer that the format allows, terminator included; a longer text is not stored.
+/// `Values` are the types that `scan` sets. `kLimit` is the size of the text buffer that the format allows, terminator
+/// included; a longer text is not stored.
 namespace qel {
 
 inline constexpr std::size_t kScalarLimit = 4096;
@@ -18,54 +23,67 @@ inline constexpr std::size_t kCompoundLimit = 256;
 struct Integer {
   static constexpr const char* kName = "integer";
   static constexpr std::size_t kLimit = kScalarLimit;
-  static void scan(const char* text, int& value);
-  static std::string print(int value);
+  using Values = std::tuple<int>;
+  static void scan(const char* text, int& value) { fields::scan(text, value); }
+  static std::string print(int value) { return fields::print_one(value); }
 };
 
 /// "%lf", written "%g"
 struct Real {
   static constexpr const char* kName = "real";
   static constexpr std::size_t kLimit = kScalarLimit;
-  static void scan(const char* text, double& value);
-  static std::string print(double value);
+  using Values = std::tuple<double>;
+  static void scan(const char* text, double& value) { fields::scan(text, value); }
+  static std::string print(double value) { return fields::print_one(value); }
 };
 
 /// The text as it stands. Reading one hands out the document's own buffer.
 struct Text {
   static constexpr const char* kName = "text";
   static constexpr std::size_t kLimit = kScalarLimit;
+  using Values = std::tuple<char*>;
   static void scan(char* text, char*& value) { value = text; }
   static std::string print(const char* value) { return value; }
 };
 
-/// "%d %d"; both are 0 before the text is scanned.
+/// "%d %d"; clears its outputs.
 struct IntegerPair {
   static constexpr const char* kName = "integer pair";
   static constexpr std::size_t kLimit = kCompoundLimit;
-  static void scan(const char* text, int& first, int& second);
+  using Values = std::tuple<int, int>;
+  static void scan(const char* text, int& first, int& second) {
+    fields::clear(first, second);
+    fields::scan(text, first, second);
+  }
 };
 
-/// "%d %d" of which the second number is read and dropped. A text that holds no number yields 0.
+/// "%d %d" of which the second number is read and dropped; clears its output.
 struct FirstOfIntegerPair {
   static constexpr const char* kName = "integer pair, first kept";
   static constexpr std::size_t kLimit = kCompoundLimit;
-  static void scan(const char* text, int& first);
+  using Values = std::tuple<int>;
+  static void scan(const char* text, int& first) {
+    int dropped = 0;
+    IntegerPair::scan(text, first, dropped);
+  }
 };
 
 /// "%lf %lf", written "%g\t%g": a profile point, x before y.
 struct RealPair {
   static constexpr const char* kName = "real pair";
   static constexpr std::size_t kLimit = kCompoundLimit;
-  static void scan(const char* text, double& x, double& y);
-  static std::string print(double x, double y);
+  using Values = std::tuple<double, double>;
+  static void scan(const char* text, double& x, double& y) { fields::scan(text, x, y); }
+  static std::string print(double x, double y) { return fields::print("\t", x, y); }
 };
 
 /// "%lf %lf %lf", written "%g\t%g\t%g"
 struct RealTriple {
   static constexpr const char* kName = "real triple";
   static constexpr std::size_t kLimit = kCompoundLimit;
-  static void scan(const char* text, double& x, double& y, double& z);
-  static std::string print(double x, double y, double z);
+  using Values = std::tuple<double, double, double>;
+  static void scan(const char* text, double& x, double& y, double& z) { fields::scan(text, x, y, z); }
+  static std::string print(double x, double y, double z) { return fields::print("\t", x, y, z); }
 };
 
 }  // namespace qel

@@ -42,6 +42,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kFlowCtrl,      &kVPSwitchCtrl,  &kP
                                            &kInjectionTime, &kVolumeFilled,  &kRamPosition,   &kInjectionPressure, &kCureSwitch,
                                            &kCureTempCtrl,  &kCureEnterType, &kCureEnterSwch, &kCureEnterTime};
 
+inline constexpr SectionInfo kInfo{kSection, "what controls filling, packing, the V/P switch-over and the begin of curing", kKeys, std::size(kKeys)};
+
 }  // namespace qel::flow_ctl
 
 class CQELPROBlockIOFlowCTL : public CQELPROBlockIOBase {

@@ -11,7 +11,13 @@ inline constexpr Key<Integer> kTotalInlet{"TotalInlet", {"FlowCTLInfo_ReadTotalI
 inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
     "FlowCTL-%d", {"FlowCTLInfo_ReadFlowCTL"}, {}, "two control codes of an inlet, the second its control type; a number that is missing is 0"};
 
-inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{
+    "FlowCTL-%d]", {}, {}, "two control codes of an inlet, the second its control type; the closing bracket belongs to the key"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet, &kFlowCTLOfInletBracketed};
+
+inline constexpr SectionInfo kInfo{kSection, "how many melt inlets the run has, and what controls each", kKeys, std::size(kKeys)};
 
 }  // namespace qel::flow_ctl_info
 

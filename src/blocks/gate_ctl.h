@@ -2,10 +2,19 @@
 
 #include "blocks/block.h"
 
-/// [GateCTL]
+/// [GateCTL]: when each gate is open.
 namespace qel::gate_ctl {
 
 inline constexpr char kSection[] = "[GateCTL]";
+
+inline constexpr Key<Integer> kAutoShutOffValveGateEOP{
+    "AutoShutOffValveGateEOP", {"GateCTL_ReadAutoShutOffValveGateEOP"}, {}, "1 where valve gates shut at the end of packing"};
+inline constexpr Key<Real> kST{"ST-%d", {"GateCTL_ReadStartTime"}, {"GateCTL_WriteStartTime"}, "the start time of a gate, in sec"};
+inline constexpr Key<Real> kET{"ET-%d", {"GateCTL_ReadEndTime"}, {"GateCTL_WriteEndTime"}, "the end time of a gate, in sec"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kAutoShutOffValveGateEOP, &kST, &kET};
+
+inline constexpr SectionInfo kInfo{kSection, "when each gate is open", kKeys, std::size(kKeys)};
 
 }  // namespace qel::gate_ctl
 

@@ -1,15 +1,39 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/compound_encoding.h"
 
-/// [GateValve-%d]
+/// [GateValve-%d]: a valve gate.
 namespace qel::gate_valve_x {
 
 inline constexpr char kSection[] = "[GateValve-%d]";
+
+inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the valve gate's identifier"};
+inline constexpr Key<Integer> kGCSet{"GCSet", {"GateValveX_ReadControlPoint"}, {"GateValveX_WriteControlPoint"}, "the number of control points"};
+inline constexpr Key<GatePoint> kGCPoint{
+    "GC-%d",
+    {"GateValveX_ReadGateSetting"},
+    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
+    "a control point: the switching value, an integer, the mode, an integer (-1 for modes 1 and 4); what the text does not supply is 0"};
+inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d",
+                                                   {"GateValveX_ReadGateSetting"},
+                                                   {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
+                                                   "a control point without its last integer"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
+
+inline constexpr SectionInfo kInfo{kSection, "a valve gate", kKeys, std::size(kKeys)};
 
 }  // namespace qel::gate_valve_x
 
 class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {
  public:
   CQELPROBlockIOGateValveX() : CQELPROBlockIOBase(qel::gate_valve_x::kSection) {}
+
+  /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the point's number where it is
+  /// lower; a valve without "GCSet" has one point. `path` is the file as it stands on disk.
+  int WriteGateSetting(const std::string& text, int point, int valve, const char* path);
+  /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of [Summary] says there are. A
+  /// valve without "GCId" bears 0.
+  int WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path);
 };

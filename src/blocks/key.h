@@ -2,6 +2,10 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
+#include <vector>
+
+#include "blocks/field.h"
 
 namespace qel {
 
@@ -13,14 +17,24 @@ struct KeyInfo {
   const char* text;  ///< As it stands in the file; with "%d" where the point number goes.
   Members readers;
   Members writers;
-  const char* meaning;   ///< What the value is, with its unit where the file states one.
-  const char* encoding;  ///< The encoding's name.
+  const char* meaning;                                         ///< What the value is, with its unit where the file states one.
+  const char* encoding;                                        ///< The encoding's name.
+  std::vector<Field> (*fields)(const char* text, int number);  ///< The value's fields as a reading member gives them.
 };
 
 /// A key with its encoding: the type that scans and prints its values.
 template <class Encoding>
 struct Key : KeyInfo {
-  constexpr Key(const char* key, Members read, Members write, const char* what) : KeyInfo{key, read, write, what, Encoding::kName} {}
+  constexpr Key(const char* key, Members read, Members write, const char* what)
+      : KeyInfo{key, read, write, what, Encoding::kName, &fields_of<Encoding>} {}
+};
+
+/// One kind of section: its name or pattern, what it holds, and its keys.
+struct SectionInfo {
+  const char* name;
+  const char* subject;
+  const KeyInfo* const* keys;
+  std::size_t key_count;
 };
 
 /// The numbers that go into a numbered key and into the name of an indexed section.

@@ -1,11 +1,21 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/name_encoding.h"
 
-/// [MoldMetalMaterial]
+/// [MoldMetalMaterial]: the mold metals, one material line each.
 namespace qel::mold_metal_material {
 
 inline constexpr char kSection[] = "[MoldMetalMaterial]";
+
+inline constexpr Key<MoldMetalLine> kMaterial{"%d",
+                                              {"MoldMetalMaterial_ReadMaterial"},
+                                              {"MoldMetalMaterial_WriteMaterial"},
+                                              "a mold metal: three reals, its name, which may hold blanks, three reals"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
+
+inline constexpr SectionInfo kInfo{kSection, "the mold metals, one material line each", kKeys, std::size(kKeys)};
 
 }  // namespace qel::mold_metal_material
 

@@ -1,15 +1,33 @@
 #pragma once
 
-#include "blocks/block.h"
+#include "blocks/cool_channel_x.h"
 
-/// [MPreheat_CoolChannel-%d]
+/// [MPreheat_CoolChannel-%d]: a channel that preheats the mold.
 namespace qel::mold_preheat_cool_channel_x {
 
 inline constexpr char kSection[] = "[MPreheat_CoolChannel-%d]";
 
+inline constexpr Key<Real> kDiameter{"Diameter", {"MoldPreheat_CoolChannelX_ReadDiameter"}, {}, "the channel's diameter"};
+inline constexpr Key<Integer> kGroupID{"GroupID", {"MoldPreheat_CoolChannelX_ReadGroupID"}, {}, "the channel's group"};
+inline constexpr Key<Integer> kTimeSet{"TimeSet", {"MoldPreheat_CoolChannelX_ReadTimeSection"}, {}, "the number of control points"};
+inline constexpr Key<ControlPoint> kFlowControlPoint{
+    "TCP-%d",
+    {"MoldPreheat_CoolChannelX_ReadControlPointSetting"},
+    {},
+    "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, an integer; what the text does not supply is 0"};
+inline constexpr Key<ControlPoint> kPressureControlPoint{
+    "TCPP-%d",
+    {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting"},
+    {},
+    "a control point by pressure: a real, the coolant system, the temperature, the pressure, an integer; what the text does not supply is 0"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint, &kPressureControlPoint};
+
+inline constexpr SectionInfo kInfo{kSection, "a channel that preheats the mold", kKeys, std::size(kKeys)};
+
 }  // namespace qel::mold_preheat_cool_channel_x
 
-class CQELPROBlockIOMoldPreHeatCoolChannelX : public CQELPROBlockIOBase {
+class CQELPROBlockIOMoldPreHeatCoolChannelX : public CQELPROBlockIOCoolChannelX {
  public:
-  CQELPROBlockIOMoldPreHeatCoolChannelX() : CQELPROBlockIOBase(qel::mold_preheat_cool_channel_x::kSection) {}
+  CQELPROBlockIOMoldPreHeatCoolChannelX() { SetSectionName(qel::mold_preheat_cool_channel_x::kSection); }
 };

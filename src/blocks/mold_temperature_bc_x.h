@@ -1,15 +1,72 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/positional_encoding.h"
 
-/// [SURFACE
+/// [MoldTemperatureBC-%d]: a mold temperature boundary condition.
 namespace qel::mold_temperature_bc_x {
 
-inline constexpr char kSection[] = "[SURFACE";
+inline constexpr char kSection[] = "[MoldTemperatureBC-%d]";
+
+/// The section whose lines are addressed by position, "[SURFACE ELEMENT BOUNDARY CONDITION NAME]": lookups find it by its
+/// first token.
+inline constexpr char kPositionalSection[] = "[SURFACE";
+
+inline constexpr Key<Text> kBCName{"BCName", {"MoldTemperatureBCX_ReadName"}, {"MoldTemperatureBCX_WriteName"}, "its name"};
+inline constexpr Key<Integer> kBCDisplayType{
+    "BCDisplayType", {"MoldTemperatureBCX_ReadDisplayType"}, {"MoldTemperatureBCX_WriteDisplayType"}, "how it is shown"};
+inline constexpr Key<Integer> kBCNodeCount{
+    "BCNodeCount", {"MoldTemperatureBCX_ReadNodeCount"}, {"MoldTemperatureBCX_WriteNodeCount"}, "the number of its nodes"};
+inline constexpr Key<RealPair> kBCPoint{
+    "BC-%d", {"MoldTemperatureBCX_ReadBCProfile"}, {"MoldTemperatureBCX_WriteBCProfile"}, "a point of its profile"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
+
+inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condition", kKeys, std::size(kKeys)};
+
+inline constexpr Key<PositionalHeader> kHeaderLine{"header line",
+                                                   {"MoldTemperatureBCX_ReadBC"},
+                                                   {"MoldTemperatureBCX_WriteBC"},
+                                                   "one for each boundary condition: the number of its setting lines, its name, an integer"};
+inline constexpr Key<PositionalSetting> kSettingLine{"setting line",
+                                                     {"MoldTemperatureBCX_ReadBCSetting"},
+                                                     {"MoldTemperatureBCX_WriteBCSetting"},
+                                                     "behind the header lines, one condition after the other: the condition, two reals"};
+
+inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
+
+inline constexpr SectionInfo kPositionalInfo{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
+                                             "mold temperature boundary conditions, in lines addressed by position", kLines, std::size(kLines)};
 
 }  // namespace qel::mold_temperature_bc_x
 
+/// Serves both forms in which the file keeps mold temperature boundary conditions. It is constructed with the name of the
+/// positional section; the first member of the numbered section renames it for the rest of the session, and the positional
+/// members find nothing from then on. Callers do their positional work first, or in a session of its own.
 class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
  public:
-  CQELPROBlockIOMoldTemperatureBCX() : CQELPROBlockIOBase(qel::mold_temperature_bc_x::kSection) {}
+  CQELPROBlockIOMoldTemperatureBCX() : CQELPROBlockIOBase(qel::mold_temperature_bc_x::kPositionalSection) {}
+
+  /// Keys of the numbered section.
+  template <class Encoding, class... Values>
+  int ReadNumbered(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+    SetSectionName(qel::mold_temperature_bc_x::kSection);
+    return Read(key, place, values...);
+  }
+  template <class Encoding, class... Values>
+  int WriteNumbered(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
+    SetSectionName(qel::mold_temperature_bc_x::kSection);
+    return Write(key, place, values...);
+  }
+
+  /// Header line number `line` of the positional section: how many setting lines the condition has, its name, an integer.
+  int ReadBC(int& first, char*& name, int& second, int line);
+  int WriteBC(int first, const char* name, int second, int line);
+
+  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines.
+  int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
+  int WriteBCSetting(double a, double b, int setting, int condition, int offset);
+
+ private:
+  int FindPosition(int setting, int condition, int offset, int& position);
 };

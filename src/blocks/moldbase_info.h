@@ -1,11 +1,19 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/name_encoding.h"
 
-/// [MoldbaseInfo]
+/// [MoldbaseInfo]: numbered mold bases with their names.
 namespace qel::moldbase_info {
 
 inline constexpr char kSection[] = "[MoldbaseInfo]";
+
+inline constexpr Key<IntegerAndQuotedName> kMoldbase{
+    "MB-%d", {"MoldbaseInfo_ReadMoldbaseInfo"}, {"MoldbaseInfo_WriteMoldbaseInfo"}, "a number and the name, which stands in double quotes"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
+
+inline constexpr SectionInfo kInfo{kSection, "numbered mold bases with their names", kKeys, std::size(kKeys)};
 
 }  // namespace qel::moldbase_info
 

@@ -1,11 +1,30 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/name_encoding.h"
 
-/// [PartInsertInitialTemperature]
+/// [PartInsertInitialTemperature]: the initial temperature of each part insert.
 namespace qel::part_insert_initial_temperature {
 
 inline constexpr char kSection[] = "[PartInsertInitialTemperature]";
+
+inline constexpr Key<Integer> kTotalPartInsert{"TotalPartInsert",
+                                               {"PartInsertInitialTemperature_ReadTotalPartInsert"},
+                                               {"PartInsertInitialTemperature_WriteTotalPartInsert"},
+                                               "the number of part inserts"};
+inline constexpr Key<PartInsertLine> kPartInsert{"PartInsert-%d",
+                                                 {"PartInsertInitialTemperature_ReadPartInsert"},
+                                                 {"PartInsertInitialTemperature_WritePartInsert"},
+                                                 "an insert: its identifier, its name (the first word of it), its initial temperature, in oC"};
+inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
+    "PartInsert-%d",
+    {"PartInsertInitialTemperature_ReadPartInsert"},
+    {},
+    "an insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
+
+inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each part insert", kKeys, std::size(kKeys)};
 
 }  // namespace qel::part_insert_initial_temperature
 

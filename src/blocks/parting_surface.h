@@ -1,11 +1,35 @@
 #pragma once
 
 #include "blocks/block.h"
+#include "blocks/compound_encoding.h"
 
-/// [PartingSurface]
+/// [PartingSurface]: the cavity and core sides.
 namespace qel::parting_surface {
 
 inline constexpr char kSection[] = "[PartingSurface]";
+
+inline constexpr Key<IntegerAndThreeReals> kCavityPart{"CavityPart",
+                                                       {"PartingSurface_ReadCavityPart"},
+                                                       {"PartingSurface_WriteCavityPart"},
+                                                       "the part on the cavity side: an integer and three reals; what the text does not supply is 0"};
+inline constexpr Key<IntegerAndThreeReals> kCavityMoldbase{
+    "CavityMoldbase",
+    {"PartingSurface_ReadCavityMoldbase"},
+    {"PartingSurface_WriteCavityMoldbase"},
+    "the mold base on the cavity side: an integer and three reals; what the text does not supply is 0"};
+inline constexpr Key<IntegerAndThreeReals> kCorePart{"CorePart",
+                                                     {"PartingSurface_ReadCorePart"},
+                                                     {"PartingSurface_WriteCorePart"},
+                                                     "the part on the core side: an integer and three reals; what the text does not supply is 0"};
+inline constexpr Key<IntegerAndThreeReals> kCoreMoldbase{
+    "CoreMoldbase",
+    {"PartingSurface_ReadCoreMoldbase"},
+    {"PartingSurface_WriteCoreMoldbase"},
+    "the mold base on the core side: an integer and three reals; what the text does not supply is 0"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kCavityPart, &kCavityMoldbase, &kCorePart, &kCoreMoldbase};
+
+inline constexpr SectionInfo kInfo{kSection, "the cavity and core sides", kKeys, std::size(kKeys)};
 
 }  // namespace qel::parting_surface
 

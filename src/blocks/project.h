@@ -17,6 +17,8 @@ inline constexpr Key<Real> kClampFaceArea{"ClampFaceArea", {"Project_ReadClampFa
 
 inline constexpr const KeyInfo* kKeys[] = {&kMesh, &kMaterial, &kMeshID, &kCavVol, &kCushionVol, &kClampFaceArea};
 
+inline constexpr SectionInfo kInfo{kSection, "the mesh and material files and the volumes of the project", kKeys, std::size(kKeys)};
+
 }  // namespace qel::project
 
 class CQELPROBlockIOProject : public CQELPROBlockIOBase {

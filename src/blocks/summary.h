@@ -37,9 +37,18 @@ inline constexpr Key<Integer> kIsTransientInletConv{"IsTransientInletConv",
                                                     "1 where the inlet conversion is transient, else 0"};
 inline constexpr Key<Integer> kTotalOverFlowCTL{"TotalOverFlowCTL", {"Summary_ReadTotalOverFlowCTL"}, {}, "the number of overflows"};
 
-inline constexpr const KeyInfo* kKeys[] = {&kTotalNdivz,   &kTotalNodeEM, &kTotalNodeEC, &kTotalGateCTL,         &kVacuumIndex,
-                                           &kSkinRatio,    &kPEOFasPPack, &kTotalNodeMB, &kTotalNodeBC,          &kTotalNodeEG,
-                                           &kTotalNodeMMM, &kSymVolRatio, &kTotalNodeHR, &kIsTransientInletConv, &kTotalOverFlowCTL};
+// Only the simulator process takes these; no member reads or writes them.
+inline constexpr Key<Integer> kTotalSTLNodeEC{"TotalSTLNodeEC", {}, {}, "the number of coolant entrances of surface meshes"};
+inline constexpr Key<Integer> kTotalSTLNodeHR{"TotalSTLNodeHR", {}, {}, "the number of heating rods of surface meshes"};
+inline constexpr Key<Integer> kTotalGrpCCL{"TotalGrpCCL", {}, {}, "the number of cooling channel line groups"};
+inline constexpr Key<Integer> kTotalGrpCCS{"TotalGrpCCS", {}, {}, "the number of cooling channel surface groups"};
+
+inline constexpr const KeyInfo* kKeys[] = {&kTotalNdivz,     &kTotalNodeEM,    &kTotalNodeEC, &kTotalGateCTL,         &kVacuumIndex,
+                                           &kSkinRatio,      &kPEOFasPPack,    &kTotalNodeMB, &kTotalNodeBC,          &kTotalNodeEG,
+                                           &kTotalNodeMMM,   &kSymVolRatio,    &kTotalNodeHR, &kIsTransientInletConv, &kTotalOverFlowCTL,
+                                           &kTotalSTLNodeEC, &kTotalSTLNodeHR, &kTotalGrpCCL, &kTotalGrpCCS};
+
+inline constexpr SectionInfo kInfo{kSection, "counts of the model, by which the other sections are numbered", kKeys, std::size(kKeys)};
 
 }  // namespace qel::summary
 

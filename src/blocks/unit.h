@@ -2,7 +2,7 @@
 
 #include "blocks/block.h"
 
-/// [Unit]: the units in which the file's values are given. They are fixed.
+/// [Unit]: the units in which the file's values are given; they are fixed.
 namespace qel::unit {
 
 inline constexpr char kSection[] = "[Unit]";
@@ -16,6 +16,8 @@ inline constexpr Key<Text> kPP{"PP", {}, {"WriteUnitBlock"}, "the unit of packin
 inline constexpr Key<Text> kVolume{"Volume", {}, {"WriteUnitBlock"}, "the unit of volumes, \"cc\""};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTime, &kTemp, &kPres, &kFR, &kIP, &kPP, &kVolume};
+
+inline constexpr SectionInfo kInfo{kSection, "the units in which the file's values are given; they are fixed", kKeys, std::size(kKeys)};
 
 }  // namespace qel::unit
 

@@ -43,7 +43,8 @@ Result deliver(const LineScanner& lines, const std::optional<Line>& line, const 
   if (lines.failed()) {
     return Result::no_open;
   }
-  if (!line) {
+  // A line on the file's first byte counts as not found; only a lookup by index that resumes at a header gets there.
+  if (!line || line->start == 0) {
     return Result::absent;
   }
   return deliver(target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text), value, buffer, size);
@@ -110,6 +111,9 @@ bool CQELPROIO::open(const Character* path, int mode) {
       return false;
     }
     remember(path);
+    // A file that is held stays in use; one that was closed gives way to the path.
+    attached_ = holds_file();
+    indexed_ = indexed_ && attached_;
     return file.close();
   }
   release_held();
@@ -117,6 +121,7 @@ bool CQELPROIO::open(const Character* path, int mode) {
     return false;
   }
   attached_ = indexed_ = true;
+  index_.turn_to_another_file();
   remember(path);
   return true;
 }
@@ -164,29 +169,57 @@ bool CQELPROIO::open_path_for_update(OsFile& file) const {
 
 int CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) { return GetValue(section, key, value, nullptr, 0, index); }
 
+// The held file, or the path's, which `own` opens.
+Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
+  if (attached_) {
+    file = &held();
+    return holds_file() ? Result::done : Result::no_file;
+  }
+  file = &own;
+  if (path_ == nullptr && wide_path_ == nullptr) {
+    return Result::no_file;
+  }
+  return open_path(own) ? Result::done : Result::no_open;
+}
+
 int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index) {
   const Target target{view(section), view(key), index};
   OsFile own;
-  if (!attached_) {
-    if (path_ == nullptr && wide_path_ == nullptr) {
-      return to_int(Result::no_file);
-    }
-    if (!open_path(own)) {
-      return to_int(Result::no_open);
-    }
-  } else if (!holds_file()) {
-    return to_int(Result::no_file);
+  RandomAccess* file = nullptr;
+  const Result chosen = choose_file(own, file);
+  if (chosen != Result::done) {
+    return to_int(chosen);
   }
-  RandomAccess& file = attached_ ? held() : own;
   std::optional<LineScanner> lines;
   std::optional<Line> line;
   if (indexed_) {
-    line = find_indexed(file, target, index_, lines);
+    line = find_indexed(*file, target, index_, lines);
   } else {
-    lines.emplace(file, 0);
+    lines.emplace(*file, 0);
     line = find_plainly(*lines, target);
   }
   return to_int(deliver(*lines, line, target, value, buffer, size));
+}
+
+int CQELPROIO::VisitLines(const char* section, int count, const std::function<void(const char*)>& visit) {
+  OsFile own;
+  RandomAccess* file = nullptr;
+  const Result chosen = choose_file(own, file);
+  if (chosen != Result::done) {
+    return to_int(chosen);
+  }
+  LineScanner lines(*file, 0);
+  Line line;
+  if (!find_plain_header(lines, view(section), line)) {
+    return to_int(lines.failed() ? Result::no_open : Result::absent);
+  }
+  for (int position = 1; position <= count; ++position) {
+    if (!lines.next(line)) {
+      return to_int(lines.failed() ? Result::no_open : Result::absent);
+    }
+    visit(std::string(qel::text::index_value(line.text)).c_str());
+  }
+  return to_int(Result::done);
 }
 
 int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {

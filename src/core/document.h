@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,6 +45,10 @@ class CQELPROIO {
   /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the buffer alone.
   int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index);
 
+  /// Hands the first `count` lines behind a section's header to `visit`, trimmed, in one plain scan whatever the document's
+  /// mode is. -2 when there are fewer.
+  int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
+
   /// Stores the value of a key (index below 0) or the index-th line of a section.
   int SetValue(const char* section, const char* key, const char* value, int index);
   int InsertValue(const char* path, const char* section, const char* key, const char* value);
@@ -70,6 +75,7 @@ class CQELPROIO {
   bool release_held();
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
+  qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
   bool open_path(qel::platform::OsFile& file) const;
   bool open_path_for_update(qel::platform::OsFile& file) const;
 

@@ -21,7 +21,9 @@ LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::s
     : file_(&file), capacity_(expected), window_offset_(from) {
   buffer_.reset(new char[capacity_]);
   window_ = buffer_.get();
-  if (from == 0 && fill() && std::string_view(window_, length_).substr(0, kByteOrderMark.size()) == kByteOrderMark) {
+  while (from == 0 && length_ < kByteOrderMark.size() && read_more()) {
+  }
+  if (from == 0 && std::string_view(window_, length_).substr(0, kByteOrderMark.size()) == kByteOrderMark) {
     at_ = kByteOrderMark.size();
   }
 }
@@ -33,32 +35,30 @@ LineScanner::LineScanner(std::string_view contents, std::int64_t from)
   }
 }
 
-// Sees to it that the window holds a whole line from the current position on, or all that is left of the file.
-bool LineScanner::fill() {
-  while (!at_end_ && available() < kLongestInBytes) {
-    if (length_ != 0 && capacity_ < kBlock) {
-      std::unique_ptr<char[]> larger(new char[kBlock]);
-      std::memcpy(larger.get(), window_ + at_, available());
-      buffer_ = std::move(larger);
-      capacity_ = kBlock;
-    } else {
-      std::memmove(buffer_.get(), window_ + at_, available());
-    }
-    window_offset_ += static_cast<std::int64_t>(at_);
-    length_ -= at_;
-    at_ = 0;
-    window_ = buffer_.get();
-    const std::size_t room = capacity_ - length_;
-    const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), buffer_.get() + length_, room);
-    if (got < 0) {
-      failed_ = true;
-      at_end_ = true;
-      break;
-    }
-    length_ += static_cast<std::size_t>(got);
-    at_end_ = static_cast<std::size_t>(got) < room;
+// Reads one more block behind what the window still holds; false when nothing is left.
+bool LineScanner::read_more() {
+  if (at_end_) {
+    return false;
   }
-  return available() != 0 && !failed_;
+  const std::size_t kept = available();
+  if (length_ != 0 && capacity_ < kBlock) {
+    std::unique_ptr<char[]> larger(new char[kBlock]);
+    std::memcpy(larger.get(), window_ + at_, kept);
+    buffer_ = std::move(larger);
+    capacity_ = kBlock;
+  } else {
+    std::memmove(buffer_.get(), window_ + at_, kept);
+  }
+  window_ = buffer_.get();
+  window_offset_ += static_cast<std::int64_t>(at_);
+  at_ = 0;
+  length_ = kept;
+  const std::size_t room = capacity_ - length_;
+  const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), buffer_.get() + length_, room);
+  failed_ = got < 0;
+  at_end_ = failed_ || static_cast<std::size_t>(got) < room;
+  length_ += failed_ ? 0 : static_cast<std::size_t>(got);
+  return got > 0;
 }
 
 // Whether everything from here to the end of the file is blanks.
@@ -92,12 +92,13 @@ bool LineScanner::is_padding(std::size_t begin) {
 }
 
 bool LineScanner::next(Line& line) {
-  const char* line_break = find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
-  if (line_break == nullptr && available() < kLongestInBytes) {
-    if (!fill()) {
-      return false;
-    }
-    line_break = find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
+  const auto find_break = [this] { return find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n'); };
+  const char* line_break = find_break();
+  while (line_break == nullptr && available() < kLongestInBytes && read_more()) {
+    line_break = find_break();
+  }
+  if (available() == 0 || failed_) {
+    return false;
   }
   const char* begin = window_ + at_;
   std::size_t length = line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : text::kLongestLine;
@@ -124,7 +125,7 @@ bool LineScanner::next(Line& line) {
 }
 
 bool LineScanner::next_starting_with(char first, Line& line) {
-  while (available() != 0 || fill()) {
+  while (available() != 0 || read_more()) {
     const char* begin = window_ + at_;
     const char* hit = find_byte(begin, available(), first);
     const std::string_view before(begin, hit != nullptr ? static_cast<std::size_t>(hit - begin) : available());
@@ -149,9 +150,7 @@ bool LineScanner::next_starting_with(char first, Line& line) {
 }
 
 std::size_t length_without_padding(std::string_view contents) {
-  const std::size_t last_break = contents.rfind('\n');
-  const bool padded = last_break != std::string_view::npos && text::only_blanks(contents.substr(last_break + 1));
-  return padded ? last_break + 1 : contents.size();
+  return contents.find('\n') == std::string_view::npos ? contents.size() : contents.find_last_not_of(' ') + 1;
 }
 
 }  // namespace qel

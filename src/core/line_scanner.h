@@ -34,11 +34,11 @@ class LineScanner {
 
   [[nodiscard]] bool failed() const { return failed_; }
 
-  static constexpr std::size_t kFirstBlock = 8 * 1024;
-  static constexpr std::size_t kBlock = 64 * 1024;
+  static constexpr std::size_t kFirstBlock = std::size_t{8} * 1024;
+  static constexpr std::size_t kBlock = std::size_t{64} * 1024;
 
  private:
-  bool fill();
+  bool read_more();
   bool is_padding(std::size_t begin);
   [[nodiscard]] std::size_t available() const { return length_ - at_; }
 
@@ -55,7 +55,8 @@ class LineScanner {
   std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
 };
 
-/// The length of the contents without the padding that an earlier store left behind the last line break.
+/// The length of the contents without the padding that an earlier store left at their end: behind the last line break,
+/// or behind the text of a last line that has none, where blanks belong to no value either.
 std::size_t length_without_padding(std::string_view contents);
 
 }  // namespace qel

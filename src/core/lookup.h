@@ -25,17 +25,26 @@ struct Target {
 /// against the file: a session assumes that its file stays as it is.
 class SectionIndex {
  public:
-  void learn_section(std::string_view name, std::int64_t offset);
+  struct Section {
+    std::int64_t header;
+    std::int64_t passed = 0;  ///< Up to here its lines are learnt; 0 while that is not known of the file at hand.
+  };
+
+  Section& learn_section(std::string_view name, std::int64_t offset);
   void learn_line(std::string_view section, std::string_view key, std::int64_t offset);
 
-  [[nodiscard]] std::optional<std::int64_t> section(std::string_view name) const;
+  /// Null for a section that has not been passed.
+  [[nodiscard]] Section* section(std::string_view name);
   [[nodiscard]] std::optional<std::int64_t> line(std::string_view section, std::string_view key) const;
 
   /// The greatest offset of a line learnt so far: the headers before it are all known. 0 while no line is known.
   [[nodiscard]] std::int64_t furthest_line() const { return furthest_; }
 
+  /// Another file is read from now on. The offsets stay; how far each section has been passed does not.
+  void turn_to_another_file();
+
  private:
-  std::unordered_map<std::string, std::int64_t> sections_;
+  std::unordered_map<std::string, Section> sections_;
   std::unordered_map<std::string, std::int64_t> lines_;
   std::int64_t furthest_ = 0;
 };
@@ -53,9 +62,6 @@ bool is_target(const Target& target, const Line& line, int position);
 /// The indexed scan, as one-shot raw reads use it: the section ends at the next header line. The section index is not
 /// consulted, and left as it is.
 std::optional<Line> find_in_section(LineScanner& lines, const Target& target);
-
-/// The same from the line behind the header on.
-std::optional<Line> find_behind_header(LineScanner& lines, const Target& target);
 
 /// The indexed lookup of a reading session. The line's text is only valid while `lines` lives.
 std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines);

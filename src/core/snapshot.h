@@ -17,18 +17,32 @@ class Snapshot {
 
   [[nodiscard]] bool has_section(std::string_view section) const { return sections_.find(std::string(section)) != sections_.end(); }
 
-  [[nodiscard]] std::optional<std::string_view> value(std::string_view section, std::string_view key) const;
+  /// The entries of the section that was asked for last are kept in order, so that all keys of one section cost about one
+  /// pass over it.
+  [[nodiscard]] std::optional<std::string_view> value(std::string_view section, std::string_view key);
 
   struct Numbered {
     int number;
     std::string_view value;
   };
+  /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the place of "%d", ascending.
+  [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
+
   /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order.
   [[nodiscard]] std::vector<Numbered> numbered(std::string_view section, std::string_view prefix, int most) const;
 
  private:
+  struct Entry {
+    std::string_view key;  // where it stands in the contents
+    std::string_view value;
+  };
+
+  void sort_entries_behind(std::int64_t header_end);
+
   std::string contents_;
   std::unordered_map<std::string, std::int64_t> sections_;  // where the line behind the header begins
+  std::vector<Entry> sorted_;                               // by key, then by place in the file
+  std::int64_t sorted_section_ = -1;                        // whose entries they are; -1 none
 };
 
 }  // namespace qel

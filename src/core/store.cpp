@@ -38,11 +38,11 @@ bool is_refused(const Entry& entry) {
   if (!text::is_findable(target.section) || !fits(target.section) || has_line_break(without_trailing_break(entry.value))) {
     return true;
   }
-  if (target.by_key() && !text::is_findable(target.key)) {
+  if (target.index == 0 || (target.by_key() && !text::is_findable(target.key))) {
     return true;
   }
   // A line that reads as a header would end the section it stands in.
-  const std::string line = line_of(entry);
+  const std::string line = target.by_key() ? inserted_line_of(entry) : line_of(entry);
   return !fits(line) || text::is_header(line);
 }
 
@@ -118,7 +118,7 @@ Result Store::insert_at(std::size_t at, std::string_view line) {
 
 Result Store::append_section(std::string_view header, std::string_view line) {
   // Only a header that reads "[...]" is found again by every lookup.
-  if (!text::is_header(header)) {
+  if (!text::is_header(header) || !fits(line)) {
     return Result::no_open;
   }
   std::string text(line_break_);
@@ -132,23 +132,27 @@ Result Store::set(const Entry& entry, bool may_insert) {
     return Result::no_open;
   }
   const Target& target = entry.target;
+  const std::string entry_line = line_of(entry);
   LineScanner lines(contents_);
   Line line;
   if (!find_plain_header(lines, target.section, line)) {
-    return append_section(target.by_key() ? target.section : text::kPositionalHeader, line_of(entry));
+    return append_section(target.by_key() ? target.section : text::kPositionalHeader, entry_line);
   }
   for (int position = 1; lines.next(line); ++position) {
     if (!target.by_key() && text::is_header(line.text)) {
-      return insert_at(static_cast<std::size_t>(line.start), line_of(entry));
+      return insert_at(static_cast<std::size_t>(line.start), entry_line);
     }
     if (is_target(target, line, position)) {
+      if (!fits(entry_line)) {
+        return Result::no_open;
+      }
       std::string text;
-      append_line(text, line_of(entry));
+      append_line(text, entry_line);
       return splice(static_cast<std::size_t>(line.start), static_cast<std::size_t>(line.end), text);
     }
   }
   if (!target.by_key()) {
-    return insert_at(contents_.size(), line_of(entry));
+    return insert_at(contents_.size(), entry_line);
   }
   return may_insert ? insert_into_section(entry) : Result::absent;
 }

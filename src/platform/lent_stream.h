@@ -8,9 +8,10 @@
 namespace qel::platform {
 
 /// A stream that the caller opened and keeps. Its position afterwards is unspecified; what was written is flushed.
+/// A stream over a device or a pipe can neither be read nor measured.
 class LentStream final : public RandomAccess {
  public:
-  explicit LentStream(std::FILE* stream) : stream_(stream) {}
+  explicit LentStream(std::FILE* stream);
 
   std::int64_t size() override;
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
@@ -21,6 +22,7 @@ class LentStream final : public RandomAccess {
 
  private:
   std::FILE* stream_;
+  bool has_contents_;
 };
 
 }  // namespace qel::platform

@@ -8,7 +8,23 @@
 
 namespace qel::platform {
 
+namespace {
+
+// A device may go on without end, and a pipe has no offsets. A stream over memory has no descriptor.
+bool has_contents(std::FILE* stream) {
+  const int fd = ::fileno(stream);
+  struct stat status {};
+  return fd < 0 || (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode));
+}
+
+}  // namespace
+
+LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(has_contents(stream)) {}
+
 std::int64_t LentStream::size() {
+  if (!has_contents_) {
+    return -1;
+  }
   std::clearerr(stream_);
   if (::fseeko(stream_, 0, SEEK_END) != 0) {
     return -1;
@@ -18,7 +34,7 @@ std::int64_t LentStream::size() {
 
 std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
   std::clearerr(stream_);
-  if (::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) != 0) {
+  if (!has_contents_ || ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) != 0) {
     return -1;
   }
   const std::size_t got = std::fread(to, 1, count, stream_);

@@ -35,7 +35,7 @@ CQELPROReader_Manipulator* share(CQELPROReader_Manipulator* reader) {
   return reader;
 }
 
-const Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader)->file; }
+Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader)->file; }
 
 template <class Target>
 struct Convert {
@@ -48,7 +48,7 @@ struct Convert {
 };
 
 template <class Target, std::size_t count>
-void load_items(const Snapshot& file, const char* section, const Item<Target> (&items)[count], Target& target) {
+void load_items(Snapshot& file, const char* section, const Item<Target> (&items)[count], Target& target) {
   if (!file.has_section(section)) {
     return;
   }
@@ -62,7 +62,7 @@ void load_items(const Snapshot& file, const char* section, const Item<Target> (&
 // Hands the texts of a counted list to `append`, in order. Numbers that the section lacks are passed over; the count costs
 // no more than what the section holds.
 template <class Append>
-void load_list(const Snapshot& file, const char* section, const char* count_key, const char* prefix, Append append) {
+void load_list(Snapshot& file, const char* section, const char* count_key, const char* prefix, Append append) {
   const auto count = file.value(section, count_key);
   if (!count) {
     return;
@@ -72,7 +72,7 @@ void load_list(const Snapshot& file, const char* section, const char* count_key,
   }
 }
 
-void load_profile(const Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Profile& profile) {
+void load_profile(Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Profile& profile) {
   load_list(file, section, count_key, prefix, [&profile](const std::string& text) {
     QELG_2dPoint point;
     const char* at = text.c_str();
@@ -83,7 +83,7 @@ void load_profile(const Snapshot& file, const char* section, const char* count_k
   });
 }
 
-void load_array(const Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Array<double>& array) {
+void load_array(Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Array<double>& array) {
   load_list(file, section, count_key, prefix, [&array](const std::string& text) { array.AppendDataPoint(to_real(text.c_str())); });
 }
 
@@ -118,14 +118,16 @@ unsigned int project_type(const QELG_SimulatorProcess& process) {
 
 }  // namespace
 
-CQELProcessData_Manipulator::CQELProcessData_Manipulator() : reader_(nullptr) {}
+CQELProcessData_Manipulator::CQELProcessData_Manipulator() = default;
 
 CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) : reader_(share(other.reader_)) {}
 
 CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(const CQELProcessData_Manipulator& other) {
-  CQELPROReader_Manipulator* shared = share(other.reader_);
-  Dispose();
-  reader_ = shared;
+  if (this != &other) {
+    CQELPROReader_Manipulator* shared = share(other.reader_);
+    Dispose();
+    reader_ = shared;
+  }
   return *this;
 }
 
@@ -192,9 +194,12 @@ void CQELProcessData_Manipulator::LoadInlets(QELG_SimulatorProcess& process) {
       load(2, "[Flow-EM2]", "[Pack-EM2]");
       break;
     default:
+      // Section by section, as the file hands them out; the stages of an inlet do not touch its control type.
+      for (unsigned int number = 1; number - 1 < process.GetNumOfInlets(); ++number) {
+        LoadFlowCTLInfo(*process.GetFlowPackOfInlet_mod(number - 1), static_cast<int>(number));
+      }
       for (unsigned int number = 1; number - 1 < process.GetNumOfInlets(); ++number) {
         const std::string bracket = std::to_string(number) + "]";
-        LoadFlowCTLInfo(*process.GetFlowPackOfInlet_mod(number - 1), static_cast<int>(number));
         std::string cure = "[Cure-" + bracket;
         LoadCure(*load(number, "[Flow-" + bracket, "[Pack-" + bracket), cure.data());
       }
@@ -246,7 +251,7 @@ void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess&
 }
 
 void CQELProcessData_Manipulator::LoadFlow(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  const Snapshot& file = file_of(reader_);
+  Snapshot& file = file_of(reader_);
   load_items(file, section, qel::loading::kFlow, inlet);
   load_profile(file, section, "FRSet", "FR-", *inlet.GetFlowRateProfile_mod());
   load_profile(file, section, "IPSet", "IP-", *inlet.GetInjectionPressureProfile_mod());
@@ -258,14 +263,14 @@ void CQELProcessData_Manipulator::LoadFlow(QELG_SimulatorFlowPackProcess& inlet,
 }
 
 void CQELProcessData_Manipulator::LoadPack(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  const Snapshot& file = file_of(reader_);
+  Snapshot& file = file_of(reader_);
   load_items(file, section, qel::loading::kPack, inlet);
   load_profile(file, section, "PPSet", "PP-", *inlet.GetPackingPressureProfile_mod());
   load_profile(file, section, "FluidSet", "Fluid-", *inlet.GetFluidPressureProfile_mod());
 }
 
 void CQELProcessData_Manipulator::LoadCure(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  const Snapshot& file = file_of(reader_);
+  Snapshot& file = file_of(reader_);
   load_items(file, section, qel::loading::kCure, inlet);
   load_profile(file, section, "CPSet", "CP-", *inlet.GetPackingPressureProfile_mod());
 }

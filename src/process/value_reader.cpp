@@ -2,8 +2,8 @@
 #include "QELPROEngine/CQELProcessValueReader.h"
 
 CQELProcessValueReader::CQELProcessValueReader() = default;
-CQELProcessValueReader::CQELProcessValueReader(const CQELProcessValueReader& other) = default;
-CQELProcessValueReader& CQELProcessValueReader::operator=(const CQELProcessValueReader& other) = default;
+CQELProcessValueReader::CQELProcessValueReader(const CQELProcessValueReader& /*other*/) = default;
+CQELProcessValueReader& CQELProcessValueReader::operator=(const CQELProcessValueReader& /*other*/) = default;
 
 bool CQELProcessValueReader::GetVPSwitch(CQELPROReader_Manipulator* reader, int c1, int c2, int c3, int c4, int c5, int c6, int c7, int& first,
                                          int& second, double& value) {

@@ -1,0 +1,203 @@
+// What the engine's work costs, beside the cost of reading the same bytes once: open, one read, a walk over the lines with
+// memchr, close. "limits" is the ratio of the two, both taken in this run.
+
+#include <QELG/QELG.h>
+#include <QELPROEngine/QELPROEngine.h>
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "generated_file.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+class GeneratedFile {
+ public:
+  explicit GeneratedFile(int inlets) : path_((std::filesystem::temp_directory_path() / ("qelpro-bench-" + std::to_string(::getpid()))).string()) {
+    std::ofstream(path_, std::ios::binary) << generated_file(inlets);
+  }
+  GeneratedFile(const GeneratedFile&) = delete;
+  GeneratedFile& operator=(const GeneratedFile&) = delete;
+  ~GeneratedFile() { std::filesystem::remove(path_); }
+  [[nodiscard]] const char* path() const { return path_.c_str(); }
+  [[nodiscard]] std::size_t size() const { return std::filesystem::file_size(path_); }
+
+ private:
+  std::string path_;
+};
+
+std::size_t walk_once(const char* path, std::vector<char>& buffer) {
+  const int file = ::open(path, O_RDONLY | O_CLOEXEC);
+  const ssize_t length = ::read(file, buffer.data(), buffer.size());
+  std::size_t lines = 0;
+  const char* at = buffer.data();
+  const char* const end = at + length;
+  while (at != end) {
+    const void* line_break = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
+    if (line_break == nullptr) {
+      break;
+    }
+    at = static_cast<const char*>(line_break) + 1;
+    ++lines;
+  }
+  ::close(file);
+  return lines;
+}
+
+double limit_in_seconds(const GeneratedFile& file) {
+  std::vector<char> buffer(file.size());
+  std::vector<double> times;
+  for (int round = 0; round < 101; ++round) {
+    const auto start = Clock::now();
+    benchmark::DoNotOptimize(walk_once(file.path(), buffer));
+    times.push_back(std::chrono::duration<double>(Clock::now() - start).count());
+  }
+  std::nth_element(times.begin(), times.begin() + 50, times.end());
+  return times[50];
+}
+
+// Runs the work and reports its time as a multiple of the limit.
+template <class Work>
+void measure(benchmark::State& state, Work work) {
+  const GeneratedFile file(static_cast<int>(state.range(0)));
+  const double limit = limit_in_seconds(file);
+  std::chrono::duration<double> total{};
+  for (auto _ : state) {
+    const auto start = Clock::now();
+    work(file);
+    total += Clock::now() - start;
+  }
+  state.counters["limits"] = total.count() / static_cast<double>(state.iterations()) / limit;
+  state.counters["KB"] = static_cast<double>(file.size()) / 1000;
+}
+
+void limit(benchmark::State& state) {
+  std::vector<char> buffer(generated_file(static_cast<int>(state.range(0))).size());
+  measure(state, [&buffer](const GeneratedFile& file) { benchmark::DoNotOptimize(walk_once(file.path(), buffer)); });
+}
+
+void one_shot_raw_read(benchmark::State& state) {
+  measure(state, [](const GeneratedFile& file) {
+    CQELPROReader_Manipulator reader;
+    char* value = nullptr;
+    reader.SetFilePath(file.path());
+    if (!reader.ReadString("[Machine]", "Diameter", value, nullptr, 0)) {
+      std::abort();
+    }
+  });
+}
+
+void raw_read_of_an_open_reader(benchmark::State& state) {
+  CQELPROReader_Manipulator reader;
+  const char* opened = nullptr;
+  measure(state, [&](const GeneratedFile& file) {
+    if (opened == nullptr) {
+      opened = file.path();
+      reader.SetFilePath(opened);
+    }
+    char* value = nullptr;
+    if (!reader.ReadString("[Machine]", "Diameter", value, nullptr, 0)) {
+      std::abort();
+    }
+  });
+}
+
+using Point = bool (CQELPROReader_Manipulator::*)(double&, double&, int, int);
+
+void read_points(CQELPROReader_Manipulator& reader, Point point, int inlet) {
+  double x = 0;
+  double y = 0;
+  for (int number = 1; number <= kProfilePoints; ++number) {
+    if (!(reader.*point)(x, y, number, inlet)) {
+      std::abort();
+    }
+  }
+}
+
+void typed_read_in_order(benchmark::State& state) {
+  using Reader = CQELPROReader_Manipulator;
+  const int inlets = static_cast<int>(state.range(0));
+  measure(state, [inlets](const GeneratedFile& file) {
+    Reader reader;
+    reader.SetFilePath(file.path());
+    int count = 0;
+    double value = 0;
+    for (int inlet = 1; inlet <= inlets; ++inlet) {
+      for (const auto member : {&Reader::FlowX_ReadFillingTime, &Reader::FlowX_ReadMaxFillingTime, &Reader::FlowX_ReadMeltTemperature,
+                                &Reader::FlowX_ReadMoldTemperature, &Reader::FlowX_ReadInjectPressure, &Reader::FlowX_ReadPreFill}) {
+        (reader.*member)(value, inlet);
+      }
+      reader.FlowX_ReadFRSection(count, inlet);
+      read_points(reader, &Reader::FlowX_ReadFRProfile, inlet);
+      reader.FlowX_ReadIPSection(count, inlet);
+      read_points(reader, &Reader::FlowX_ReadIPProfile, inlet);
+      reader.FlowX_ReadUserFRSection(count, inlet);
+      read_points(reader, &Reader::FlowX_ReadUserFRProfile, inlet);
+      reader.FlowX_ReadUserIPSection(count, inlet);
+      read_points(reader, &Reader::FlowX_ReadUserIPProfile, inlet);
+      reader.PackX_ReadPackTime(value, inlet);
+      reader.PackX_ReadPackPressure(value, inlet);
+      reader.PackX_ReadPackSwitch(value, inlet);
+      reader.PackX_ReadPPSection(count, inlet);
+      read_points(reader, &Reader::PackX_ReadPPProfile, inlet);
+      reader.PackX_ReadUserPPSection(count, inlet);
+      read_points(reader, &Reader::PackX_ReadUserPPProfile, inlet);
+      reader.CureX_ReadCureTime(value, inlet);
+      reader.CureX_ReadCPSection(count, inlet);
+      read_points(reader, &Reader::CureX_ReadCPProfile, inlet);
+    }
+  });
+}
+
+void store(benchmark::State& state, double first, double second) {
+  const int middle = static_cast<int>(state.range(0) + 1) / 2;
+  CQELPROWriter_Manipulator writer;
+  bool odd = false;
+  const char* opened = nullptr;
+  measure(state, [&](const GeneratedFile& file) {
+    if (opened == nullptr) {
+      opened = file.path();
+      writer.SetFilePath(opened);
+    }
+    odd = !odd;
+    if (!writer.PackX_WritePackTime(odd ? first : second, middle)) {
+      std::abort();
+    }
+  });
+}
+
+void store_of_the_same_length(benchmark::State& state) { store(state, 1.25, 5.25); }
+void store_three_bytes_longer_and_shorter(benchmark::State& state) { store(state, 1.25, 1.25125); }
+
+void loader(benchmark::State& state) {
+  measure(state, [](const GeneratedFile& file) {
+    CQELProcessData_Manipulator loader;
+    const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(file.path()));
+    benchmark::DoNotOptimize(process->GetNumOfInlets());
+  });
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(1)->Arg(8)->Arg(64)->Arg(512)->ArgName("inlets"); }
+
+BENCHMARK(limit)->Apply(sizes);
+BENCHMARK(one_shot_raw_read)->Apply(sizes);
+BENCHMARK(raw_read_of_an_open_reader)->Apply(sizes);
+BENCHMARK(typed_read_in_order)->Apply(sizes);
+BENCHMARK(store_of_the_same_length)->Apply(sizes);
+BENCHMARK(store_three_bytes_longer_and_shorter)->Apply(sizes);
+BENCHMARK(loader)->Apply(sizes);
+
+}  // namespace
+
+BENCHMARK_MAIN();

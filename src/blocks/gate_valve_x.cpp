@@ -1,0 +1,74 @@
+#include "blocks/gate_valve_x.h"
+
+#include <optional>
+
+#include "blocks/summary.h"
+#include "core/snapshot.h"
+
+using qel::Integer;
+using qel::Key;
+using qel::Result;
+using qel::Snapshot;
+
+namespace {
+
+// The file as it stands now; nothing is found in one that cannot be read.
+Snapshot snapshot_of(const char* path) {
+  Snapshot file;
+  if (path != nullptr) {
+    file.load(path);
+  }
+  return file;
+}
+
+std::string section_of(int valve) { return qel::numbered(qel::gate_valve_x::kSection, valve); }
+
+int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
+  if (const auto text = file.value(section, key.text)) {
+    Integer::scan(std::string(*text).c_str(), otherwise);
+  }
+  return otherwise;
+}
+
+int identifier(Snapshot& file, int valve) { return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0); }
+
+std::optional<int> find_valve(Snapshot& file, int id) {
+  const int total = integer(file, qel::summary::kSection, qel::summary::kTotalGateCTL, 0);
+  if (id == 0) {
+    // A valve without an identifier counts, so that the search ends behind the valves that the file holds.
+    for (int valve = 1; valve <= total; ++valve) {
+      if (identifier(file, valve) == 0) {
+        return valve;
+      }
+    }
+    return std::nullopt;
+  }
+  for (const int valve : file.numbered_sections(qel::gate_valve_x::kSection, total)) {
+    if (identifier(file, valve) == id) {
+      return valve;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve, const char* path) {
+  Snapshot file = snapshot_of(path);
+  const int count = integer(file, section_of(valve), qel::gate_valve_x::kGCSet, 1);
+  if (document() == nullptr) {
+    return to_int(Result::no_file);
+  }
+  const std::string key = qel::numbered(qel::gate_valve_x::kGCPoint.text, point);
+  const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
+  if (result != to_int(Result::done) || count >= point) {
+    return result;
+  }
+  return Write(qel::gate_valve_x::kGCSet, qel::in_section(valve), point);
+}
+
+int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path) {
+  Snapshot file = snapshot_of(path);
+  const std::optional<int> valve = find_valve(file, id);
+  return valve ? WriteGateSetting(text, point, *valve, path) : to_int(Result::absent);
+}

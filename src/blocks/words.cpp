@@ -1,0 +1,31 @@
+#include "blocks/words.h"
+
+#include <algorithm>
+
+namespace qel {
+
+std::vector<std::string> split(std::string_view text, std::string_view separators) {
+  std::vector<std::string> pieces;
+  for (;;) {
+    text.remove_prefix(std::min(text.find_first_not_of(separators), text.size()));
+    if (text.empty()) {
+      return pieces;
+    }
+    const std::string_view piece = text.substr(0, text.find_first_of(separators));
+    pieces.emplace_back(piece);
+    text.remove_prefix(piece.size());
+  }
+}
+
+std::string join(const std::vector<std::string>& words, std::string_view separator) {
+  std::string text;
+  for (const std::string& word : words) {
+    if (!text.empty()) {
+      text += separator;
+    }
+    text += word;
+  }
+  return text;
+}
+
+}  // namespace qel

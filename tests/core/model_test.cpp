@@ -1,0 +1,614 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <map>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "core/document.h"
+#include "support/scratch.h"
+
+// The rules of process files once more, written as plainly as they can be said: the whole file in memory, a list of
+// its lines, nothing clever. The engine has to agree with it byte for byte.
+namespace {
+namespace naive {
+
+inline constexpr int kDone = 1;
+inline constexpr int kRefused = 0;
+inline constexpr int kAbsent = -2;
+
+struct Answer {
+  int result = kAbsent;
+  std::string text;
+  bool operator==(const Answer& other) const = default;
+};
+
+[[maybe_unused]] void PrintTo(const Answer& answer, std::ostream* out) { *out << answer.result << " \"" << answer.text << '"'; }
+
+struct Line {
+  std::size_t start = 0;
+  std::size_t end = 0;
+  std::string text;
+};
+
+// The lines from an offset on.
+std::vector<Line> lines(const std::string& bytes, std::size_t from = 0);
+
+// The lookups of one reading document, over one file after another.
+class Reading {
+ public:
+  Answer look(const std::string& bytes, const std::string& section, const std::string& key, int index);
+
+ private:
+  std::map<std::string, std::size_t> sections_;
+  std::map<std::string, std::size_t> keys_;
+};
+
+bool is_one_of(char c, const std::string& set) { return set.find(c) != std::string::npos; }
+
+std::string strip_front(const std::string& text, const std::string& set) {
+  const std::size_t at = text.find_first_not_of(set);
+  return at == std::string::npos ? "" : text.substr(at);
+}
+
+std::string strip_back(const std::string& text, const std::string& set) { return text.substr(0, text.find_last_not_of(set) + 1); }
+
+std::string token_of(const std::string& line) { return line.substr(0, line.find_first_of(" \t=\n")); }
+
+// A line's value: as it is, or with everything up to the first "=" made blank.
+std::string value_of(std::string line, bool by_key) {
+  if (by_key) {
+    bool seen = false;
+    for (char& c : line) {
+      const bool equals = c == '=';
+      if (!seen) {
+        c = ' ';
+      }
+      seen = seen || equals;
+    }
+    if (!seen) {
+      return "";
+    }
+  }
+  return strip_back(strip_front(line, " "), " \t\n");
+}
+
+bool closes_a_section(const std::string& line) {
+  const std::string text = strip_back(line, " \t\n");
+  return text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1;
+}
+
+// What the file holds besides the blanks at its end.
+std::string contents_of(const std::string& bytes) { return bytes.find('\n') == std::string::npos ? bytes : strip_back(bytes, " "); }
+
+std::string line_break_of(const std::string& contents) {
+  const std::size_t at = contents.find('\n');
+  return at != std::string::npos && at > 0 && contents[at - 1] == '\r' ? "\r\n" : "\n";
+}
+
+bool is_name(const std::string& text) {
+  return !text.empty() && std::none_of(text.begin(), text.end(), [](char c) { return is_one_of(c, " \t=\r\n"); });
+}
+
+bool too_long(const std::string& line) { return line.size() + 1 > 4095; }
+
+std::string padded(const std::string& key, const std::string& value) {
+  std::string line = key;
+  while (line.size() < 20) {
+    line += ' ';
+  }
+  return line + " = " + value;
+}
+
+// Refusals that need no look at the file.
+bool bad(const std::string& section, const std::string& key, const std::string& value, int index) {
+  const bool by_key = index < 0;
+  const std::string line = by_key ? key + " = " + value : value;
+  return !is_name(section) || too_long(section) || (by_key && !is_name(key)) || index == 0 || value.find_first_of("\r\n") != std::string::npos ||
+         closes_a_section(line) || too_long(line);
+}
+
+// The file after a store: never shorter than it was.
+void put_back(std::string& bytes, std::string contents) {
+  while (contents.size() < bytes.size()) {
+    contents += ' ';
+  }
+  bytes = contents;
+}
+
+// Puts lines into the contents at an offset; behind a last line without a line break, one is written first.
+std::string with_lines(const std::string& contents, std::size_t at, const std::vector<std::string>& added) {
+  std::string text;
+  if (at == contents.size() && !contents.empty() && contents.back() != '\n') {
+    text += line_break_of(contents);
+  }
+  for (const std::string& line : added) {
+    text += line + line_break_of(contents);
+  }
+  return contents.substr(0, at) + text + contents.substr(at);
+}
+
+std::string with_section(const std::string& contents, const std::string& header, const std::string& line) {
+  const std::string line_break = line_break_of(contents);
+  return contents + line_break + header + line_break + line + line_break;
+}
+
+// The number of the line that a plain scan takes for the section's header; the number of lines where there is none.
+std::size_t header_of(const std::vector<Line>& list, const std::string& section) {
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    if (!section.empty() && token_of(list[i].text) == section) {
+      return i;
+    }
+  }
+  return list.size();
+}
+
+// Whether a line holds a value under the key when it is cut at "=" and carriage returns and its first piece is trimmed.
+bool names_key(const std::string& line, const std::string& key) {
+  std::vector<std::string> pieces;
+  bool open = false;
+  for (const char c : line) {
+    if (is_one_of(c, "=\r\n")) {
+      open = false;
+    } else if (open) {
+      pieces.back() += c;
+    } else {
+      pieces.emplace_back(1, c);
+      open = true;
+    }
+  }
+  return pieces.size() >= 2 && strip_back(strip_front(pieces[0], " "), " ") == key;
+}
+
+int insert_line(std::string& bytes, const std::string& section, const std::string& key, const std::string& line) {
+  const std::string contents = contents_of(bytes);
+  const std::vector<Line> list = lines(contents);
+  const std::size_t header = header_of(list, section);
+  if (header == list.size()) {
+    if (!closes_a_section(section)) {
+      return kRefused;
+    }
+    put_back(bytes, with_section(contents, section, line));
+    return kDone;
+  }
+  std::size_t at = contents.size();
+  for (std::size_t i = header + 1; i < list.size(); ++i) {
+    if (closes_a_section(list[i].text) || names_key(list[i].text, key)) {
+      at = list[i].start;
+      break;
+    }
+  }
+  put_back(bytes, with_lines(contents, at, {line}));
+  return kDone;
+}
+
+std::vector<Line> lines(const std::string& bytes, std::size_t from) {
+  std::vector<Line> list;
+  std::size_t at = from;
+  if (from == 0 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) {
+    at = 3;
+  }
+  bool in_long_line = false;
+  while (at < bytes.size()) {
+    if (!in_long_line && bytes.find_first_not_of(' ', at) == std::string::npos) {
+      break;
+    }
+    Line line;
+    line.start = at;
+    const std::size_t line_break = bytes.find('\n', at);
+    const bool returns = line_break != std::string::npos && line_break > at && bytes[line_break - 1] == '\r';
+    std::size_t text_end = line_break == std::string::npos ? bytes.size() : line_break - (returns ? 1 : 0);
+    const bool ended = line_break != std::string::npos && text_end - at < 4095;
+    if (!ended) {
+      text_end = std::min(bytes.size(), at + 4095);
+    }
+    line.text = bytes.substr(at, text_end - at);
+    at = ended ? line_break + 1 : text_end;
+    in_long_line = !ended;
+    line.end = at;
+    line.text = line.text.substr(0, line.text.find('\0'));
+    list.push_back(line);
+  }
+  return list;
+}
+
+// Every lookup of a lent stream and of a writing document.
+Answer plain(const std::string& bytes, const std::string& section, const std::string& key, int index) {
+  const std::vector<Line> list = lines(bytes);
+  int position = 0;
+  for (std::size_t i = header_of(list, section) + 1; i < list.size(); ++i) {
+    ++position;
+    if (index < 0 ? (!key.empty() && token_of(list[i].text) == key) : index == position) {
+      return {kDone, value_of(list[i].text, index < 0)};
+    }
+  }
+  return {};
+}
+
+// A one-shot lookup by path.
+Answer once(const std::string& bytes, const std::string& section, const std::string& key) {
+  bool inside = false;
+  for (const Line& line : lines(bytes)) {
+    if (closes_a_section(line.text)) {
+      if (inside) {
+        return {};
+      }
+      inside = token_of(line.text) == section;
+    } else if (inside && !key.empty() && token_of(line.text) == key) {
+      return {kDone, value_of(line.text, true)};
+    }
+  }
+  return {};
+}
+
+// The lookup over the whole text.
+Answer whole_text(const std::string& bytes, const std::string& section, const std::string& key) {
+  const std::string stripped = " \t\f\v\n\r";
+  if (section.empty() || key.empty()) {
+    return {0, ""};
+  }
+  bool inside = false;
+  std::size_t next = 0;
+  for (std::size_t at = 0; at < bytes.size(); at = next) {
+    next = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
+    std::string line = bytes.substr(at, next - at);
+    line = line.substr(0, std::min(line.find('\n'), line.find('\0')));
+    const std::size_t equals = line.find('=');
+    if (!inside) {
+      inside = line.find(section) != std::string::npos;
+    } else if (equals != std::string::npos && strip_back(line.substr(0, equals), stripped) == key) {
+      const std::string value = strip_front(strip_back(line.substr(equals + 1), stripped), " ");
+      return value.size() < 4096 ? Answer{kDone, value} : Answer{0, ""};
+    }
+  }
+  return {0, ""};
+}
+
+Answer Reading::look(const std::string& bytes, const std::string& section, const std::string& key, int index) {
+  const auto line_at = [&](std::size_t offset) -> Answer {
+    const std::vector<Line> list = lines(bytes, offset);
+    return offset == 0 || list.empty() ? Answer{} : Answer{kDone, value_of(list[0].text, index < 0)};
+  };
+  if (keys_.count(section + key) != 0) {
+    return line_at(keys_[section + key]);
+  }
+  std::size_t from = 0;
+  const bool resumes = sections_.count(section) != 0;
+  if (resumes) {
+    from = sections_[section];
+  } else {
+    for (const auto& [name, offset] : keys_) {
+      from = std::max(from, offset);
+    }
+  }
+  bool inside = resumes;
+  bool first = true;
+  int position = 0;
+  for (const Line& line : lines(bytes, from)) {
+    const bool header = closes_a_section(line.text) && !(resumes && first);
+    first = false;
+    if (!inside) {
+      if (header) {
+        sections_.emplace(token_of(line.text), line.start);
+        inside = token_of(line.text) == section;
+      }
+      continue;
+    }
+    if (header) {
+      return {};
+    }
+    ++position;
+    const bool found = index < 0 ? (!key.empty() && token_of(line.text) == key) : index == position;
+    if (!found && line.text.find('=') != std::string::npos) {
+      keys_.emplace(section + token_of(line.text), line.start);
+    }
+    if (found) {
+      keys_.emplace(section + key, line.start);
+      return line.start == 0 ? Answer{} : Answer{kDone, value_of(line.text, index < 0)};
+    }
+  }
+  return {};
+}
+
+int store(std::string& bytes, const std::string& section, const std::string& key, const std::string& given, int index, bool may_insert) {
+  const std::string value = strip_back(given, "\r\n");
+  if (bad(section, key, value, index)) {
+    return kRefused;
+  }
+  const bool by_key = index < 0;
+  const std::string line = by_key ? padded(key, value) : value;
+  const std::string contents = contents_of(bytes);
+  const std::vector<Line> list = lines(contents);
+  const std::size_t header = header_of(list, section);
+  if (header == list.size()) {
+    const std::string created = by_key ? section : "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
+    if (!closes_a_section(created) || too_long(line)) {
+      return kRefused;
+    }
+    put_back(bytes, with_section(contents, created, line));
+    return kDone;
+  }
+  int position = 0;
+  for (std::size_t i = header + 1; i < list.size(); ++i) {
+    ++position;
+    if (!by_key && closes_a_section(list[i].text)) {
+      put_back(bytes, with_lines(contents, list[i].start, {line}));
+      return kDone;
+    }
+    if (by_key ? token_of(list[i].text) == key : index == position) {
+      if (too_long(line)) {
+        return kRefused;
+      }
+      put_back(bytes, contents.substr(0, list[i].start) + line + line_break_of(contents) + contents.substr(list[i].end));
+      return kDone;
+    }
+  }
+  if (!by_key) {
+    put_back(bytes, with_lines(contents, contents.size(), {line}));
+    return kDone;
+  }
+  return may_insert ? insert_line(bytes, section, key, key + " = " + value) : kRefused;
+}
+
+int insert(std::string& bytes, const std::string& section, const std::string& key, const std::string& given) {
+  const std::string value = strip_back(given, "\r\n");
+  return bad(section, key, value, -1) ? kRefused : insert_line(bytes, section, key, key + " = " + value);
+}
+
+int replace(std::string& bytes, const std::string& section, const std::string& key, const std::string& given) {
+  const std::string value = strip_back(given, "\r\n");
+  if (bad(section, key, value, -1)) {
+    return kRefused;
+  }
+  const std::string line = key + " = " + value;
+  const std::string contents = contents_of(bytes);
+  const std::vector<Line> list = lines(contents);
+  const std::size_t header = header_of(list, section);
+  std::string result;
+  if (header == list.size()) {
+    if (!closes_a_section(section)) {
+      return kRefused;
+    }
+    result = with_section(contents, section, line);
+  } else {
+    result = with_lines(contents, contents.size(), {line});
+    for (std::size_t i = header + 1; i < list.size(); ++i) {
+      if (token_of(list[i].text) == key) {
+        result = contents.substr(0, list[i].start) + line + line_break_of(contents) + contents.substr(list[i].end);
+        break;
+      }
+      if (list[i].text.find('[') != std::string::npos) {
+        result = with_lines(contents, list[i].start, {line, ""});
+        break;
+      }
+    }
+  }
+  if (result.back() != '\n') {
+    result += line_break_of(contents);
+  }
+  bytes = result;
+  return kDone;
+}
+
+}  // namespace naive
+
+// The engine beside the model
+
+using naive::Answer;
+using qelpro_test::bytes_of;
+using qelpro_test::put_bytes;
+using qelpro_test::Scratch;
+
+class Generator {
+ public:
+  explicit Generator(unsigned seed) : random_(seed) {}
+
+  bool chance(int percent) { return below(100) < percent; }
+
+  int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+
+  template <class Item>
+  const Item& one_of(const std::vector<Item>& items) {
+    return items[static_cast<std::size_t>(below(static_cast<int>(items.size())))];
+  }
+
+  std::string section() {
+    static const std::vector<std::string> kSections = {"[A]", "[B]", "[Flow-1]", "[Flow-10]", "[SURFACE"};
+    static const std::vector<std::string> kOdd = {"A", "[not", "[A", "", "[A B]", "x", "[A]]", "k\n"};
+    return chance(93) ? one_of(kSections) : one_of(kOdd);
+  }
+
+  std::string key() {
+    static const std::vector<std::string> kKeys = {"x", "xy", "FR", "FR-1", "FR-10", "GC-1", "aKeyOfMoreThanTwentyCharacters"};
+    static const std::vector<std::string> kOdd = {"", "x y", "[A]", "[B", "x=", "]x"};
+    return chance(95) ? one_of(kKeys) : one_of(kOdd);
+  }
+
+  std::string value() {
+    static const std::vector<std::string> kOdd = {"",     " ",     "a = b", "[A]", "see [B] there", "y]", "1\n", "1\r\n",
+                                                  "1\n2", "\tt\t", "x = 1", "=",   "\f1\f"};
+    if (chance(20)) {
+      return one_of(kOdd);
+    }
+    if (chance(2)) {
+      return std::string(static_cast<std::size_t>(4060 + below(45)), 'v');
+    }
+    return std::string(static_cast<std::size_t>(below(12)), 'v') + std::to_string(below(1000));
+  }
+
+  std::string line() {
+    static const std::vector<std::string> kHeaders = {"[A]", "[B]", "[Flow-1]", "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"};
+    static const std::vector<std::string> kOdd = {"",     " ",       "\t",   "[A] ",   "[B]\t ",         " [A]",    "[A] tail", "[A] = 5",
+                                                  "[not", "not]",    "x",    "FR =",   "  x = indented", "\tx = 1", "x\t= 1",   "= 3",
+                                                  "\r",   "x = 1\r", "[A]]", "]x = 9", "GC-1 = [1",      "see [A]", "[A][B]",   "x y = 1"};
+    const int kind = below(100);
+    if (kind < 25) {
+      return one_of(kHeaders);
+    }
+    if (kind < 45) {
+      return one_of(kOdd);
+    }
+    if (kind < 46) {
+      const std::string part(static_cast<std::size_t>(4080 + below(30)), chance(30) ? ' ' : 'w');
+      static const std::vector<std::string> kTails = {"", "x = tail", "[A]", "   ", "[B]x"};
+      return part + one_of(kTails);
+    }
+    if (kind < 48) {
+      return key() + " = a" + std::string(1, '\0') + "b";
+    }
+    return key() + (chance(70) ? " = " : "=") + value();
+  }
+
+  std::string file() {
+    std::string bytes;
+    if (chance(10)) {
+      bytes += "\xEF\xBB\xBF";
+    }
+    const int breaks = below(3);  // "\n", "\r\n", both
+    const int count = below(25);
+    for (int i = 0; i < count; ++i) {
+      bytes += line();
+      bytes += breaks == 0 || (breaks == 2 && chance(50)) ? "\n" : "\r\n";
+    }
+    if (chance(25)) {
+      bytes += line();
+    }
+    if (chance(25)) {
+      bytes += std::string(static_cast<std::size_t>(below(40)), ' ');
+    }
+    return bytes;
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+Answer look(CQELPROIO& document, const std::string& section, const std::string& key, int index) {
+  char* value = nullptr;
+  const int result = document.GetValue(section.c_str(), key.c_str(), value, index);
+  return {result, result == naive::kDone ? value : ""};
+}
+
+Answer look_once(CQELPROIO& document, const std::string& section, const std::string& key) {
+  char* value = nullptr;
+  const int result = document.ReadOnce(section.c_str(), key.c_str(), value, nullptr, 0);
+  return {result, result == naive::kDone ? value : ""};
+}
+
+Answer scan(CQELPROIO& document, const std::string& path, const std::string& section, const std::string& key) {
+  char* value = nullptr;
+  const bool found = document.ScanValue(path.c_str(), section.c_str(), key.c_str(), value, nullptr);
+  return {found ? naive::kDone : 0, found ? value : ""};
+}
+
+// One file that is stored into and read in every way.
+class Trial {
+ public:
+  explicit Trial(unsigned seed) : random_(seed), path_(scratch_.path()), bytes_(random_.file()) { put_bytes(path_, bytes_); }
+
+  void store_some() {
+    CQELPROIO document;
+    ASSERT_TRUE(document.SetFilePath(path_.c_str(), CQELPROIO::kWriting));
+    for (int i = random_.below(8); i > 0 && !testing::Test::HasFailure(); --i) {
+      const std::string before = bytes_;
+      const std::string section = random_.section();
+      const std::string key = random_.key();
+      const std::string value = random_.value();
+      const int kind = random_.below(100);
+      const int index = kind < 70 || kind >= 85 ? -1 : random_.below(7);
+      int expected = 0;
+      int result = 0;
+      if (kind < 85) {
+        expected = naive::store(bytes_, section, key, value, index, true);
+        result = document.SetValue(section.c_str(), key.c_str(), value.c_str(), index);
+      } else if (kind < 90) {
+        expected = naive::insert(bytes_, section, key, value);
+        result = document.InsertValue(path_.c_str(), section.c_str(), key.c_str(), value.c_str());
+      } else if (kind < 95) {
+        expected = naive::replace(bytes_, section, key, value);
+        result = document.ReplaceValue(section.c_str(), key.c_str(), value.c_str());
+      } else {
+        expected = naive::store(bytes_, section, key, value, -1, false);
+        result = store_lent(section, key, value);
+      }
+      const auto what = [&] {
+        return std::to_string(kind) + ": " + section + " | " + key + " | " + value + " | " + std::to_string(index) + "\nover " +
+               testing::PrintToString(before);
+      };
+      EXPECT_EQ(result, expected) << what();
+      ASSERT_TRUE(bytes_of(path_) == bytes_) << what() << "\nis " << testing::PrintToString(bytes_of(path_)) << "\nnot "
+                                             << testing::PrintToString(bytes_);
+      if (result == naive::kDone && kind < 70) {
+        const Answer read = look(document, section, key, -1);
+        EXPECT_EQ(read, naive::plain(bytes_, section, key, -1)) << what();
+        EXPECT_EQ(read.text, naive::value_of(naive::strip_back(value, "\r\n"), false)) << "a store is read back: " << what();
+      }
+    }
+  }
+
+  void look_around(CQELPROIO& reading, naive::Reading& model) {
+    ASSERT_TRUE(reading.SetFilePath(path_.c_str(), CQELPROIO::kReading));
+    CQELPROIO lent;
+    std::FILE* stream = std::fopen(path_.c_str(), "r");
+    ASSERT_TRUE(lent.SetFilePtr(stream));
+    for (int i = 0; i < 12 && !testing::Test::HasFailure(); ++i) {
+      const std::string section = random_.section();
+      const std::string key = random_.chance(85) ? random_.key() : "";
+      const int index = random_.chance(70) ? -1 : random_.below(8);
+      const auto what = [&] { return section + " | " + key + " | " + std::to_string(index) + "\nin " + testing::PrintToString(bytes_); };
+      EXPECT_EQ(look(reading, section, key, index), model.look(bytes_, section, key, index)) << what();
+      EXPECT_EQ(look(lent, section, key, index), naive::plain(bytes_, section, key, index)) << what();
+      EXPECT_EQ(look_once(reading, section, key), naive::once(bytes_, section, key)) << what();
+      EXPECT_EQ(look_once(lent, section, key), naive::plain(bytes_, section, key, -1)) << what();
+      EXPECT_EQ(scan(lent, path_, section, key), naive::whole_text(bytes_, section, key)) << what();
+    }
+    std::fclose(stream);
+  }
+
+ private:
+  int store_lent(const std::string& section, const std::string& key, const std::string& value) {
+    CQELPROIO lent;
+    std::FILE* stream = std::fopen(path_.c_str(), "r+");
+    const int result = lent.SetFilePtr(stream) ? lent.SetValue(section.c_str(), key.c_str(), value.c_str(), -1) : -1;
+    std::fclose(stream);
+    return result;
+  }
+
+  Scratch scratch_;
+  Generator random_;
+  std::string path_;
+  std::string bytes_;
+};
+
+TEST(Model, AgreesOnResultsAndBytes) {
+  constexpr unsigned kRuns = 2000;
+  for (unsigned seed = 1; seed <= kRuns && !HasFailure(); ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    Trial trial(seed);
+    for (int round = 0; round < 2; ++round) {
+      trial.store_some();
+      CQELPROIO reading;
+      naive::Reading model;
+      trial.look_around(reading, model);
+    }
+  }
+}
+
+TEST(Model, AgreesOnAReadingDocumentThatGoesFromFileToFile) {
+  constexpr unsigned kRuns = 300;
+  for (unsigned seed = 100001; seed <= 100000 + kRuns && !HasFailure(); ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    CQELPROIO reading;
+    naive::Reading model;
+    for (unsigned file = 0; file < 3; ++file) {
+      Trial trial(seed * 3 + file);
+      trial.look_around(reading, model);
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+#include "core/session.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "support/scratch.h"
+
+namespace {
+
+using qelpro_test::bytes_of;
+using qelpro_test::Scratch;
+
+constexpr qel::Key<qel::Text> kProbe{"Probe", {}, {}, "an entry that tests put into any section"};
+
+TEST(Session, HoldsOneBlockOfEachKindInTheirOrder) {
+  CQELPROReader session;
+  const auto blocks = session.Blocks();
+  ASSERT_EQ(blocks.size(), 38U);
+  EXPECT_EQ(blocks.front(), &session.file_header);
+  EXPECT_EQ(blocks.back(), &session.co_injection_flow_x);
+  for (std::size_t i = 1; i < blocks.size(); ++i) {
+    EXPECT_TRUE(std::less<>()(blocks[i - 1], blocks[i])) << "block " << i;
+  }
+}
+
+TEST(Session, AttachesNothingBeforeItIsToldTo) {
+  CQELPROWriter session;
+  for (CQELPROBlockIOBase* block : session.Blocks()) {
+    char* text = nullptr;
+    EXPECT_EQ(block->Read(kProbe, {}, text), -1);
+    EXPECT_EQ(block->Write(kProbe, {}, "1"), -1);
+  }
+}
+
+TEST(Session, AttachesEveryBlock) {
+  const Scratch scratch;
+  const std::string path = scratch.file("");
+  CQELPROReader session;
+  ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
+  EXPECT_TRUE(session.AttachDocument(&session.document()));
+  EXPECT_TRUE(session.AttachDocument(&session.document())) << "a second time does no harm";
+  for (CQELPROBlockIOBase* block : session.Blocks()) {
+    char* text = nullptr;
+    EXPECT_EQ(block->Read(kProbe, {}, text), -2);
+  }
+}
+
+TEST(Session, IsNotAttachedToNothing) {
+  CQELPROReader session;
+  EXPECT_FALSE(session.AttachDocument(nullptr));
+  char* text = nullptr;
+  EXPECT_EQ(session.unit.Read(kProbe, {}, text), -1);
+}
+
+TEST(Session, KeepsItsAttachmentWhenItIsGivenNothing) {
+  CQELPROReader session;
+  const Scratch scratch;
+  const std::string path = scratch.file("[Unit]\nProbe = 1\n");
+  ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
+  ASSERT_TRUE(session.AttachDocument(&session.document()));
+  EXPECT_FALSE(session.AttachDocument(nullptr));
+  char* text = nullptr;
+  EXPECT_EQ(session.unit.Read(kProbe, {}, text), 1);
+}
+
+TEST(Session, GivesEachBlockASectionOfItsOwn) {
+  const Scratch scratch;
+  const std::string path = scratch.file("");
+  CQELPROWriter session;
+  ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
+  ASSERT_TRUE(session.AttachDocument(&session.document()));
+  int number = 0;
+  for (CQELPROBlockIOBase* block : session.Blocks()) {
+    if (block == &session.mold_temperature_bc_x) {
+      continue;  // a name that reads as no header is never appended
+    }
+    EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()), 1) << number;
+  }
+  number = 0;
+  for (CQELPROBlockIOBase* block : session.Blocks()) {
+    if (block == &session.mold_temperature_bc_x) {
+      continue;
+    }
+    char* text = nullptr;
+    ASSERT_EQ(block->Read(kProbe, qel::in_section(1), text), 1);
+    EXPECT_EQ(text, std::to_string(++number)) << "no other block wrote over it";
+  }
+}
+
+TEST(Session, FindsThePositionalSectionByTheFirstTokenOfItsHeader) {
+  const Scratch scratch;
+  const std::string path = scratch.file("\n[A]\n\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nProbe = found\n");
+  CQELPROReader session;
+  ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
+  ASSERT_TRUE(session.AttachDocument(&session.document()));
+  char* text = nullptr;
+  ASSERT_EQ(session.mold_temperature_bc_x.Read(kProbe, {}, text), 1);
+  EXPECT_STREQ(text, "found");
+}
+
+TEST(Session, CountsItsOwners) {
+  auto* session = new CQELPROReader;
+  session->AddOwner();
+  EXPECT_FALSE(session->DropOwner());
+  EXPECT_TRUE(session->DropOwner());
+  delete session;
+}
+
+TEST(Session, HoldsNoFileOpenBetweenStores) {
+  const Scratch scratch;
+  const std::string path = scratch.file("");
+  CQELPROWriter session;
+  ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
+  ASSERT_TRUE(session.AttachDocument(&session.document()));
+  ASSERT_EQ(session.unit.Write(kProbe, {}, "1"), 1);
+  EXPECT_EQ(bytes_of(path), "\n[Unit]\nProbe                = 1\n") << "complete after each write";
+  std::FILE* stream = nullptr;
+  EXPECT_FALSE(session.document().GetFilePtr(stream));
+}
+
+}  // namespace

@@ -1,0 +1,99 @@
+#include "core/snapshot.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/document.h"
+#include "support/scratch.h"
+
+namespace {
+
+using qel::Snapshot;
+using qelpro_test::Scratch;
+
+constexpr const char* kAwkward =
+    "x = 0\n[A]\nFR-1 = 3\n FR-2 = 4\nFR-2=5\r\nFR-2 = 6\nFR-03 = 7\nFR-x = 8\nFR-10 = 9\nFR-0 = 10\n"
+    "FR--4 = 11\nFR-2147483648 = 12\nFR = 13\n[not\nlate = 14\n[A]\nlater = 15\n[B] \ny = 16\n[C] z\nz = 17\nbare\n";
+
+TEST(Snapshot, AnswersAsAOneShotReadDoes) {
+  const Scratch scratch;
+  const std::string path = scratch.file(kAwkward);
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(path.c_str()));
+  for (const char* section : {"[A]", "[B]", "[C]", "[not", "[D]", "A", ""}) {
+    for (const char* key : {"x", "FR-1", "FR-2", "FR", "FR-10", "late", "later", "y", "z", "bare", "[not", ""}) {
+      CQELPROIO document;
+      ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
+      char* text = nullptr;
+      const bool found = document.ReadOnce(section, key, text, nullptr, 0) == 1;
+      const auto value = snapshot.value(section, key);
+      ASSERT_EQ(value.has_value(), found) << section << ' ' << key;
+      if (found) {
+        EXPECT_EQ(*value, text) << section << ' ' << key;
+      }
+    }
+  }
+}
+
+TEST(Snapshot, KnowsItsSections) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file(kAwkward).c_str()));
+  EXPECT_TRUE(snapshot.has_section("[A]"));
+  EXPECT_TRUE(snapshot.has_section("[B]"));
+  EXPECT_FALSE(snapshot.has_section("[C]"));
+  EXPECT_FALSE(snapshot.has_section("[not"));
+  EXPECT_FALSE(snapshot.has_section(""));
+}
+
+TEST(Snapshot, ListsNumberedEntriesInAscendingOrder) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-3 = c\nP-1 = a\nP-20 = d\nP-2 = b\n[B]\nP-4 = x\n").c_str()));
+  std::string listed;
+  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "P-", 1000)) {
+    listed.append(std::to_string(entry.number)).append(entry.value).append(" ");
+  }
+  EXPECT_EQ(listed, "1a 2b 3c 20d ");
+}
+
+TEST(Snapshot, ListsTheEntriesThatALookupByNumberWouldFind) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file(kAwkward).c_str()));
+  std::string listed;
+  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "FR-", 2147483647)) {
+    EXPECT_EQ(snapshot.value("[A]", "FR-" + std::to_string(entry.number)), entry.value);
+    listed.append(std::to_string(entry.number)).append(" ");
+  }
+  EXPECT_EQ(listed, "1 2 10 ");
+}
+
+TEST(Snapshot, ListsNothingBeyondTheGivenNumber) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-1 = a\nP-2 = b\nP-3 = c\n").c_str()));
+  EXPECT_EQ(snapshot.numbered("[A]", "P-", 2).size(), 2U);
+  EXPECT_TRUE(snapshot.numbered("[A]", "P-", 0).empty());
+  EXPECT_TRUE(snapshot.numbered("[B]", "P-", 2).empty());
+}
+
+TEST(Snapshot, StaysAsItWasWhenTheFileChanges) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[A]\nx = 1\n");
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(path.c_str()));
+  qelpro_test::put_bytes(path, "");
+  EXPECT_EQ(snapshot.value("[A]", "x"), "1");
+}
+
+TEST(Snapshot, CannotBeTakenOfWhatIsNoFile) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  EXPECT_FALSE(snapshot.load(scratch.path("missing.pro").c_str()));
+  EXPECT_FALSE(snapshot.load(scratch.path("").c_str()));
+  EXPECT_FALSE(snapshot.load("/dev/zero"));
+}
+
+}  // namespace

@@ -1,0 +1,141 @@
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace qel::text;
+
+TEST(FirstToken, EndsAtABlankATabOrAnEqualsSign) {
+  EXPECT_EQ(first_token("Key Value"), "Key");
+  EXPECT_EQ(first_token("Key\tValue"), "Key");
+  EXPECT_EQ(first_token("Key=Value"), "Key");
+  EXPECT_EQ(first_token("Key"), "Key");
+}
+
+TEST(FirstToken, OfAHeaderWithBlanksIsItsTextUpToTheFirst) { EXPECT_EQ(first_token("[SURFACE ELEMENT BOUNDARY CONDITION NAME]"), "[SURFACE"); }
+
+TEST(FirstToken, IsEmptyWhereTheLineBeginsWithADelimiter) {
+  EXPECT_EQ(first_token(" Key"), "");
+  EXPECT_EQ(first_token("\tKey"), "");
+  EXPECT_EQ(first_token("=Key"), "");
+  EXPECT_EQ(first_token(""), "");
+}
+
+TEST(FirstToken, KeepsWhatIsNoDelimiter) { EXPECT_EQ(first_token("a,b;c:\rd = 1"), "a,b;c:\rd"); }
+
+TEST(FirstTokenIs, MatchesTheWholeTokenOnly) {
+  EXPECT_TRUE(first_token_is("Flow = 1", "Flow"));
+  EXPECT_TRUE(first_token_is("Flow=1", "Flow"));
+  EXPECT_TRUE(first_token_is("Flow\t= 1", "Flow"));
+  EXPECT_TRUE(first_token_is("Flow", "Flow"));
+  EXPECT_FALSE(first_token_is("FlowRate = 1", "Flow"));
+  EXPECT_FALSE(first_token_is("FR-1 = 3", "FR"));
+  EXPECT_FALSE(first_token_is("Flo", "Flow"));
+}
+
+TEST(FirstTokenIs, TellsUpperFromLowerCase) { EXPECT_FALSE(first_token_is("flow = 1", "Flow")); }
+
+TEST(FirstTokenIs, NeverMatchesAnEmptyText) {
+  EXPECT_FALSE(first_token_is("", ""));
+  EXPECT_FALSE(first_token_is(" indented", ""));
+  EXPECT_FALSE(first_token_is("= 1", ""));
+}
+
+TEST(FirstTokenIs, NeverMatchesATextThatIsMoreThanAToken) {
+  EXPECT_FALSE(first_token_is("a b = 1", "a b"));
+  EXPECT_FALSE(first_token_is("a=b = 1", "a=b"));
+  EXPECT_FALSE(first_token_is("[SURFACE ELEMENT]", "[SURFACE ELEMENT]"));
+}
+
+TEST(EntryValue, IsTheTextBehindTheFirstEqualsSign) {
+  EXPECT_EQ(entry_value("Key = Value"), "Value");
+  EXPECT_EQ(entry_value("Key=Value"), "Value");
+  EXPECT_EQ(entry_value("Name = a = b"), "a = b");
+  EXPECT_EQ(entry_value("Key with more = Value"), "Value");
+}
+
+TEST(EntryValue, LosesBlanksInFrontAndBlanksAndTabsBehind) {
+  EXPECT_EQ(entry_value("Key =    1.5 \t  "), "1.5");
+  EXPECT_EQ(entry_value("Key =a  b"), "a  b");
+}
+
+TEST(EntryValue, KeepsATabInFront) { EXPECT_EQ(entry_value("Key = \t1"), "\t1"); }
+
+TEST(EntryValue, IsEmptyWithoutAnEqualsSign) {
+  EXPECT_EQ(entry_value("Key Value"), "");
+  EXPECT_EQ(entry_value("Key"), "");
+  EXPECT_EQ(entry_value("Key ="), "");
+  EXPECT_EQ(entry_value("Key =   \t"), "");
+}
+
+TEST(IndexValue, IsTheWholeLineTrimmed) {
+  EXPECT_EQ(index_value("  a = b \t "), "a = b");
+  EXPECT_EQ(index_value("\ta"), "\ta");
+  EXPECT_EQ(index_value("   "), "");
+}
+
+TEST(IsHeader, WantsTheBracketsAtBothEnds) {
+  EXPECT_TRUE(is_header("[Unit]"));
+  EXPECT_TRUE(is_header("[]"));
+  EXPECT_TRUE(is_header("[SURFACE ELEMENT BOUNDARY CONDITION NAME]"));
+  EXPECT_TRUE(is_header("[a]b]"));
+  EXPECT_FALSE(is_header("[Unit"));
+  EXPECT_FALSE(is_header("Unit]"));
+  EXPECT_FALSE(is_header("[Unit] x"));
+  EXPECT_FALSE(is_header("["));
+  EXPECT_FALSE(is_header("]"));
+  EXPECT_FALSE(is_header(""));
+}
+
+TEST(IsHeader, LooksPastWhatTrails) {
+  EXPECT_TRUE(is_header("[Unit] \t "));
+  EXPECT_TRUE(is_header("[Unit]\n"));
+}
+
+TEST(IsHeader, DoesNotLookPastBlanksInFront) {
+  EXPECT_FALSE(is_header(" [Unit]"));
+  EXPECT_FALSE(is_header("\t[Unit]"));
+}
+
+TEST(TrimBlanks, TakesBlanksAlone) {
+  EXPECT_EQ(trim_blanks("  a b  "), "a b");
+  EXPECT_EQ(trim_blanks(" \ta\t "), "\ta\t");
+  EXPECT_EQ(trim_blanks("   "), "");
+  EXPECT_EQ(trim_blanks(""), "");
+}
+
+TEST(TrimEnd, TakesTheGivenCharactersFromTheEndAlone) {
+  EXPECT_EQ(trim_end("\r\na\r\n", "\r\n"), "\r\na");
+  EXPECT_EQ(trim_end("\r\n", "\r\n"), "");
+  EXPECT_EQ(trim_end("a", ""), "a");
+}
+
+TEST(OnlyBlanks, IsTrueForNothingAtAll) {
+  EXPECT_TRUE(only_blanks(""));
+  EXPECT_TRUE(only_blanks("   "));
+  EXPECT_FALSE(only_blanks(" \t"));
+  EXPECT_FALSE(only_blanks(" \n"));
+}
+
+TEST(IsFindable, NeedsANameThatIsAllFirstToken) {
+  EXPECT_TRUE(is_findable("FR-1"));
+  EXPECT_TRUE(is_findable("[Flow-1]"));
+  for (const char* name : {"", " ", "a b", "a\tb", "a=b", "a\nb", "a\rb", "a "}) {
+    EXPECT_FALSE(is_findable(name)) << '"' << name << '"';
+  }
+}
+
+TEST(PaddedEntry, PutsTheKeyInTwentyColumns) {
+  EXPECT_EQ(padded_entry("FillTime", "1.5"), "FillTime             = 1.5");
+  EXPECT_EQ(padded_entry("1234567890123456789", "x"), "1234567890123456789  = x");
+}
+
+TEST(PaddedEntry, WritesAKeyOfTwentyColumnsOrMoreWhole) {
+  EXPECT_EQ(padded_entry("12345678901234567890", "x"), "12345678901234567890 = x");
+  EXPECT_EQ(padded_entry("123456789012345678901", "x"), "123456789012345678901 = x");
+}
+
+TEST(PlainEntry, HasNoPadding) { EXPECT_EQ(plain_entry("FillTime", "1.5"), "FillTime = 1.5"); }
+
+}  // namespace

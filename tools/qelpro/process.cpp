@@ -1,0 +1,174 @@
+#include <QELG/QELG.h>
+#include <QELPROEngine/CQELProcessData_Manipulator.h>
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "commands.h"
+#include "process_items.h"
+#include "status.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Arguments {
+  std::string file;
+  bool json = false;
+};
+
+template <class Source>
+Json value_of(const Source& source, const NamedItem<Source>& item) {
+  return std::visit(
+      [&source]<class Value>(bool (*get)(const Source&, Value&)) {
+        Value value{};
+        return get(source, value) ? Json(value) : Json();
+      },
+      item.get);
+}
+
+// The items that are set.
+template <class Source, std::size_t count>
+Json items_of(const Source& source, const NamedItem<Source> (&items)[count]) {
+  Json result = Json::object();
+  for (const NamedItem<Source>& item : items) {
+    const Json value = value_of(source, item);
+    if (!value.is_null()) {
+      result[item.name] = value;
+    }
+  }
+  return result;
+}
+
+Json points_of(const QELG_Profile& profile) {
+  Json result = Json::array();
+  QELG_2dPoint point;
+  for (unsigned int index = 0; profile.GetDataPoint(index, point); ++index) {
+    result.push_back({point.x, point.y});
+  }
+  return result;
+}
+
+Json numbers_of(const QELG_Array<double>& array) {
+  Json result = Json::array();
+  double value = 0;
+  for (unsigned int index = 0; array.GetDataPoint(index, value); ++index) {
+    result.push_back(value);
+  }
+  return result;
+}
+
+Json inlet_of(const QELG_SimulatorFlowPackProcess& inlet, unsigned int number) {
+  return {{"number", number},
+          {"values", items_of(inlet, kInletItems)},
+          {"flow rate", points_of(*inlet.GetFlowRateProfile())},
+          {"injection pressure", points_of(*inlet.GetInjectionPressureProfile())},
+          {"packing pressure", points_of(*inlet.GetPackingPressureProfile())},
+          {"fluid pressure", points_of(*inlet.GetFluidPressureProfile())},
+          {"flow rate time constants", numbers_of(*inlet.GetFlowRateTimeConstants())},
+          {"injection pressure time constants", numbers_of(*inlet.GetInjectionPressureTimeConstants())},
+          {"packing pressure time constants", numbers_of(*inlet.GetPackingPressureTimeConstants())}};
+}
+
+// Moves the items whose names begin with the prefix into a group of their own, without the prefix.
+Json take_group(Json& values, const std::string& prefix) {
+  Json group = Json::object();
+  for (auto item = values.begin(); item != values.end();) {
+    if (item.key().rfind(prefix, 0) == 0) {
+      group[item.key().substr(prefix.size())] = item.value();
+      item = values.erase(item);
+    } else {
+      ++item;
+    }
+  }
+  return group;
+}
+
+Json process_of(const QELG_SimulatorProcess& process) {
+  Json values = items_of(process, kProcessItems);
+  const Json machine = take_group(values, "machine_");
+  const Json heat_transfer = take_group(values, "HTC_");
+  Json inlets = Json::array();
+  for (unsigned int index = 0; index < process.GetNumOfInlets(); ++index) {
+    inlets.push_back(inlet_of(*process.GetFlowPackOfInlet(index), index + 1));
+  }
+  return {{"values", values},
+          {"machine", machine},
+          {"heat transfer", heat_transfer},
+          {"flow rate ram positions", numbers_of(*process.GetFlowRateRamPosition())},
+          {"injection pressure ram positions", numbers_of(*process.GetInjectionPressureRamPosition())},
+          {"inlets", inlets}};
+}
+
+std::string plain(const Json& value) {
+  if (value.is_string()) {
+    return value.get<std::string>();
+  }
+  if (!value.is_array()) {
+    return value.dump();
+  }
+  std::string line;
+  for (const Json& part : value) {
+    line += (line.empty() ? "" : "  ") + plain(part);
+  }
+  return line;
+}
+
+void print_lines(const Json& group, const std::string& indent) {
+  for (const auto& [name, value] : group.items()) {
+    if (value.is_array() && !value.empty() && value.front().is_array()) {
+      std::cout << indent << name << ":\n";
+      for (const Json& point : value) {
+        std::cout << indent << "  " << plain(point) << '\n';
+      }
+    } else if (value.is_object()) {
+      print_lines(value, indent);
+    } else if (!value.empty()) {
+      std::cout << indent << name << ": " << plain(value) << '\n';
+    }
+  }
+}
+
+void print(const Json& process) {
+  for (const auto& [name, group] : process.items()) {
+    if (name == "inlets") {
+      for (const Json& inlet : group) {
+        std::cout << "inlet " << inlet["number"] << '\n';
+        Json rest = inlet;
+        rest.erase("number");
+        print_lines(rest, "  ");
+      }
+    } else if (!group.empty()) {
+      std::cout << (name == "values" ? "process" : name) << '\n';
+      print_lines(group.is_array() ? Json{{"values", group}} : group, "  ");
+    }
+  }
+}
+
+int show(const Arguments& arguments) {
+  CQELProcessData_Manipulator loader;
+  const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(arguments.file.c_str()));
+  if (!process) {
+    return fail(kFileError, arguments.file + ": " + why_unreadable(arguments.file));
+  }
+  const Json result = process_of(*process);
+  if (arguments.json) {
+    std::cout << result.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  } else {
+    print(result);
+  }
+  return kDone;
+}
+
+}  // namespace
+
+void add_process(CLI::App& app, int& status) {
+  auto arguments = std::make_shared<Arguments>();
+  CLI::App* command = app.add_subcommand("process", "Build the simulator process of a file and print it");
+  command->add_option("FILE", arguments->file, "The process file")->required();
+  command->add_flag("--json", arguments->json, "Print JSON");
+  command->callback([arguments, &status] { status = show(*arguments); });
+}
