@@ -2,6 +2,7 @@
 
 /// Everything that the library exports.
 
+#include "QELPROEngine/CPROIO_Manipulator.h"
 #include "QELPROEngine/CQELMachineIdentification.h"
 #include "QELPROEngine/CQELPCSInterpolator.h"
 #include "QELPROEngine/CQELPRORSVReader_Manipulator.h"
@@ -11,4 +12,5 @@
 #include "QELPROEngine/CQELProcessData_Manipulator.h"
 #include "QELPROEngine/CQELProcessValueReader.h"
 #include "QELPROEngine/CQEL_ProcessAdapter.h"
+#include "QELPROEngine/QELPRO_MMM_MECHANICAL.h"
 #include "QELPROEngine/version.h"

@@ -1,0 +1,37 @@
+#include "proio/entries.h"
+#include "proio/typed.h"
+
+using namespace qel::proio;
+
+// [PartingSurface]
+
+bool CPROIO_Manipulator::GetPSCavityPart(int& first, double& second, double& third, double& fourth) {
+  return Get(parting_surface::kCavityPart, first, second, third, fourth);
+}
+bool CPROIO_Manipulator::GetPSCavityMoldBase(int& first, double& second, double& third, double& fourth) {
+  return Get(parting_surface::kCavityMoldBase, first, second, third, fourth);
+}
+bool CPROIO_Manipulator::GetPSCorePart(int& first, double& second, double& third, double& fourth) {
+  return Get(parting_surface::kCorePart, first, second, third, fourth);
+}
+bool CPROIO_Manipulator::GetPSCoreMoldBase(int& first, double& second, double& third, double& fourth) {
+  return Get(parting_surface::kCoreMoldBase, first, second, third, fourth);
+}
+
+// [EjectCriteria]
+
+bool CPROIO_Manipulator::GetTotalSensorNode(int& value) { return Get(eject_criteria::kTotalSensorNode, value); }
+bool CPROIO_Manipulator::GetTotalCriteriaNode(int& value) { return Get(eject_criteria::kTotalCriteriaNode, value); }
+bool CPROIO_Manipulator::GetSensorNodeSetting(int number, int& node, double& value) {
+  return Get(eject_criteria::kSensorNode.at(number), node, value);
+}
+bool CPROIO_Manipulator::GetCriteriaNodeSetting(int number, int& node, double& value) {
+  return Get(eject_criteria::kCriteriaNode.at(number), node, value);
+}
+
+// [PartInsertInitialTemperature]
+
+bool CPROIO_Manipulator::GetTotalPartInsert(int& value) { return Get(part_insert::kTotalPartInsert, value); }
+bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name, double& temperature) {
+  return Get(part_insert::kInsert.at(number), id, Word{name, scratch().part_insert_name}, temperature);
+}

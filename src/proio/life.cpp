@@ -1,0 +1,41 @@
+#include <array>
+#include <cstdio>
+
+#include "platform/clock.h"
+#include "platform/os_file.h"
+#include "proio/entries.h"
+#include "proio/typed.h"
+
+using namespace qel::proio;
+namespace platform = qel::platform;
+
+CPROIO_Manipulator::CPROIO_Manipulator() : path_(nullptr) {}
+CPROIO_Manipulator::CPROIO_Manipulator(const CPROIO_Manipulator& other) = default;
+CPROIO_Manipulator& CPROIO_Manipulator::operator=(const CPROIO_Manipulator& other) = default;
+CPROIO_Manipulator::~CPROIO_Manipulator() = default;
+
+void CPROIO_Manipulator::SetFilePath(char* path) { path_ = path; }
+
+bool CPROIO_Manipulator::SetFilePath(const char* path) {
+  platform::OsFile file;
+  if (path == nullptr || !file.open_for_reading(path)) {
+    return false;
+  }
+  path_ = path;
+  return true;
+}
+
+bool CPROIO_Manipulator::GetFilePath(const char*& path) {
+  path = path_;
+  return path_ != nullptr;
+}
+
+bool CPROIO_Manipulator::Test() { return true; }
+
+// Written without a stamp: it is the stamp.
+bool CPROIO_Manipulator::SetFileDate() {
+  const platform::LocalTime now = platform::local_time();
+  std::array<char, 128> text{};
+  std::snprintf(text.data(), text.size(), "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour, now.minute, now.second);
+  return IsOK(Write(SectionOf(file_header::kDate), KeyOf(file_header::kDate), text.data(), false, kByKey));
+}

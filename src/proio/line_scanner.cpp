@@ -1,0 +1,91 @@
+#include "proio/line_scanner.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace qel::proio {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// The longest line in bytes: its line break may take two.
+constexpr std::size_t kMostBytes = LineScanner::kLongestLine + 1;
+
+}  // namespace
+
+LineScanner::LineScanner(platform::RandomAccess& file) : file_(&file) {
+  fill();
+  skip_byte_order_mark();
+}
+
+LineScanner::LineScanner(std::string_view contents) : window_(contents), at_end_(true) { skip_byte_order_mark(); }
+
+void LineScanner::skip_byte_order_mark() {
+  if (window_.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
+    window_.remove_prefix(kByteOrderMark.size());
+    offset_ += static_cast<std::int64_t>(kByteOrderMark.size());
+  }
+}
+
+// Keeps what is left of the window and reads on behind it. What cannot be read counts as the end of the file.
+void LineScanner::fill() {
+  const std::size_t kept = window_.size();
+  std::memmove(buffer_.data(), window_.data(), kept);
+  const std::size_t room = buffer_.size() - kept;
+  const std::int64_t got = file_->read_at(offset_ + static_cast<std::int64_t>(kept), buffer_.data() + kept, room);
+  const auto added = static_cast<std::size_t>(std::max<std::int64_t>(got, 0));
+  window_ = {buffer_.data(), kept + added};
+  at_end_ = added < room;
+}
+
+bool LineScanner::next(Line& line) {
+  if (window_.size() < kMostBytes && !at_end_) {
+    fill();
+  }
+  if (window_.empty()) {
+    return false;
+  }
+  const std::string_view ahead = window_.substr(0, kMostBytes);
+  const std::size_t line_break = ahead.find('\n');
+  std::size_t length = std::min(line_break, ahead.size());
+  if (line_break != std::string_view::npos && length > 0 && ahead[length - 1] == '\r') {
+    --length;
+  }
+  const bool ended = line_break != std::string_view::npos && length < kLongestLine;
+  length = std::min(length, kLongestLine);
+  const std::size_t consumed = ended ? line_break + 1 : length;
+
+  line.start = offset_;
+  line.end = offset_ + static_cast<std::int64_t>(consumed);
+  const std::string_view whole = ahead.substr(0, length);
+  line.text = whole.substr(0, whole.find('\0'));
+  line.has_break = ended && line.text.size() == length;
+  window_.remove_prefix(consumed);
+  offset_ = line.end;
+  return true;
+}
+
+std::size_t length_without_padding(std::string_view contents) {
+  const std::size_t last = contents.find_last_not_of(' ');
+  return last != std::string_view::npos && contents[last] == '\n' ? last + 1 : contents.size();
+}
+
+std::int64_t length_without_padding(platform::RandomAccess& file) {
+  const std::int64_t size = file.size();
+  std::array<char, 4096> block;
+  for (std::int64_t end = size; end > 0;) {
+    const std::int64_t begin = std::max<std::int64_t>(end - static_cast<std::int64_t>(block.size()), 0);
+    const auto length = static_cast<std::size_t>(end - begin);
+    if (file.read_at(begin, block.data(), length) != end - begin) {
+      return -1;
+    }
+    const std::size_t last = std::string_view(block.data(), length).find_last_not_of(' ');
+    if (last != std::string_view::npos) {
+      return block[last] == '\n' ? begin + static_cast<std::int64_t>(last) + 1 : size;
+    }
+    end = begin;
+  }
+  return size;
+}
+
+}  // namespace qel::proio

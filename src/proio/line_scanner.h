@@ -1,0 +1,51 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "platform/random_access.h"
+
+namespace qel::proio {
+
+struct Line {
+  std::int64_t start = 0;
+  std::int64_t end = 0;    ///< The offset behind the line and its line break.
+  std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+  bool has_break = false;  ///< Whether the line break belongs to the text: the line ended, and no NUL byte cut it.
+};
+
+/// Walks over the lines of a file.
+///
+/// - A line ends at "\n" or "\r\n", which both count as one character.
+/// - A line of more than 127 characters comes as several.
+/// - A byte order mark at the start of the file belongs to no line.
+class LineScanner {
+ public:
+  static constexpr std::size_t kLongestLine = 127;
+
+  explicit LineScanner(platform::RandomAccess& file);
+  /// Over the contents of a whole file, which outlive the scanner.
+  explicit LineScanner(std::string_view contents);
+
+  /// The next line; false at the end of the file, or when it cannot be read.
+  bool next(Line& line);
+
+ private:
+  void fill();
+  void skip_byte_order_mark();
+
+  platform::RandomAccess* file_ = nullptr;
+  std::array<char, 16 * 1024> buffer_;
+  std::string_view window_;  // what is known of the file from the current position on
+  std::int64_t offset_ = 0;  // of the current position
+  bool at_end_ = false;
+};
+
+/// The length of the contents without the padding that earlier stores left: blanks behind the last line break.
+std::size_t length_without_padding(std::string_view contents);
+
+/// The same for a file, of which no more than its end is read; -1 when it cannot be read.
+std::int64_t length_without_padding(platform::RandomAccess& file);
+
+}  // namespace qel::proio
