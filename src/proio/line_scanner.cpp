@@ -1,7 +1,6 @@
 #include "proio/line_scanner.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace qel::proio {
 namespace {
@@ -30,7 +29,7 @@ void LineScanner::skip_byte_order_mark() {
 // Keeps what is left of the window and reads on behind it. What cannot be read counts as the end of the file.
 void LineScanner::fill() {
   const std::size_t kept = window_.size();
-  std::memmove(buffer_.data(), window_.data(), kept);
+  std::copy(window_.begin(), window_.end(), buffer_.begin());  // towards the front, where the ranges may overlap
   const std::size_t room = buffer_.size() - kept;
   const std::int64_t got = file_->read_at(offset_ + static_cast<std::int64_t>(kept), buffer_.data() + kept, room);
   const auto added = static_cast<std::size_t>(std::max<std::int64_t>(got, 0));

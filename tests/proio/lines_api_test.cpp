@@ -203,7 +203,7 @@ TEST_F(Lines, ReadOnlyFileIsReadAndKept) {
   over(contents);
   using std::filesystem::perms;
   std::filesystem::permissions(std::filesystem::path(path_).parent_path(), perms::all);
-  std::filesystem::permissions(path_, perms::owner_read | perms::others_read);
+  std::filesystem::permissions(path_, perms::owner_read | perms::group_read | perms::others_read);
   EXPECT_TRUE(in_child({.unprivileged = true}, [this] {
     double time = 0;
     return object_.SetFillTime(2, 1) && object_.GetFillTime(time, 1) && time == 1;
