@@ -180,6 +180,29 @@ void store(benchmark::State& state, double first, double second) {
 void store_of_the_same_length(benchmark::State& state) { store(state, 1.25, 5.25); }
 void store_three_bytes_longer_and_shorter(benchmark::State& state) { store(state, 1.25, 1.25125); }
 
+void object_getter(benchmark::State& state) {
+  measure(state, [](const GeneratedFile& file) {
+    CPROIO_Manipulator object;
+    double value = 0;
+    if (!object.SetFilePath(file.path()) || !object.GetMachineScrewDiameter(value)) {
+      std::abort();
+    }
+  });
+}
+
+// With its stamp: two scans, and two writes of what stands behind them.
+void object_setter(benchmark::State& state) {
+  const int middle = static_cast<int>(state.range(0) + 1) / 2;
+  bool odd = false;
+  measure(state, [&](const GeneratedFile& file) {
+    CPROIO_Manipulator object;
+    odd = !odd;
+    if (!object.SetFilePath(file.path()) || !object.SetPackTime(odd ? 1.25 : 5.25, middle)) {
+      std::abort();
+    }
+  });
+}
+
 void loader(benchmark::State& state) {
   measure(state, [](const GeneratedFile& file) {
     CQELProcessData_Manipulator loader;
@@ -196,6 +219,8 @@ BENCHMARK(raw_read_of_an_open_reader)->Apply(sizes);
 BENCHMARK(typed_read_in_order)->Apply(sizes);
 BENCHMARK(store_of_the_same_length)->Apply(sizes);
 BENCHMARK(store_three_bytes_longer_and_shorter)->Apply(sizes);
+BENCHMARK(object_getter)->Apply(sizes);
+BENCHMARK(object_setter)->Apply(sizes);
 BENCHMARK(loader)->Apply(sizes);
 
 }  // namespace

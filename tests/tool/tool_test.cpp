@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "proio/support.h"
 #include "support/run.h"
 #include "support/scratch.h"
 
@@ -121,6 +122,21 @@ TEST(New, MakesAFileThatIsReadInFull) {
   EXPECT_EQ(qelpro({"get", file, "FileHeader", "Name"}).out, "Default.pro\n");
   EXPECT_EQ(qelpro({"get", file, "Flow-1", "FR-2"}).out, "100\t50\n");
   EXPECT_EQ(qelpro({"get", file, "CaeHeader", "FileVersion"}).out, "1008\n");
+  EXPECT_EQ(qelpro({"process", file}).status, 0);
+}
+
+TEST(New, WritesTheDefaultDocument) {
+  const Scratch scratch;
+  const std::string file = scratch.path("new.pro");
+  EXPECT_EQ(qelpro({"new", file}).status, 0);
+  EXPECT_EQ(masked(bytes_of(file)), bytes_of(data_path("proio_default.pro")));
+}
+
+TEST(New, TellsAFileThatCannotBeWritten) {
+  const Scratch scratch;
+  const Outcome outcome = qelpro({"new", scratch.path("missing/new.pro")});
+  EXPECT_EQ(outcome.status, 3);
+  EXPECT_THAT(outcome.err, AllOf(HasSubstr("missing/new.pro"), HasSubstr("cannot be written")));
 }
 
 TEST(New, LeavesAFileThatExistsAlone) {
