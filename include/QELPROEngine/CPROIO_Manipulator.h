@@ -869,5 +869,5 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool ReadBC(long long line, char*& text);
   bool WriteBC(long long line, const char* text);
 
-  const char* path_;
+  const char* path_ = nullptr;
 };

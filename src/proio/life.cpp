@@ -9,12 +9,12 @@
 using namespace qel::proio;
 namespace platform = qel::platform;
 
-CPROIO_Manipulator::CPROIO_Manipulator() : path_(nullptr) {}
+CPROIO_Manipulator::CPROIO_Manipulator() = default;
 CPROIO_Manipulator::CPROIO_Manipulator(const CPROIO_Manipulator& other) = default;
 CPROIO_Manipulator& CPROIO_Manipulator::operator=(const CPROIO_Manipulator& other) = default;
 CPROIO_Manipulator::~CPROIO_Manipulator() = default;
 
-void CPROIO_Manipulator::SetFilePath(char* path) { path_ = path; }
+void CPROIO_Manipulator::SetFilePath(char* path) { path_ = path; }  // NOLINT(readability-non-const-parameter): the constant one looks at the file
 
 bool CPROIO_Manipulator::SetFilePath(const char* path) {
   platform::OsFile file;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -36,7 +37,7 @@ class LineScanner {
   void skip_byte_order_mark();
 
   platform::RandomAccess* file_ = nullptr;
-  std::array<char, 16 * 1024> buffer_;
+  std::array<char, std::size_t{16} * 1024> buffer_;
   std::string_view window_;  // what is known of the file from the current position on
   std::int64_t offset_ = 0;  // of the current position
   bool at_end_ = false;

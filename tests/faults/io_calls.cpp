@@ -1,0 +1,150 @@
+#include "faults/io_calls.h"
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <cstddef>
+#include <cstdio>
+
+namespace qelpro_test::io_calls {
+namespace {
+
+struct Plan {
+  bool armed = false;
+  int at = 0;
+  Failure failure = Failure::none;
+  bool next_write_fails = false;
+  Outcome outcome;
+};
+thread_local Plan plan;
+
+// Whether this call is to fail, or to write less.
+bool is_chosen(const char* name) {
+  if (!plan.armed || ++plan.outcome.calls != plan.at || plan.failure == Failure::none) {
+    return false;
+  }
+  plan.outcome.failed_call = name;
+  return true;
+}
+
+bool fails(const char* name, int error) {
+  if (!is_chosen(name) || plan.failure != Failure::error) {
+    return false;
+  }
+  plan.outcome.failed = true;
+  errno = error;
+  return true;
+}
+
+template <class Function>
+Function* next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+}  // namespace
+
+void fail(int n, Failure failure) { plan = {true, n, failure, false, {}}; }
+
+Outcome stop() {
+  const Outcome outcome = plan.outcome;
+  plan = {};
+  return outcome;
+}
+
+}  // namespace qelpro_test::io_calls
+
+using namespace qelpro_test::io_calls;
+
+#define VISIBLE extern "C" __attribute__((visibility("default")))
+
+VISIBLE int open(const char* path, int flags, ...) {
+  static auto* const real = next<int(const char*, int, ...)>("open");
+  std::va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return fails("open", EIO) ? -1 : real(path, flags, mode);
+}
+
+VISIBLE int close(int fd) {
+  static auto* const real = next<int(int)>("close");
+  if (fails("close", EIO)) {
+    real(fd);
+    errno = EIO;
+    return -1;
+  }
+  return real(fd);
+}
+
+VISIBLE int fstat(int fd, struct stat* status) noexcept {
+  static auto* const real = next<int(int, struct stat*)>("fstat");
+  return fails("fstat", EIO) ? -1 : real(fd, status);
+}
+
+VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
+  static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
+  return fails("pread", EIO) ? -1 : real(fd, to, count, offset);
+}
+
+VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset) {
+  static auto* const real = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
+  if (plan.next_write_fails) {
+    plan.next_write_fails = false;
+    ++plan.outcome.calls;
+    errno = ENOSPC;
+    return -1;
+  }
+  if (is_chosen("pwrite")) {
+    if (plan.failure == Failure::error) {
+      plan.outcome.failed = true;
+      errno = ENOSPC;
+      return -1;
+    }
+    if (count > 1) {
+      plan.outcome.failed = true;
+      plan.next_write_fails = plan.failure == Failure::torn_write;
+      return real(fd, from, count / 2, offset);
+    }
+  }
+  return real(fd, from, count, offset);
+}
+
+VISIBLE int fallocate(int fd, int mode, off_t offset, off_t length) {
+  static auto* const real = next<int(int, int, off_t, off_t)>("fallocate");
+  return fails("fallocate", ENOSPC) ? -1 : real(fd, mode, offset, length);
+}
+
+VISIBLE int ftruncate(int fd, off_t length) noexcept {
+  static auto* const real = next<int(int, off_t)>("ftruncate");
+  return fails("ftruncate", EIO) ? -1 : real(fd, length);
+}
+
+VISIBLE int fseeko(std::FILE* stream, off_t offset, int whence) {
+  static auto* const real = next<int(std::FILE*, off_t, int)>("fseeko");
+  return fails("fseeko", EIO) ? -1 : real(stream, offset, whence);
+}
+
+VISIBLE std::size_t fread(void* to, std::size_t size, std::size_t count, std::FILE* stream) {
+  static auto* const real = next<std::size_t(void*, std::size_t, std::size_t, std::FILE*)>("fread");
+  return real(to, size, count, stream);
+}
+
+VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count, std::FILE* stream) {
+  static auto* const real = next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
+  if (is_chosen("fwrite")) {
+    plan.outcome.failed = true;
+    errno = ENOSPC;
+    const std::size_t half = plan.failure == Failure::error ? 0 : real(from, 1, size * count / 2, stream);
+    return half / size;
+  }
+  return real(from, size, count, stream);
+}
+
+VISIBLE int fflush(std::FILE* stream) {
+  static auto* const real = next<int(std::FILE*)>("fflush");
+  return fails("fflush", ENOSPC) ? EOF : real(stream);
+}
