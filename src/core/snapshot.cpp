@@ -24,6 +24,15 @@ std::optional<int> number_behind(std::string_view text, std::string_view prefix)
   return text.substr(0, prefix.size()) == prefix ? printed_number(text.substr(prefix.size())) : std::nullopt;
 }
 
+// The first characters of a key as a number that orders as they do.
+std::uint64_t front_of(std::string_view key) {
+  std::uint64_t front = 0;
+  for (std::size_t i = 0; i < sizeof front; ++i) {
+    front = front << 8U | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+  }
+  return front;
+}
+
 }  // namespace
 
 bool Snapshot::load(const char* path) {
@@ -39,7 +48,8 @@ bool Snapshot::load(const char* path) {
   if (file.read_at(0, contents_.data(), contents_.size()) != size) {
     return false;
   }
-  sorted_section_ = -1;
+  sections_.clear();
+  sorted_section_ = {};
   LineScanner lines(contents_);
   for (Line line; lines.next_starting_with('[', line);) {
     if (text::is_header(line.text)) {
@@ -49,29 +59,44 @@ bool Snapshot::load(const char* path) {
   return true;
 }
 
-void Snapshot::sort_entries_behind(std::int64_t header_end) {
-  sorted_section_ = header_end;
+bool Snapshot::sort_entries_of(std::string_view section) {
+  if (section == sorted_section_) {
+    return true;
+  }
+  const auto found = sections_.find(std::string(section));
+  if (found == sections_.end()) {
+    return false;
+  }
+  sorted_section_ = found->first;
   sorted_.clear();
-  LineScanner lines(contents_, header_end);
+  LineScanner lines(contents_, found->second);
   for (Line line; lines.next(line) && !text::is_header(line.text);) {
     const std::string_view key = text::first_token(line.text);
     if (!key.empty()) {
-      sorted_.push_back({key, text::entry_value(line.text)});
+      sorted_.push_back({front_of(key), key, text::entry_value(line.text)});
     }
   }
-  std::sort(sorted_.begin(), sorted_.end(),
-            [](const Entry& a, const Entry& b) { return std::pair(a.key, a.key.data()) < std::pair(b.key, b.key.data()); });
+  std::sort(sorted_.begin(), sorted_.end(), [](const Entry& a, const Entry& b) {
+    if (a.front != b.front) {
+      return a.front < b.front;
+    }
+    const int order = a.key.compare(b.key);
+    return order != 0 ? order < 0 : a.key.data() < b.key.data();
+  });
+  return true;
+}
+
+std::vector<Snapshot::Entry>::const_iterator Snapshot::first_from(std::string_view key) const {
+  const std::uint64_t front = front_of(key);
+  return std::lower_bound(sorted_.begin(), sorted_.end(), key,
+                          [front](const Entry& a, std::string_view b) { return a.front != front ? a.front < front : a.key < b; });
 }
 
 std::optional<std::string_view> Snapshot::value(std::string_view section, std::string_view key) {
-  const auto found = sections_.find(std::string(section));
-  if (found == sections_.end()) {
+  if (!sort_entries_of(section)) {
     return std::nullopt;
   }
-  if (found->second != sorted_section_) {
-    sort_entries_behind(found->second);
-  }
-  const auto entry = std::lower_bound(sorted_.begin(), sorted_.end(), key, [](const Entry& a, std::string_view b) { return a.key < b; });
+  const auto entry = first_from(key);
   return entry != sorted_.end() && entry->key == key ? std::optional(entry->value) : std::nullopt;
 }
 
@@ -93,17 +118,15 @@ std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most)
   return result;
 }
 
-std::vector<Snapshot::Numbered> Snapshot::numbered(std::string_view section, std::string_view prefix, int most) const {
+std::vector<Snapshot::Numbered> Snapshot::numbered(std::string_view section, std::string_view prefix, int most) {
   std::vector<Numbered> result;
-  const auto found = sections_.find(std::string(section));
-  if (found == sections_.end()) {
+  if (!sort_entries_of(section)) {
     return result;
   }
-  LineScanner lines(contents_, found->second);
-  for (Line line; lines.next(line) && !text::is_header(line.text);) {
-    const std::optional<int> number = number_behind(text::first_token(line.text), prefix);
+  for (auto entry = first_from(prefix); entry != sorted_.end() && entry->key.substr(0, prefix.size()) == prefix; ++entry) {
+    const std::optional<int> number = number_behind(entry->key, prefix);
     if (number && *number <= most) {
-      result.push_back({*number, text::entry_value(line.text)});
+      result.push_back({*number, entry->value});
     }
   }
   // Of two entries of one key, the first in the file counts.

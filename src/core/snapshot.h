@@ -12,6 +12,13 @@ namespace qel {
 /// A file's contents at one moment, for work that asks for very many keys of it. Its answers are those of one-shot raw reads.
 class Snapshot {
  public:
+  Snapshot() = default;
+  Snapshot(const Snapshot&) = delete;
+  Snapshot& operator=(const Snapshot&) = delete;
+  Snapshot(Snapshot&&) = default;
+  Snapshot& operator=(Snapshot&&) = default;
+  ~Snapshot() = default;
+
   /// False when the file cannot be read.
   bool load(const char* path);
 
@@ -29,20 +36,24 @@ class Snapshot {
   [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
 
   /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order.
-  [[nodiscard]] std::vector<Numbered> numbered(std::string_view section, std::string_view prefix, int most) const;
+  [[nodiscard]] std::vector<Numbered> numbered(std::string_view section, std::string_view prefix, int most);
 
  private:
   struct Entry {
+    std::uint64_t front;   // the key's first characters, which tell most keys apart
     std::string_view key;  // where it stands in the contents
     std::string_view value;
   };
 
-  void sort_entries_behind(std::int64_t header_end);
+  // False where there is no such section.
+  bool sort_entries_of(std::string_view section);
+  // The first of the sorted entries whose key is not below this one.
+  [[nodiscard]] std::vector<Entry>::const_iterator first_from(std::string_view key) const;
 
   std::string contents_;
   std::unordered_map<std::string, std::int64_t> sections_;  // where the line behind the header begins
   std::vector<Entry> sorted_;                               // by key, then by place in the file
-  std::int64_t sorted_section_ = -1;                        // whose entries they are; -1 none
+  std::string_view sorted_section_;                         // whose entries they are
 };
 
 }  // namespace qel

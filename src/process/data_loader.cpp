@@ -88,7 +88,7 @@ void load_array(Snapshot& file, const char* section, const char* count_key, cons
 }
 
 // A list without a count ends before the first number that is missing.
-void load_open_list(const Snapshot& file, const char* section, const char* prefix, QELG_Array<double>& array) {
+void load_open_list(Snapshot& file, const char* section, const char* prefix, QELG_Array<double>& array) {
   int expected = 1;
   for (const Snapshot::Numbered& entry : file.numbered(section, prefix, std::numeric_limits<int>::max())) {
     if (entry.number != expected++) {
