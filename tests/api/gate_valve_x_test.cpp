@@ -151,6 +151,20 @@ TEST_F(GateSetting, ByIdentifierZeroGoesToTheFirstValveWithoutOne) {
   EXPECT_NE(bytes().find("[GateValve-2]\nGCSet = 1\nGC-1 = 5.5\t1\t2"), std::string::npos) << bytes();
 }
 
+TEST_F(GateSetting, ByIdentifierZeroIsUnknownWhereEveryValveBearsOne) {
+  const std::string before = "[Summary]\nTotalGateCTL = 2\n[GateValve-1]\nGCId = 4\n[GateValve-2]\nGCId = 9\n";
+  begin(before);
+  EXPECT_FALSE(writer_.GateValveX_WriteGateSettingByValveGateID(5.5, 1, 2, 1, 0));
+  EXPECT_EQ(bytes(), before);
+}
+
+TEST_F(GateSetting, IsNotWrittenWhereNoFileCouldBeOpened) {
+  EXPECT_FALSE(writer_.SetFilePath(scratch_.path("missing/file.pro").c_str()));
+  EXPECT_FALSE(writer_.GateValveX_WriteGateSetting(5.5, 1, 2, 1, 1));
+  EXPECT_FALSE(writer_.GateValveX_WriteGateSettingByValveGateID(5.5, 1, 2, 1, 0));
+  EXPECT_FALSE(exists(scratch_.path("missing")));
+}
+
 TEST_F(GateSetting, ByIdentifierSeesWhatTheSameWriterWroteBefore) {
   begin("");
   ASSERT_TRUE(writer_.Summary_WriteTotalValveGate(2) && writer_.GateValveX_WriteGateValveID(3, 1) && writer_.GateValveX_WriteGateValveID(8, 2));

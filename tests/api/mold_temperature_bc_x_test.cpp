@@ -250,6 +250,40 @@ TEST(BoundaryConditionBlock, WritesANewPositionalSectionOnceItIsRenamed) {
   EXPECT_EQ(bytes_of(path), before + "\n" + kHeader + "9\tNew\t8\n");
 }
 
+TEST(BoundaryConditionBlock, PositionalMembersFailWhereNoFileCouldBeOpened) {
+  const Scratch scratch;
+  const std::string path = scratch.path("missing/file.pro");
+  Reader reader;
+  EXPECT_FALSE(reader.SetFilePath(path.c_str()));
+  EXPECT_EQ(header(reader, 1).first, -1);
+  double a = -1;
+  double b = -1;
+  EXPECT_FALSE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 1, 1, 1));
+  EXPECT_EQ(a, -1);
+  Writer writer;
+  EXPECT_FALSE(writer.SetFilePath(path.c_str()));
+  char name[] = "Top";
+  EXPECT_FALSE(writer.MoldTemperatureBCX_WriteBC(1, name, 2, 1));
+  EXPECT_FALSE(writer.MoldTemperatureBCX_WriteBCSetting(1, 2, 1, 1, 1));
+}
+
+TEST(BoundaryConditionSetting, OfNumbersBeyondAllLinesIsNotThere) {
+  const Scratch scratch;
+  const std::string contents = std::string("[A]\n") + kHeader + "2147483647\tTop\t0\n2147483647\tSide\t0\n";
+  const std::string path = scratch.file(contents);
+  Reader reader;
+  Writer writer;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()) && writer.SetFilePath(path.c_str()));
+  double a = -1;
+  double b = -1;
+  EXPECT_FALSE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 2147483647, 3, 2147483647));
+  EXPECT_FALSE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 1, 1, -5));
+  EXPECT_FALSE(writer.MoldTemperatureBCX_WriteBCSetting(a, b, 2147483647, 3, 2147483647));
+  EXPECT_FALSE(writer.MoldTemperatureBCX_WriteBCSetting(a, b, 1, 1, -5));
+  EXPECT_EQ(a, -1);
+  EXPECT_EQ(bytes_of(path), contents);
+}
+
 TEST(BoundaryConditionBlock, PositionalMembersNeedAFile) {
   Reader reader;
   EXPECT_EQ(header(reader, 1).first, -1);

@@ -185,6 +185,12 @@ TEST_F(Lines, TextWithALineFeedIsWrittenAsItStands) {
   EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "any remark\n"));
 }
 
+TEST_F(Lines, LineFeedOfATextBecomesTheFilesOwnLineBreak) {
+  char text[] = "one\ntwo\r\n";
+  EXPECT_TRUE(over("[FileHeader]\r\nDate = x\r\n[Machine]\r\nRemark = 1\r\n").SetMachineRemark(text));
+  EXPECT_NE(bytes().find("[Machine]\r\nRemark         = one\r\ntwo\r\n\r\n"), std::string::npos) << bytes();
+}
+
 TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
   path_ = scratch_.path("missing/file.pro");
   object_.SetFilePath(path_.data());
