@@ -117,7 +117,7 @@ bool is_huge(const Mantissa& number) {
 
 }  // namespace
 
-bool scan_int(const char*& at, int& value) {
+bool scan_int64(const char*& at, std::int64_t& value) {
   const char* p = at;
   skip_space(p);
   const bool negative = *p == '-';
@@ -134,8 +134,17 @@ bool scan_int(const char*& at, int& value) {
     const auto digit = static_cast<std::uint64_t>(*p - '0');
     magnitude = magnitude > (limit - digit) / 10 ? limit : magnitude * 10 + digit;
   }
-  value = static_cast<int>(static_cast<std::uint32_t>(negative ? 0 - magnitude : magnitude));
+  value = static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude);
   at = p;
+  return true;
+}
+
+bool scan_int(const char*& at, int& value) {
+  std::int64_t wide = 0;
+  if (!scan_int64(at, wide)) {
+    return false;
+  }
+  value = static_cast<int>(static_cast<std::uint32_t>(wide));
   return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace qel::platform {
@@ -11,6 +12,9 @@ namespace qel::platform {
 
 /// "%d": leading white space, a sign, decimal digits; a number that is too large wraps to 32 bits.
 bool scan_int(const char*& at, int& value);
+
+/// "%lld": the same, a number that is too large being the largest of its sign.
+bool scan_int64(const char*& at, std::int64_t& value);
 
 /// "%lf": leading white space, a sign, a decimal or hexadecimal number, "inf", "infinity" or "nan".
 bool scan_real(const char*& at, double& value);

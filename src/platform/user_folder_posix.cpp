@@ -12,7 +12,14 @@ std::string user_folder() {
     return folder;
   }
   const char* home = std::getenv("HOME");
-  return home != nullptr && *home != '\0' ? std::string(home) + "/.config" : std::string();
+  if (home == nullptr || *home == '\0') {
+    return {};
+  }
+  std::string in_home = home;
+  if (in_home.back() != kPathSeparator) {
+    in_home += kPathSeparator;
+  }
+  return in_home + ".config";
 }
 
 }  // namespace qel::platform

@@ -17,7 +17,7 @@ BoundedLines::BoundedLines(platform::RandomAccess& file) : file_(&file), block_(
   }
 }
 
-bool BoundedLines::next_byte(char& byte) {
+bool BoundedLines::fill() {
   if (at_ == length_) {
     const std::int64_t got = file_->read_at(offset_, block_.get(), kBlock);
     if (got <= 0) {
@@ -27,23 +27,30 @@ bool BoundedLines::next_byte(char& byte) {
     length_ = static_cast<std::size_t>(got);
     at_ = 0;
   }
-  byte = block_[at_++];
+  return true;
+}
+
+bool BoundedLines::next_character(char& character) {
+  if (!fill()) {
+    return false;
+  }
+  character = block_[at_++];
+  if (character == '\r' && fill() && block_[at_] == '\n') {
+    character = block_[at_++];
+  }
   return true;
 }
 
 bool BoundedLines::next(std::string& line) {
   line.clear();
   bool any = false;
-  char byte = '\0';
-  while (line.size() < kLongestLine && next_byte(byte)) {
+  char character = '\0';
+  while (line.size() < kLongestLine && next_character(character)) {
     any = true;
-    if (byte == '\n') {
-      if (!line.empty() && line.back() == '\r') {
-        line.pop_back();
-      }
+    if (character == '\n') {
       break;
     }
-    line += byte;
+    line += character;
   }
   line.resize(std::char_traits<char>::length(line.c_str()));
   return any;

@@ -24,7 +24,10 @@ class BoundedLines {
   static constexpr std::size_t kLongestLine = 1023;
 
  private:
-  bool next_byte(char& byte);
+  /// Makes a byte of the file stand at `at_`; false at its end.
+  bool fill();
+  /// The next character, "\r\n" being one.
+  bool next_character(char& character);
 
   platform::RandomAccess* file_;
   std::unique_ptr<char[]> block_;

@@ -17,8 +17,8 @@ bool contains(std::string_view line, std::string_view text) { return line.find(t
 void read_row(const std::string& key, const char* numbers, Coolant& coolant) {
   constexpr std::string_view kRow = "Data-";
   const char* at = key.c_str() + key.find(kRow) + kRow.size();
-  int number = 0;
-  if (!platform::scan_int(at, number) || number < 1 || number > coolant.row_count) {
+  std::int64_t number = 0;
+  if (!platform::scan_int64(at, number) || number < 1 || number > coolant.row_count) {
     return;
   }
   Coolant::Row row{};
@@ -27,7 +27,7 @@ void read_row(const std::string& key, const char* numbers, Coolant& coolant) {
       return;
     }
   }
-  coolant.rows[number - 1] = row;
+  coolant.rows[static_cast<int>(number - 1)] = row;
 }
 
 // A key, a blank or the first "=", and a value. The keys are told by what they contain.
@@ -49,10 +49,10 @@ void read_entry(std::string line, Coolant& coolant) {
     coolant.name = value;
   } else if (contains(key, "DataCount")) {
     const char* number = value.c_str();
-    coolant.rows.clear();
-    coolant.row_count = 0;
-    platform::scan_int(number, coolant.row_count);
-    coolant.valid = coolant.row_count > 0;
+    if (platform::scan_int(number, coolant.row_count)) {
+      coolant.rows.clear();
+      coolant.valid = coolant.row_count > 0;
+    }
   } else if (contains(key, "Data-")) {
     read_row(key, behind_key, coolant);
   }

@@ -25,6 +25,9 @@ double interpolate(const Column& x, const Column& y, std::int64_t rows, double t
     const double behind = x(row);
     if (before <= t && behind >= t) {
       const double value = y(row - 1);
+      if (t == before) {
+        return value;
+      }
       return t == behind ? y(row) : value + (y(row) - value) * (t - before) / (behind - before);
     }
   }

@@ -39,6 +39,7 @@ struct QELMachineRecord {
   Path user_bank;
   Path identification;
   qel::refdata::Makers makers;
+  std::vector<const std::string*> makers_in_order;
 };
 
 namespace {
@@ -71,6 +72,15 @@ void set_path(QELMachineRecord* record, Path QELMachineRecord::*path, const Char
 bool copy_bounded(const std::string& text, char* buffer, unsigned int size) {
   std::strncpy(buffer, text.c_str(), size);
   return true;
+}
+
+std::vector<const std::string*> in_order(const qel::refdata::Makers& makers) {
+  std::vector<const std::string*> names;
+  names.reserve(makers.size());
+  for (const auto& maker : makers) {
+    names.push_back(&maker.first);
+  }
+  return names;
 }
 
 const std::vector<std::string>* grades_of(const QELMachineRecord* record, const char* maker) {
@@ -127,21 +137,24 @@ bool CQELMachineIdentification::LoadFileData() try {
   if (record_ == nullptr) {
     return false;
   }
+  record_->makers_in_order.clear();
   record_->makers.clear();
   record_->handed_out.clear();
   qel::platform::OsFile file;
-  return record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+  const bool loaded = record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+  record_->makers_in_order = in_order(record_->makers);
+  return loaded;
 } catch (const std::bad_alloc&) {
   return false;
 }
 
-int CQELMachineIdentification::GetMakerCount() { return record_ != nullptr ? static_cast<int>(record_->makers.size()) : 0; }
+int CQELMachineIdentification::GetMakerCount() { return record_ != nullptr ? static_cast<int>(record_->makers_in_order.size()) : 0; }
 
 bool CQELMachineIdentification::GetMaker(int index, char* buffer, unsigned int size) {
   if (index < 0 || index >= GetMakerCount() || buffer == nullptr || size == 0) {
     return false;
   }
-  return copy_bounded(std::next(record_->makers.begin(), index)->first, buffer, size);
+  return copy_bounded(*record_->makers_in_order[static_cast<std::size_t>(index)], buffer, size);
 }
 
 int CQELMachineIdentification::GetGradeCount(const char* maker) {
@@ -158,7 +171,7 @@ bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buf
 
 bool CQELMachineIdentification::GetAllMaker(const char*** makers, int* count) {
   return record_ != nullptr && hand_out(
-                                   *record_, record_->makers, [](const auto& maker) -> const std::string& { return maker.first; }, makers, count);
+                                   *record_, record_->makers_in_order, [](const std::string* maker) -> const std::string& { return *maker; }, makers, count);
 }
 
 bool CQELMachineIdentification::GetAllGrade(const char* maker, const char*** grades, int* count) {

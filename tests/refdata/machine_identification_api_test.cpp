@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -323,6 +324,22 @@ TEST_F(MachineBank, SeesALongLineInPieces) {
   EXPECT_THAT(all_makers(machines_), IsEmpty()) << "the second piece begins with no number, and the flag stays 0";
 }
 
+TEST_F(MachineBank, CountsEitherLineBreakAsOneCharacterOfALongLine) {
+  // 21 fields and a comma; a "\r" that came into the piece would be the 22nd field.
+  std::string record = machine("A", "1", 21);
+  record.pop_back();
+  for (std::size_t size = 1018; size <= 1026; ++size) {
+    const std::string line = record + std::string(size - record.size(), ',');
+    for (const char* line_break : {"\n", "\r\n"}) {
+      EXPECT_TRUE(load(kBefore + line + line_break + machine("B", "2")));
+      EXPECT_THAT(all_makers(machines_), ElementsAre("B")) << size;
+    }
+  }
+  std::string long_head = record + std::string(1021 - record.size(), ',');
+  EXPECT_TRUE(load(kBefore + long_head + "\rx\r\n"));
+  EXPECT_THAT(all_makers(machines_), ElementsAre("A")) << "a \"\\r\" inside of a line is a character of its own";
+}
+
 TEST_F(MachineBank, SurvivesHostileFiles) {
   using namespace std::string_literals;
   const std::string binary = "\0\x01\xFF[Header]\0Version 7007\n\xFE\xFE"s;
@@ -332,6 +349,27 @@ TEST_F(MachineBank, SurvivesHostileFiles) {
     EXPECT_TRUE(load(contents));
     EXPECT_LE(machines_.GetMakerCount(), 1);
   }
+}
+
+TEST_F(MachineBank, HandsOutEachOfManyMakersInTheirOrder) {
+  std::string contents = kBefore;
+  std::vector<std::string> makers;
+  for (int number = 0; number < 40000; ++number) {
+    makers.push_back("M" + std::to_string(number * 7919 % 40000));
+    contents += machine(makers.back(), "1");
+  }
+  std::sort(makers.begin(), makers.end());
+  ASSERT_TRUE(load(contents));
+  ASSERT_EQ(machines_.GetMakerCount(), 40000);
+  for (int index = 0; index < 40000; ++index) {
+    char maker[16] = "";
+    ASSERT_TRUE(machines_.GetMaker(index, maker, sizeof maker));
+    ASSERT_EQ(maker, makers[static_cast<std::size_t>(index)]);
+  }
+  machines_.SetMachineUserBankPath("no such file");
+  EXPECT_FALSE(machines_.LoadFileData());
+  char maker[16] = "";
+  EXPECT_FALSE(machines_.GetMaker(0, maker, sizeof maker));
 }
 
 TEST_F(MachineBank, OfAFrontEndIsReadInFull) {

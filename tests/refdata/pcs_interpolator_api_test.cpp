@@ -112,7 +112,7 @@ TEST_F(CoolantTables, LeaveRowsWithoutFiveNumbersAtZero) {
 TEST_F(CoolantTables, IgnoreRowsOutsideOfTheCount) {
   ASSERT_TRUE(
       load("[Coolant-1]\nDataCount = 1\nData-0 = 1 9 9 9 9\nData-2 = 1 9 9 9 9\nData--1 = 1 9 9 9 9\nData-x = 1 9 9 9 9\nData-1 = 0 1 2 3 4\n"
-           "Data-2147483648 = 1 9 9 9 9\n"));
+           "Data-2147483648 = 1 9 9 9 9\nData-4294967297 = 1 9 9 9 9\nData--4294967295 = 1 9 9 9 9\nData-18446744073709551617 = 1 9 9 9 9\n"));
   EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4}));
 }
 
@@ -121,6 +121,13 @@ TEST_F(CoolantTables, IgnoreRowsBeforeTheCountAndForgetThemAtANewOne) {
   EXPECT_EQ(at(1, 0), Properties({0, 0, 0, 0}));
   ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 9 9 9 9\nDataCount = 1\n"));
   EXPECT_EQ(at(1, 0), Properties({0, 0, 0, 0}));
+}
+
+TEST_F(CoolantTables, KeepTheirCountAndRowsOverALineWithoutACount) {
+  ASSERT_TRUE(load(std::string(kTwoRows) + "DataCount = many\nDataCount =\nDataCount = -\n"));
+  EXPECT_EQ(at(1, 15), Properties({2, 4, 0, 4}));
+  ASSERT_TRUE(load("[Coolant-1]\nDataCount = many\nDataCount = 1\nData-1 = 0 1 2 3 4\n"));
+  EXPECT_EQ(at(1, 15), Properties({1, 2, 3, 4}));
 }
 
 TEST_F(CoolantTables, TakeTheLastOfTwoLinesOfOneRow) {
@@ -315,6 +322,19 @@ TEST_F(CoolantTables, GiveTheRowWhereTwoRowsHaveOneArgument) {
   EXPECT_EQ((*at(1, 2.5))[0], 8);
 }
 
+TEST_F(CoolantTables, GiveARowOfTheirArgumentBesideAnInfiniteOne) {
+  std::string contents = "[Coolant-1]\nDataCount = 40\n";
+  for (int row = 1; row <= 40; ++row) {
+    contents += "Data-" + std::to_string(row) + " = " + std::to_string(row) + (row % 2 == 0 ? " 2 2 2 2\n" : " inf 1 1 1\n");
+  }
+  ASSERT_TRUE(load(contents));
+  for (int row = 1; row <= 40; ++row) {
+    const auto properties = at(1, row);
+    ASSERT_TRUE(properties.has_value());
+    EXPECT_EQ((*properties)[0], row % 2 == 0 ? 2.0 : HUGE_VAL) << row;
+  }
+}
+
 TEST_F(CoolantTables, OfAHugeCountCostNoMoreThanTheirRows) {
   const auto begin = std::chrono::steady_clock::now();
   ASSERT_TRUE(load("[Coolant-1]\nDataCount = 2147483647\nData-1 = 10 1 2 3 4\nData-2147483647 = 20 5 6 7 8\nData-1000000 = 15 9 9 9 9\n"));
@@ -401,6 +421,8 @@ TEST_F(UserFile, StandsInTheFolderOfSettings) {
 TEST_F(UserFile, StandsBelowTheHomeFolderOtherwise) {
   for (const auto& config : {std::optional<std::string>(), std::optional<std::string>("")}) {
     set("XDG_CONFIG_HOME", config);
+    set("HOME", "/somewhere/engineer/");
+    EXPECT_EQ(path(), "/somewhere/engineer/.config/Kestrel/Vantor R14.0/PROCoolantSetting.pcs");
     set("HOME", "/somewhere/engineer");
     EXPECT_EQ(path(), "/somewhere/engineer/.config/Kestrel/Vantor R14.0/PROCoolantSetting.pcs");
   }
