@@ -18,9 +18,11 @@ const char* find_byte(const char* begin, std::size_t count, char byte) { return 
 }  // namespace
 
 LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected)
-    : file_(&file), capacity_(expected), window_offset_(from) {
-  buffer_.reset(new char[capacity_]);
-  window_ = buffer_.get();
+    : file_(&file), window_offset_(from), capacity_(expected) {
+  if (capacity_ > sizeof few_) {
+    buffer_.reset(new char[capacity_]);
+  }
+  window_ = block();
   while (from == 0 && length_ < kByteOrderMark.size() && read_more()) {
   }
   if (from == 0 && std::string_view(window_, length_).substr(0, kByteOrderMark.size()) == kByteOrderMark) {
@@ -28,8 +30,8 @@ LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::s
   }
 }
 
-LineScanner::LineScanner(std::string_view contents, std::int64_t from)
-    : window_(contents.data()), length_(contents.size()), at_(static_cast<std::size_t>(from)), at_end_(true) {
+LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_hold_nul)
+    : window_(contents.data()), length_(contents.size()), at_(static_cast<std::size_t>(from)), at_end_(true), may_hold_nul_(may_hold_nul) {
   if (from == 0 && contents.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
     at_ = kByteOrderMark.size();
   }
@@ -47,18 +49,21 @@ bool LineScanner::read_more() {
     buffer_ = std::move(larger);
     capacity_ = kBlock;
   } else {
-    std::memmove(buffer_.get(), window_ + at_, kept);
+    std::memmove(block(), window_ + at_, kept);
   }
-  window_ = buffer_.get();
+  window_ = block();
   window_offset_ += static_cast<std::int64_t>(at_);
   at_ = 0;
   length_ = kept;
   const std::size_t room = capacity_ - length_;
-  const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), buffer_.get() + length_, room);
+  char* const behind = block() + length_;
+  const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), behind, room);
   failed_ = got < 0;
-  at_end_ = failed_ || static_cast<std::size_t>(got) < room;
-  length_ += failed_ ? 0 : static_cast<std::size_t>(got);
-  return got > 0;
+  const std::size_t added = failed_ ? 0 : static_cast<std::size_t>(got);
+  at_end_ = added < room;
+  may_hold_nul_ = may_hold_nul_ || find_byte(behind, added, '\0') != nullptr;
+  length_ += added;
+  return added > 0;
 }
 
 // Whether everything from here to the end of the file is blanks.
@@ -118,7 +123,7 @@ bool LineScanner::next(Line& line) {
   }
   line.start = window_offset_ + static_cast<std::int64_t>(at_);
   line.end = line.start + static_cast<std::int64_t>(consumed);
-  const char* terminator = find_byte(begin, length, '\0');
+  const char* terminator = may_hold_nul_ ? find_byte(begin, length, '\0') : nullptr;
   line.text = {begin, terminator != nullptr ? static_cast<std::size_t>(terminator - begin) : length};
   at_ += consumed;
   return true;

@@ -23,8 +23,11 @@ class LineScanner {
  public:
   /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects to read.
   LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock);
-  /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line begins.
-  explicit LineScanner(std::string_view contents, std::int64_t from = 0);
+  /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line begins. A caller that
+  /// knows that they hold no NUL byte saves a search of each line.
+  explicit LineScanner(std::string_view contents, std::int64_t from = 0, bool may_hold_nul = true);
+  LineScanner(const LineScanner&) = delete;
+  LineScanner& operator=(const LineScanner&) = delete;
 
   /// The next line; false at the end of the file, or when it cannot be read.
   bool next(Line& line);
@@ -41,18 +44,21 @@ class LineScanner {
   bool read_more();
   bool is_padding(std::size_t begin);
   [[nodiscard]] std::size_t available() const { return length_ - at_; }
+  char* block() { return buffer_ != nullptr ? buffer_.get() : few_; }
 
   platform::RandomAccess* file_ = nullptr;
-  std::unique_ptr<char[]> buffer_;
-  std::size_t capacity_ = 0;
   const char* window_ = nullptr;
   std::int64_t window_offset_ = 0;
+  std::size_t capacity_ = 0;
   std::size_t length_ = 0;
   std::size_t at_ = 0;
   bool at_end_ = false;
   bool failed_ = false;
   bool inside_long_line_ = false;
+  bool may_hold_nul_ = false;
   std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
+  std::unique_ptr<char[]> buffer_;      // null while a few lines are all that is expected
+  char few_[512];
 };
 
 /// The length of the contents without the padding that an earlier store left at their end: behind the last line break,

@@ -5,8 +5,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "core/line_scanner.h"
+#include "core/offset_table.h"
 #include "platform/random_access.h"
 
 namespace qel {
@@ -30,12 +32,22 @@ class SectionIndex {
     std::int64_t passed = 0;  ///< Up to here its lines are learnt; 0 while that is not known of the file at hand.
   };
 
+  SectionIndex() = default;
+  SectionIndex(const SectionIndex&) = delete;
+  SectionIndex& operator=(const SectionIndex&) = delete;
+
   Section& learn_section(std::string_view name, std::int64_t offset);
-  void learn_line(std::string_view section, std::string_view key, std::int64_t offset);
 
   /// Null for a section that has not been passed.
   [[nodiscard]] Section* section(std::string_view name);
-  [[nodiscard]] std::optional<std::int64_t> line(std::string_view section, std::string_view key) const;
+
+  /// The one name under which a line is looked up: its section's and its key's joined, as they are spelled in the file.
+  /// Valid until the next call with the same purpose.
+  enum class Purpose { looked_for, passed };
+  OffsetTable::Name line_name(Purpose purpose, std::string_view section, std::string_view key);
+
+  void learn_line(const OffsetTable::Name& name, std::int64_t offset);
+  [[nodiscard]] std::optional<std::int64_t> line(const OffsetTable::Name& name) const { return lines_.find(name); }
 
   /// The greatest offset of a line learnt so far: the headers before it are all known. 0 while no line is known.
   [[nodiscard]] std::int64_t furthest_line() const { return furthest_; }
@@ -45,8 +57,10 @@ class SectionIndex {
 
  private:
   std::unordered_map<std::string, Section> sections_;
-  std::unordered_map<std::string, std::int64_t> lines_;
+  std::pair<const std::string, Section>* last_section_ = nullptr;  // the one that was asked for last
+  OffsetTable lines_;
   std::int64_t furthest_ = 0;
+  std::string names_[2];
 };
 
 /// The plain scan: the section begins at the first line whose first token is its name, and a key is searched for from

@@ -1,7 +1,9 @@
 #include "core/snapshot.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstring>
 #include <system_error>
 #include <utility>
 
@@ -26,9 +28,11 @@ std::optional<int> number_behind(std::string_view text, std::string_view prefix)
 
 // The first characters of a key as a number that orders as they do.
 std::uint64_t front_of(std::string_view key) {
+  std::array<unsigned char, sizeof(std::uint64_t)> first{};
+  std::memcpy(first.data(), key.data(), std::min(key.size(), first.size()));
   std::uint64_t front = 0;
-  for (std::size_t i = 0; i < sizeof front; ++i) {
-    front = front << 8U | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+  for (const unsigned char byte : first) {
+    front = front << 8U | byte;
   }
   return front;
 }
@@ -50,7 +54,8 @@ bool Snapshot::load(const char* path) {
   }
   sections_.clear();
   sorted_section_ = {};
-  LineScanner lines(contents_);
+  may_hold_nul_ = contents_.find('\0') != std::string::npos;
+  LineScanner lines(contents_, 0, may_hold_nul_);
   for (Line line; lines.next_starting_with('[', line);) {
     if (text::is_header(line.text)) {
       sections_.try_emplace(std::string(text::first_token(line.text)), line.end);
@@ -69,7 +74,7 @@ bool Snapshot::sort_entries_of(std::string_view section) {
   }
   sorted_section_ = found->first;
   sorted_.clear();
-  LineScanner lines(contents_, found->second);
+  LineScanner lines(contents_, found->second, may_hold_nul_);
   for (Line line; lines.next(line) && !text::is_header(line.text);) {
     const std::string_view key = text::first_token(line.text);
     if (!key.empty()) {

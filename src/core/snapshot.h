@@ -51,6 +51,7 @@ class Snapshot {
   [[nodiscard]] std::vector<Entry>::const_iterator first_from(std::string_view key) const;
 
   std::string contents_;
+  bool may_hold_nul_ = false;
   std::unordered_map<std::string, std::int64_t> sections_;  // where the line behind the header begins
   std::vector<Entry> sorted_;                               // by key, then by place in the file
   std::string_view sorted_section_;                         // whose entries they are

@@ -1,18 +1,36 @@
 #include "core/text.h"
 
-#include <algorithm>
-
 namespace qel::text {
 namespace {
 
-constexpr std::string_view kTokenEnd = " \t=";
-constexpr std::string_view kTrailing = " \t\n";
-
 bool ends_token(char c) { return c == ' ' || c == '\t' || c == '='; }
+
+// These walk byte by byte: names and blanks are short, and a search for one of several characters costs a call for each byte.
+std::string_view without_leading_blanks(std::string_view text) {
+  std::size_t blanks = 0;
+  while (blanks < text.size() && text[blanks] == ' ') {
+    ++blanks;
+  }
+  return text.substr(blanks);
+}
+
+std::string_view without_trailing(std::string_view text) {
+  std::size_t length = text.size();
+  while (length > 0 && (text[length - 1] == ' ' || text[length - 1] == '\t' || text[length - 1] == '\n')) {
+    --length;
+  }
+  return text.substr(0, length);
+}
 
 }  // namespace
 
-std::string_view first_token(std::string_view line) { return line.substr(0, line.find_first_of(kTokenEnd)); }
+std::string_view first_token(std::string_view line) {
+  std::size_t length = 0;
+  while (length < line.size() && !ends_token(line[length])) {
+    ++length;
+  }
+  return line.substr(0, length);
+}
 
 bool first_token_is(std::string_view line, std::string_view token) {
   return !token.empty() && line.substr(0, token.size()) == token && (line.size() == token.size() || ends_token(line[token.size()])) &&
@@ -24,20 +42,17 @@ std::string_view entry_value(std::string_view line) {
   return equals == std::string_view::npos ? std::string_view{} : index_value(line.substr(equals + 1));
 }
 
-std::string_view index_value(std::string_view line) {
-  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-  return trim_end(line, kTrailing);
-}
+std::string_view index_value(std::string_view line) { return without_trailing(without_leading_blanks(line)); }
 
 bool is_header(std::string_view line) {
-  line = trim_end(line, kTrailing);
-  return line.size() > 1 && line.front() == '[' && line.back() == ']';
+  if (line.empty() || line.front() != '[') {
+    return false;
+  }
+  line = without_trailing(line);
+  return line.size() > 1 && line.back() == ']';
 }
 
-std::string_view trim_blanks(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return trim_end(text, " ");
-}
+std::string_view trim_blanks(std::string_view text) { return trim_end(without_leading_blanks(text), " "); }
 
 std::string_view trim_end(std::string_view text, std::string_view characters) {
   const std::size_t last = text.find_last_not_of(characters);

@@ -40,12 +40,9 @@ struct Mantissa {
   bool hexadecimal;
 };
 
-bool lex_number(const char* at, Mantissa& number) {
-  number.hexadecimal = at[0] == '0' && lower(at[1]) == 'x';
-  if (number.hexadecimal) {
-    at += 2;
-  }
-  const auto digit = number.hexadecimal ? is_hex_digit : is_digit;
+template <bool hexadecimal>
+bool lex_digits(const char* at, Mantissa& number) {
+  const auto digit = [](char c) { return hexadecimal ? is_hex_digit(c) : is_digit(c); };
   number.begin = at;
   bool any = false;
   for (; digit(*at); ++at) {
@@ -61,7 +58,7 @@ bool lex_number(const char* at, Mantissa& number) {
     return false;
   }
   number.value_end = number.consumed_end = at;
-  if (lower(*at) == (number.hexadecimal ? 'p' : 'e')) {
+  if (lower(*at) == (hexadecimal ? 'p' : 'e')) {
     // An exponent without digits is consumed and counts as none.
     ++at;
     if (*at == '+' || *at == '-') {
@@ -77,6 +74,11 @@ bool lex_number(const char* at, Mantissa& number) {
     }
   }
   return true;
+}
+
+bool lex_number(const char* at, Mantissa& number) {
+  number.hexadecimal = at[0] == '0' && lower(at[1]) == 'x';
+  return number.hexadecimal ? lex_digits<true>(at + 2, number) : lex_digits<false>(at, number);
 }
 
 // Whether a number beyond the range of a double is too large rather than too small.

@@ -67,8 +67,9 @@ void load_list(Snapshot& file, const char* section, const char* count_key, const
   if (!count) {
     return;
   }
+  std::string text;
   for (const Snapshot::Numbered& entry : file.numbered(section, prefix, to_int(std::string(*count).c_str()))) {
-    append(std::string(entry.value));
+    append(text.assign(entry.value));
   }
 }
 

@@ -17,7 +17,9 @@ LineScanner::LineScanner(platform::RandomAccess& file) : file_(&file) {
   skip_byte_order_mark();
 }
 
-LineScanner::LineScanner(std::string_view contents) : window_(contents), at_end_(true) { skip_byte_order_mark(); }
+LineScanner::LineScanner(std::string_view contents) : window_(contents), at_end_(true), may_hold_nul_(contents.find('\0') != std::string_view::npos) {
+  skip_byte_order_mark();
+}
 
 void LineScanner::skip_byte_order_mark() {
   if (window_.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
@@ -34,6 +36,7 @@ void LineScanner::fill() {
   const std::int64_t got = file_->read_at(offset_ + static_cast<std::int64_t>(kept), buffer_.data() + kept, room);
   const auto added = static_cast<std::size_t>(std::max<std::int64_t>(got, 0));
   window_ = {buffer_.data(), kept + added};
+  may_hold_nul_ = may_hold_nul_ || window_.substr(kept).find('\0') != std::string_view::npos;
   at_end_ = added < room;
 }
 
@@ -57,7 +60,7 @@ bool LineScanner::next(Line& line) {
   line.start = offset_;
   line.end = offset_ + static_cast<std::int64_t>(consumed);
   const std::string_view whole = ahead.substr(0, length);
-  line.text = whole.substr(0, whole.find('\0'));
+  line.text = may_hold_nul_ ? whole.substr(0, whole.find('\0')) : whole;
   line.has_break = ended && line.text.size() == length;
   window_.remove_prefix(consumed);
   offset_ = line.end;

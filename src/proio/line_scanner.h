@@ -41,6 +41,7 @@ class LineScanner {
   std::string_view window_;  // what is known of the file from the current position on
   std::int64_t offset_ = 0;  // of the current position
   bool at_end_ = false;
+  bool may_hold_nul_ = false;
 };
 
 /// The length of the contents without the padding that earlier stores left: blanks behind the last line break.

@@ -121,7 +121,13 @@ bool Contents::overwrite(std::size_t at, std::string_view bytes) {
 
 }  // namespace
 
-bool is_match(std::string_view line, std::string_view name) { return line.substr(0, line.find_first_of("\t\n =")) == name; }
+bool is_match(std::string_view line, std::string_view name) {
+  constexpr std::string_view kWordEnd = "\t\n =";
+  if (line.substr(0, name.size()) != name || name.find_first_of(kWordEnd) != std::string_view::npos) {
+    return false;
+  }
+  return line.size() == name.size() || kWordEnd.find(line[name.size()]) != std::string_view::npos;
+}
 
 bool seek_section(LineScanner& lines, std::string_view section) {
   for (Line line; lines.next(line);) {

@@ -170,8 +170,9 @@ bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buf
 }
 
 bool CQELMachineIdentification::GetAllMaker(const char*** makers, int* count) {
-  return record_ != nullptr && hand_out(
-                                   *record_, record_->makers_in_order, [](const std::string* maker) -> const std::string& { return *maker; }, makers, count);
+  return record_ != nullptr &&
+         hand_out(
+             *record_, record_->makers_in_order, [](const std::string* maker) -> const std::string& { return *maker; }, makers, count);
 }
 
 bool CQELMachineIdentification::GetAllGrade(const char* maker, const char*** grades, int* count) {

@@ -32,6 +32,9 @@ class Indexed : public testing::Test {
     std::optional<LineScanner> lines;
     return text_of(find_indexed(file, target, index, lines));
   }
+  std::optional<std::int64_t> offset_of(const std::string& section, const std::string& key) {
+    return index.line(index.line_name(SectionIndex::Purpose::looked_for, section, key));
+  }
 
   MemoryFile file;
   SectionIndex index;
@@ -139,11 +142,11 @@ TEST_F(Indexed, LearnsFirstTokensOfHeaders) {
 TEST_F(Indexed, LearnsTheEntriesItPassesInsideTheWantedSectionAlone) {
   file.bytes = "[A]\na = 1\n[B]\nb = 2\nno entry\nc=3\nd = 4\n";
   EXPECT_EQ(find({"[B]", "c"}), "c=3");
-  EXPECT_FALSE(index.line("[A]", "a"));
-  EXPECT_EQ(index.line("[B]", "b"), 14);
-  EXPECT_FALSE(index.line("[B]", "no"));
-  EXPECT_EQ(index.line("[B]", "c"), 29);
-  EXPECT_FALSE(index.line("[B]", "d"));
+  EXPECT_FALSE(offset_of("[A]", "a"));
+  EXPECT_EQ(offset_of("[B]", "b"), 14);
+  EXPECT_FALSE(offset_of("[B]", "no"));
+  EXPECT_EQ(offset_of("[B]", "c"), 29);
+  EXPECT_FALSE(offset_of("[B]", "d"));
   EXPECT_EQ(index.furthest_line(), 29);
 }
 
@@ -216,7 +219,7 @@ TEST_F(Indexed, FindsNothingWhereTheFileEndsBeforeAKnownLine) {
 }
 
 TEST_F(Indexed, TakesAKnownLineAtOffsetZeroForNotFoundInEveryFile) {
-  index.learn_line("[A]", "x", 0);
+  index.learn_line(OffsetTable::Name("[A]x"), 0);
   file.bytes = "x = 1\n";
   EXPECT_EQ(find({"[A]", "x"}), kNothing);
   file.bytes = "\xEF\xBB\xBFx = 1\n";
