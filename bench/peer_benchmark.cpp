@@ -2,6 +2,7 @@
 
 #include <QELPROEngine/QELPROEngine.h>
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -108,6 +109,20 @@ void engine_every_key(benchmark::State& state) {
     }
     benchmark::DoNotOptimize(sum);
   }
+}
+
+// What reading each key's line from the file costs whoever does it: one read of a few bytes for each.
+void one_system_call_a_key(benchmark::State& state) {
+  const GeneratedFile file(static_cast<int>(state.range(0)));
+  const std::size_t keys = questions_of(static_cast<int>(state.range(0))).size();
+  const int descriptor = ::open(file.path(), O_RDONLY | O_CLOEXEC);
+  char line[64];
+  for (auto _ : state) {
+    for (std::size_t key = 0; key < keys; ++key) {
+      benchmark::DoNotOptimize(::pread(descriptor, line, sizeof line, static_cast<off_t>(key * 24)));
+    }
+  }
+  ::close(descriptor);
 }
 
 template <class Peer, bool shuffled>
@@ -219,6 +234,7 @@ BENCHMARK(peer_new_keys<SimpleIniPeer>)->Name("new_keys/SimpleIni")->Apply(count
 BENCHMARK(peer_new_keys<GLibPeer>)->Name("new_keys/GLib")->Apply(counts);
 
 #define EVERY_KEY(name, shuffled)                                                                  \
+  BENCHMARK(one_system_call_a_key)->Name(name "/bare_reads")->Apply(sizes);                        \
   BENCHMARK(engine_every_key<shuffled>)->Name(name "/engine")->Apply(sizes);                       \
   BENCHMARK(peer_every_key<SimpleIniPeer, shuffled>)->Name(name "/SimpleIni")->Apply(sizes);       \
   BENCHMARK(peer_every_key<GLibPeer, shuffled>)->Name(name "/GLib")->Apply(sizes);                 \

@@ -47,15 +47,10 @@ bool is_refused(const Entry& entry) {
 }
 
 bool Store::load() {
-  const std::int64_t size = file_.size();
-  if (size < 0) {
+  if (!image_.load(file_)) {
     return false;
   }
-  whole_.resize(static_cast<std::size_t>(size));
-  if (file_.read_at(0, whole_.data(), whole_.size()) != size) {
-    return false;
-  }
-  contents_ = std::string_view(whole_).substr(0, length_without_padding(whole_));
+  contents_ = image_.bytes().substr(0, length_without_padding(image_.bytes()));
   const std::size_t first_break = contents_.find('\n');
   if (first_break == std::string_view::npos) {
     line_break_ = platform::kLineBreak;
@@ -68,7 +63,7 @@ bool Store::load() {
 // Puts bytes over the file's from an offset on, growing it where they reach further; all of them, or none.
 bool Store::overwrite(std::size_t at, std::string_view bytes) {
   const auto offset = static_cast<std::int64_t>(at);
-  const auto old_size = static_cast<std::int64_t>(whole_.size());
+  const auto old_size = static_cast<std::int64_t>(image_.bytes().size());
   const auto new_size = std::max(old_size, offset + static_cast<std::int64_t>(bytes.size()));
   if (!file_.secure_growth(old_size, new_size)) {
     return false;
@@ -76,31 +71,36 @@ bool Store::overwrite(std::size_t at, std::string_view bytes) {
   if (file_.write_at(offset, bytes.data(), bytes.size())) {
     return true;
   }
-  file_.write_at(offset, whole_.data() + at, whole_.size() - at);
+  image_.restore();
+  file_.write_at(offset, image_.bytes().data() + at, image_.bytes().size() - at);
   file_.truncate(old_size);
   return false;
 }
 
 // Puts text in the place of contents_[at, old_end).
-Result Store::splice(std::size_t at, std::size_t old_end, std::string text) {
-  std::string& bytes = text;
-  const bool same_length = text.size() == old_end - at;
-  if (!same_length || shortens_) {
-    bytes.append(contents_.substr(old_end));
+Result Store::splice(std::size_t at, std::size_t old_end, std::string_view text) {
+  if (text.size() == old_end - at && !shortens_) {
+    return overwrite(at, text) ? Result::done : Result::no_open;
   }
-  if (shortens_ && bytes.back() != '\n') {
-    bytes.append(line_break_);
+  if (text.size() > FileImage::kRoom) {
+    return Result::no_open;
   }
-  const std::size_t end = at + bytes.size();
-  if (!shortens_ && !same_length && end < contents_.size()) {
+  const std::size_t contents_size = contents_.size();
+  std::string behind;
+  if (shortens_) {
+    behind = (old_end < contents_size ? contents_ : text).back() == '\n' ? std::string_view() : line_break_;
+  } else if (text.size() < old_end - at) {
     // The file keeps its length. The blanks of earlier padding are there already.
-    bytes.resize(contents_.size() - at, ' ');
+    behind.assign(old_end - at - text.size(), ' ');
   }
+  const std::string_view bytes = image_.compose(text, old_end, contents_size, behind);
   if (!overwrite(at, bytes)) {
     return Result::no_open;
   }
-  if (shortens_ && end < whole_.size() && !file_.truncate(static_cast<std::int64_t>(end))) {
-    overwrite(at, std::string_view(whole_).substr(at));
+  const std::size_t end = at + bytes.size();
+  if (shortens_ && end < image_.bytes().size() && !file_.truncate(static_cast<std::int64_t>(end))) {
+    image_.restore();
+    overwrite(at, image_.bytes().substr(at));
     return Result::no_open;
   }
   return Result::done;

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/file_image.h"
 #include "core/lookup.h"
 #include "core/result.h"
 #include "platform/random_access.h"
@@ -37,7 +38,7 @@ class Store {
 
  private:
   bool load();
-  Result splice(std::size_t at, std::size_t old_end, std::string text);
+  Result splice(std::size_t at, std::size_t old_end, std::string_view text);
   Result insert_at(std::size_t at, std::string_view line);
   Result append_section(std::string_view header, std::string_view line);
   Result insert_into_section(const Entry& entry);
@@ -45,8 +46,8 @@ class Store {
   void append_line(std::string& text, std::string_view line) const { text.append(line).append(line_break_); }
 
   platform::RandomAccess& file_;
-  std::string whole_;          // the file's bytes
-  std::string_view contents_;  // those in front of the padding
+  FileImage image_;
+  std::string_view contents_;  // what stands in front of the padding
   std::string_view line_break_;
   bool shortens_ = false;  // a store leaves blanks where the contents end earlier, a rewrite ends the file there
 };

@@ -23,9 +23,9 @@ Outcome run(const std::string& program, const std::vector<std::string>& argument
   const Scratch scratch;
   std::string command = quoted(program);
   for (const std::string& argument : arguments) {
-    command += " " + quoted(argument);
+    command.append(" ").append(quoted(argument));
   }
-  command += " >" + quoted(scratch.path("out")) + " 2>" + quoted(scratch.path("err")) + " </dev/null";
+  command.append(" >").append(quoted(scratch.path("out"))).append(" 2>").append(quoted(scratch.path("err"))).append(" </dev/null");
   const int status = std::system(command.c_str());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytes_of(scratch.path("out")), bytes_of(scratch.path("err"))};
 }

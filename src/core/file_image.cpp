@@ -1,0 +1,40 @@
+#include "core/file_image.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace qel {
+
+bool FileImage::load(platform::RandomAccess& file) {
+  const std::int64_t size = file.size();
+  if (size < 0) {
+    return false;
+  }
+  size_ = static_cast<std::size_t>(size);
+  memory_.reset(new char[kRoom + size_ + kRoom]);
+  begin_ = memory_.get() + kRoom;
+  return file.read_at(0, begin_, size_) == size;
+}
+
+void FileImage::cover(Covered& covered, char* at, std::string_view text) {
+  covered.at = at;
+  covered.bytes.assign(at, text.size());
+  std::memcpy(at, text.data(), text.size());
+}
+
+std::string_view FileImage::compose(std::string_view before, std::size_t from, std::size_t to, std::string_view behind) {
+  cover(before_, begin_ + from - before.size(), before);
+  cover(behind_, begin_ + to, behind);
+  return {before_.at, before.size() + (to - from) + behind.size()};
+}
+
+void FileImage::restore() {
+  for (Covered* covered : {&behind_, &before_}) {
+    if (covered->at != nullptr) {
+      std::memcpy(covered->at, covered->bytes.data(), covered->bytes.size());
+      covered->at = nullptr;
+    }
+  }
+}
+
+}  // namespace qel
