@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -48,7 +49,7 @@ TEST(CaeHeader, KeysWithoutAWriterMemberAreWrittenRaw) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.WriteString("[CaeHeader]", "SettingMode", "4"));
   ASSERT_TRUE(writer.WriteItems("[CaeHeader]", "ProjectType", "%d %d", 8, 1));
-  EXPECT_EQ(bytes_of(path), "\n[CaeHeader]\nSettingMode          = 4\nProjectType = 8 1\n");
+  EXPECT_EQ(bytes_of(path), native("\n[CaeHeader]\nSettingMode          = 4\nProjectType = 8 1\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   int mode = 0;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -37,7 +38,7 @@ TEST(Coolant, ComesBackAsItWasWritten) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   char water[] = "Water";
   EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, water, 0.01, 2, 1));
-  EXPECT_EQ(bytes_of(path), "\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tWater\t0.01\t2") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tWater\t0.01\t2") + "\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   Fields fields;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -37,7 +38,7 @@ TEST(FlowCTLInfo, EntriesAreWrittenRaw) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.WriteString("[FlowCTLInfo]", "TotalInlet", "1"));
   ASSERT_TRUE(writer.WriteItems("[FlowCTLInfo]", "FlowCTL-1", "%d %d", 2, 4));
-  EXPECT_EQ(bytes_of(path), "\n[FlowCTLInfo]\nTotalInlet           = 1\nFlowCTL-1 = 2 4\n");
+  EXPECT_EQ(bytes_of(path), native("\n[FlowCTLInfo]\nTotalInlet           = 1\nFlowCTL-1 = 2 4\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   int total = 0;

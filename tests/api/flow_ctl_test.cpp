@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -59,7 +60,7 @@ TEST(FlowCTL, EveryIndexAddressesTheOneEntryOfCuring) {
   ASSERT_TRUE(writer.FlowCTL_WriteCureEnterSwitch(95.5, 5));
   ASSERT_TRUE(writer.FlowCTL_WriteCureEnterTime(10, 1));
   ASSERT_TRUE(writer.FlowCTL_WriteCureEnterTime(12, 5));
-  EXPECT_EQ(bytes_of(path), "\n[FlowCTL]\nCureEnterType        = 2\nCureEnterSwch        = 95.5\nCureEnterTime        = 12\n");
+  EXPECT_EQ(bytes_of(path), native("\n[FlowCTL]\nCureEnterType        = 2\nCureEnterSwch        = 95.5\nCureEnterTime        = 12\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   for (const int index : {1, 5, 0, -1}) {

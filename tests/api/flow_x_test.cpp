@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -92,7 +93,7 @@ TEST(FlowX, ProfilePointIsTwoNumbersWithATabBetween) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(writer.FlowX_WriteFRProfile(0.5, 30, 2, 1));
-  EXPECT_EQ(bytes_of(path), "\n[Flow-1]\n" + padded("FR-2", "0.5\t30") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Flow-1]\n" + padded("FR-2", "0.5\t30") + "\n"));
 }
 
 TEST(FlowX, CountIsNotCheckedAgainstThePoints) {
@@ -140,7 +141,7 @@ TEST(FlowX, InletZeroIsASectionLikeAnyOther) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(writer.FlowX_WriteFillingTime(1.5, 0));
-  EXPECT_EQ(bytes_of(path), "\n[Flow-0]\n" + padded("FillTime", "1.5") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Flow-0]\n" + padded("FillTime", "1.5") + "\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   double time = 0;

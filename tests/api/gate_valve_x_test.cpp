@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -50,7 +51,7 @@ class GateSetting : public testing::Test {
 TEST_F(GateSetting, FirstPointNeedsNoCount) {
   begin("");
   EXPECT_TRUE(writer_.GateValveX_WriteGateSetting(5.5, 1, 2, 1, 1));
-  EXPECT_EQ(bytes(), "\n[GateValve-1]\nGC-1 = 5.5\t1\t2\n");
+  EXPECT_EQ(bytes(), native("\n[GateValve-1]\nGC-1 = 5.5\t1\t2\n"));
 }
 
 TEST_F(GateSetting, CountGrowsWithThePointsAndNeverShrinks) {
@@ -85,7 +86,7 @@ TEST_F(GateSetting, ModeSaysHowManyFieldsAreWritten) {
   for (const auto& row : rows) {
     begin("");
     EXPECT_TRUE(writer_.GateValveX_WriteGateSetting(5.5, 1, row.mode, 118, 1, 2)) << row.mode;
-    EXPECT_EQ(bytes(), "\n[GateValve-2]\nGC-1 = " + std::string(row.text) + "\n") << row.mode;
+    EXPECT_EQ(bytes(), native("\n[GateValve-2]\nGC-1 = " + std::string(row.text) + "\n")) << row.mode;
     begin("[Summary]\nTotalGateCTL = 1\n[GateValve-1]\nGCId = 9\n");
     EXPECT_TRUE(writer_.GateValveX_WriteGateSettingByValveGateID(5.5, 1, row.mode, 118, 1, 9)) << row.mode;
     EXPECT_NE(bytes().find("GC-1 = " + std::string(row.text) + "\n"), std::string::npos) << bytes();
@@ -111,13 +112,13 @@ TEST_F(GateSetting, PointOfAnUnknownModeReadsBackAsZeros) {
 TEST_F(GateSetting, ThreeFieldsAreWrittenWhateverTheMode) {
   begin("");
   EXPECT_TRUE(writer_.GateValveX_WriteGateSetting(5.5, 1, 7, 1, 1));
-  EXPECT_EQ(bytes(), "\n[GateValve-1]\nGC-1 = 5.5\t1\t7\n");
+  EXPECT_EQ(bytes(), native("\n[GateValve-1]\nGC-1 = 5.5\t1\t7\n"));
 }
 
 TEST_F(GateSetting, RealHasAnExponentOfThreeDigits) {
   begin("");
   EXPECT_TRUE(writer_.GateValveX_WriteGateSetting(1.5e-7, 1, 1, 1, 1));
-  EXPECT_EQ(bytes(), "\n[GateValve-1]\nGC-1 = 1.5e-007\t1\t1\n");
+  EXPECT_EQ(bytes(), native("\n[GateValve-1]\nGC-1 = 1.5e-007\t1\t1\n"));
 }
 
 TEST_F(GateSetting, ByIdentifierGoesToTheValveThatBearsIt) {

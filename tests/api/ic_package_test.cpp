@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -31,7 +32,7 @@ TEST(ICPackage, OneKeyStandsInTwoSections) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.TransientInletConv_WritePelletDiameter(2.5) && writer.ICPackage_WritePelletDiameter(2.5));
   const std::string entry = padded("PelletDiameter", "2.5") + "\n";
-  EXPECT_EQ(bytes_of(path), "\n[TransientInletConv]\n" + entry + "\n[ICPackage]\n" + entry);
+  EXPECT_EQ(bytes_of(path), native("\n[TransientInletConv]\n" + entry + "\n[ICPackage]\n" + entry));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "QELPROEngine/QELPROEngine.h"
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 // What reader and writer share: the session behind an object, and which file it stands for.
@@ -190,11 +191,7 @@ TEST(Reader, AnswersEverySectionReadWithFalseWhenItsFileCannotBeOpened) {
 
 TEST(Reader, ReadsAFileByAWidePath) {
   const Scratch scratch;
-  const std::string file = scratch.file(kFile,
-                                        "gr\xC3\xB6\xC3\x9F"
-                                        "e-\xE9\x87\x91.pro");
-  const std::wstring path = wide(scratch.path("")) + L"gr\u00F6\u00DFe-\u91D1.pro";
-  ASSERT_TRUE(exists(file));
+  const std::wstring path = scratch.wide_file(kFile, L"gr\u00F6\u00DFe-\u91D1.pro");
   CQELPROReader_Manipulator reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   int total = 0;
@@ -255,9 +252,9 @@ TEST(Writer, LeavesTheFileCompleteAfterEveryWrite) {
   CQELPROWriter_Manipulator writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(6));
-  EXPECT_EQ(bytes_of(path), "\n[Summary]\nTotalNdivz           = 6\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Summary]\nTotalNdivz           = 6\n"));
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(8));
-  EXPECT_EQ(bytes_of(path), "\n[Summary]\nTotalNdivz           = 8\n") << "one entry, with the second value";
+  EXPECT_EQ(bytes_of(path), native("\n[Summary]\nTotalNdivz           = 8\n")) << "one entry, with the second value";
 }
 
 TEST(Writer, OpensACopyOfAPathThatItsCallerReleased) {
@@ -270,7 +267,7 @@ TEST(Writer, OpensACopyOfAPathThatItsCallerReleased) {
   }
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(6));
   EXPECT_TRUE(writer.WriteString("[Summary]", "SkinRatio", "0.5"));
-  EXPECT_EQ(bytes_of(scratch.path()), "\n[Summary]\nTotalNdivz           = 6\nSkinRatio = 0.5\n");
+  EXPECT_EQ(bytes_of(scratch.path()), native("\n[Summary]\nTotalNdivz           = 6\nSkinRatio = 0.5\n"));
 }
 
 TEST(ReservedObjects, AreMadeCopiedAndAssigned) {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -153,7 +154,7 @@ TEST(Machine, DimensionsAreWrittenWithAnX) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.Machine_WritePlatenSize(1200.5, 900) && writer.Machine_WriteMachineDimension(5.2, 1.4, 2.1));
-  EXPECT_EQ(bytes_of(path), "\n[Machine]\n" + padded("PlatenSize(HxV)", "1200.5x900") + "\nMachineDimension(LxWxH) = 5.2x1.4x2.1\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Machine]\n" + padded("PlatenSize(HxV)", "1200.5x900") + "\nMachineDimension(LxWxH) = 5.2x1.4x2.1\n"));
 }
 
 TEST(Machine, TextAndNumbersAreOneEntry) {
@@ -163,7 +164,7 @@ TEST(Machine, TextAndNumbersAreOneEntry) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   char text[] = "1200x900";
   ASSERT_TRUE(writer.Machine_WritePlatenSize(1, 2) && writer.Machine_WritePlatenSize(text));
-  EXPECT_EQ(bytes_of(path), "\n[Machine]\n" + padded("PlatenSize(HxV)", "1200x900") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Machine]\n" + padded("PlatenSize(HxV)", "1200x900") + "\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   double h = 0;

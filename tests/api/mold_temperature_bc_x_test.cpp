@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -114,9 +115,9 @@ TEST(BoundaryConditionHeader, LinesAreWrittenOneBelowTheOther) {
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(3, top, 0, 1));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(2, side, 1, 2));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBCSetting(40, 60, 1, 1, 2));
-  EXPECT_EQ(bytes_of(path), "\n" + (kHeader + std::string("3\tTop Side\t0\n2\tSide\t1\n1 = 40\t60\n")));
+  EXPECT_EQ(bytes_of(path), native("\n" + (kHeader + std::string("3\tTop Side\t0\n2\tSide\t1\n1 = 40\t60\n"))));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(4, side, 5, 1));
-  EXPECT_EQ(bytes_of(path), "\n" + (kHeader + std::string("4\tSide\t5\n2\tSide\t1\n1 = 40\t60\n    ")));
+  EXPECT_EQ(bytes_of(path), native("\n" + (kHeader + std::string("4\tSide\t5\n2\tSide\t1\n1 = 40\t60\n    "))));
 }
 
 TEST(BoundaryConditionHeader, IsNotWrittenBelowLineOne) {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -37,7 +38,7 @@ TEST(MoldThermalBoundaryType, NoteIsWrittenAndNotRead) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   char note[] = "W/m^2.K";
   ASSERT_TRUE(writer.MoldTemperatureBoundaryType_WriteHTCFlow(1500, note));
-  EXPECT_EQ(bytes_of(path), "\n[MoldThermalBoundaryType]\n" + padded("Flow", "1500\t(W/m^2.K)") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[MoldThermalBoundaryType]\n" + padded("Flow", "1500\t(W/m^2.K)") + "\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   double coefficient = 0;

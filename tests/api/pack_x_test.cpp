@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -42,7 +43,7 @@ TEST(PackX, ProfilePointIsTwoNumbersWithATabBetween) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(writer.PackX_WritePPProfile(1.5, 80, 1, 2));
-  EXPECT_EQ(bytes_of(path), "\n[Pack-2]\n" + padded("PP-1", "1.5\t80") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[Pack-2]\n" + padded("PP-1", "1.5\t80") + "\n"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -31,7 +32,7 @@ TEST(PartingSurface, KeysSpellMoldbaseWithASmallB) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.PartingSurface_WriteCavityMoldbase(2, 0.5, 1, 1.5));
-  EXPECT_EQ(bytes_of(path), "\n[PartingSurface]\n" + padded("CavityMoldbase", "2\t0.5\t1\t1.5") + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n[PartingSurface]\n" + padded("CavityMoldbase", "2\t0.5\t1\t1.5") + "\n"));
 }
 
 TEST(PartingSurface, FieldsThatTheEntryLacksAreZero) {

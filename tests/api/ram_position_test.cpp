@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -67,7 +68,7 @@ TEST(RamPosition, SingleWriteTakesThePlaceOfThePair) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.RamPosition_WriteRamFRProfile(10, 20, 1) && writer.RamPosition_WriteRamFRProfile(7, 1));
-  EXPECT_EQ(bytes_of(path), "\n[RamPosition]\n" + padded("RP_FR-1", "7") + "\n    ");
+  EXPECT_EQ(bytes_of(path), native("\n[RamPosition]\n" + padded("RP_FR-1", "7") + "\n    "));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   double x = -1;

@@ -1,4 +1,5 @@
 #include "support/section_members.h"
+#include "support/line_break.h"
 
 #include <gtest/gtest.h>
 
@@ -113,7 +114,7 @@ TEST_P(SectionWriter, BeginsItsSectionInANewFile) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(row.call(writer, Given::values));
-  EXPECT_EQ(bytes_of(path), "\n" + row.section + "\n" + padded(row.key, row.text) + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n" + row.section + "\n" + padded(row.key, row.text) + "\n"));
 }
 
 TEST_P(SectionWriter, AddsItsSectionBehindTheOthers) {
@@ -169,7 +170,7 @@ TEST_P(SectionWriter, WritesTheSameBytesThroughALentStream) {
     EXPECT_TRUE(row.call(writer, Given::values));
   }
   std::fclose(stream);
-  EXPECT_EQ(bytes_of(path), "\n" + row.section + "\n" + padded(row.key, row.text) + "\n");
+  EXPECT_EQ(bytes_of(path), native("\n" + row.section + "\n" + padded(row.key, row.text) + "\n"));
 }
 
 TEST_P(SectionWriter, YieldsFalseWithoutAFile) {

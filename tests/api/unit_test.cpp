@@ -4,6 +4,7 @@
 #include <string>
 
 #include "QELPROEngine/QELPROEngine.h"
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 namespace qelpro_test {
@@ -24,7 +25,7 @@ TEST(WriteUnitBlock, WritesTheSevenUnitsInOrder) {
       "IP = MPa\tInjectionPressure\n"
       "PP = MPa\tPackPressure\n"
       "Volume = cc\tVolume\n";
-  EXPECT_EQ(bytes_of(path), written);
+  EXPECT_EQ(bytes_of(path), native(written));
 }
 
 TEST(WriteUnitBlock, ReplacesUnitsThatAreThere) {
@@ -43,7 +44,7 @@ TEST(WriteUnitBlock, ReplacesUnitsThatAreThere) {
       "IP                   = MPa\tInjectionPressure\n"
       "PP                   = MPa\tPackPressure\n"
       "Volume               = cc\tVolume\n";
-  EXPECT_EQ(bytes_of(path), written);
+  EXPECT_EQ(bytes_of(path), native(written));
 }
 
 TEST(WriteUnitBlock, LeavesTheOtherSectionsAlone) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/session.h"
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 namespace {
@@ -171,7 +172,7 @@ TEST(Block, NumberOfASectionWithoutAPatternIsDropped) {
   const std::string path = scratch.path();
   Attached over = writing("[FlowCTL]", path);
   EXPECT_EQ(over.block.Write(kCount, in_section(5), 2), kDone);
-  EXPECT_EQ(bytes_of(path), "\n[FlowCTL]\nFRSet                = 2\n");
+  EXPECT_EQ(bytes_of(path), native("\n[FlowCTL]\nFRSet                = 2\n"));
 }
 
 TEST(Block, WritesEveryEncoding) {
@@ -184,7 +185,7 @@ TEST(Block, WritesEveryEncoding) {
   EXPECT_EQ(over.block.Write(kDirection, in_section(2), 0.0, -1.0, 1e-7), kDone);
   EXPECT_EQ(over.block.Write(kNote, in_section(2), "two words"), kDone);
   EXPECT_EQ(bytes_of(path),
-            "\n[Flow-2]\nFRSet                = -5\nFillTime = 0.1\nFR-2 = 0.5\t30\nOpenDirection = 0\t-1\t1e-007\nNote = two words\n");
+            native("\n[Flow-2]\nFRSet                = -5\nFillTime = 0.1\nFR-2 = 0.5\t30\nOpenDirection = 0\t-1\t1e-007\nNote = two words\n"));
 }
 
 TEST(Block, ReadsEveryEncoding) {

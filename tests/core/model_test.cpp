@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/document.h"
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 // The rules of process files once more, written as plainly as they can be said: the whole file in memory, a list of
@@ -87,7 +88,10 @@ std::string contents_of(const std::string& bytes) { return bytes.find('\n') == s
 
 std::string line_break_of(const std::string& contents) {
   const std::size_t at = contents.find('\n');
-  return at != std::string::npos && at > 0 && contents[at - 1] == '\r' ? "\r\n" : "\n";
+  if (at == std::string::npos) {
+    return qelpro_test::native("\n");
+  }
+  return at > 0 && contents[at - 1] == '\r' ? "\r\n" : "\n";
 }
 
 bool is_name(const std::string& text) {

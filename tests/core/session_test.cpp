@@ -5,11 +5,13 @@
 #include <functional>
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 namespace {
 
 using qelpro_test::bytes_of;
+using qelpro_test::native;
 using qelpro_test::Scratch;
 
 constexpr qel::Key<qel::Text> kProbe{"Probe", {}, {}, "an entry that tests put into any section"};
@@ -115,7 +117,7 @@ TEST(Session, HoldsNoFileOpenBetweenStores) {
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   ASSERT_EQ(session.unit.Write(kProbe, {}, "1"), 1);
-  EXPECT_EQ(bytes_of(path), "\n[Unit]\nProbe                = 1\n") << "complete after each write";
+  EXPECT_EQ(bytes_of(path), native("\n[Unit]\nProbe                = 1\n")) << "complete after each write";
   std::FILE* stream = nullptr;
   EXPECT_FALSE(session.document().GetFilePtr(stream));
 }

@@ -8,11 +8,13 @@
 
 #include "core/memory_file.h"
 #include "core/text.h"
+#include "support/line_break.h"
 
 namespace {
 
 using namespace qel;
 using qelpro_test::MemoryFile;
+using qelpro_test::native;
 
 Result set(MemoryFile& file, const char* section, const char* key, const std::string& value, int index = Target::kByKey) {
   const Entry entry{{section, key, index}, value};
@@ -67,7 +69,7 @@ constexpr const char* kX2 = "x                    = 2\n";
 std::string x(const std::string& value) { return "x                    = " + value + "\n"; }
 
 TEST(Store, WritesASectionAndAPaddedEntryIntoANewFile) {
-  EXPECT_EQ(after_set("", "[Flow-1]", "FillTime", "1.5"), "\n[Flow-1]\nFillTime             = 1.5\n");
+  EXPECT_EQ(after_set("", "[Flow-1]", "FillTime", "1.5"), native("\n[Flow-1]\nFillTime             = 1.5\n"));
 }
 
 TEST(Store, AppendsAMissingSection) { EXPECT_EQ(after_set("\n[A]\nx = 1\n", "[B]", "x", "2"), std::string("\n[A]\nx = 1\n\n[B]\n") + kX2); }
@@ -84,8 +86,8 @@ TEST(Store, AddsANewKeyRightBeforeTheNextHeaderBehindEmptyLines) {
 TEST(Store, RewritesAnEntryWithPadding) { EXPECT_EQ(after_set("[A]\nx = 1                 \n", "[A]", "x", "2"), std::string("[A]\n") + kX2); }
 
 TEST(Store, WritesALongKeyWhole) {
-  EXPECT_EQ(after_set("", "[A]", "12345678901234567890", "1"), "\n[A]\n12345678901234567890 = 1\n");
-  EXPECT_EQ(after_set("", "[A]", "123456789012345678901234", "1"), "\n[A]\n123456789012345678901234 = 1\n");
+  EXPECT_EQ(after_set("", "[A]", "12345678901234567890", "1"), native("\n[A]\n12345678901234567890 = 1\n"));
+  EXPECT_EQ(after_set("", "[A]", "123456789012345678901234", "1"), native("\n[A]\n123456789012345678901234 = 1\n"));
 }
 
 TEST(Store, MovesTheRestWhereTheLineGrows) {
@@ -126,7 +128,7 @@ TEST(Store, PutsANewEntryInThePlaceOfPadding) {
 
 TEST(Store, WritesALineBreakBehindALastLineThatHasNone) {
   EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n");
-  EXPECT_EQ(after_set("[A]", "[A]", "y", "2"), "[A]\ny = 2\n");
+  EXPECT_EQ(after_set("[A]", "[A]", "y", "2"), native("[A]\ny = 2\n"));
   EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "", "line", 2), "[A]\nx = 1\nline\n");
 }
 
@@ -155,7 +157,7 @@ TEST(Store, FindsASectionOnTheFirstByte) { EXPECT_EQ(after_set(std::string("[A]\
 TEST(Store, KeepsAByteOrderMark) {
   EXPECT_EQ(after_set(std::string("\xEF\xBB\xBF[A]\n") + kX1, "[A]", "x", "2"), std::string("\xEF\xBB\xBF[A]\n") + kX2);
   EXPECT_EQ(after_set("\xEF\xBB\xBF[A]\n", "[A]", "y", "2"), "\xEF\xBB\xBF[A]\ny = 2\n");
-  EXPECT_EQ(after_set("\xEF\xBB\xBF", "[A]", "x", "1"), std::string("\xEF\xBB\xBF\n[A]\n") + kX1);
+  EXPECT_EQ(after_set("\xEF\xBB\xBF", "[A]", "x", "1"), native(std::string("\xEF\xBB\xBF\n[A]\n") + kX1));
 }
 
 TEST(Store, WritesTheLineBreakOfTheFilesFirstLine) {
@@ -186,7 +188,7 @@ TEST(Store, KeepsARestOfAnyLength) {
 }
 
 TEST(Store, DropsLineBreaksAtTheEndOfAValue) {
-  EXPECT_EQ(after_set("", "[A]", "x", "1\r\n\n"), std::string("\n[A]\n") + kX1);
+  EXPECT_EQ(after_set("", "[A]", "x", "1\r\n\n"), native(std::string("\n[A]\n") + kX1));
   EXPECT_EQ(after_set("[A]\nfirst\n", "[A]", "", "2nd\n", 2), "[A]\nfirst\n2nd\n");
 }
 
@@ -236,7 +238,7 @@ TEST(Store, WritesALineByIndexOfTheGreatestLength) {
 TEST(Store, MeasuresTheLineInTheLayoutThatItIsWrittenIn) {
   const std::string value(text::kLongestLine - 1 - 4, 'v');
   EXPECT_EQ(after_set("[A]\n", "[A]", "x", value), "[A]\nx = " + value + "\n");
-  EXPECT_EQ(after_insert("", "[A]", "x", value), "\n[A]\nx = " + value + "\n");
+  EXPECT_EQ(after_insert("", "[A]", "x", value), native("\n[A]\nx = " + value + "\n"));
   EXPECT_EQ(after_replace("[A]\nx = 1\n", "[A]", "x", value), "[A]\nx = " + value + "\n");
   MemoryFile file("[A]\n");
   EXPECT_EQ(set(file, "[A]", "x", value + "v"), Result::no_open);
@@ -258,9 +260,9 @@ TEST(StoreByIndex, RefusesIndexZeroWhichAddressesNoLine) {
 
 TEST(StoreByIndex, AlwaysCreatesThePositionalHeader) {
   const std::string created = "\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nline\n";
-  EXPECT_EQ(after_set("", "[SURFACE", "", "line", 1), created);
-  EXPECT_EQ(after_set("", "[Other]", "", "line", 1), created);
-  EXPECT_EQ(after_set("", "[Other]", "", "line", 7), created);
+  EXPECT_EQ(after_set("", "[SURFACE", "", "line", 1), native(created));
+  EXPECT_EQ(after_set("", "[Other]", "", "line", 1), native(created));
+  EXPECT_EQ(after_set("", "[Other]", "", "line", 7), native(created));
 }
 
 TEST(StoreByIndex, AddsALastLineBehindTheSectionsLastLine) {
@@ -305,7 +307,7 @@ TEST(Insert, WritesAtTheEndOfTheFileInTheLastSection) { EXPECT_EQ(after_insert("
 
 TEST(Insert, AppendsAMissingSectionWithAnUnpaddedEntry) {
   EXPECT_EQ(after_insert("[A]\nw = 0\n", "[B]", "x", "5"), "[A]\nw = 0\n\n[B]\nx = 5\n");
-  EXPECT_EQ(after_insert("", "[B]", "x", "5"), "\n[B]\nx = 5\n");
+  EXPECT_EQ(after_insert("", "[B]", "x", "5"), native("\n[B]\nx = 5\n"));
 }
 
 TEST(Insert, NeverLandsInASectionThatMerelyMentionsTheName) {

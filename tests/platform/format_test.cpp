@@ -1,8 +1,8 @@
 #include "platform/format.h"
+#include "support/comma_locale.h"
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cstdarg>
 #include <string>
 
@@ -28,16 +28,11 @@ TEST(Format, RendersTextsOfAnyLength) {
 }
 
 TEST(Format, DoesNotFollowTheProgramsLocale) {
-  const std::string previous = std::setlocale(LC_ALL, nullptr);
-  bool found = false;
-  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "de_DE"}) {
-    found = found || std::setlocale(LC_ALL, name) != nullptr;
+  const qelpro_test::CommaLocale comma;
+  if (!comma.is_set()) {
+    GTEST_SKIP() << "the machine has no locale with a decimal comma";
   }
   EXPECT_EQ(formatted("%.1f", 1.5), "1.5");
-  std::setlocale(LC_ALL, previous.c_str());
-  if (!found) {
-    GTEST_SKIP() << "no locale with a decimal comma is installed";
-  }
 }
 
 TEST(Format, GivesNothingWhereTheFormatCannotBeApplied) {

@@ -1,27 +1,13 @@
 #include "platform/os_file.h"
 
-#include <fcntl.h>
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <string>
 
-#include "support/child.h"
-#include "support/scratch.h"
+#include "platform/file_fixture.h"
 
+namespace qelpro_test {
 namespace {
 
 using qel::platform::OsFile;
-using qelpro_test::bytes_of;
-using qelpro_test::exists;
-using qelpro_test::Scratch;
-
-std::string read(OsFile& file, std::int64_t offset, std::size_t count) {
-  std::string bytes(count, '?');
-  const std::int64_t got = file.read_at(offset, bytes.data(), count);
-  return got < 0 ? "failed" : bytes.substr(0, static_cast<std::size_t>(got));
-}
 
 TEST(OsFile, OpensWhatIsThere) {
   const Scratch scratch;
@@ -56,9 +42,7 @@ TEST(OsFile, ClosesWhatItHeldWhenItOpensAnother) {
 
 TEST(OsFile, OpensWidePaths) {
   const Scratch scratch;
-  const std::string path = scratch.file("x", "\xC3\xA9");
-  const std::string folder = scratch.path("");
-  const std::wstring wide = std::wstring(folder.begin(), folder.end()) + L"\u00E9";
+  const std::wstring wide = scratch.wide_file("x", L"\u00E9-\u5C04");
   OsFile file;
   EXPECT_TRUE(file.open_for_reading(wide.c_str()));
   EXPECT_TRUE(file.open_for_update(wide.c_str()));
@@ -82,7 +66,6 @@ TEST(OsFile, WritesNothingIntoAFileThatIsOpenForReading) {
   ASSERT_TRUE(file.open_for_reading(path.c_str()));
   EXPECT_FALSE(file.write_at(0, "x", 1));
   EXPECT_FALSE(file.truncate(0));
-  EXPECT_FALSE(file.secure_growth(10, 1 << 20));
   EXPECT_EQ(bytes_of(path), "0123456789");
 }
 
@@ -96,18 +79,6 @@ TEST(OsFile, CreatesAFileButEmptiesNone) {
   EXPECT_FALSE(file.create(scratch.path("missing/new").c_str()));
 }
 
-TEST(OsFile, TakesNothingButARegularFile) {
-  const Scratch scratch;
-  const std::string fifo = scratch.path("fifo");
-  ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
-  OsFile file;
-  for (const std::string& odd : {scratch.path(""), fifo, std::string("/dev/zero"), std::string("/dev/null")}) {
-    EXPECT_FALSE(file.open_for_reading(odd.c_str())) << odd;
-    EXPECT_FALSE(file.open_for_update(odd.c_str())) << odd;
-    EXPECT_FALSE(file.create(odd.c_str())) << odd;
-  }
-}
-
 TEST(OsFile, SecuresRoomWithoutGrowing) {
   const Scratch scratch;
   const std::string path = scratch.file("0123456789");
@@ -119,26 +90,5 @@ TEST(OsFile, SecuresRoomWithoutGrowing) {
   EXPECT_EQ(bytes_of(path), "0123456789");
 }
 
-TEST(OsFile, ReportsAWriteThatTheSystemCutsShort) {
-  const Scratch scratch;
-  const std::string path = scratch.file("0123456789");
-  EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12}, [&] {
-    OsFile file;
-    return file.open_for_update(path.c_str()) && file.write_at(10, "ab", 2) && !file.write_at(10, "abcd", 4);
-  }));
-}
-
-TEST(OsFile, IsNotHandedToChildPrograms) {
-  const Scratch scratch;
-  const std::string path = scratch.file("x");
-  OsFile file;
-  ASSERT_TRUE(file.open_for_reading(path.c_str()));
-  std::FILE* stream = file.duplicate_as_stream();
-  ASSERT_NE(stream, nullptr);
-  EXPECT_NE(::fcntl(::fileno(stream), F_GETFD) & FD_CLOEXEC, 0);
-  EXPECT_EQ(std::fgetc(stream), 'x');
-  std::fclose(stream);
-  EXPECT_EQ(read(file, 0, 1), "x");
-}
-
 }  // namespace
+}  // namespace qelpro_test

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "QELPROEngine/QELPROEngine.h"
+#include "support/line_break.h"
 #include "support/scratch.h"
 
 namespace qelpro_test {
@@ -37,7 +38,7 @@ TEST_P(AdapterMember, WritesItsEntries) {
   Adapter adapter;
   ASSERT_TRUE(adapter.SetProcessPath(path.c_str()));
   EXPECT_TRUE(GetParam().call(adapter));
-  EXPECT_EQ(bytes_of(path), GetParam().contents);
+  EXPECT_EQ(bytes_of(path), native(GetParam().contents));
 }
 
 TEST_P(AdapterMember, YieldsFalseBeforeAFileIsSet) {
@@ -129,7 +130,7 @@ TEST(Adapter, ControlPointsOfAValveGrowItsCount) {
   Adapter adapter;
   ASSERT_TRUE(adapter.SetProcessPath(path.c_str()));
   EXPECT_TRUE(adapter.SetGateValveX_GateSetting(1.5, true, 2, 3, 1));
-  EXPECT_EQ(bytes_of(path), "\n[GateValve-1]\nGC-3 = 1.5\t1\t2\nGCSet = 3\n");
+  EXPECT_EQ(bytes_of(path), native("\n[GateValve-1]\nGC-3 = 1.5\t1\t2\nGCSet = 3\n"));
 }
 
 TEST(Adapter, KnowsThePropertiesOfItsCoolants) {
@@ -229,7 +230,7 @@ TEST(Adapter, CopiesShareOneWriter) {
   EXPECT_TRUE(second.SetCoolChannelX_WriteGroupID(1, 1));
   EXPECT_TRUE(third.SetCoolChannelX_WriteGroupID(2, 1));
   EXPECT_FALSE(third.SetProcessPath(path.c_str()));
-  EXPECT_EQ(bytes_of(path), "\n[CoolChannel-1]\n" + padded("GroupID", "2"));
+  EXPECT_EQ(bytes_of(path), native("\n[CoolChannel-1]\n" + padded("GroupID", "2")));
 }
 
 TEST(Adapter, KeepsItsSize) { EXPECT_EQ(sizeof(Adapter), 2 * sizeof(void*)); }

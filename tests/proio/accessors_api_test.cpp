@@ -6,6 +6,7 @@
 
 #include "proio/accessors.h"
 #include "proio/support.h"
+#include "support/line_break.h"
 
 // What every accessor of the table does.
 
@@ -147,7 +148,7 @@ TYPED_TEST(EveryAccessor, SetsItsKeyInANewFileAndStampsIt) {
     }
     Object& object = this->over_missing_file();
     EXPECT_TRUE(row.set(object, S::first()));
-    EXPECT_EQ(this->masked_bytes(), this->new_file(row, S::text(S::first())));
+    EXPECT_EQ(this->masked_bytes(), native(this->new_file(row, S::text(S::first()))));
     std::filesystem::remove(this->path_);
   }
 }

@@ -9,6 +9,7 @@
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
 #include "proio/support.h"
+#include "support/line_break.h"
 
 // The object's life, its default document, the date stamp, the version gate, and what the head has beside single values.
 
@@ -73,7 +74,7 @@ class DefaultDocument : public ProcessObject {};
 
 TEST_F(DefaultDocument, IsExactlyTheDescribedFile) {
   EXPECT_TRUE(over_missing_file().SetDefault());
-  EXPECT_EQ(masked_bytes(), bytes_of(data_path("proio_default.pro")));
+  EXPECT_EQ(masked_bytes(), native(bytes_of(data_path("proio_default.pro"))));
   const std::string first = masked_bytes();
   EXPECT_TRUE(object_.SetDefault());
   EXPECT_EQ(masked_bytes(), first) << "once more changes nothing";
@@ -81,7 +82,7 @@ TEST_F(DefaultDocument, IsExactlyTheDescribedFile) {
 
 TEST_F(DefaultDocument, BeginsWithAnEmptyLine) {
   over_missing_file().SetDefault();
-  EXPECT_EQ(bytes().substr(0, 14), "\n[FileHeader]\n");
+  EXPECT_EQ(bytes().find(native("\n[FileHeader]\n")), 0U);
 }
 
 TEST_F(DefaultDocument, KeepsEverythingElseOfAFile) {
@@ -132,7 +133,7 @@ TEST_F(DateStamp, IsTheLocalTime) {
   const std::time_t stamped = std::mktime(&stamp);
   EXPECT_GE(stamped, before);
   EXPECT_LE(stamped, std::time(nullptr));
-  EXPECT_EQ(masked_bytes(), "\n[FileHeader]\n" + kMaskedDate);
+  EXPECT_EQ(masked_bytes(), native("\n[FileHeader]\n" + kMaskedDate));
 }
 
 TEST_F(DateStamp, IsLeftByEverySetterButTheCoefficients) {
@@ -246,9 +247,9 @@ TEST_F(VersionGate, DoesNotHoldSettersBack) {
   EXPECT_TRUE(object_.SetMoldClampingForce(5));
   EXPECT_TRUE(object_.SetMoldOpenDirection(1, 2.5, -3));
   EXPECT_TRUE(object_.SetIsTransientInletConv(true));
-  EXPECT_NE(bytes().find(entry("ClampForce", "5")), std::string::npos);
-  EXPECT_NE(bytes().find(entry("OpenDirection", "1\t2.5\t-3")), std::string::npos);
-  EXPECT_NE(bytes().find(entry("IsTransientInletConv", "1")), std::string::npos);
+  EXPECT_NE(bytes().find(native(entry("ClampForce", "5"))), std::string::npos);
+  EXPECT_NE(bytes().find(native(entry("OpenDirection", "1\t2.5\t-3"))), std::string::npos);
+  EXPECT_NE(bytes().find(native(entry("IsTransientInletConv", "1"))), std::string::npos);
 }
 
 TEST_F(VersionGate, LeavesTheFlagToTheReadOnceItIsOpen) {
@@ -287,7 +288,8 @@ TEST_F(Flags, YieldTheFlagAndNotWhetherItWasFound) {
     EXPECT_TRUE(flag);
     for (const bool value : {true, false}) {
       EXPECT_TRUE((over_missing_file().*row.set)(value));
-      EXPECT_EQ(masked_bytes(), "\n" + std::string(row.section) + "\n" + entry(row.key, value ? "1" : "0") + "\n[FileHeader]\n" + kMaskedDate);
+      EXPECT_EQ(masked_bytes(),
+                native("\n" + std::string(row.section) + "\n" + entry(row.key, value ? "1" : "0") + "\n[FileHeader]\n" + kMaskedDate));
       std::filesystem::remove(path_);
     }
   }
@@ -318,7 +320,7 @@ class Coefficients : public ProcessObject {};
 TEST_F(Coefficients, CarryTheirUnit) {
   EXPECT_TRUE(over("").SetFlowHeatTransferCoefficient(25));
   EXPECT_TRUE(object_.SetPackHeatTransferCoefficient(1500.5));
-  EXPECT_EQ(bytes(), "\n[MoldThermalBoundaryType]\n" + entry("Flow", "25        (W/m^2.K)") + entry("Pack", "1500.5        (W/m^2.K)"));
+  EXPECT_EQ(bytes(), native("\n[MoldThermalBoundaryType]\n" + entry("Flow", "25        (W/m^2.K)") + entry("Pack", "1500.5        (W/m^2.K)")));
   double value = 0;
   EXPECT_TRUE(object_.GetFlowHeatTransferCoefficient(value));
   EXPECT_EQ(value, 25);

@@ -1,32 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <filesystem>
 #include <string>
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
 #include "proio/accessors.h"
-#include "proio/support.h"
-#include "support/child.h"
+#include "proio/lines_fixture.h"
+#include "support/comma_locale.h"
 
 // How the object finds and rewrites lines, seen through its accessors, and what it does with files that nobody meant.
 
 namespace qelpro_test {
 namespace {
-
-class Lines : public ProcessObject {
- protected:
-  double fill_time(int stage = 1) {
-    double value = 777;
-    object_.GetFillTime(value, stage);
-    return value;
-  }
-  std::string remark_of(const std::string& contents) {
-    char* text = nullptr;
-    over(contents).GetMachineRemark(text);
-    return text != nullptr ? text : "(none)";
-  }
-};
 
 TEST_F(Lines, KeyIsSearchedBeyondTheEndOfItsSection) {
   over("[Flow-1]\nMeltTemp = 1\n[Flow-2]\nFillTime = 2\n[Flow-3]\nFillTime = 3\n");
@@ -204,27 +189,6 @@ TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
   EXPECT_EQ(fill_time(), 777);
 }
 
-TEST_F(Lines, ReadOnlyFileIsReadAndKept) {
-  const std::string contents = "[Flow-1]\nFillTime = 1\n";
-  over(contents);
-  using std::filesystem::perms;
-  std::filesystem::permissions(std::filesystem::path(path_).parent_path(), perms::all);
-  std::filesystem::permissions(path_, perms::owner_read | perms::group_read | perms::others_read);
-  EXPECT_TRUE(in_child({.unprivileged = true}, [this] {
-    double time = 0;
-    return object_.SetFillTime(2, 1) && object_.GetFillTime(time, 1) && time == 1;
-  }));
-  EXPECT_EQ(bytes(), contents);
-}
-
-TEST_F(Lines, FileThatMayGrowNoFurtherIsKept) {
-  const std::string contents = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Flow-1]\nFillTime = 1\n";
-  over(contents);
-  char longer[] = "0123456789012345678901234567890123456789";
-  EXPECT_TRUE(in_child({.longest_file = contents.size() + 5}, [&] { return object_.SetMachineRemark(longer) && object_.SetProject(longer); }));
-  EXPECT_EQ(masked_bytes(), masked(contents)) << "only the stamp, which fits, was written";
-}
-
 TEST_F(Lines, FileThatShrinksOrGoesBetweenTwoCallsIsReadAsItIs) {
   over("[Flow-1]\nMeltTemp = 1\nFillTime = 2\n");
   EXPECT_EQ(fill_time(), 2);
@@ -283,14 +247,13 @@ TEST_F(Lines, NumbersOfAnySizeAddressTheirSectionsAndKeys) {
 }
 
 TEST_F(Lines, NumbersDoNotDependOnTheLocale) {
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
-    GTEST_SKIP() << "the locale is not installed";
+  const CommaLocale comma;
+  if (!comma.is_set()) {
+    GTEST_SKIP() << "the machine has no locale with a decimal comma";
   }
   over("[FileHeader]\nDate = x\n");
   object_.SetFillTime(1.5, 1);
   const double time = fill_time();
-  std::setlocale(LC_ALL, before.c_str());
   EXPECT_EQ(time, 1.5);
   EXPECT_NE(bytes().find(entry("FillTime", "1.5")), std::string::npos);
 }

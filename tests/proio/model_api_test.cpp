@@ -9,6 +9,7 @@
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
 #include "proio/support.h"
+#include "support/line_break.h"
 
 // The object against a second, naive reading of its text rules: the whole file in memory, cut into lines.
 
@@ -136,7 +137,8 @@ class Walk {
         text += std::string(static_cast<std::size_t>(pick(300)), 'y') + "\n";
       }
     }
-    return text;
+    // A file without a line break gets the platform's own, and the model knows but one.
+    return text.find('\n') == std::string::npos && native("\n") != "\n" ? "\n" + text : text;
   }
 
   int pick(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }

@@ -25,6 +25,15 @@ std::string Scratch::file(std::string_view contents, std::string_view name) cons
   return result;
 }
 
+std::wstring Scratch::wide_file(std::string_view contents, std::wstring_view name) const {
+  std::wstring result(folder_.begin(), folder_.end());
+  result.append(L"/").append(name);
+  // Characters, not units of this platform's wide text, which a path would convert by the program's locale.
+  const std::filesystem::path path(std::u32string(result.begin(), result.end()));
+  std::ofstream(path, std::ios::binary).write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  return result;
+}
+
 std::string bytes_of(const std::string& path) {
   std::ifstream stream(path, std::ios::binary);
   std::ostringstream contents;

@@ -72,28 +72,6 @@ TEST(CoolantCommand, PrintsJson) {
               AllOf(HasSubstr("\"temperature\": 10.0"), HasSubstr("\"temperature\": 11.0")));
 }
 
-TEST(CoolantCommand, ReadsTheUsersOwnFileWhereNoneIsNamed) {
-  const Scratch scratch;
-  const char* const before = std::getenv("XDG_CONFIG_HOME");
-  const std::string kept = before != nullptr ? before : "";
-  setenv("XDG_CONFIG_HOME", scratch.path("settings").c_str(), 1);
-  const Outcome missing = qelpro({"coolant", "6", "10"});
-  const std::string folder = scratch.path("settings/Kestrel/Vantor R14.0");
-  std::filesystem::create_directories(folder);
-  std::filesystem::copy(data_path("coolants.pcs"), folder + "/PROCoolantSetting.pcs");
-  const Outcome found = qelpro({"coolant", "6", "10"});
-  const Outcome table = qelpro({"coolant", "--table", "6", "--from", "10", "--to", "10", "--step", "1"});
-  if (before != nullptr) {
-    setenv("XDG_CONFIG_HOME", kept.c_str(), 1);
-  } else {
-    unsetenv("XDG_CONFIG_HOME");
-  }
-  EXPECT_EQ(missing.status, 3);
-  EXPECT_THAT(missing.err, HasSubstr(folder + "/PROCoolantSetting.pcs"));
-  EXPECT_EQ(found.out, "1\t4.18e+07\t59800\t0.013\n");
-  EXPECT_EQ(table.out, "10\t1\t4.18e+07\t59800\t0.013\n");
-}
-
 TEST(CoolantCommand, TellsWhatIsMissing) {
   const Scratch scratch;
   const Outcome refused = qelpro({"coolant", data_path("coolants.pcs"), "3", "10"});

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "proio/support.h"
+#include "support/line_break.h"
 #include "support/run.h"
 #include "support/scratch.h"
 
@@ -129,7 +130,7 @@ TEST(New, WritesTheDefaultDocument) {
   const Scratch scratch;
   const std::string file = scratch.path("new.pro");
   EXPECT_EQ(qelpro({"new", file}).status, 0);
-  EXPECT_EQ(masked(bytes_of(file)), bytes_of(data_path("proio_default.pro")));
+  EXPECT_EQ(masked(bytes_of(file)), native(bytes_of(data_path("proio_default.pro"))));
 }
 
 TEST(New, TellsAFileThatCannotBeWritten) {

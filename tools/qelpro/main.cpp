@@ -8,6 +8,7 @@
 
 int main(int count, char** arguments) try {
   CLI::App app("Reads and writes process files of injection-molding simulation.", "qelpro");
+  app.allow_windows_style_options(false);  // a path may begin with a slash on every platform
   app.set_version_flag("--version", std::to_string(GetPRODLLVersion()));
   app.footer("Exit status: 0 done, 1 not found, 2 usage, 3 file error.");
   app.require_subcommand(1);

@@ -1,0 +1,16 @@
+# A package that is headers alone serves every platform: a cross build takes the host's, through a folder of links that holds
+# nothing else of the host's.
+function(find_header_only package target folder)
+  if(NOT CMAKE_CROSSCOMPILING)
+    find_package(${package} REQUIRED)
+    return()
+  endif()
+  set(links ${PROJECT_BINARY_DIR}/host_headers)
+  if(NOT EXISTS /usr/include/${folder})
+    message(FATAL_ERROR "${package} is not installed: no /usr/include/${folder}")
+  endif()
+  file(MAKE_DIRECTORY ${links})
+  file(CREATE_LINK /usr/include/${folder} ${links}/${folder} SYMBOLIC)
+  add_library(${target} INTERFACE IMPORTED)
+  target_include_directories(${target} SYSTEM INTERFACE ${links})
+endfunction()

@@ -1,0 +1,45 @@
+#include "platform/lent_stream.h"
+
+#include <io.h>
+
+#include "platform/handle_windows.h"
+
+// The bytes are read and written below the stream, which may have been opened in text mode and would translate them.
+
+namespace qel::platform {
+namespace {
+
+HANDLE handle_of(std::FILE* stream) {
+  const int descriptor = ::_fileno(stream);
+  return descriptor >= 0 ? to_handle(::_get_osfhandle(descriptor)) : INVALID_HANDLE_VALUE;
+}
+
+// What the stream holds back goes to the file, and what it read ahead is forgotten.
+bool synchronize(std::FILE* stream) {
+  std::clearerr(stream);
+  return std::fflush(stream) == 0 && std::fseek(stream, 0, SEEK_SET) == 0;
+}
+
+}  // namespace
+
+LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(is_disk_file(handle_of(stream))) {}
+
+std::int64_t LentStream::size() { return has_contents_ && synchronize(stream_) ? size_of(handle_of(stream_)) : -1; }
+
+std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
+  return has_contents_ && synchronize(stream_) ? read_from(handle_of(stream_), offset, to, count) : -1;
+}
+
+bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  return has_contents_ && synchronize(stream_) && write_to(handle_of(stream_), offset, from, count) && flush();
+}
+
+bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
+  return has_contents_ && (new_size <= old_size || set_aside(handle_of(stream_), new_size));
+}
+
+bool LentStream::truncate(std::int64_t size) { return has_contents_ && synchronize(stream_) && set_size(handle_of(stream_), size); }
+
+bool LentStream::flush() { return synchronize(stream_); }
+
+}  // namespace qel::platform

@@ -1,0 +1,35 @@
+#include <filesystem>
+#include <string>
+
+#include "support/raw_access.h"
+
+namespace qelpro_test {
+namespace {
+
+TEST_F(RawAccess, ReadStringFindsAFileThatWasReplacedByAnother) {
+  const std::string path = scratch_.file(kFile);
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  std::filesystem::rename(scratch_.file("[Flow-2]\nFillTime = 4.5\n", "new.pro"), path);
+  EXPECT_EQ(read_string(reader, "[Flow-2]", "FillTime"), "4.5");
+}
+
+TEST_F(RawAccess, FailsOnAFileThatIsGone) {
+  const std::string path = scratch_.file(kFile);
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  std::filesystem::remove(path);
+  EXPECT_EQ(read_string(reader, "[Flow-2]", "FillTime"), "(false)");
+  EXPECT_EQ(read_value(reader, "[Flow-2]", "FillTime"), "(false)");
+}
+
+TEST_F(RawAccess, WritesItemsWithThePlatformsOwnExponent) {
+  const std::string path = scratch_.path();
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_TRUE(writer.WriteItems("[A]", "Small", "%e", 1.5e-7));
+  EXPECT_EQ(bytes_of(path), "\n[A]\nSmall                = 1.500000e-07\n");
+}
+
+}  // namespace
+}  // namespace qelpro_test

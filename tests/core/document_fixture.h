@@ -1,0 +1,69 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "core/document.h"
+#include "support/scratch.h"
+
+/// A document over a file of its own, and what its lookups come to.
+namespace qelpro_test {
+
+inline constexpr int kDone = 1;
+inline constexpr int kNoOpen = 0;
+inline constexpr int kNoFile = -1;
+inline constexpr int kAbsent = -2;
+inline constexpr int kByKey = -1;
+
+inline std::wstring widened(const std::string& path) { return {path.begin(), path.end()}; }
+
+// What a lookup came to: the value, or its result as a number.
+inline std::string look(CQELPROIO& document, const char* section, const char* key, int index = kByKey) {
+  char untouched[] = "untouched";
+  char* value = untouched;
+  const int result = document.GetValue(section, key, value, index);
+  if (result == kDone) {
+    return value;
+  }
+  EXPECT_EQ(value, untouched) << "only success touches the pointer";
+  return std::to_string(result);
+}
+
+inline std::string look_once(CQELPROIO& document, const char* section, const char* key) {
+  char* value = nullptr;
+  const int result = document.ReadOnce(section, key, value, nullptr, 0);
+  return result == kDone ? value : std::to_string(result);
+}
+
+inline std::string scan(CQELPROIO& document, const char* path, const char* section, const char* key) {
+  char* value = nullptr;
+  return document.ScanValue(path, section, key, value, nullptr) ? value : "(nothing)";
+}
+
+class Document : public testing::Test {
+ protected:
+  std::string make(std::string_view contents) { return path = scratch.file(contents); }
+  void read(std::string_view contents) {
+    make(contents);
+    ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
+  }
+  void write(std::string_view contents) {
+    make(contents);
+    ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kWriting));
+  }
+  void lend(std::string_view contents, const char* mode = "r+") {
+    make(contents);
+    stream = std::fopen(path.c_str(), mode);
+    ASSERT_TRUE(document.SetFilePtr(stream));
+  }
+
+  Scratch scratch;
+  std::string path = scratch.path();
+  std::FILE* stream = nullptr;
+  CQELPROIO document;
+};
+
+}  // namespace qelpro_test
