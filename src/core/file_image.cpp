@@ -6,7 +6,7 @@
 namespace qel {
 
 bool FileImage::load(platform::RandomAccess& file) {
-  const std::int64_t size = file.size();
+  const std::int64_t size = file.size_in_memory();
   if (size < 0) {
     return false;
   }

@@ -138,7 +138,9 @@ bool LineScanner::next_starting_with(char first, Line& line) {
       return next(line);
     }
     // The position stands at the start of a line: go on to the start of the last line before the hit.
-    const std::size_t last_break = before.rfind('\n');
+    // Most often there is one nearby at either end; where there is none, the faster search tells.
+    const bool has_break = find_byte(before.data(), before.size(), '\n') != nullptr;
+    const std::size_t last_break = has_break ? before.rfind('\n') : std::string_view::npos;
     if (last_break != std::string_view::npos) {
       at_ += last_break + 1;
       inside_long_line_ = false;
@@ -147,7 +149,14 @@ bool LineScanner::next_starting_with(char first, Line& line) {
       }
     }
     // The hit is inside that line, or behind what the window holds of it; parts of a long line count as lines.
-    if ((hit != nullptr || last_break == std::string_view::npos) && !next(line)) {
+    const bool in_pieces = hit == nullptr && last_break == std::string_view::npos;
+    while (in_pieces && available() > kLongestInBytes) {
+      // None of the pieces begins with the byte, and none needs more of the file: one look at the window was enough for them.
+      if (!next(line)) {
+        return false;
+      }
+    }
+    if ((hit != nullptr || in_pieces) && !next(line)) {
       return false;
     }
   }

@@ -44,7 +44,7 @@ bool Snapshot::load(const char* path) {
   if (!file.open_for_reading(path)) {
     return false;
   }
-  const std::int64_t size = file.size();
+  const std::int64_t size = file.size_in_memory();
   if (size < 0) {
     return false;
   }

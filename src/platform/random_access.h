@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 namespace qel::platform {
 
@@ -15,6 +16,13 @@ class RandomAccess {
 
   /// The length in bytes, or -1 when it cannot be told.
   virtual std::int64_t size() = 0;
+
+  /// The length of a file that is to be held in memory whole; -1 also for one of more than 2 GiB, which no process file has.
+  std::int64_t size_in_memory() {
+    constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t length = size();
+    return length <= kLongest ? length : -1;
+  }
 
   /// Reads up to `count` bytes; fewer only at the end of the file. -1 on failure.
   virtual std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) = 0;

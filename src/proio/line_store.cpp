@@ -45,7 +45,7 @@ class Contents {
 };
 
 bool Contents::load() {
-  const std::int64_t size = file_.size();
+  const std::int64_t size = file_.size_in_memory();
   if (size < 0) {
     return false;
   }

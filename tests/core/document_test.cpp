@@ -1,7 +1,9 @@
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "core/document_fixture.h"
@@ -430,6 +432,29 @@ TEST_F(Document, CannotStoreThroughAStreamThatOnlyReadsOrAppends) {
     std::fclose(stream);
     EXPECT_EQ(bytes_of(path), before) << mode;
   }
+}
+
+// Beyond 2 GiB
+
+TEST_F(Document, ReadsAFileBeyondTwoGiBAndStoresNothingIntoIt) {
+  constexpr std::uintmax_t kFar = (std::uintmax_t{2} << 30U) + 12345;
+  make("[A]\nx = 1\n");
+  std::filesystem::resize_file(path, kFar);
+  std::ofstream(path, std::ios::binary | std::ios::app) << "\n[B]\ny = 2\n";
+  const auto size = std::filesystem::file_size(path);
+  ASSERT_GT(size, kFar);
+  CQELPROIO writing;
+  ASSERT_TRUE(writing.SetFilePath(path.c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(writing.SetValue("[A]", "x", "2", kByKey), kNoOpen);
+  EXPECT_EQ(writing.SetValue("[C]", "z", "3", kByKey), kNoOpen);
+  EXPECT_EQ(writing.InsertValue(path.c_str(), "[A]", "x", "2"), kNoOpen);
+  EXPECT_EQ(writing.ReplaceValue("[A]", "x", "2"), kNoOpen);
+  EXPECT_EQ(scan(writing, path.c_str(), "[A]", "x"), "(nothing)");
+  ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
+  EXPECT_EQ(look(document, "[B]", "y"), "2") << "an offset that 32 bits with a sign do not hold";
+  EXPECT_EQ(look(document, "[B]", "y"), "2") << "once more, from the index";
+  EXPECT_EQ(look(document, "[A]", "x"), "1");
+  EXPECT_EQ(std::filesystem::file_size(path), size);
 }
 
 // Storing

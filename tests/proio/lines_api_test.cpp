@@ -189,6 +189,15 @@ TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
   EXPECT_EQ(fill_time(), 777);
 }
 
+TEST_F(Lines, FileBeyondTwoGiBIsKept) {
+  over("[Flow-1]\nFillTime = 1\n");
+  constexpr std::uintmax_t kFar = (std::uintmax_t{2} << 30U) + 12345;
+  std::filesystem::resize_file(path_, kFar);
+  EXPECT_TRUE(object_.SetFillTime(2, 1));
+  EXPECT_EQ(fill_time(), 1);
+  EXPECT_EQ(std::filesystem::file_size(path_), kFar);
+}
+
 TEST_F(Lines, FileThatShrinksOrGoesBetweenTwoCallsIsReadAsItIs) {
   over("[Flow-1]\nMeltTemp = 1\nFillTime = 2\n");
   EXPECT_EQ(fill_time(), 2);
