@@ -1,26 +1,29 @@
 #include "blocks/block.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 
-#include "platform/number.h"
-
-using qel::numbered;
+using qel::NumberedName;
 using qel::Result;
 
-std::string qel::numbered(std::string_view pattern, int number) {
+NumberedName::NumberedName(std::string_view pattern, int number) {
   const std::size_t percent = pattern.find('%');
-  std::string text(pattern.substr(0, percent));
-  if (percent != std::string_view::npos) {
-    text += qel::platform::print_int(number);
-    text += pattern.substr(pattern.find('d', percent) + 1);
+  const std::size_t letter = percent == std::string_view::npos ? percent : pattern.find('d', percent);
+  const bool has_place = letter != std::string_view::npos;
+  char* end = text_ + pattern.copy(text_, has_place ? percent : kLongestPattern);
+  if (has_place) {
+    end = std::to_chars(end, end + kNumber, number).ptr;
+    end += pattern.copy(end, kLongestPattern - letter, letter + 1);
   }
-  return text;
+  *end = '\0';
+  size_ = static_cast<std::size_t>(end - text_);
 }
 
 void CQELPROBlockIOBase::SetSectionName(const char* name) {
-  std::memset(name_, 0, kNameSize);
-  std::memcpy(name_, name, std::min(std::strlen(name), kNameSize - 1));
+  const std::size_t length = std::min(std::strlen(name), kNameSize - 1);
+  std::memcpy(name_, name, length);
+  std::memset(name_ + length, 0, kNameSize - length);
 }
 
 bool CQELPROBlockIOBase::AttachDocument(CQELPROIO* document) {
@@ -35,7 +38,9 @@ int CQELPROBlockIOBase::Find(const char* key, qel::Place place, char*& text) {
   if (document_ == nullptr) {
     return to_int(Result::no_file);
   }
-  return document_->GetValue(numbered(name_, place.section).c_str(), numbered(key, place.point).c_str(), text, qel::Target::kByKey);
+  const NumberedName section(name_, place.section);
+  const NumberedName entry(key, place.point);
+  return document_->Find({section.view(), entry.view()}, text, nullptr, 0);
 }
 
 int CQELPROBlockIOBase::Store(const char* key, qel::Place place, const std::string& text, std::size_t limit) {
@@ -45,5 +50,5 @@ int CQELPROBlockIOBase::Store(const char* key, qel::Place place, const std::stri
   if (text.size() >= limit) {
     return to_int(Result::no_open);
   }
-  return document_->SetValue(numbered(name_, place.section).c_str(), numbered(key, place.point).c_str(), text.c_str(), qel::Target::kByKey);
+  return document_->SetValue(NumberedName(name_, place.section).c_str(), NumberedName(key, place.point).c_str(), text.c_str(), qel::Target::kByKey);
 }

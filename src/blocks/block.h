@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,8 +10,23 @@
 
 namespace qel {
 
-/// Puts the number in the place of the pattern's "%d" or "%ld"; a text without one stays as it is.
-std::string numbered(std::string_view pattern, int number);
+/// The name of a section or a key: the number stands in the place of the pattern's "%d" or "%ld"; a text without one stays as
+/// it is.
+class NumberedName {
+ public:
+  static constexpr std::size_t kLongestPattern = 255;
+
+  NumberedName(std::string_view pattern, int number);
+
+  [[nodiscard]] std::string_view view() const { return {text_, size_}; }
+  [[nodiscard]] const char* c_str() const { return text_; }
+
+ private:
+  static constexpr std::size_t kNumber = 11;
+
+  char text_[kLongestPattern + kNumber + 1];  // each reading member makes two: on the stack, without a need of memory
+  std::size_t size_;
+};
 
 }  // namespace qel
 
@@ -56,8 +72,8 @@ class CQELPROBlockIOBase {
   [[nodiscard]] const char* name() const { return name_; }
 
  private:
-  static constexpr std::size_t kNameSize = 256;
+  static constexpr std::size_t kNameSize = qel::NumberedName::kLongestPattern + 1;
 
-  char name_[kNameSize] = {};
+  char name_[kNameSize];
   CQELPROIO* document_ = nullptr;
 };

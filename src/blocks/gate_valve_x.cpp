@@ -21,7 +21,7 @@ Snapshot snapshot_of(const char* path) {
   return file;
 }
 
-std::string section_of(int valve) { return qel::numbered(qel::gate_valve_x::kSection, valve); }
+std::string section_of(int valve) { return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).view()); }
 
 int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
   if (const auto text = file.value(section, key.text)) {
@@ -59,7 +59,7 @@ int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int poin
   if (document() == nullptr) {
     return to_int(Result::no_file);
   }
-  const std::string key = qel::numbered(qel::gate_valve_x::kGCPoint.text, point);
+  const qel::NumberedName key(qel::gate_valve_x::kGCPoint.text, point);
   const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
   if (result != to_int(Result::done) || count >= point) {
     return result;

@@ -76,11 +76,13 @@ RandomAccess& CQELPROIO::held() {
   return file_;
 }
 
-bool CQELPROIO::release_held() {
+void CQELPROIO::release_held() {
   lent_.reset();
-  const bool closed_stream = stream_ == nullptr || std::fclose(stream_) == 0;
-  stream_ = nullptr;
-  return file_.close() && closed_stream;
+  if (stream_ != nullptr) {
+    std::fclose(stream_);
+    stream_ = nullptr;
+  }
+  file_.close();
 }
 
 void CQELPROIO::remember(const char* path) {
@@ -182,7 +184,10 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
 }
 
 int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index) {
-  const Target target{view(section), view(key), index};
+  return Find({view(section), view(key), index}, value, buffer, size);
+}
+
+int CQELPROIO::Find(const Target& target, char*& value, char* buffer, unsigned int size) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);

@@ -45,6 +45,9 @@ class CQELPROIO {
   /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the buffer alone.
   int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index);
 
+  /// The same of a target. A null buffer is the thread's own.
+  int Find(const qel::Target& target, char*& value, char* buffer, unsigned int size);
+
   /// Hands the first `count` lines behind a section's header to `visit`, trimmed, in one plain scan whatever the document's
   /// mode is. -2 when there are fewer.
   int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
@@ -72,7 +75,7 @@ class CQELPROIO {
   bool open(const Character* path, int mode);
   void remember(const char* path);
   void remember(const wchar_t* path);
-  bool release_held();
+  void release_held();
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
   qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);

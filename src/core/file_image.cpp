@@ -1,12 +1,10 @@
 #include "core/file_image.h"
 
-#include <cstdint>
 #include <cstring>
 
 namespace qel {
 
-bool FileImage::load(platform::RandomAccess& file) {
-  const std::int64_t size = file.size_in_memory();
+bool FileImage::load(platform::RandomAccess& file, std::int64_t size) {
   if (size < 0) {
     return false;
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,8 +17,8 @@ class FileImage {
   /// How long the texts may be that are put around a part of the file.
   static constexpr std::size_t kRoom = std::size_t{16} * 1024;
 
-  /// False when the file cannot be read.
-  bool load(platform::RandomAccess& file);
+  /// The file's bytes, of which there are `size`, as `size_in_memory` tells it. False when they cannot be read.
+  bool load(platform::RandomAccess& file, std::int64_t size);
 
   [[nodiscard]] std::string_view bytes() const { return {begin_, size_}; }
 

@@ -1,9 +1,7 @@
 #include "core/snapshot.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cstring>
 #include <system_error>
 #include <utility>
 
@@ -28,11 +26,10 @@ std::optional<int> number_behind(std::string_view text, std::string_view prefix)
 
 // The first characters of a key as a number that orders as they do.
 std::uint64_t front_of(std::string_view key) {
-  std::array<unsigned char, sizeof(std::uint64_t)> first{};
-  std::memcpy(first.data(), key.data(), std::min(key.size(), first.size()));
   std::uint64_t front = 0;
-  for (const unsigned char byte : first) {
-    front = front << 8U | byte;
+  const std::size_t count = std::min(key.size(), sizeof front);
+  for (std::size_t at = 0; at < count; ++at) {
+    front |= std::uint64_t{static_cast<unsigned char>(key[at])} << (8 * (sizeof front - 1 - at));
   }
   return front;
 }
@@ -73,36 +70,42 @@ bool Snapshot::sort_entries_of(std::string_view section) {
     return false;
   }
   sorted_section_ = found->first;
+  entries_.clear();
   sorted_.clear();
   LineScanner lines(contents_, found->second, may_hold_nul_);
   for (Line line; lines.next(line) && !text::is_header(line.text);) {
     const std::string_view key = text::first_token(line.text);
     if (!key.empty()) {
-      sorted_.push_back({front_of(key), key, text::entry_value(line.text)});
+      sorted_.push_back({front_of(key), entries_.size()});
+      entries_.push_back({key, text::entry_value(line.text)});
     }
   }
-  std::sort(sorted_.begin(), sorted_.end(), [](const Entry& a, const Entry& b) {
+  std::sort(sorted_.begin(), sorted_.end(), [this](const Sorted& a, const Sorted& b) {
     if (a.front != b.front) {
       return a.front < b.front;
     }
-    const int order = a.key.compare(b.key);
-    return order != 0 ? order < 0 : a.key.data() < b.key.data();
+    const int order = entries_[a.entry].key.compare(entries_[b.entry].key);
+    return order != 0 ? order < 0 : a.entry < b.entry;
   });
   return true;
 }
 
-std::vector<Snapshot::Entry>::const_iterator Snapshot::first_from(std::string_view key) const {
+std::vector<Snapshot::Sorted>::const_iterator Snapshot::first_from(std::string_view key) const {
   const std::uint64_t front = front_of(key);
-  return std::lower_bound(sorted_.begin(), sorted_.end(), key,
-                          [front](const Entry& a, std::string_view b) { return a.front != front ? a.front < front : a.key < b; });
+  return std::lower_bound(sorted_.begin(), sorted_.end(), key, [this, front](const Sorted& a, std::string_view b) {
+    return a.front != front ? a.front < front : entries_[a.entry].key < b;
+  });
 }
 
 std::optional<std::string_view> Snapshot::value(std::string_view section, std::string_view key) {
   if (!sort_entries_of(section)) {
     return std::nullopt;
   }
-  const auto entry = first_from(key);
-  return entry != sorted_.end() && entry->key == key ? std::optional(entry->value) : std::nullopt;
+  const auto first = first_from(key);
+  if (first == sorted_.end() || entries_[first->entry].key != key) {
+    return std::nullopt;
+  }
+  return entries_[first->entry].value;
 }
 
 std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most) const {
@@ -128,16 +131,18 @@ std::vector<Snapshot::Numbered> Snapshot::numbered(std::string_view section, std
   if (!sort_entries_of(section)) {
     return result;
   }
-  for (auto entry = first_from(prefix); entry != sorted_.end() && entry->key.substr(0, prefix.size()) == prefix; ++entry) {
-    const std::optional<int> number = number_behind(entry->key, prefix);
-    if (number && *number <= most) {
-      result.push_back({*number, entry->value});
+  for (auto at = first_from(prefix); at != sorted_.end(); ++at) {
+    const Entry& entry = entries_[at->entry];
+    if (entry.key.substr(0, prefix.size()) != prefix) {
+      break;
+    }
+    const std::optional<int> number = number_behind(entry.key, prefix);
+    // Entries of one key stand together; the first in the file counts.
+    if (number && *number <= most && (result.empty() || result.back().number != *number)) {
+      result.push_back({*number, entry.value});
     }
   }
-  // Of two entries of one key, the first in the file counts.
-  std::stable_sort(result.begin(), result.end(), [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
-  const auto same_number = [](const Numbered& a, const Numbered& b) { return a.number == b.number; };
-  result.erase(std::unique(result.begin(), result.end(), same_number), result.end());
+  std::sort(result.begin(), result.end(), [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
   return result;
 }
 

@@ -40,21 +40,26 @@ class Snapshot {
 
  private:
   struct Entry {
-    std::uint64_t front;   // the key's first characters, which tell most keys apart
-    std::string_view key;  // where it stands in the contents
+    std::string_view key;
     std::string_view value;
+  };
+  // What is sorted: small, and most often compared without a look at the entry.
+  struct Sorted {
+    std::uint64_t front;  // the key's first characters, which tell most keys apart
+    std::size_t entry;
   };
 
   // False where there is no such section.
   bool sort_entries_of(std::string_view section);
   // The first of the sorted entries whose key is not below this one.
-  [[nodiscard]] std::vector<Entry>::const_iterator first_from(std::string_view key) const;
+  [[nodiscard]] std::vector<Sorted>::const_iterator first_from(std::string_view key) const;
 
   std::string contents_;
   bool may_hold_nul_ = false;
   std::unordered_map<std::string, std::int64_t> sections_;  // where the line behind the header begins
-  std::vector<Entry> sorted_;                               // by key, then by place in the file
-  std::string_view sorted_section_;                         // whose entries they are
+  std::string_view sorted_section_;                         // the section that was asked for last
+  std::vector<Entry> entries_;                              // its entries as they stand in the file
+  std::vector<Sorted> sorted_;                              // the same by key, then by place
 };
 
 }  // namespace qel

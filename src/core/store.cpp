@@ -47,7 +47,7 @@ bool is_refused(const Entry& entry) {
 }
 
 bool Store::load() {
-  if (!image_.load(file_)) {
+  if (!image_.load(file_, size_)) {
     return false;
   }
   contents_ = image_.bytes().substr(0, length_without_padding(image_.bytes()));

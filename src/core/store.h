@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "core/file_image.h"
 #include "core/lookup.h"
 #include "core/result.h"
+#include "platform/os_file.h"
 #include "platform/random_access.h"
 
 namespace qel {
@@ -22,7 +24,9 @@ bool is_refused(const Entry& entry);
 /// Stores into one open file. Anything but `Result::done` leaves the file's bytes as they were.
 class Store {
  public:
-  explicit Store(platform::RandomAccess& file) : file_(file) {}
+  explicit Store(platform::RandomAccess& file) : Store(file, file.size_in_memory()) {}
+  /// Into a file that has just been opened.
+  explicit Store(platform::OsFile& file) : Store(file, file.in_memory(file.size_when_opened())) {}
 
   /// Replaces the line that the plain scan finds, or appends the section with the entry. A key that the plain scan does
   /// not find is inserted as `insert` does where `may_insert` says so, and `absent` otherwise; a position behind the
@@ -37,6 +41,7 @@ class Store {
   Result replace(const Entry& entry);
 
  private:
+  Store(platform::RandomAccess& file, std::int64_t size) : file_(file), size_(size) {}
   bool load();
   Result splice(std::size_t at, std::size_t old_end, std::string_view text);
   Result insert_at(std::size_t at, std::string_view line);
@@ -46,6 +51,7 @@ class Store {
   void append_line(std::string& text, std::string_view line) const { text.append(line).append(line_break_); }
 
   platform::RandomAccess& file_;
+  std::int64_t size_;
   FileImage image_;
   std::string_view contents_;  // what stands in front of the padding
   std::string_view line_break_;

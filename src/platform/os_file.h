@@ -27,6 +27,8 @@ class OsFile final : public RandomAccess {
   bool close();
 
   std::int64_t size() override;
+  /// The length that the file had when it was opened: known without asking again.
+  [[nodiscard]] std::int64_t size_when_opened() const { return size_when_opened_; }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
   bool secure_growth(std::int64_t old_size, std::int64_t new_size) override;
@@ -41,6 +43,7 @@ class OsFile final : public RandomAccess {
   bool adopt(std::intptr_t handle);
 
   std::intptr_t handle_ = kClosed;
+  std::int64_t size_when_opened_ = -1;
 };
 
 }  // namespace qel::platform

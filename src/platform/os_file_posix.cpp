@@ -38,6 +38,7 @@ bool OsFile::adopt(std::intptr_t handle) {
     return false;
   }
   handle_ = handle;
+  size_when_opened_ = static_cast<std::int64_t>(status.st_size);
   return true;
 }
 

@@ -18,11 +18,8 @@ class RandomAccess {
   virtual std::int64_t size() = 0;
 
   /// The length of a file that is to be held in memory whole; -1 also for one of more than 2 GiB, which no process file has.
-  std::int64_t size_in_memory() {
-    constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
-    const std::int64_t length = size();
-    return length <= kLongest ? length : -1;
-  }
+  std::int64_t size_in_memory() { return in_memory(size()); }
+  static std::int64_t in_memory(std::int64_t size) { return size <= std::numeric_limits<std::int32_t>::max() ? size : -1; }
 
   /// Reads up to `count` bytes; fewer only at the end of the file. -1 on failure.
   virtual std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) = 0;

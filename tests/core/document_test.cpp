@@ -213,6 +213,40 @@ TEST_F(Document, AnswersFromItsIndexWhenTheFileGrewShorter) {
   EXPECT_EQ(look(document, "[A]", "x"), "-2");
 }
 
+TEST_F(Document, LooksUpPlainlyOnceItHasTurnedFromReadingToWriting) {
+  read("[A]\nx = 1\n[B]\ny = 2\n");
+  EXPECT_EQ(look(document, "[A]", "y"), "-2") << "a reading session stays in the section";
+  document.CloseFile();
+  ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(look(document, "[A]", "y"), "2");
+}
+
+TEST_F(Document, LooksUpPlainlyInAStreamWhateverPathItWritesTo) {
+  lend("[A]\nx = 1\n[B]\ny = 2\n", "r");
+  ASSERT_TRUE(document.SetFilePath(scratch.file("", "other.pro").c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(look(document, "[A]", "y"), "2");
+  std::fclose(stream);
+}
+
+TEST_F(Document, VisitsLinesBehindAHeaderOnTheFirstByte) {
+  read("[A]\n first \nsecond\n");
+  std::string visited;
+  EXPECT_EQ(document.VisitLines("[A]", 2, [&visited](const char* line) { visited.append(line).append("|"); }), kDone);
+  EXPECT_EQ(visited, "first|second|");
+  EXPECT_EQ(document.VisitLines("[A]", 3, [](const char*) {}), kAbsent);
+  EXPECT_EQ(document.VisitLines("[B]", 1, [](const char*) {}), kAbsent);
+}
+
+TEST_F(Document, ReplacesNothingByNoValueNorInAFileThatItLeft) {
+  write("[A]\nx = 1\n");
+  EXPECT_EQ(document.ReplaceValue("[A]", "x", nullptr), kNoOpen);
+  stream = std::fopen(scratch.file("[A]\nx = 2\n", "lent.pro").c_str(), "r+");
+  ASSERT_TRUE(document.SetFilePtr(stream));
+  EXPECT_EQ(document.ReplaceValue("[A]", "x", "3"), kNoOpen);
+  EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
+  std::fclose(stream);
+}
+
 TEST_F(Document, ReadsInAFileThatIsStillEmpty) {
   read("");
   EXPECT_EQ(look(document, "[A]", "x"), "-2");

@@ -15,7 +15,7 @@ FileImage image_of(const std::string& contents) {
   MemoryFile file;
   file.bytes = contents;
   FileImage image;
-  EXPECT_TRUE(image.load(file));
+  EXPECT_TRUE(image.load(file, file.size_in_memory()));
   return image;
 }
 

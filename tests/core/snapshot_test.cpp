@@ -70,6 +70,19 @@ TEST(Snapshot, ListsTheEntriesThatALookupByNumberWouldFind) {
   EXPECT_EQ(listed, "1 2 10 ");
 }
 
+TEST(Snapshot, TakesTheFirstOfSeveralEntriesOfOneKey) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nLongPrefix-2 = b\nLongPrefix-1\nLongPrefix-1 = a\nLongPrefix-2 = c\nLong = d\nLong = e\n").c_str()));
+  std::string listed;
+  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "LongPrefix-", 1000)) {
+    listed.append(std::to_string(entry.number)).append("=").append(entry.value).append(" ");
+  }
+  EXPECT_EQ(listed, "1= 2=b ");
+  EXPECT_EQ(snapshot.value("[A]", "LongPrefix-2"), "b");
+  EXPECT_EQ(snapshot.value("[A]", "Long"), "d");
+}
+
 TEST(Snapshot, ListsNothingBeyondTheGivenNumber) {
   const Scratch scratch;
   Snapshot snapshot;

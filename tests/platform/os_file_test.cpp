@@ -69,6 +69,18 @@ TEST(OsFile, WritesNothingIntoAFileThatIsOpenForReading) {
   EXPECT_EQ(bytes_of(path), "0123456789");
 }
 
+TEST(OsFile, KnowsTheLengthThatItsFileHadWhenItWasOpened) {
+  const Scratch scratch;
+  OsFile file;
+  EXPECT_EQ(file.size_when_opened(), -1);
+  ASSERT_TRUE(file.open_for_update(scratch.file("1234").c_str()));
+  ASSERT_TRUE(file.write_at(4, "567", 3));
+  EXPECT_EQ(file.size_when_opened(), 4);
+  EXPECT_EQ(file.size(), 7);
+  ASSERT_TRUE(file.open_for_reading(scratch.file("12", "other.pro").c_str()));
+  EXPECT_EQ(file.size_when_opened(), 2);
+}
+
 TEST(OsFile, CreatesAFileButEmptiesNone) {
   const Scratch scratch;
   OsFile file;
