@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Changes one operator, constant or condition of the engine at a time, and tells which changes no test notices.
 
-usage: mutation.py BUILD_FOLDER SOURCE_OR_FOLDER ... [--every N] [--jobs N] [--list]
+usage: mutation.py BUILD_FOLDER SOURCE_OR_FOLDER ... [--every N] [--again REPORT] [--jobs N] [--list]
 
 The build folder holds a debug build with tests. Each mutant is compiled and linked beside the build, whose own files stay as
 they are; it counts as killed when a test fails, crashes, or does not end.
@@ -138,11 +138,22 @@ class Build:
             return "survived"
 
 
+def is_listed(report, source, line, old, new):
+    """Whether an earlier report has this mutant among the survivors, within a few lines of where it stands now."""
+    wanted = f": survived: {old.strip()} -> {new.strip()}"
+    for entry in report:
+        place, _, rest = entry.partition(": survived: ")
+        if f": survived: {rest}" == wanted and place.split(":")[0] == source.name and abs(int(place.split(":")[1]) - line) <= 4:
+            return True
+    return False
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("sources", type=pathlib.Path, nargs="+")
     parser.add_argument("--every", type=int, default=1, help="take every N-th mutant alone")
+    parser.add_argument("--again", type=pathlib.Path, help="take those alone that an earlier report lists as survivors")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--list", action="store_true", help="print the mutants, and run none")
     given = parser.parse_args()
@@ -150,6 +161,9 @@ def main():
     sources = [path.resolve() for given_path in given.sources
                for path in (sorted(given_path.glob("*.cpp")) if given_path.is_dir() else [given_path])]
     mutants = [(source, *mutant) for source in sources for mutant in mutants_of(source)][::given.every]
+    if given.again:
+        report = [entry for entry in given.again.read_text().splitlines() if ": survived: " in entry]
+        mutants = [mutant for mutant in mutants if is_listed(report, *mutant[:4])]
     if given.list:
         for source, line, old, new, _ in mutants:
             print(f"{source.name}:{line}: {old.strip()} -> {new.strip()}")

@@ -77,7 +77,8 @@ std::optional<Line> find_behind_passed(platform::RandomAccess& file, const Targe
   }
   lines.emplace(file, passed - 1, kSomeLines);
   Line line_end;
-  if (!lines->next(line_end) || line_end.end != passed || !line_end.text.empty()) {
+  lines->next(line_end);
+  if (line_end.end != passed) {
     return std::nullopt;
   }
   return find_inside(*lines, target, &indexed, false);

@@ -190,6 +190,22 @@ TEST(NextStartingWith, AgreesOverBlocksOfManyLines) {
   expect_same_jumps(contents, '[');
 }
 
+TEST(NextStartingWith, PassesALineOfManyBlocks) {
+  const std::string line(3 * LineScanner::kBlock, 'x');
+  expect_same_jumps("[a]\n" + line + "\n[b]\n", '[');
+  expect_same_jumps("[a]\n" + line, '[');
+}
+
+TEST(NextStartingWith, FindsNothingInPaddingOfManyBlocks) { expect_same_jumps("[a]\n" + std::string(3 * LineScanner::kBlock, ' '), '['); }
+
+TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
+  for (const std::size_t block : {LineScanner::kFirstBlock, LineScanner::kFirstBlock + LineScanner::kBlock}) {
+    for (std::size_t size = block - 4; size < block + 4; ++size) {
+      expect_same_jumps(std::string(size - 1, 'x').replace(block / 2, 1, "\n") + "\n[section]\nkey\n[other]\n", '[');
+    }
+  }
+}
+
 TEST(LengthWithoutPadding, TakesBlanksAtTheEndOfTheFileAway) {
   EXPECT_EQ(length_without_padding("a\n   "), 2U);
   EXPECT_EQ(length_without_padding("a\n"), 2U);

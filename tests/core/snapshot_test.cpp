@@ -2,7 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <random>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/document.h"
 #include "support/scratch.h"
@@ -81,6 +88,67 @@ TEST(Snapshot, TakesTheFirstOfSeveralEntriesOfOneKey) {
   EXPECT_EQ(listed, "1= 2=b ");
   EXPECT_EQ(snapshot.value("[A]", "LongPrefix-2"), "b");
   EXPECT_EQ(snapshot.value("[A]", "Long"), "d");
+}
+
+TEST(Snapshot, TakesOnlyPrintedNumbersForNumbers) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-1x = a\nP-02 = b\nP-+3 = c\nP-99999999999 = d\nP- = e\nP-4 = f\n").c_str()));
+  const std::vector<Snapshot::Numbered> listed = snapshot.numbered("[A]", "P-", 2147483647);
+  ASSERT_EQ(listed.size(), 1U);
+  EXPECT_EQ(listed.front().number, 4);
+  EXPECT_EQ(listed.front().value, "f");
+}
+
+TEST(Snapshot, FindsEachOfManySimilarKeys) {
+  constexpr std::string_view kLetters = "AaP\x80\xFF";
+  std::mt19937 random(7);
+  std::string contents = "[A]\n";
+  std::map<std::string, std::string> first;
+  for (int line = 0; line < 3000; ++line) {
+    std::string key;
+    for (std::size_t length = random() % 12; length != 0; --length) {
+      key += kLetters[random() % kLetters.size()];
+    }
+    key.append("-").append(std::to_string(1 + random() % 20));
+    contents.append(key).append("=").append(std::to_string(line)).append("\n");
+    first.try_emplace(key, std::to_string(line));
+  }
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file(contents).c_str()));
+  for (const auto& [key, value] : first) {
+    EXPECT_EQ(snapshot.value("[A]", key), value);
+    const std::string prefix = key.substr(0, key.find('-') + 1);
+    const auto with_prefix = [&](const auto& entry) { return entry.first.substr(0, prefix.size()) == prefix; };
+    EXPECT_EQ(snapshot.numbered("[A]", prefix, 20).size(), static_cast<std::size_t>(std::count_if(first.begin(), first.end(), with_prefix)));
+  }
+}
+
+TEST(Snapshot, EndsALineAtANulByte) {
+  using std::string_literals::operator""s;
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nx = 1\0 2\ny = 3\n"s).c_str()));
+  EXPECT_EQ(snapshot.value("[A]", "x"), "1");
+  EXPECT_EQ(snapshot.value("[A]", "y"), "3");
+}
+
+TEST(Snapshot, NumbersSectionsByTheirWholeNames) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[V-12 x]\n[V-3]\n[V-1]\n[V-2x]\n[W-4]\n[V-30]\n]\n").c_str()));
+  EXPECT_EQ(snapshot.numbered_sections("[V-%d]", 20), (std::vector<int>{1, 3}));
+}
+
+TEST(Snapshot, HoldsNoFileThatCannotBeRead) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  EXPECT_FALSE(snapshot.load(scratch.path("missing").c_str()));
+  EXPECT_FALSE(snapshot.load(scratch.path(".").c_str()));
+  const std::string huge = scratch.file("[A]\n");
+  std::filesystem::resize_file(huge, std::uintmax_t{1} << 31U);
+  EXPECT_FALSE(snapshot.load(huge.c_str()));
 }
 
 TEST(Snapshot, ListsNothingBeyondTheGivenNumber) {

@@ -394,6 +394,15 @@ TEST(FailingStore, PutsTheOldBytesBackAfterAShortWrite) {
   }
 }
 
+TEST(FailingStore, PutsNoMoreThanTheOldBytesBack) {
+  MemoryFile file(kOld);
+  file.failing_write = 1;
+  file.writable = 3;
+  file.truncate_fails = true;
+  EXPECT_EQ(set(file, "[A]", "y", "3"), Result::no_open);
+  EXPECT_EQ(file.bytes, kOld);
+}
+
 TEST(FailingStore, PutsTheOldBytesBackWhereTheFileCannotBeShortened) {
   MemoryFile file(kOld);
   file.truncate_fails = true;

@@ -66,6 +66,10 @@ INSTANTIATE_TEST_SUITE_P(
                         [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 7, 1, 3); }},
                     Row{"SetGateValveX_GateSettingOfSix", "\n[GateValve-3]\nGC-1 = 5.5\t0\t2\t118\n", false,
                         [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 2, 118, 1, 3); }},
+                    Row{"SetGateValveX_GateSettingOfFiveWithoutTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t0\t7\n", true,
+                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 7, 1, 3); }},
+                    Row{"SetGateValveX_GateSettingOfSixWithTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t1\t2\t118\n", false,
+                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 2, 118, 1, 3); }},
                     Row{"SetCoolCTL_WriteCoolantTemperature", "\n[CoolCTL]\n" + padded("T-1", "60.5"), false,
                         [](Adapter& a) { return a.SetCoolCTL_WriteCoolantTemperature(60.5, 1); }},
                     Row{"SetCoolCTL_WriteCoolantFlowRate", "\n[CoolCTL]\n" + padded("F-2", "8.5"), false,
@@ -116,6 +120,12 @@ TEST(Adapter, RefusesASecondPathAlsoAfterTheFirstFailed) {
   EXPECT_FALSE(adapter.SetProcessPath(scratch.path().c_str()));
   EXPECT_TRUE(adapter.SetGateCount(1)) << "it has a writer now, whatever becomes of the writing";
   EXPECT_FALSE(adapter.SetCoolChannelX_WriteGroupID(1, 1));
+}
+
+TEST(Adapter, EndsNoFileWhereThereIsNone) {
+  Adapter adapter;
+  adapter.EndFile();
+  EXPECT_FALSE(adapter.SetGateCount(1));
 }
 
 TEST(Adapter, TakesANullPathForAFailure) {
