@@ -34,16 +34,16 @@ bool CQELPROBlockIOBase::AttachDocument(CQELPROIO* document) {
   return true;
 }
 
-int CQELPROBlockIOBase::Find(const char* key, qel::Place place, char*& text) {
+int CQELPROBlockIOBase::FindText(const char* key, qel::Place place, char*& text) {
   if (document_ == nullptr) {
     return to_int(Result::no_file);
   }
   const NumberedName section(name_, place.section);
   const NumberedName entry(key, place.point);
-  return document_->Find({section.view(), entry.view()}, text, nullptr, 0);
+  return document_->LookUp({section.str(), entry.str()}, text, nullptr, 0);
 }
 
-int CQELPROBlockIOBase::Store(const char* key, qel::Place place, const std::string& text, std::size_t limit) {
+int CQELPROBlockIOBase::StoreText(const char* key, qel::Place place, const std::string& text, std::size_t limit) {
   if (document_ == nullptr) {
     return to_int(Result::no_file);
   }

@@ -18,7 +18,7 @@ class NumberedName {
 
   NumberedName(std::string_view pattern, int number);
 
-  [[nodiscard]] std::string_view view() const { return {text_, size_}; }
+  [[nodiscard]] std::string_view str() const { return {text_, size_}; }
   [[nodiscard]] const char* c_str() const { return text_; }
 
  private:
@@ -51,7 +51,7 @@ class CQELPROBlockIOBase {
   template <class Encoding, class... Values>
   int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
     char* text = nullptr;
-    const int result = Find(key.text, place, text);
+    const int result = FindText(key.text, place, text);
     if (result == qel::to_int(qel::Result::done)) {
       Encoding::scan(text, values...);
     }
@@ -60,13 +60,13 @@ class CQELPROBlockIOBase {
 
   template <class Encoding, class... Values>
   int Write(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
-    return Store(key.text, place, Encoding::print(values...), Encoding::kLimit);
+    return StoreText(key.text, place, Encoding::print(values...), Encoding::kLimit);
   }
 
  protected:
   /// The value text of a key, in the document's shared buffer.
-  int Find(const char* key, qel::Place place, char*& text);
-  int Store(const char* key, qel::Place place, const std::string& text, std::size_t limit);
+  int FindText(const char* key, qel::Place place, char*& text);
+  int StoreText(const char* key, qel::Place place, const std::string& text, std::size_t limit);
 
   [[nodiscard]] CQELPROIO* document() const { return document_; }
   [[nodiscard]] const char* name() const { return name_; }

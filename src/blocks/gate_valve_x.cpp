@@ -21,7 +21,7 @@ Snapshot snapshot_of(const char* path) {
   return file;
 }
 
-std::string section_of(int valve) { return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).view()); }
+std::string section_of(int valve) { return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).str()); }
 
 int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
   if (const auto text = file.value(section, key.text)) {

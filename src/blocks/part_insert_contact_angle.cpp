@@ -5,7 +5,7 @@ using namespace qel::part_insert_contact_angle;
 
 int CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name, double& angle) {
   char* text = nullptr;
-  const int result = Find(kGroup.text, qel::at_point(group), text);
+  const int result = FindText(kGroup.text, qel::at_point(group), text);
   if (result != to_int(Result::done)) {
     return result;
   }

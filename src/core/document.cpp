@@ -184,10 +184,10 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
 }
 
 int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index) {
-  return Find({view(section), view(key), index}, value, buffer, size);
+  return LookUp({view(section), view(key), index}, value, buffer, size);
 }
 
-int CQELPROIO::Find(const Target& target, char*& value, char* buffer, unsigned int size) {
+int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned int size) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);

@@ -46,7 +46,7 @@ class CQELPROIO {
   int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index);
 
   /// The same of a target. A null buffer is the thread's own.
-  int Find(const qel::Target& target, char*& value, char* buffer, unsigned int size);
+  int LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
 
   /// Hands the first `count` lines behind a section's header to `visit`, trimmed, in one plain scan whatever the document's
   /// mode is. -2 when there are fewer.

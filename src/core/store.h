@@ -26,7 +26,7 @@ class Store {
  public:
   explicit Store(platform::RandomAccess& file) : Store(file, file.size_in_memory()) {}
   /// Into a file that has just been opened.
-  explicit Store(platform::OsFile& file) : Store(file, file.in_memory(file.size_when_opened())) {}
+  explicit Store(platform::OsFile& file) : Store(file, platform::RandomAccess::in_memory(file.size_when_opened())) {}
 
   /// Replaces the line that the plain scan finds, or appends the section with the entry. A key that the plain scan does
   /// not find is inserted as `insert` does where `may_insert` says so, and `absent` otherwise; a position behind the

@@ -68,24 +68,24 @@ TEST(Block, CutsItsNameAt255Characters) {
 }
 
 TEST(NumberedName, HasTheNumberInThePlaceOfItsPattern) {
-  EXPECT_EQ(NumberedName("[Flow-%ld]", 7).view(), "[Flow-7]");
-  EXPECT_EQ(NumberedName("[Cure-%d]", -2147483647 - 1).view(), "[Cure--2147483648]");
+  EXPECT_EQ(NumberedName("[Flow-%ld]", 7).str(), "[Flow-7]");
+  EXPECT_EQ(NumberedName("[Cure-%d]", -2147483647 - 1).str(), "[Cure--2147483648]");
   EXPECT_STREQ(NumberedName("FR-%d", 0).c_str(), "FR-0");
 }
 
 TEST(NumberedName, IsAPatternWithoutAPlaceAsItStands) {
   for (const std::string pattern : {"[Unit]", "", "[100%]", "d%", "%"}) {
     const NumberedName name(pattern, 7);
-    EXPECT_EQ(name.view(), pattern);
+    EXPECT_EQ(name.str(), pattern);
     EXPECT_EQ(name.c_str(), pattern);
   }
 }
 
 TEST(NumberedName, HasRoomForTheLongestPatternAndTheLongestNumber) {
   const std::string front(253, 'x');
-  EXPECT_EQ(NumberedName(front + "%d", -2147483647 - 1).view(), front + "-2147483648");
-  EXPECT_EQ(NumberedName("%d" + front, -2147483647 - 1).view(), "-2147483648" + front);
-  EXPECT_EQ(NumberedName(front + "ab", 1).view(), front + "ab");
+  EXPECT_EQ(NumberedName(front + "%d", -2147483647 - 1).str(), front + "-2147483648");
+  EXPECT_EQ(NumberedName("%d" + front, -2147483647 - 1).str(), "-2147483648" + front);
+  EXPECT_EQ(NumberedName(front + "ab", 1).str(), front + "ab");
 }
 
 TEST(Block, AttachesAnyDocumentButNull) {
