@@ -77,7 +77,7 @@ bool Snapshot::sort_entries_of(std::string_view section) {
     const std::string_view key = text::first_token(line.text);
     if (!key.empty()) {
       sorted_.push_back({front_of(key), entries_.size()});
-      entries_.push_back({key, text::entry_value(line.text)});
+      entries_.push_back({key, line.text});
     }
   }
   std::sort(sorted_.begin(), sorted_.end(), [this](const Sorted& a, const Sorted& b) {
@@ -105,7 +105,7 @@ std::optional<std::string_view> Snapshot::value(std::string_view section, std::s
   if (first == sorted_.end() || entries_[first->entry].key != key) {
     return std::nullopt;
   }
-  return entries_[first->entry].value;
+  return text::entry_value(entries_[first->entry].line);
 }
 
 std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most) const {
@@ -126,24 +126,24 @@ std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most)
   return result;
 }
 
-std::vector<Snapshot::Numbered> Snapshot::numbered(std::string_view section, std::string_view prefix, int most) {
-  std::vector<Numbered> result;
+const std::vector<Snapshot::Numbered>& Snapshot::numbered(std::string_view section, std::string_view prefix, int most) {
+  numbered_.clear();
   if (!sort_entries_of(section)) {
-    return result;
+    return numbered_;
   }
   for (auto at = first_from(prefix); at != sorted_.end(); ++at) {
     const Entry& entry = entries_[at->entry];
     if (entry.key.substr(0, prefix.size()) != prefix) {
       break;
     }
-    const std::optional<int> number = number_behind(entry.key, prefix);
+    const std::optional<int> number = printed_number(entry.key.substr(prefix.size()));
     // Entries of one key stand together; the first in the file counts.
-    if (number && *number <= most && (result.empty() || result.back().number != *number)) {
-      result.push_back({*number, entry.value});
+    if (number && *number <= most && (numbered_.empty() || numbered_.back().number != *number)) {
+      numbered_.push_back({*number, text::entry_value(entry.line)});
     }
   }
-  std::sort(result.begin(), result.end(), [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
-  return result;
+  std::sort(numbered_.begin(), numbered_.end(), [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
+  return numbered_;
 }
 
 }  // namespace qel

@@ -22,10 +22,9 @@ class Snapshot {
   /// False when the file cannot be read.
   bool load(const char* path);
 
-  [[nodiscard]] bool has_section(std::string_view section) const { return sections_.find(std::string(section)) != sections_.end(); }
-
-  /// The entries of the section that was asked for last are kept in order, so that all keys of one section cost about one
-  /// pass over it.
+  /// The entries of the section that was asked for last, here or below, are kept in order, so that all keys of one section
+  /// cost about one pass over it.
+  [[nodiscard]] bool has_section(std::string_view section) { return sort_entries_of(section); }
   [[nodiscard]] std::optional<std::string_view> value(std::string_view section, std::string_view key);
 
   struct Numbered {
@@ -35,13 +34,14 @@ class Snapshot {
   /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the place of "%d", ascending.
   [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
 
-  /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order.
-  [[nodiscard]] std::vector<Numbered> numbered(std::string_view section, std::string_view prefix, int most);
+  /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order; valid until the
+  /// next call.
+  [[nodiscard]] const std::vector<Numbered>& numbered(std::string_view section, std::string_view prefix, int most);
 
  private:
   struct Entry {
     std::string_view key;
-    std::string_view value;
+    std::string_view line;
   };
   // What is sorted: small, and most often compared without a look at the entry.
   struct Sorted {
@@ -60,6 +60,7 @@ class Snapshot {
   std::string_view sorted_section_;                         // the section that was asked for last
   std::vector<Entry> entries_;                              // its entries as they stand in the file
   std::vector<Sorted> sorted_;                              // the same by key, then by place
+  std::vector<Numbered> numbered_;                          // what was handed out last
 };
 
 }  // namespace qel

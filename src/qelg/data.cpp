@@ -1,5 +1,6 @@
 #include "QELG/data.h"
 
+#include <cstddef>
 #include <vector>
 
 template <class T>
@@ -15,7 +16,11 @@ QELG_Array<T>::~QELG_Array() = default;
 
 template <class T>
 bool QELG_Array<T>::AppendDataPoint(T value) {
+  constexpr std::size_t kFewPoints = 8;  // as many as most profiles have
   try {
+    if (data_->values.empty()) {
+      data_->values.reserve(kFewPoints);
+    }
     data_->values.push_back(value);
     return true;
   } catch (...) {
