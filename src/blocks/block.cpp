@@ -22,8 +22,9 @@ NumberedName::NumberedName(std::string_view pattern, int number) {
 
 void CQELPROBlockIOBase::SetSectionName(const char* name) {
   const std::size_t length = std::min(std::strlen(name), kNameSize - 1);
-  std::memcpy(name_, name, length);
-  std::memset(name_ + length, 0, kNameSize - length);
+  std::memmove(new_name_, name, length);
+  std::memset(new_name_ + length, 0, kNameSize - length);
+  name_ = new_name_;
 }
 
 bool CQELPROBlockIOBase::AttachDocument(CQELPROIO* document) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -36,7 +37,12 @@ class NumberedName {
 /// Every operation yields the document's result, or -1 while no document is attached.
 class CQELPROBlockIOBase {
  public:
-  explicit CQELPROBlockIOBase(const char* section) { CQELPROBlockIOBase::SetSectionName(section); }
+  /// The name outlives the block, as a literal does.
+  explicit CQELPROBlockIOBase(const char* section) : name_(section) {
+    if (std::strlen(section) >= kNameSize) {
+      CQELPROBlockIOBase::SetSectionName(section);
+    }
+  }
   CQELPROBlockIOBase(const CQELPROBlockIOBase&) = delete;
   CQELPROBlockIOBase& operator=(const CQELPROBlockIOBase&) = delete;
   virtual ~CQELPROBlockIOBase() = default;
@@ -74,6 +80,7 @@ class CQELPROBlockIOBase {
  private:
   static constexpr std::size_t kNameSize = qel::NumberedName::kLongestPattern + 1;
 
-  char name_[kNameSize];
+  const char* name_;          // most blocks keep their first, so that a session is made without a copy of each
+  char new_name_[kNameSize];  // without a value until then
   CQELPROIO* document_ = nullptr;
 };
