@@ -1,6 +1,8 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
@@ -18,22 +20,14 @@ using qel::platform::scan_real;
 using qel::platform::to_int;
 using qel::platform::to_real;
 
-// The reader that a manipulator holds while it loads, with what it reads from. Copies of the manipulator share it.
+// The reader that a manipulator holds while it loads, with what it reads from.
 struct LoadingReader : CQELPROReader_Manipulator {
   Snapshot file;
-  int owners = 1;
 
   bool Open(const char* path) { return SetFilePath(path) && file.load(path); }
 };
 
 LoadingReader* loading(CQELPROReader_Manipulator* reader) { return static_cast<LoadingReader*>(reader); }
-
-CQELPROReader_Manipulator* share(CQELPROReader_Manipulator* reader) {
-  if (reader != nullptr) {
-    ++loading(reader)->owners;
-  }
-  return reader;
-}
 
 Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader)->file; }
 
@@ -100,12 +94,14 @@ void load_open_list(Snapshot& file, const char* section, const char* prefix, QEL
 }
 
 // The two integers of a pair; what the text does not supply is 0.
-void scan_pair(const std::string& text, int& first, int& second) {
-  first = second = 0;
-  const char* at = text.c_str();
-  if (scan_int(at, first)) {
-    scan_int(at, second);
+std::pair<int, int> scan_pair(std::string_view text) {
+  const std::string copy(text);
+  std::pair<int, int> pair;
+  const char* at = copy.c_str();
+  if (scan_int(at, pair.first)) {
+    scan_int(at, pair.second);
   }
+  return pair;
 }
 
 constexpr unsigned int kCoInjection = 8;
@@ -121,23 +117,15 @@ unsigned int project_type(const QELG_SimulatorProcess& process) {
 
 CQELProcessData_Manipulator::CQELProcessData_Manipulator() = default;
 
-CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) : reader_(share(other.reader_)) {}
+// The reader lives no longer than a load: copies have none to share.
+CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) = default;
 
-CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(const CQELProcessData_Manipulator& other) {
-  if (this != &other) {
-    CQELPROReader_Manipulator* shared = share(other.reader_);
-    Dispose();
-    reader_ = shared;
-  }
-  return *this;
-}
+CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(const CQELProcessData_Manipulator& other) = default;
 
 CQELProcessData_Manipulator::~CQELProcessData_Manipulator() { Dispose(); }
 
 void CQELProcessData_Manipulator::Dispose() {
-  if (reader_ != nullptr && --loading(reader_)->owners == 0) {
-    delete reader_;
-  }
+  delete reader_;
   reader_ = nullptr;
 }
 
@@ -210,10 +198,7 @@ void CQELProcessData_Manipulator::LoadInlets(QELG_SimulatorProcess& process) {
 void CQELProcessData_Manipulator::LoadCAEHeader(QELG_SimulatorProcess& process) {
   constexpr const char* kSection = "[CaeHeader]";
   if (const auto value = file_of(reader_).value(kSection, "ProjectType")) {
-    int type = 0;
-    int dropped = 0;
-    scan_pair(std::string(*value), type, dropped);
-    set_process_ProjectType(process, static_cast<unsigned int>(type));
+    set_process_ProjectType(process, static_cast<unsigned int>(scan_pair(*value).first));
   }
   load_items(file_of(reader_), kSection, qel::loading::kCaeHeader, process);
 }
@@ -244,10 +229,7 @@ void CQELProcessData_Manipulator::LoadRamposition(QELG_SimulatorProcess& process
 void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess& inlet, int number) {
   // The closing bracket belongs to the key: the loader looks for it, unlike FlowCTLInfo_ReadFlowCTL.
   if (const auto value = file_of(reader_).value("[FlowCTLInfo]", "FlowCTL-" + std::to_string(number) + "]")) {
-    int dropped = 0;
-    int type = 0;
-    scan_pair(std::string(*value), dropped, type);
-    set_process_InletControlType(inlet, static_cast<unsigned int>(type));
+    set_process_InletControlType(inlet, static_cast<unsigned int>(scan_pair(*value).second));
   }
 }
 
