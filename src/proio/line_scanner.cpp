@@ -21,10 +21,14 @@ LineScanner::LineScanner(std::string_view contents) : window_(contents), at_end_
   skip_byte_order_mark();
 }
 
+void LineScanner::pass(std::size_t count) {
+  window_.remove_prefix(count);
+  offset_ += static_cast<std::int64_t>(count);
+}
+
 void LineScanner::skip_byte_order_mark() {
   if (window_.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
-    window_.remove_prefix(kByteOrderMark.size());
-    offset_ += static_cast<std::int64_t>(kByteOrderMark.size());
+    pass(kByteOrderMark.size());
   }
 }
 
@@ -62,9 +66,19 @@ bool LineScanner::next(Line& line) {
   const std::string_view whole = ahead.substr(0, length);
   line.text = may_hold_nul_ ? whole.substr(0, whole.find('\0')) : whole;
   line.has_break = ended && line.text.size() == length;
-  window_.remove_prefix(consumed);
-  offset_ = line.end;
+  inside_long_line_ = !ended;
+  pass(consumed);
   return true;
+}
+
+void LineScanner::pass_lines_without(std::string_view text) {
+  if (inside_long_line_) {
+    return;  // one look from where the line begins was enough
+  }
+  const std::size_t last_break = window_.substr(0, window_.find(text)).rfind('\n');
+  if (last_break != std::string_view::npos) {
+    pass(last_break + 1);
+  }
 }
 
 std::size_t length_without_padding(std::string_view contents) {

@@ -32,8 +32,13 @@ class LineScanner {
   /// The next line; false at the end of the file, or when it cannot be read.
   bool next(Line& line);
 
+  /// Passes lines that do not hold the text, some or all: as far as a look at what is in memory tells. The text holds no line
+  /// break.
+  void pass_lines_without(std::string_view text);
+
  private:
   void fill();
+  void pass(std::size_t count);
   void skip_byte_order_mark();
 
   platform::RandomAccess* file_ = nullptr;
@@ -42,6 +47,7 @@ class LineScanner {
   std::int64_t offset_ = 0;  // of the current position
   bool at_end_ = false;
   bool may_hold_nul_ = false;
+  bool inside_long_line_ = false;
 };
 
 /// The length of the contents without the padding that earlier stores left: blanks behind the last line break.

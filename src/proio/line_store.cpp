@@ -130,12 +130,14 @@ bool is_match(std::string_view line, std::string_view name) {
 }
 
 bool seek_section(LineScanner& lines, std::string_view section) {
-  for (Line line; lines.next(line);) {
-    if (is_match(line.text, section)) {
-      return true;
+  Line line;
+  do {
+    lines.pass_lines_without(section);
+    if (!lines.next(line)) {
+      return false;
     }
-  }
-  return false;
+  } while (!is_match(line.text, section));
+  return true;
 }
 
 bool seek_line(LineScanner& lines, const Target& target, Line& line, std::int64_t contents_end) {
