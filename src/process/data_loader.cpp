@@ -43,11 +43,12 @@ struct Convert {
 
 template <class Target, std::size_t count>
 void load_items(Snapshot& file, const char* section, const Item<Target> (&items)[count], Target& target) {
-  if (!file.has_section(section)) {
+  const std::string_view name = section;
+  if (!file.has_section(name)) {
     return;
   }
   for (const Item<Target>& item : items) {
-    if (const auto value = file.value(section, item.key)) {
+    if (const auto value = file.value(name, item.key)) {
       std::visit(Convert<Target>{target, std::string(*value).c_str()}, item.set);
     }
   }
@@ -56,7 +57,7 @@ void load_items(Snapshot& file, const char* section, const Item<Target> (&items)
 // Hands the texts of a counted list to `append`, in order. Numbers that the section lacks are passed over; the count costs
 // no more than what the section holds.
 template <class Append>
-void load_list(Snapshot& file, const char* section, const char* count_key, const char* prefix, Append append) {
+void load_list(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, Append append) {
   const auto count = file.value(section, count_key);
   if (!count) {
     return;
@@ -67,7 +68,7 @@ void load_list(Snapshot& file, const char* section, const char* count_key, const
   }
 }
 
-void load_profile(Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Profile& profile) {
+void load_profile(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, QELG_Profile& profile) {
   load_list(file, section, count_key, prefix, [&profile](const std::string& text) {
     QELG_2dPoint point;
     const char* at = text.c_str();
@@ -78,12 +79,12 @@ void load_profile(Snapshot& file, const char* section, const char* count_key, co
   });
 }
 
-void load_array(Snapshot& file, const char* section, const char* count_key, const char* prefix, QELG_Array<double>& array) {
+void load_array(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, QELG_Array<double>& array) {
   load_list(file, section, count_key, prefix, [&array](const std::string& text) { array.AppendDataPoint(to_real(text.c_str())); });
 }
 
 // A list without a count ends before the first number that is missing.
-void load_open_list(Snapshot& file, const char* section, const char* prefix, QELG_Array<double>& array) {
+void load_open_list(Snapshot& file, const char* section, std::string_view prefix, QELG_Array<double>& array) {
   int expected = 1;
   for (const Snapshot::Numbered& entry : file.numbered(section, prefix, std::numeric_limits<int>::max())) {
     if (entry.number != expected++) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <variant>
 
 #include "QELG/QELG.h"
@@ -19,7 +20,7 @@ namespace qel::loading {
 
 template <class Target>
 struct Item {
-  const char* key;
+  std::string_view key;
   std::variant<void (*)(Target&, unsigned int), void (*)(Target&, double), void (*)(Target&, const char*)> set;
 };
 

@@ -9,16 +9,17 @@ struct QELG_Array<T>::Data {
 };
 
 template <class T>
-QELG_Array<T>::QELG_Array() : data_(std::make_unique<Data>()) {}
+QELG_Array<T>::QELG_Array() = default;
 
 template <class T>
 QELG_Array<T>::~QELG_Array() = default;
 
 template <class T>
 bool QELG_Array<T>::AppendDataPoint(T value) {
-  constexpr std::size_t kFewPoints = 8;  // as many as most profiles have
+  constexpr std::size_t kFewPoints = 8;  // as many as most profiles have that have any
   try {
-    if (data_->values.empty()) {
+    if (data_ == nullptr) {
+      data_ = std::make_unique<Data>();
       data_->values.reserve(kFewPoints);
     }
     data_->values.push_back(value);
@@ -30,12 +31,12 @@ bool QELG_Array<T>::AppendDataPoint(T value) {
 
 template <class T>
 unsigned int QELG_Array<T>::GetNumOfDataPoints() const {
-  return static_cast<unsigned int>(data_->values.size());
+  return data_ != nullptr ? static_cast<unsigned int>(data_->values.size()) : 0;
 }
 
 template <class T>
 bool QELG_Array<T>::GetDataPoint(unsigned int index, T& value) const {
-  if (index >= data_->values.size()) {
+  if (index >= GetNumOfDataPoints()) {
     return false;
   }
   value = data_->values[index];
