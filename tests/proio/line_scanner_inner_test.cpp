@@ -13,6 +13,7 @@
 
 namespace {
 
+using namespace std::string_literals;
 using qel::proio::Line;
 using qel::proio::LineScanner;
 using qelpro_test::MemoryFile;
@@ -56,7 +57,7 @@ TEST(SelfContainedScanner, PassesLinesWithoutASectionsName) {
   expect_same("x\n[A-1]\n");
   expect_same("x\r\n [A-1]\r\n[A-1] note\r\nx\r\n");
   expect_same("[A-11]\nx[A-1]\n[A-1]=\ny\n");
-  expect_same(std::string("a\0[A-1]\nb\0\n[A-1]\0\nc", 21));
+  expect_same("a\0[A-1]\nb\0\n[A-1]\0\nc"s);
   expect_same("\xEF\xBB\xBF[A-1]\nx\n");
   expect_same("");
 }
