@@ -3,8 +3,10 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "QELG/QELG.h"
 #include "QELPROEngine/QELPROEngine.h"
 #include "faults/io_calls.h"
 #include "proio/support.h"
@@ -202,6 +204,28 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
       EXPECT_EQ(value, done ? 1.5 : -1) << outcome.failed_call;
       EXPECT_TRUE(!done || std::strcmp(outcome.failed_call, "close") == 0) << outcome.failed_call;
     }
+  }
+}
+
+// No process rather than half of one.
+TEST(FailingReads, YieldNoProcess) {
+  const Scratch scratch;
+  const std::string path = scratch.file(kFile);
+  const auto load = [&path] {
+    CQELProcessData_Manipulator loader;
+    const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(path.c_str()));
+    return process != nullptr;
+  };
+  io_calls::fail(0, Failure::none);
+  ASSERT_TRUE(load());
+  const int calls = io_calls::stop().calls;
+  ASSERT_GT(calls, 4);
+  for (int n = 1; n <= calls; ++n) {
+    io_calls::fail(n, Failure::error);
+    const bool done = load();
+    const io_calls::Outcome outcome = io_calls::stop();
+    EXPECT_TRUE(outcome.failed) << n;
+    EXPECT_EQ(done, std::strcmp(outcome.failed_call, "close") == 0) << outcome.failed_call;
   }
 }
 
