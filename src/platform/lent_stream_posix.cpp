@@ -2,8 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
-
+#include "platform/file_length_posix.h"
 #include "platform/lent_stream.h"
 
 namespace qel::platform {
@@ -58,12 +57,12 @@ bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
   if (new_size <= old_size) {
     return true;
   }
-  return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, old_size, new_size - old_size) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+  return set_room_aside(fd, old_size, new_size);
 }
 
 bool LentStream::truncate(std::int64_t size) {
   const int fd = ::fileno(stream_);
-  return fd >= 0 && flush() && ::ftruncate(fd, static_cast<off_t>(size)) == 0;
+  return fd >= 0 && flush() && set_length(fd, size);
 }
 
 bool LentStream::flush() { return std::fflush(stream_) == 0; }

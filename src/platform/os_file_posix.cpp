@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "platform/file_length_posix.h"
 #include "platform/os_file.h"
 #include "platform/utf8.h"
 
@@ -111,22 +112,10 @@ bool OsFile::secure_growth(std::int64_t old_size, std::int64_t new_size) {
   if (static_cast<std::int64_t>(status.st_blocks) * kStatBlock >= new_size) {
     return true;
   }
-  int result = 0;
-  do {
-    result = ::fallocate(descriptor(handle_), FALLOC_FL_KEEP_SIZE, old_size, new_size - old_size);
-  } while (result != 0 && errno == EINTR);
-  // A file system that cannot set room aside is asked for it by the write itself, which puts the old bytes back
-  // when it fails.
-  return result == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+  return set_room_aside(descriptor(handle_), old_size, new_size);
 }
 
-bool OsFile::truncate(std::int64_t size) {
-  int result = 0;
-  do {
-    result = ::ftruncate(descriptor(handle_), static_cast<off_t>(size));
-  } while (result != 0 && errno == EINTR);
-  return result == 0;
-}
+bool OsFile::truncate(std::int64_t size) { return set_length(descriptor(handle_), size); }
 
 std::FILE* OsFile::duplicate_as_stream() {
   const int copy = ::fcntl(descriptor(handle_), F_DUPFD_CLOEXEC, 0);

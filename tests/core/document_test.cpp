@@ -19,6 +19,7 @@ TEST_F(Document, HasNoFileAtFirst) {
   EXPECT_EQ(document.SetValue("[A]", "x", "1", kByKey), kNoFile);
   EXPECT_EQ(document.WriteOnce("[A]", "x", "1"), kNoFile);
   EXPECT_EQ(document.ReplaceValue("[A]", "x", "1"), kNoOpen);
+  EXPECT_EQ(document.VisitLines("[A]", 1, [](const char*) {}), kNoFile);
   EXPECT_FALSE(document.GetFilePtr(stream));
   EXPECT_EQ(document.narrow_path(), nullptr);
   document.CloseFile();
@@ -245,6 +246,16 @@ TEST_F(Document, ReplacesNothingByNoValueNorInAFileThatItLeft) {
   EXPECT_EQ(document.ReplaceValue("[A]", "x", "3"), kNoOpen);
   EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
   std::fclose(stream);
+}
+
+TEST_F(Document, WritesNothingWhereAFolderHasTakenItsFilesPlace) {
+  write("[A]\nx = 1\n");
+  std::filesystem::remove(path);
+  std::filesystem::create_directory(path);
+  EXPECT_EQ(document.WriteOnce("[A]", "x", "2"), kNoOpen);
+  EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kNoOpen);
+  EXPECT_EQ(document.VisitLines("[A]", 1, [](const char*) {}), kNoOpen);
+  EXPECT_EQ(look(document, "[A]", "x"), "0");
 }
 
 TEST_F(Document, ReadsInAFileThatIsStillEmpty) {

@@ -95,6 +95,21 @@ TEST_P(FailingCalls, LeaveTheFileBeforeOrAfterTheStore) {
   EXPECT_GT(failures, 3);
 }
 
+TEST_P(FailingCalls, AreMadeAgainWhereASignalInterruptedThem) {
+  const Case& row = GetParam();
+  int calls = 0;
+  const std::string after = undisturbed(calls);
+  for (int n = 1; n <= calls; ++n) {
+    const std::string path = scratch_.file(row.contents);
+    io_calls::fail(n, Failure::interrupted);
+    EXPECT_TRUE(row.run(path)) << n;
+    const io_calls::Outcome outcome = io_calls::stop();
+    EXPECT_TRUE(bytes_of(path) == after) << outcome.failed_call << ", call " << n << " of " << calls;
+    // A file that a signal kept from being closed is closed all the same; nobody closes it again.
+    EXPECT_EQ(outcome.calls, calls + (outcome.failed && std::strcmp(outcome.failed_call, "close") != 0 ? 1 : 0)) << outcome.failed_call;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Document, FailingCalls,
                          testing::Values(Case{"SameLength", kFile, written([](auto& w) { return w.FlowX_WriteFillingTime(2.5, 1); })},
                                          Case{"Longer", kFile,

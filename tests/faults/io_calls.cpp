@@ -31,12 +31,18 @@ bool is_chosen(const char* name) {
   return true;
 }
 
-bool fails(const char* name, int error) {
-  if (!is_chosen(name) || plan.failure != Failure::error) {
+enum class Interruption { possible, impossible };
+
+bool fails(const char* name, int error, Interruption interruption = Interruption::impossible) {
+  if (!is_chosen(name)) {
+    return false;
+  }
+  const bool interrupted = plan.failure == Failure::interrupted && interruption == Interruption::possible;
+  if (plan.failure != Failure::error && !interrupted) {
     return false;
   }
   plan.outcome.failed = true;
-  errno = error;
+  errno = interrupted ? EINTR : error;
   return true;
 }
 
@@ -67,14 +73,15 @@ VISIBLE int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return fails("open", EIO) ? -1 : real(path, flags, mode);
+  return fails("open", EIO, Interruption::possible) ? -1 : real(path, flags, mode);
 }
 
 VISIBLE int close(int fd) {
   static auto* const real = next<int(int)>("close");
-  if (fails("close", EIO)) {
+  if (fails("close", EIO, Interruption::possible)) {
+    const int error = errno;
     real(fd);
-    errno = EIO;
+    errno = error;
     return -1;
   }
   return real(fd);
@@ -87,7 +94,7 @@ VISIBLE int fstat(int fd, struct stat* status) noexcept {
 
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
-  return fails("pread", EIO) ? -1 : real(fd, to, count, offset);
+  return fails("pread", EIO, Interruption::possible) ? -1 : real(fd, to, count, offset);
 }
 
 VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset) {
@@ -99,9 +106,9 @@ VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset
     return -1;
   }
   if (is_chosen("pwrite")) {
-    if (plan.failure == Failure::error) {
+    if (plan.failure == Failure::error || plan.failure == Failure::interrupted) {
       plan.outcome.failed = true;
-      errno = ENOSPC;
+      errno = plan.failure == Failure::error ? ENOSPC : EINTR;
       return -1;
     }
     if (count > 1) {
@@ -115,12 +122,12 @@ VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset
 
 VISIBLE int fallocate(int fd, int mode, off_t offset, off_t length) {
   static auto* const real = next<int(int, int, off_t, off_t)>("fallocate");
-  return fails("fallocate", ENOSPC) ? -1 : real(fd, mode, offset, length);
+  return fails("fallocate", ENOSPC, Interruption::possible) ? -1 : real(fd, mode, offset, length);
 }
 
 VISIBLE int ftruncate(int fd, off_t length) noexcept {
   static auto* const real = next<int(int, off_t)>("ftruncate");
-  return fails("ftruncate", EIO) ? -1 : real(fd, length);
+  return fails("ftruncate", EIO, Interruption::possible) ? -1 : real(fd, length);
 }
 
 VISIBLE int fseeko(std::FILE* stream, off_t offset, int whence) {
@@ -135,7 +142,7 @@ VISIBLE std::size_t fread(void* to, std::size_t size, std::size_t count, std::FI
 
 VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count, std::FILE* stream) {
   static auto* const real = next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
-  if (is_chosen("fwrite")) {
+  if (is_chosen("fwrite") && plan.failure != Failure::interrupted) {
     plan.outcome.failed = true;
     errno = ENOSPC;
     const std::size_t half = plan.failure == Failure::error ? 0 : real(from, 1, size * count / 2, stream);

@@ -9,6 +9,7 @@ enum class Failure {
   error,        ///< The call fails with EIO, or ENOSPC where it writes.
   short_write,  ///< The call, where it writes, writes half; the next one goes on.
   torn_write,   ///< The call, where it writes, writes half; the next write fails.
+  interrupted,  ///< The call, where a signal can interrupt it, fails with EINTR and has done nothing; a file is closed nevertheless.
 };
 
 /// From now on the n-th call (from 1) of this thread fails.

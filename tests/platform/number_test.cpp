@@ -61,7 +61,10 @@ TEST(ScanReal, AcceptsWhatTheScanFormatAccepts) {
                            "00012",
                            "0x0p9999",
                            "1e99999999999999999999",
-                           "0.0000001e310"}) {
+                           "0.0000001e310",
+                           "0.0001e400",
+                           "0.0001e-400",
+                           "-.00001e-999"}) {
     expect_same_real(text);
   }
 }

@@ -104,4 +104,24 @@ TEST(SelfContainedScanner, LooksForANameOnceInALongLine) {
   EXPECT_FALSE(qel::proio::seek_section(lines, kSection));
 }
 
+TEST(SelfContainedScanner, TellsPaddingOfAnyLength) {
+  for (const std::size_t blanks : {0U, 1U, 4094U, 4095U, 4096U, 4097U, 9000U}) {
+    const std::string padding(blanks, ' ');
+    for (const std::string& text : {""s, "x\n"s, "x"s, "\n"s, "x\n y"s}) {
+      MemoryFile file(text + padding);
+      const bool is_padded = !text.empty() && text.back() == '\n';
+      EXPECT_EQ(qel::proio::length_without_padding(file), static_cast<std::int64_t>(text.size() + (is_padded ? 0 : blanks)))
+          << testing::PrintToString(text) << ' ' << blanks;
+      EXPECT_EQ(static_cast<std::int64_t>(qel::proio::length_without_padding(std::string_view(file.bytes))),
+                qel::proio::length_without_padding(file));
+    }
+  }
+}
+
+TEST(SelfContainedScanner, TellsNoPaddingOfAFileThatCannotBeRead) {
+  MemoryFile file("x\n  ");
+  file.readable = 2;
+  EXPECT_EQ(qel::proio::length_without_padding(file), -1);
+}
+
 }  // namespace

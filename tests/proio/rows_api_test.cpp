@@ -312,6 +312,11 @@ TEST_F(Rows, NullTextsAreRefusedAndTheFileIsKept) {
   EXPECT_EQ(bytes(), kHead);
 }
 
+TEST_F(Rows, WithoutAFileNothingIsWritten) {
+  EXPECT_FALSE(object_.SetBCProfile(1, 1, 2, 3));
+  EXPECT_FALSE(object_.SetDefault());
+}
+
 TEST_F(Rows, GasPointTakesItsStageFromItsNumber) {
   over("[GasF-1]\nGR-2 = 1 1\nGP-2 = 2 2\n[GasF-2]\nGR-1 = 3 3\nGR-2 = 4 5\nGP-2 = 6 7\n");
   double x = 0;
@@ -363,6 +368,9 @@ TEST_F(Conditions, PointIsNotFoundWhereALineIsMissing) {
 TEST_F(Conditions, PointOfAFewItemsIsZeroForTheRest) {
   double x = 77;
   double y = 77;
+  EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1\n").GetBCProfile(1, 1, x, y));
+  EXPECT_EQ(x, 0);
+  EXPECT_EQ(y, 0);
   EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1 : 5\n").GetBCProfile(1, 1, x, y));
   EXPECT_EQ(x, 5);
   EXPECT_EQ(y, 0);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+
+namespace qel::platform {
+
+/// Makes the call again as long as a signal interrupts it.
+template <class Call>
+int uninterrupted(Call call) {
+  int result = 0;
+  do {
+    result = call();
+  } while (result != 0 && errno == EINTR);
+  return result;
+}
+
+/// Sets room aside for a file to grow from a length to another, which it does not take yet. A file system that cannot do that is
+/// asked for room by the write itself, which puts the old bytes back when it fails.
+inline bool set_room_aside(int fd, std::int64_t from, std::int64_t to) {
+  return uninterrupted([=] { return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, from, to - from); }) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+inline bool set_length(int fd, std::int64_t length) {
+  return uninterrupted([=] { return ::ftruncate(fd, static_cast<off_t>(length)); }) == 0;
+}
+
+}  // namespace qel::platform
