@@ -53,6 +53,18 @@ TEST_F(Document, ReadsThroughAStreamOverMemory) {
   std::fclose(stream);
 }
 
+TEST_F(Document, StoresIntoAStreamOverMemoryNoMoreThanItHolds) {
+  char memory[64] = "[A]\nx                    = 1\ny = 2\n";
+  stream = ::fmemopen(memory, sizeof memory, "r+");
+  ASSERT_TRUE(document.SetFilePtr(stream));
+  EXPECT_EQ(document.SetValue("[A]", "x", "3", kByKey), kDone);
+  const std::string stored(memory, sizeof memory);
+  EXPECT_EQ(stored.substr(0, 35), "[A]\nx                    = 3\ny = 2\n");
+  EXPECT_EQ(document.SetValue("[A]", "x", "345", kByKey), kNoOpen) << "the memory is its whole length";
+  std::fclose(stream);
+  EXPECT_EQ(std::string(memory, sizeof memory), stored);
+}
+
 TEST_F(Document, KeepsModeOwnerAndInodeOfAFile) {
   write("[A]\nx = 1\ny = 2\n");
   ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
