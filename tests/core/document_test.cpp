@@ -265,6 +265,13 @@ TEST_F(Document, ReadsInAFileThatIsStillEmpty) {
   EXPECT_EQ(look(document, "[A]", "x"), "1");
 }
 
+TEST_F(Document, GoesBackToTheHeaderWhereNoLineBeginsAnyMoreBehindWhatItPassed) {
+  read("[A]\nx = 1\ny = 2\n");
+  EXPECT_EQ(look(document, "[A]", "x"), "1");
+  put_bytes(path, "[A]\ny = 1234567\ny = 2\n");
+  EXPECT_EQ(look(document, "[A]", "y"), "1234567");
+}
+
 TEST_F(Document, GivesAKeyLineWithoutAnEqualsSignAnEmptyValue) {
   read("[A]\nx\ny\n");
   EXPECT_EQ(look(document, "[A]", "y"), "");
