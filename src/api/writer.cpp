@@ -1,4 +1,5 @@
 #include <cstdarg>
+#include <string>
 
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "api/forward.h"
@@ -30,11 +31,14 @@ bool CQELPROWriter_Manipulator::OpenSession() {
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
-  if (path == nullptr || !OpenSession()) {
-    return false;
-  }
-  path_ = path;
-  return qel::open(*session_, path, CQELPROIO::kWriting);
+  return path != nullptr && OpenSession() && qel::attempt([&] {
+           std::string copy(path);
+           if (!qel::open(*session_, path, CQELPROIO::kWriting)) {
+             return false;
+           }
+           path_.swap(copy);
+           return true;
+         });
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }
