@@ -230,7 +230,8 @@ TEST_F(Positions, StampOfANewHeadDoesNotCountAsALine) {
 }
 
 TEST_F(Positions, LinesWrittenInOrderStandOneBelowTheOther) {
-  for (const std::string& before : {std::string(), kStamp, kStamp + "[Cool]\nOpenTime = 1\n", kStamp + kBlock, kStamp + kBlock + "[Cool]\nx = 1\n"}) {
+  for (const std::string& before :
+       {std::string("\n"), kStamp, kStamp + "[Cool]\nOpenTime = 1\n", kStamp + kBlock, kStamp + kBlock + "[Cool]\nx = 1\n"}) {
     over(before);
     std::string lines;
     for (int line = 1; line <= 9; ++line) {
