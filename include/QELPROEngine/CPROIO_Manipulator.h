@@ -33,8 +33,13 @@ struct Entry;
 /// the exponent. Texts are written as they are given. Every setter then writes the local time to "Date" of [FileHeader],
 /// except where it says that it does not.
 ///
-/// Setters yield true even when the file cannot be written, and the file then keeps every byte. False is for an object
-/// without a path, a null text, or a position that no line can have.
+/// Setters yield true even when the file cannot be written, and the file then keeps every byte, its "Date" too. False is for
+/// an object without a path, a null text, one that holds the byte 0x1A, which ends a file for other programs, a position that no
+/// line can have, and for memory that is missing. What is replaced is a whole line, however long: the same store twice leaves
+/// what one leaves. A text with a line break makes several lines.
+///
+/// Where the boundary conditions are the file's last section, a new key goes to the end of its own section: at the end of the
+/// file it would be one of their lines.
 ///
 /// Copies share the caller's path. One object is used by one thread at a time; different objects on different files need
 /// no lock.
@@ -815,14 +820,14 @@ class QELPROENGINE_API CPROIO_Manipulator {
 
   /// "TotalPartInsert": the number of part inserts.
   bool GetTotalPartInsert(int& value);
-  /// "PartInsert-%d": an insert: its identifier, its name (one word), its initial temperature, in oC. Outputs that the text
-  /// does not supply keep their values.
+  /// "PartInsert-%d": an insert: its identifier, its name (one word), its initial temperature, in oC. A name that the text
+  /// does not supply is empty; the other outputs keep their values then.
   bool GetPartInsertSetting(int number, int& id, char*& name, double& temperature);
 
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1: first a name line for each boundary
   // condition, as many as "TotalNodeBC" of [Summary] says, then the profile lines of all of them, one condition after the
-  // other. Positions go on into the sections behind the block, which is best the last of its file; a position behind the
-  // last line is written at the end of the file. A position below 1 yields false, and nothing is written.
+  // other. Positions end at the next header: nothing is found behind it, and a position behind the last line becomes the new
+  // last line. Empty lines count. A position below 1 yields false, and nothing is written.
 
   /// Name line `line`: the number of profile points of the condition, and its name.
   bool GetBCCountName(int line, int& count, char*& name);
@@ -830,8 +835,9 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// Name line `line` with the condition's type behind the name. In a line of four words or more the name may hold blanks;
   /// in a shorter one the type may be missing, and keeps its value.
   bool GetBCSetting(int line, int& count, char*& name, int& type);
-  /// Point `point` of the profile of condition `bc`: x and y; what the line does not supply is 0. False where a name line
-  /// before it, "TotalNodeBC", or the line itself is missing. Writing counts 0 for what is missing.
+  /// Point `point` of the profile of condition `bc`: x and y; what the line does not supply is 0. False, with both untouched,
+  /// where a name line before it or the line itself is missing. A missing "TotalNodeBC" counts 0, and so does, in writing, a
+  /// missing name line.
   bool GetBCProfile(int bc, int point, double& x, double& y);
   bool SetBCProfile(int bc, int point, double x, double y);
 

@@ -33,5 +33,12 @@ bool CPROIO_Manipulator::GetCriteriaNodeSetting(int number, int& node, double& v
 
 bool CPROIO_Manipulator::GetTotalPartInsert(int& value) { return Get(part_insert::kTotalPartInsert, value); }
 bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name, double& temperature) {
-  return Get(part_insert::kInsert.at(number), id, Word{name, scratch().part_insert_name}, temperature);
+  char* text = nullptr;
+  if (!Get(part_insert::kInsert.at(number), text)) {
+    return false;
+  }
+  Buffer& buffer = scratch().part_insert_name.assign({});
+  name = buffer.text();
+  scan_items(text, id, Word{name, buffer}, temperature);
+  return true;
 }
