@@ -4,6 +4,7 @@
 #include "api/forward.h"
 #include "api/ownership.h"
 #include "platform/format.h"
+#include "refdata/user_file.h"
 
 CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() = default;
 
@@ -33,8 +34,15 @@ bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
   if (path == nullptr || !OpenSession()) {
     return false;
   }
-  path_ = path;
-  return qel::open(*session_, path, CQELPROIO::kWriting);
+  return qel::attempt([&] {
+    std::string copy(path);
+    qel::refdata::make_folder_for_save(path);
+    const bool opened = qel::open(*session_, path, CQELPROIO::kWriting);
+    if (opened) {
+      path_ = std::move(copy);
+    }
+    return opened;
+  });
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }
