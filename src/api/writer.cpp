@@ -6,16 +6,28 @@
 #include "platform/format.h"
 #include "refdata/user_file.h"
 
+namespace {
+
+// The text is kept and not used: the document has a copy of its own. Without memory for it, none is kept.
+void keep(std::string& path, const std::string& other) {
+  if (!qel::attempt([&] { return path = other, true; })) {
+    path.clear();
+  }
+}
+
+}  // namespace
+
 CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() = default;
 
-CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other)
-    : session_(qel::share(other.session_)), path_(other.path_) {}
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other) : session_(qel::share(other.session_)) {
+  keep(path_, other.path_);
+}
 
 CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(const CQELPROWriter_Manipulator& other) {
   if (this != &other) {
     CQELPROWriter* previous = session_;
     session_ = qel::share(other.session_);
-    path_ = other.path_;
+    keep(path_, other.path_);
     qel::release(previous);
   }
   return *this;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -10,8 +11,9 @@
 
 namespace qel::refdata {
 
-/// Grades by maker; makers in the order of their bytes, grades in the order of the file, repeats included.
-using Makers = std::map<std::string, std::vector<std::string>>;
+/// Grades by maker; makers in the order of their bytes, grades in the order of the file, repeats included. A maker is looked up
+/// without a copy of its name.
+using Makers = std::map<std::string, std::vector<std::string>, std::less<>>;
 
 inline constexpr int kBankVersion = 7007;
 

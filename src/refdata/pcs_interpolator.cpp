@@ -49,7 +49,7 @@ CQELPCSInterpolator::~CQELPCSInterpolator() { qel::release(tables_of(tables_)); 
 
 bool CQELPCSInterpolator::LoadDataFromFile(const char* path) try {
   qel::release(tables_of(tables_));
-  tables_ = nullptr;
+  tables_ = nullptr;  // should there be no memory for another
   tables_ = new Tables;
   qel::platform::OsFile file;
   if (path == nullptr || !file.open_for_reading(path)) {
