@@ -3,7 +3,8 @@
 #include "blocks/encoding.h"
 
 /// Encodings with a name among their fields. A name that is read stands in a buffer of the thread, one for each of these
-/// encodings, until the next reading of the same kind; it is cut at 255 characters.
+/// encodings, until the next reading of the same kind; it is cut at 255 characters. Names are written as they are given, also those
+/// that do not read back: one with blanks where the reading takes one word, an empty one among fields that blanks separate.
 namespace qel {
 
 /// "%lf %lf %lf %lf %d %s %lf %d", written with tabs. Clears its outputs, the name to null; the name is one word.
