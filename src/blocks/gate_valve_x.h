@@ -2,6 +2,7 @@
 
 #include "blocks/block.h"
 #include "blocks/compound_encoding.h"
+#include "core/snapshot.h"
 
 /// [GateValve-%d]: a valve gate.
 namespace qel::gate_valve_x {
@@ -31,9 +32,12 @@ class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {
   CQELPROBlockIOGateValveX() : CQELPROBlockIOBase(qel::gate_valve_x::kSection) {}
 
   /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the point's number where it is
-  /// lower; a valve without "GCSet" has one point. `path` is the file as it stands on disk.
-  int WriteGateSetting(const std::string& text, int point, int valve, const char* path);
+  /// lower; a valve without "GCSet" has one point. The document's path is looked at as it stands on disk.
+  int WriteGateSetting(const std::string& text, int point, int valve);
   /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of [Summary] says there are. A
   /// valve without "GCId" bears 0.
-  int WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path);
+  int WriteGateSettingByValveGateID(const std::string& text, int point, int id);
+
+ private:
+  int WriteGateSetting(const std::string& text, int point, int valve, qel::Snapshot& file);
 };

@@ -60,10 +60,13 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
   }
 
   /// Header line number `line` of the positional section: how many setting lines the condition has, its name, an integer.
+  /// It is found as the document finds a line by its index; a line is written into the section, or becomes its last one.
   int ReadBC(int& first, char*& name, int& second, int line);
   int WriteBC(int first, const char* name, int second, int line);
 
-  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines.
+  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines. The header
+  /// lines of the conditions before it, and a line that is read, stand before the next section's header, or are not there. A
+  /// line that is written behind the section's last one becomes its last.
   int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
   int WriteBCSetting(double a, double b, int setting, int condition, int offset);
 

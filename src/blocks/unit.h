@@ -25,6 +25,7 @@ class CQELPROBlockIOUnit : public CQELPROBlockIOBase {
  public:
   CQELPROBlockIOUnit() : CQELPROBlockIOBase(qel::unit::kSection) {}
 
-  /// Writes every entry, whatever becomes of each.
-  void WriteUnits();
+  /// How many entries the section has, and the writing of one of them, in their order from 0.
+  static constexpr std::size_t kUnits = std::size(qel::unit::kKeys);
+  int WriteUnit(std::size_t number);
 };

@@ -238,12 +238,32 @@ int CQELPROIO::VisitLines(const char* section, int count, const std::function<vo
     return to_int(lines.failed() ? Result::no_open : Result::absent);
   }
   for (int position = 1; position <= count; ++position) {
-    if (!lines.next(line)) {
+    if (!lines.next(line) || qel::text::is_header(line.text)) {
       return to_int(lines.failed() ? Result::no_open : Result::absent);
     }
     visit(std::string(qel::text::index_value(line.text)).c_str());
   }
   return to_int(Result::done);
+}
+
+int CQELPROIO::VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit) {
+  OsFile own;
+  RandomAccess* file = nullptr;
+  const Result chosen = choose_file(own, file);
+  if (chosen != Result::done) {
+    return to_int(chosen);
+  }
+  LineScanner lines(*file, 0);
+  Line line;
+  if (!find_plain_header(lines, view(section), line)) {
+    return to_int(lines.failed() ? Result::no_open : Result::absent);
+  }
+  while (lines.next(line)) {
+    if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
+      return to_int(Result::done);
+    }
+  }
+  return to_int(lines.failed() ? Result::no_open : Result::done);
 }
 
 int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {

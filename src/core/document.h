@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/lookup.h"
 #include "core/result.h"
@@ -49,9 +50,15 @@ class CQELPROIO {
   /// The same of a target. A null buffer is the thread's own.
   int LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
 
-  /// Hands the first `count` lines behind a section's header to `visit`, trimmed, in one plain scan whatever the document's
-  /// mode is. -2 when there are fewer.
+  /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the document's mode is. -2 when
+  /// there are fewer: the section ends at the next header.
   int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
+
+  /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one through the index.
+  [[nodiscard]] bool scans_plainly() const { return !indexed_; }
+  /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token and the value, until it
+  /// yields false.
+  int VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
   int SetValue(const char* section, const char* key, const char* value, int index);

@@ -220,6 +220,34 @@ TEST_F(Rows, PartInsertHasANameOfOneWord) {
 }
 
 TEST_F(Rows, PartInsertWithoutANameHasAnEmptyOne) {
+  char before[] = "before";
+  const struct {
+    const char* text;
+    const char* name;
+    double temperature;
+  } rows[] = {{"3\t\t80.5", "", 80.5}, {"3\t\t80.5\t2", "", 80.5}, {"3", "", 77}, {"3\t\tPin\t80.5", "Pin", 80.5}};
+  for (const auto& row : rows) {
+    int id = 77;
+    char* name = before;
+    double temperature = 77;
+    EXPECT_TRUE(
+        over_entry("[PartInsertInitialTemperature]", std::string("PartInsert-2 = ") + row.text).GetPartInsertSetting(2, id, name, temperature));
+    EXPECT_EQ(id, 3) << row.text;
+    EXPECT_STREQ(name, row.name) << row.text;
+    EXPECT_EQ(temperature, row.temperature) << row.text;
+  }
+  int id = 77;
+  char* name = before;
+  double temperature = 77;
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = Pin").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_EQ(id, 77);
+  EXPECT_STREQ(name, "") << "a row that does not begin with a number";
+  name = before;
+  EXPECT_FALSE(over_head().GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_EQ(name, before);
+}
+
+TEST_F(Rows, PartInsertWithoutANamePointsToTheEmptiedBuffer) {
   int id = 77;
   char* name = nullptr;
   double temperature = 77;
