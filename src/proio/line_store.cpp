@@ -124,11 +124,14 @@ bool is_header(const Line& line) {
   if (is_match(text, kPositionalSection)) {
     return true;
   }
-  const std::size_t word = std::min(text.find_first_of(kWordEnd), text.size());
-  if (text[word - 1] == ']') {
-    const std::size_t next = text.find_first_not_of(kBlanks, word);
-    if (next == std::string_view::npos || text[next] != '=') {
-      return true;
+  // The brackets may hold blanks; a "=" inside them ends the first word before they close.
+  for (std::size_t at = 1; at < text.size() && text[at] != '='; ++at) {
+    const std::size_t next = text.find_first_not_of(kBlanks, at + 1);
+    if (text[at] == ']' && next != at + 1) {
+      if (next == std::string_view::npos || text[next] != '=') {
+        return true;
+      }
+      break;
     }
   }
   return text[text.find_last_not_of(kBlanks)] == ']';
