@@ -960,8 +960,8 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// stored, the file unchanged.
   bool PartInsertInitialTemperature_WriteTotalPartInsert(int value);
   /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, its initial temperature,
-  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives it
-  /// back whole, the other form its first word. Arguments: the identifier, the name, the temperature, the insert.
+  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives all
+  /// its words back, the other form the first one. Arguments: the identifier, the name, the temperature, the insert.
   /// False: not stored, the file unchanged.
   bool PartInsertInitialTemperature_WritePartInsert(int id, char* name, double temperature, int insert);
   /// [PartInsertInitialTemperature] "PartInsert-%d", from a text that is constant, such as a literal: the same member.
@@ -976,8 +976,8 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// stored, the file unchanged.
   bool MoldInsertInitialTemperature_WriteTotalMoldInsert(int value);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d": a mold insert: its identifier, its name, its initial temperature,
-  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives it
-  /// back whole, the other form its first word. Arguments: the identifier, the name, the temperature, the insert.
+  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives all
+  /// its words back, the other form the first one. Arguments: the identifier, the name, the temperature, the insert.
   /// False: not stored, the file unchanged.
   bool MoldInsertInitialTemperature_WriteMoldInsert(int id, char* name, double temperature, int insert);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d", from a text that is constant, such as a literal: the same member.
