@@ -9,13 +9,19 @@ namespace qel::gate_valve_x {
 
 inline constexpr char kSection[] = "[GateValve-%d]";
 
-inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the valve gate's identifier"};
-inline constexpr Key<Integer> kGCSet{"GCSet", {"GateValveX_ReadControlPoint"}, {"GateValveX_WriteControlPoint"}, "the number of control points"};
+inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the identifier of the valve gate"};
+inline constexpr Key<Integer> kGCSet{"GCSet",
+                                     {"GateValveX_ReadControlPoint"},
+                                     {"GateValveX_WriteControlPoint"},
+                                     "the number of control points of the valve gate",
+                                     {.older = {"GetValveGateControlNo", "SetValveGateControlNo"}, .adapter = {"SetGateValveX_ControlPoint"}}};
 inline constexpr Key<GatePoint> kGCPoint{
     "GC-%d",
     {"GateValveX_ReadGateSetting"},
     {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-    "a control point: the switching value, an integer, the mode, an integer (-1 for modes 1 and 4); what the text does not supply is 0"};
+    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an integer",
+    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch", "GetValveGateControlData", "SetValveGateControlData"},
+     .adapter = {"SetGateValveX_GateSetting"}}};
 inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d",
                                                    {"GateValveX_ReadGateSetting"},
                                                    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},

@@ -9,11 +9,11 @@ namespace qel::part_insert_contact_angle {
 inline constexpr char kSection[] = "[PartInsertContactAngle]";
 
 inline constexpr Key<Integer> kGroupCount{
-    "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups"};
+    "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups of part inserts"};
 inline constexpr Key<ContactAngle> kGroup{"%d",
                                           {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
                                           {"PartInsertContactAngle_WriteGroup"},
-                                          "a group: its name in double quotes, and its angle"};
+                                          "a group of part inserts: its name in double quotes, and its contact angle"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
 
