@@ -7,7 +7,7 @@
 #include "platform/os_file.h"
 #include "refdata/machine_bank.h"
 
-namespace {
+namespace qel::refdata {
 
 // A path that is given in one of two ways; the other is empty then.
 struct Path {
@@ -30,13 +30,13 @@ struct Path {
   }
 };
 
-}  // namespace
+}  // namespace qel::refdata
 
 struct QELMachineRecord {
   std::vector<const char*> handed_out;
   int version = 0;
-  Path user_bank;
-  Path identification;
+  qel::refdata::Path user_bank;
+  qel::refdata::Path identification;
   qel::refdata::Makers makers;
   std::vector<const std::string*> makers_in_order;
 };
@@ -57,7 +57,7 @@ Record* make_record() {
 
 // An object that found no memory for its record makes it here.
 template <class Character>
-void set_path(QELMachineRecord*& record, Path QELMachineRecord::*path, const Character* text) {
+void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*path, const Character* text) {
   if (record == nullptr) {
     record = make_record();
   }
