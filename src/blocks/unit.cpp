@@ -4,13 +4,16 @@ using namespace qel::unit;
 
 namespace {
 
-constexpr struct {
+struct FixedUnit {
   const qel::Key<qel::Text>& key;
   const char* text;
-} kFixed[CQELPROBlockIOUnit::kUnits] = {
+};
+
+constexpr FixedUnit kFixed[] = {
     {kTime, "sec\tTime"},       {kTemp, "oC\tTemperature"}, {kPres, "MPa\tPressure"}, {kFR, "cc/sec\tFlowRate"}, {kIP, "MPa\tInjectionPressure"},
     {kPP, "MPa\tPackPressure"}, {kVolume, "cc\tVolume"},
 };
+static_assert(std::size(kFixed) == CQELPROBlockIOUnit::kUnits);
 
 }  // namespace
 

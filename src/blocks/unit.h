@@ -29,7 +29,7 @@ class CQELPROBlockIOUnit : public CQELPROBlockIOBase {
  public:
   CQELPROBlockIOUnit() : CQELPROBlockIOBase(qel::unit::kSection) {}
 
-  /// How many entries the section has, and the writing of one of them, in their order from 0.
-  static constexpr std::size_t kUnits = std::size(qel::unit::kKeys);
+  /// How many entries the writer gives the section, and the writing of one of them, in their order from 0.
+  static constexpr std::size_t kUnits = 7;
   int WriteUnit(std::size_t number);
 };
