@@ -1,4 +1,5 @@
 #include <cstdarg>
+#include <string>
 
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "api/forward.h"
@@ -43,18 +44,15 @@ bool CQELPROWriter_Manipulator::OpenSession() {
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
-  if (path == nullptr || !OpenSession()) {
-    return false;
-  }
-  return qel::attempt([&] {
-    std::string copy(path);
-    qel::refdata::make_folder_for_save(path);
-    const bool opened = qel::open(*session_, path, CQELPROIO::kWriting);
-    if (opened) {
-      path_ = std::move(copy);
-    }
-    return opened;
-  });
+  return path != nullptr && OpenSession() && qel::attempt([&] {
+           std::string copy(path);
+           qel::refdata::make_folder_for_save(path);
+           if (!qel::open(*session_, path, CQELPROIO::kWriting)) {
+             return false;
+           }
+           path_.swap(copy);
+           return true;
+         });
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }
