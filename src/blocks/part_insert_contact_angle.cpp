@@ -26,7 +26,7 @@ class GroupSearch {
   // False once the search is at its end.
   bool goes_on(std::string_view key, std::string_view value) {
     int number = 0;
-    if (!is_number(key, number) || number < next_ || number > count_ || waiting_.count(number) != 0) {
+    if (!is_number(key, number) || number < next_ || number > count_ || waiting_.contains(number)) {
       return true;
     }
     Group group;

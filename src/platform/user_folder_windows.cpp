@@ -2,8 +2,6 @@
 
 #include <shlobj.h>
 
-#include <algorithm>
-
 #include "platform/user_folder.h"
 
 namespace qel::platform {
@@ -18,7 +16,8 @@ std::string user_folder() {
 
 void make_folder(const std::string& path) {
   for (std::size_t end = 0; end < path.size();) {
-    end = std::min(path.find(kPathSeparator, end + 1), path.size());
+    const std::size_t separator = path.find(kPathSeparator, end + 1);
+    end = separator != std::string::npos ? separator : path.size();
     CreateDirectoryA(path.substr(0, end).c_str(), nullptr);
   }
 }

@@ -8,24 +8,37 @@ namespace {
 
 constexpr std::size_t kBlock = std::size_t{64} * 1024;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr char kControlZ = '\x1A';
+constexpr char kEndMark = '\x1A';
+constexpr std::string_view kPadding = " \x1A";
 
-// Where the 0x1A bytes at a file's very end begin.
+// Where the padding at the very end of contents begins; blanks without an end mark are none.
+std::size_t end_of_contents(std::string_view contents) {
+  const std::size_t end = contents.find_last_not_of(kPadding) + 1;
+  return contents.find(kEndMark, end) != std::string_view::npos ? end : contents.size();
+}
+
+// The same of a file.
 std::int64_t end_of_contents(platform::RandomAccess& file) {
-  std::int64_t end = file.size();
+  const std::int64_t size = file.size();
+  std::int64_t end = size;
+  bool marked = false;
   for (char last[64]; end > 0;) {
     const std::int64_t begin = std::max<std::int64_t>(end - static_cast<std::int64_t>(sizeof last), 0);
-    const auto count = static_cast<std::size_t>(end - begin);
-    if (file.read_at(begin, last, count) != end - begin) {
+    const std::string_view piece(last, static_cast<std::size_t>(end - begin));
+    if (file.read_at(begin, last, piece.size()) != end - begin) {
       break;
     }
-    const std::size_t behind = std::string_view(last, count).find_last_not_of(kControlZ) + 1;
+    const std::size_t behind = piece.find_last_not_of(kPadding) + 1;
+    marked = marked || piece.find(kEndMark, behind) != std::string_view::npos;
     end = begin + static_cast<std::int64_t>(behind);
     if (behind != 0) {
       break;
     }
   }
-  return end >= 0 ? end : std::numeric_limits<std::int64_t>::max();
+  if (size < 0) {
+    return std::numeric_limits<std::int64_t>::max();
+  }
+  return marked ? end : size;
 }
 
 }  // namespace
@@ -37,7 +50,7 @@ BoundedLines::BoundedLines(platform::RandomAccess& file) : file_(&file), block_(
   }
 }
 
-BoundedLines::BoundedLines(std::string_view contents) : window_(contents.substr(0, contents.find_last_not_of(kControlZ) + 1)) {
+BoundedLines::BoundedLines(std::string_view contents) : window_(contents.substr(0, end_of_contents(contents))) {
   if (window_.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
     window_.remove_prefix(kByteOrderMark.size());
   }

@@ -14,7 +14,7 @@ namespace qel::refdata {
 ///
 /// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted as one, comes in pieces.
 /// What stands behind a NUL byte of a line is not seen. A byte order mark at the start of the file belongs to no line, and
-/// neither do 0x1A bytes at its very end, which other programs' text mode leaves there.
+/// neither does a 0x1A at its very end with the blanks around it: other programs' text mode ends there.
 class BoundedLines {
  public:
   /// The file outlives the lines.

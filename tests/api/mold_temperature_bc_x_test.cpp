@@ -265,6 +265,31 @@ TEST(BoundaryConditionSetting, TakesNoHeaderLineFromALaterSection) {
   EXPECT_EQ(bytes_of(path), before);
 }
 
+TEST(BoundaryConditionSetting, EndsAtAHeaderWithWordsBehindItToo) {
+  const Scratch scratch;
+  for (const char* header : {"[Cool] note", "[Cool Section]", "[Cool]\t# 7"}) {
+    std::string contents = settings_before_another_section();
+    contents.replace(contents.find("[Cool]"), 6, header);
+    const std::string path = scratch.file(contents);
+    expect_no_setting(path, 1, 2, 2);
+    expect_no_setting(path, 1, 5, -2);
+    Writer writer;
+    ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+    EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBCSetting(40, 60, 1, 2, 2));
+    contents.insert(contents.find(header), "2 = 40\t60\n");
+    EXPECT_EQ(bytes_of(path), contents);
+  }
+  std::string entry = settings_before_another_section();
+  entry.replace(entry.find("[Cool]"), 6, "[7] = 1 2");
+  const std::string path = scratch.file(entry);
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  double a = -1;
+  double b = -1;
+  EXPECT_TRUE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 2, 2, 2)) << "no header, but a line like any other";
+  EXPECT_EQ(a, 8);
+}
+
 TEST(BoundaryConditionSetting, BehindTheLastLineBecomesTheSectionsNewLastLine) {
   const Scratch scratch;
   const std::string path = scratch.file(settings_before_another_section());

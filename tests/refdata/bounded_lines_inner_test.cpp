@@ -49,6 +49,12 @@ TEST(BoundedLines, FinalControlZIsNoLine) {
   EXPECT_EQ(lines_of("a\n" + long_tail), Lines({"a"}));
 }
 
+TEST(BoundedLines, BlanksAroundAFinalControlZAreNoLineEither) {
+  EXPECT_EQ(lines_of("a\n  \x1A "), Lines({"a"}));
+  EXPECT_EQ(lines_of("a\n" + std::string(100, ' ') + "\x1A" + std::string(100, ' ')), Lines({"a"}));
+  EXPECT_EQ(lines_of("a\n  "), Lines({"a", "  "})) << "blanks alone";
+}
+
 TEST(BoundedLines, ComeInPiecesOverTheBlocksOfAFile) {
   std::string contents;
   Lines expected;
