@@ -124,7 +124,7 @@ std::ostream& operator<<(std::ostream& out, const Answer& answer) {
   return out;
 }
 
-#define MEMBER(name, ...) With<__VA_ARGS__>::call(#name, &CLASS::name),
+#define MEMBER(name, ...) With<__VA_ARGS__>::call<CLASS>(#name, &CLASS::name),
 
 #define CLASS CQELPROReader_Manipulator
 const std::vector<EveryCall<CLASS>>& reader_calls() {
