@@ -11,12 +11,12 @@
 namespace qel {
 namespace {
 
-struct Key {
+struct HashKey {
   std::uint64_t first;
   std::uint64_t second;
 };
 
-Key drawn_key() {
+HashKey drawn_key() {
   try {
     constexpr unsigned kHalf = 32;
     std::random_device source;
@@ -29,8 +29,8 @@ Key drawn_key() {
   }
 }
 
-struct State {
-  explicit State(const Key& key)
+struct SipState {
+  explicit SipState(const HashKey& key)
       : a(key.first ^ 0x736f6d6570736575U),
         b(key.second ^ 0x646f72616e646f6dU),
         c(key.first ^ 0x6c7967656e657261U),
@@ -67,9 +67,9 @@ std::uint64_t word_of(const char* bytes, std::size_t count) {
 }  // namespace
 
 std::uint64_t name_hash(std::string_view name) {
-  static const Key key = drawn_key();
+  static const HashKey key = drawn_key();
   constexpr std::size_t kWord = sizeof(std::uint64_t);
-  State state(key);
+  SipState state(key);
   const char* at = name.data();
   std::size_t left = name.size();
   for (; left >= kWord; left -= kWord, at += kWord) {

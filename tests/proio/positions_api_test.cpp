@@ -19,6 +19,7 @@ const std::string kStamped = "[FileHeader]\n" + kMaskedDate;
 // What begins a section, and what does not.
 const char* const kHeaders[] = {"[Cool]",
                                 "[Cool] note",
+                                "[A HEADER] of words",
                                 "[Cool] # a = b",
                                 "[Cool]\tnote",
                                 "[Cool] \t ",
@@ -28,7 +29,8 @@ const char* const kHeaders[] = {"[Cool]",
                                 "[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
                                 "[SURFACE ELEMENT BOUNDARY CONDITION NAME] again",
                                 "[]"};
-const char* const kOtherLines[] = {"[Cool] = 5", "[Cool]=5", "[Cool] \t= 5", "[Cool", "Cool]", " [Cool]", "[A HEADER] of words", "[", "x [Cool]"};
+const char* const kOtherLines[] = {"[Cool] = 5", "[Cool]=5",           "[Cool] \t= 5", "[Cool", "Cool]",
+                                   " [Cool]",    "[A HEADER]of words", "[A=] b",       "[",     "x [Cool]"};
 
 std::string windows(std::string text) {
   for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
