@@ -199,12 +199,12 @@ TEST(Set, KeepsOwnerModeAndSymbolicLinks) {
 
 TEST(Set, ManyAtOnceAllLandInTheFile) {
   const Scratch scratch;
-  const std::string file = scratch.file("[A]\n");
-  const Outcome outcome = shell("for i in 1 2 3 4 5 6 7 8 9 10 11 12; do \"$0\" set \"$1\" A k$i $i & done; wait", {file});
+  const std::string file = scratch.file(long_file());
+  const Outcome outcome = shell("for i in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do \"$0\" set \"$1\" A new$i $i & done; wait", {file});
   EXPECT_EQ(outcome.err, "");
   const std::string contents = bytes_of(file);
-  for (int i = 1; i <= 12; ++i) {
-    EXPECT_THAT(contents, HasSubstr("\nk" + std::to_string(i) + " = " + std::to_string(i) + "\n"));
+  for (int i = 1; i <= 20; ++i) {
+    EXPECT_THAT(contents, HasSubstr("\nnew" + std::to_string(i) + " = " + std::to_string(i) + "\n"));
   }
   EXPECT_EQ(names_in(scratch.path("")), std::vector<std::string>{"file.pro"});
 }

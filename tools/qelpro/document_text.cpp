@@ -1,6 +1,8 @@
 #include "document_text.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 #include "core/text.h"
 #include "platform/files.h"
@@ -71,19 +73,18 @@ DocumentText::DocumentText(const std::string& file, std::string contents) : cont
       sections_.push_back({name_of(lines_[index].text), false, index, lines_.size()});
     }
   }
-  std::vector<TextSection*> by_name;
-  for (TextSection& section : sections_) {
-    by_name.push_back(&section);
-  }
-  std::stable_sort(by_name.begin(), by_name.end(), [](const TextSection* a, const TextSection* b) { return a->name < b->name; });
-  for (std::size_t index = 1; index < by_name.size(); ++index) {
-    by_name[index]->repeated = by_name[index]->name == by_name[index - 1]->name;
+  by_name_.resize(sections_.size());
+  std::iota(by_name_.begin(), by_name_.end(), std::size_t{0});
+  std::stable_sort(by_name_.begin(), by_name_.end(), [this](std::size_t a, std::size_t b) { return sections_[a].name < sections_[b].name; });
+  for (std::size_t index = 1; index < by_name_.size(); ++index) {
+    sections_[by_name_[index]].repeated = sections_[by_name_[index]].name == sections_[by_name_[index - 1]].name;
   }
 }
 
 const TextSection* DocumentText::find(std::string_view section) const {
-  const auto found = std::find_if(sections_.begin(), sections_.end(), [section](const TextSection& other) { return other.name == section; });
-  return found != sections_.end() ? &*found : nullptr;
+  const auto found = std::lower_bound(by_name_.begin(), by_name_.end(), section,
+                                      [this](std::size_t index, std::string_view name) { return sections_[index].name < name; });
+  return found != by_name_.end() && sections_[*found].name == section ? &sections_[*found] : nullptr;
 }
 
 const TextLine* DocumentText::find(const TextSection& section, std::string_view key) const {

@@ -48,6 +48,7 @@ class DocumentText {
   std::string contents_;
   std::vector<TextLine> lines_;
   std::vector<TextSection> sections_;
+  std::vector<std::size_t> by_name_;  // the sections by name, those of one name in the file's order
 };
 
 /// The text behind the first "=" of the line as it stands, without blanks around it. Longer than what the engine takes where the line is.

@@ -79,6 +79,11 @@ class Diagnosis {
       counted(*ram, "RP_IPSet", "RP_IP-");
     }
     inlets(type);
+    for (const TextSection& section : document_.sections()) {
+      if (section.repeated && taken_.contains(std::string(section.name))) {
+        add({file_, document_.lines()[section.header].number, std::string(section.name), ""}, "dropped: a section of this name came before");
+      }
+    }
     return std::move(notes_);
   }
 
@@ -101,11 +106,6 @@ class Diagnosis {
     entries.name = name;
     for (std::size_t index = section->header + 1; index < section->behind; ++index) {
       take_line(document_.lines()[index], entries);
-    }
-    for (const TextSection& other : document_.sections()) {
-      if (other.repeated && other.name == name) {
-        add(entries, &document_.lines()[other.header], "", "dropped: a section of this name came before");
-      }
     }
     return &entries;
   }

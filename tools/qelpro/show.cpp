@@ -189,6 +189,10 @@ void print_section(const DocumentText& document, const TextSection& section, Pri
     head["repeated"] = true;
   }
   printer.begin_section(head);
+  const TextLine& header = document.lines()[section.header];
+  if (const std::string_view behind = qel::text::index_value(header.text.substr(section.name.size())); !behind.empty()) {
+    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) + "\" behind the header is not read");
+  }
   if (is_positional(section) && !section.repeated) {
     const PositionalLines lines = positional_lines(document, section);
     for (const Json& entry : lines.entries) {

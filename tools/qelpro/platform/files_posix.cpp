@@ -221,6 +221,8 @@ Replacement::~Replacement() {
 const std::string& Replacement::write(std::string_view contents) {
   constexpr mode_t kOwnersAlone = 0600;
   constexpr mode_t kAllBits = 07777;
+  constexpr mode_t kGroupBits = 0070;
+  constexpr mode_t kOtherBits = 0007;
   handles_->signals_wait = std::make_unique<SignalsWait>();
   handles_->new_file.reset(make_beside(file_, target_, kOwnersAlone, temporary_));
   const int descriptor = handles_->new_file.get();
@@ -230,7 +232,8 @@ const std::string& Replacement::write(std::string_view contents) {
   }
   // Who may not give a file away keeps it, and its group where that is possible.
   if (::fchown(descriptor, status.st_uid, status.st_gid) != 0 && ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
-    errno = 0;
+    // Another group gets what everybody may.
+    status.st_mode = (status.st_mode & ~kGroupBits) | ((status.st_mode & kOtherBits) << 3U);
   }
   copy_attributes(handles_->old_file.get(), descriptor);
   if (::fchmod(descriptor, status.st_mode & kAllBits) != 0) {
