@@ -6,6 +6,7 @@ install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # From the folder of the .pc files back to the prefix.
 file(RELATIVE_PATH back_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 
+file(READ cmake/no_components.cmake QELPRO_NO_COMPONENTS)
 foreach(package QELG QELPROEngine)
   set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
   install(TARGETS ${package} EXPORT ${package}Targets
@@ -19,10 +20,19 @@ foreach(package QELG QELPROEngine)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake
           DESTINATION ${package_dir})
   string(TOLOWER ${package} pc_name)
+  string(TOUPPER " -D${package}_STATIC" ${package}_pc_definition)
+  if(BUILD_SHARED_LIBS)
+    set(${package}_pc_definition "")
+  endif()
   configure_file(cmake/${pc_name}.pc.in ${pc_name}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()
 
 if(QELPRO_TOOL)
   install(TARGETS qelpro RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+
+if(QELPRO_TOP_LEVEL)
+  add_custom_target(uninstall COMMAND ${CMAKE_COMMAND} -DMANIFEST=${CMAKE_BINARY_DIR}/install_manifest.txt
+                                      -P ${PROJECT_SOURCE_DIR}/cmake/uninstall.cmake USES_TERMINAL)
 endif()

@@ -2,6 +2,7 @@
 # The rules of the tree that no compiler knows.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+git rev-parse --is-inside-work-tree >/dev/null  # what cannot be searched has not passed
 failed=0
 
 complain() {

@@ -1,7 +1,10 @@
 #pragma once
 
-/// Marks what the shared library exports; everything else in it is hidden.
-#if defined(_WIN32)
+/// Marks what the shared library exports; everything else in it is hidden. Whoever links the static library defines
+/// QELG_STATIC, as its CMake target and pkg-config do.
+#if defined(QELG_STATIC)
+#define QELG_API
+#elif defined(_WIN32)
 #if defined(QELG_BUILDING)
 #define QELG_API __declspec(dllexport)
 #else

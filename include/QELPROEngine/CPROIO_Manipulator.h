@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QELPROEngine/QELPRO_MMM_MECHANICAL.h"
+#include "QELPROEngine/constant_text.h"
 #include "QELPROEngine/export.h"
 
 namespace qel::proio {
@@ -22,7 +23,8 @@ struct Entry;
 ///
 /// - A key is searched for from its section's header to the end of the file: a key that its section lacks is taken from a
 ///   later section that has it.
-/// - A line of more than 127 characters, its line break counted, is seen as several lines.
+/// - A line of more than 127 characters, its line break counted, is seen as several lines. A value is cut there; replacing
+///   it replaces the line to its real end.
 /// - A text result is all that stands behind "=" and the blanks that follow: trailing blanks and the line feed that ended
 ///   the line belong to it. It points into a buffer of the thread and stays valid until the thread's next read through any
 ///   object of this class; names of rows have buffers of their own, one for each kind. Copy it to keep it, and never free it.
@@ -30,11 +32,17 @@ struct Entry;
 /// Setters. An entry that exists is replaced where the search finds it, in a later section too. A new one is added at the
 /// end of the file, behind a new header where the section is missing. A file that does not exist is created. The file never
 /// becomes shorter: blanks fill it up. Reals are written as "%g" writes them, six significant digits with at least three in
-/// the exponent. Texts are written as they are given. Every setter then writes the local time to "Date" of [FileHeader],
-/// except where it says that it does not.
+/// the exponent. Texts are written as they are given; they are read during the call alone, and never changed: each setter
+/// that takes one as `char*` takes a constant text as well. Every setter then writes the local time to "Date" of
+/// [FileHeader], except where it says that it does not.
 ///
-/// Setters yield true even when the file cannot be written, and the file then keeps every byte. False is for an object
-/// without a path, a null text, or a position that no line can have.
+/// Setters yield true even when the file cannot be written, and the file then keeps every byte, its "Date" too. False is for
+/// an object without a path, a null text, one that holds the byte 0x1A, which ends a file for other programs, a position that no
+/// line can have, and for memory that is missing. What is replaced is a whole line, however long: the same store twice leaves
+/// what one leaves. A text with a line break makes several lines.
+///
+/// Where the boundary conditions are the file's last section, a new key goes to the end of its own section: at the end of the
+/// file it would be one of their lines.
 ///
 /// Copies share the caller's path. One object is used by one thread at a time; different objects on different files need
 /// no lock.
@@ -93,15 +101,15 @@ class QELPROENGINE_API CPROIO_Manipulator {
   CPROIO_Manipulator& operator=(const CPROIO_Manipulator& other);
   virtual ~CPROIO_Manipulator();
 
-  /// Chooses the file without looking for it: it may be one that the first setter creates. The text is not copied, and
-  /// must stay as it is while the object is used.
+  /// Chooses the file without looking for it: it may be one that the first setter creates. A constant text chooses the other
+  /// form. The text is not copied, and must stay as it is while the object is used.
   void SetFilePath(char* path);
   /// Chooses a file that exists. False, with the old path still in force, when it cannot be opened for reading. The text is
   /// not copied either.
   bool SetFilePath(const char* path);
   /// The pointer that was given to `SetFilePath`; false before any was.
   bool GetFilePath(const char*& path);
-  /// True.
+  /// Always true: that the object can be called.
   bool Test();
 
   /// Writes the default document: headers, counts, units and the filling stage of one inlet, with a "FileVersion" of 1008.
@@ -110,729 +118,1333 @@ class QELPROENGINE_API CPROIO_Manipulator {
 
   // [FileHeader]: what the file is, who wrote it and when.
 
-  /// "Name": the file's name.
+  /// [FileHeader] "Name": the name of the file. Argument: the text. The text is valid until the thread's next read
+  /// through any object of this class, its line break included. False, the text untouched: not in the file.
   bool GetFileName(char*& text);
+  /// [FileHeader] "Name": the name of the file. Argument: the text. False: no path is set, or the text is null.
   bool SetFileName(char* text);
-  /// "Date": when the file was last changed, such as 2026/11/15 09:05:07. The setter writes the local time of this moment.
+  /// [FileHeader] "Name", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetFileName(Char* text) {
+    return SetFileName(const_cast<char*>(text));
+  }
+  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Argument: the text. The text is valid
+  /// until the thread's next read through any object of this class, its line break included. False, the text untouched:
+  /// not in the file.
   bool GetFileDate(char*& text);
+  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Writes the local time of this moment.
+  /// No arguments. False: no path is set.
   bool SetFileDate();
-  /// "Type": the file's type, such as PRO.
+  /// [FileHeader] "Type": the file's type, "PRO". Argument: the text. False: no path is set, or the text is null.
   bool SetType(char* text);
-  /// "CreateBy": the program that wrote the file.
+  /// [FileHeader] "Type", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetType(Char* text) {
+    return SetType(const_cast<char*>(text));
+  }
+  /// [FileHeader] "CreateBy": the program that wrote the file. Argument: the text. False: no path is set, or the text
+  /// is null.
   bool SetCreateBy(char* text);
-  /// "Remark": a remark.
+  /// [FileHeader] "CreateBy", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetCreateBy(Char* text) {
+    return SetCreateBy(const_cast<char*>(text));
+  }
+  /// [FileHeader] "Remark": a remark about the file. Argument: the text. False: no path is set, or the text is null.
   bool SetRemark(char* text);
+  /// [FileHeader] "Remark", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetRemark(Char* text) {
+    return SetRemark(const_cast<char*>(text));
+  }
 
   // [CaeHeader]: the release and project that the analysis belongs to.
 
-  /// "Version": the suite's version.
+  /// [CaeHeader] "Version": the version of the suite, or its name. Argument: the text. False: no path is set, or the
+  /// text is null.
   bool SetVersion(char* text);
-  /// "Release": the suite's release.
+  /// [CaeHeader] "Version", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetVersion(Char* text) {
+    return SetVersion(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "Release": the release of the suite. Argument: the text. False: no path is set, or the text is null.
   bool SetRelease(char* text);
-  /// "Project": the project.
+  /// [CaeHeader] "Release", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetRelease(Char* text) {
+    return SetRelease(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "Project": the project that the analysis belongs to, by name or path. Argument: the text. The text is
+  /// valid until the thread's next read through any object of this class, its line break included. False, the text
+  /// untouched: not in the file.
   bool GetProjectPath(char*& text);
+  /// [CaeHeader] "Project": the project that the analysis belongs to, by name or path. Argument: the text. False: no
+  /// path is set, or the text is null.
   bool SetProject(char* text);
-  /// "Engineer": the engineer.
+  /// [CaeHeader] "Project", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetProject(Char* text) {
+    return SetProject(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "Engineer": the name of the engineer in charge. Argument: the text. False: no path is set, or the text
+  /// is null.
   bool SetEngineer(char* text);
-  /// "Parent": the file that this one was made from.
+  /// [CaeHeader] "Engineer", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetEngineer(Char* text) {
+    return SetEngineer(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "Parent": the file that this one was made from. Argument: the text. False: no path is set, or the text
+  /// is null.
   bool SetParent(char* text);
-  /// "Type": the kind of analysis, such as Injection.
+  /// [CaeHeader] "Parent", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetParent(Char* text) {
+    return SetParent(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "Type": the kind of analysis, such as Injection. Argument: the text. The text is valid until the
+  /// thread's next read through any object of this class, its line break included. False, the text untouched: not in
+  /// the file.
   bool GetCAEType(char*& text);
+  /// [CaeHeader] "Type": the kind of analysis, such as Injection. Argument: the text. False: no path is set, or the
+  /// text is null.
   bool SetCAEType(char* text);
-  /// "FileVersion": the version of the file's layout.
+  /// [CaeHeader] "Type", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetCAEType(Char* text) {
+    return SetCAEType(const_cast<char*>(text));
+  }
+  /// [CaeHeader] "FileVersion": the version of the file's layout, as a number. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetFileVersion(int& value);
+  /// [CaeHeader] "FileVersion": the version of the file's layout, as a number. Argument: the value. False: no path is
+  /// set.
   bool SetFileVersion(int value);
-  /// "FileType": the file's type code.
+  /// [CaeHeader] "FileType": a code of the kind of process file. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetFileType(int& value);
+  /// [CaeHeader] "FileType": a code of the kind of process file. Argument: the value. False: no path is set.
   bool SetFileType(int value);
-  /// "SmartSetting": the code of the guided setting.
+  /// [CaeHeader] "SmartSetting": a code: how far the front end set the values by itself (smart setting). Argument: the
+  /// value. False, the value untouched: not in the file.
   bool GetSmartSetting(int& value);
+  /// [CaeHeader] "SmartSetting": a code: how far the front end set the values by itself (smart setting). Argument: the
+  /// value. False: no path is set.
   bool SetSmartSetting(int value);
 
   // [Summary]: counts of the model, by which the other sections are numbered.
 
-  /// "TotalNdivz": the number of mesh layers.
+  /// [Summary] "TotalNdivz": the number of layers into which the mesh divides the thickness. Argument: the value.
+  /// False, the value untouched: not in the file.
   bool GetMeshLayer(int& value);
+  /// [Summary] "TotalNdivz": the number of layers into which the mesh divides the thickness. Argument: the value.
+  /// False: no path is set.
   bool SetMeshLayer(int value);
-  /// "TotalNodeEM": the number of melt entrances.
+  /// [Summary] "TotalNodeEM": the number of melt entrances. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMeltEntranceNo(int& value);
+  /// [Summary] "TotalNodeEM": the number of melt entrances. Argument: the value. False: no path is set.
   bool SetMeltEntranceNo(int value);
-  /// "TotalNodeEC": the number of coolant entrances.
+  /// [Summary] "TotalNodeEC": the number of coolant entrances. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetCoolantNo(int& value);
+  /// [Summary] "TotalNodeEC": the number of coolant entrances. Argument: the value. False: no path is set.
   bool SetCoolantNo(int value);
-  /// "TotalGateCTL": the number of valve gates.
+  /// [Summary] "TotalGateCTL": the number of valve gates. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetValveGateNo(int& value);
+  /// [Summary] "TotalGateCTL": the number of valve gates. Argument: the value. False: no path is set.
   bool SetValveGateNo(int value);
-  /// "VacuumIndex": the vacuum code.
+  /// [Summary] "VacuumIndex": a code: whether and how the cavity is evacuated. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetVacuumIndex(int& value);
+  /// [Summary] "VacuumIndex": a code: whether and how the cavity is evacuated. Argument: the value. False: no path is
+  /// set.
   bool SetVacuumIndex(int value);
-  /// "SkinRatio": the skin ratio.
+  /// [Summary] "SkinRatio": the share of the skin material in a part of two materials. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetSkinRatio(double& value);
+  /// [Summary] "SkinRatio": the share of the skin material in a part of two materials. Argument: the value. False: no
+  /// path is set.
   bool SetSkinRatio(double value);
-  /// "NoOutput": the multi time step.
+  /// [Summary] "NoOutput": how often results are put out (the multi time step). Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMultiTimeStep(int& value);
+  /// [Summary] "NoOutput": how often results are put out (the multi time step). Argument: the value. False: no path is
+  /// set.
   bool SetMultiTimeStep(int value);
-  /// "PEOFasPPack": 1 where the pressure at the end of filling is the packing pressure.
-  /// The flag getter yields the flag itself, false for a missing key too.
+  /// [Summary] "PEOFasPPack": 1 where the pressure at the end of filling is the packing pressure. Argument: the value.
+  /// False, the value untouched: not in the file.
   bool GetPpackAsPeof(int& value);
+  /// [Summary] "PEOFasPPack": 1 where the pressure at the end of filling is the packing pressure. Argument: the value.
+  /// False: no path is set.
   bool SetPpackAsPeof(int value);
+  /// [Summary] "PEOFasPPack": 1 where the pressure at the end of filling is the packing pressure. As a flag: whether it
+  /// is 1. The result is the flag itself, so it is false for a missing key, too. Argument: the flag.
   bool GetPpackAsPeof(bool& flag);
+  /// [Summary] "PEOFasPPack": 1 where the pressure at the end of filling is the packing pressure. As a flag: writes 1
+  /// or 0. Argument: the flag. False: no path is set.
   bool SetPpackAsPeof(bool flag);
-  /// "TotalNodeMB": the number of mold bases.
+  /// [Summary] "TotalNodeMB": the number of mold bases. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMoldbaseNo(int& value);
+  /// [Summary] "TotalNodeMB": the number of mold bases. Argument: the value. False: no path is set.
   bool SetMoldbaseNo(int value);
-  /// "TotalNodeBC": the number of boundary conditions.
+  /// [Summary] "TotalNodeBC": the number of boundary conditions. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetBoundaryConditionNo(int& value);
+  /// [Summary] "TotalNodeBC": the number of boundary conditions. Argument: the value. False: no path is set.
   bool SetBoundaryConditionNo(int value);
-  /// "TotalNodeEG": the number of gas entrances.
+  /// [Summary] "TotalNodeEG": the number of gas entrances. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetGasEntranceNo(int& value);
+  /// [Summary] "TotalNodeEG": the number of gas entrances. Argument: the value. False: no path is set.
   bool SetGasEntranceNo(int value);
-  /// "TotalNodeMMM": the number of mold metal materials.
+  /// [Summary] "TotalNodeMMM": the number of mold metal materials. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetMoldMetalMaterialNo(int& value);
+  /// [Summary] "TotalNodeMMM": the number of mold metal materials. Argument: the value. False: no path is set.
   bool SetMoldMetalMaterialNo(int value);
-  /// "SymVolRatio": the symmetry volume ratio, an integer: 0.5 reads as 0.
+  /// [Summary] "SymVolRatio": how many times the part holds the modelled volume, where only a symmetric piece of it is
+  /// modelled; an integer: 0.5 reads as 0. Argument: the value. False, the value untouched: not in the file.
   bool GetSymVolRatio(int& value);
+  /// [Summary] "SymVolRatio": how many times the part holds the modelled volume, where only a symmetric piece of it is
+  /// modelled; an integer: 0.5 reads as 0. Argument: the value. False: no path is set.
   bool SetSymVolRatio(int value);
-  /// "TotalNodeHR": the number of heating rods.
+  /// [Summary] "TotalNodeHR": the number of heating rods. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetHeatingRodNo(int& value);
+  /// [Summary] "TotalNodeHR": the number of heating rods. Argument: the value. False: no path is set.
   bool SetHeatingRodNo(int value);
-  /// "IsTransientInletConv": 1 where the inlet conversion is transient. The getter needs a "FileVersion" of 1010: below it,
-  /// and where the key is missing, the flag is false. Unlike the other flag getters it yields whether the key was read.
+  /// [Summary] "IsTransientInletConv": 1 where the resin's conversion at the inlet changes with time, else 0. For a
+  /// "FileVersion" below 1010, and where the key is missing, the flag is false. Unlike the other flag getters it yields
+  /// whether the key was read. Argument: the flag.
   bool GetIsTransientInletConv(bool& flag);
+  /// [Summary] "IsTransientInletConv": 1 where the resin's conversion at the inlet changes with time, else 0. Argument:
+  /// the flag. False: no path is set.
   bool SetIsTransientInletConv(bool flag);
 
   // [Unit]: the units in which the file's values are given; they are fixed, and each member writes its own text.
 
-  /// "Time": "sec       Time".
+  /// [Unit] "Time": the unit of times, "sec". Writes that unit and the word Time, in columns. No arguments. False: no
+  /// path is set.
   bool SetUnitTime();
-  /// "Temp": "oC        Temperature".
+  /// [Unit] "Temp": the unit of temperatures, "oC". Writes that unit and the word Temperature, in columns. No
+  /// arguments. False: no path is set.
   bool SetUnitTemperature();
-  /// "Pres": "MPa       Pressure".
+  /// [Unit] "Pres": the unit of pressures, "MPa". Writes that unit and the word Pressure, in columns. No arguments.
+  /// False: no path is set.
   bool SetUnitPressure();
-  /// "FR": "cc/sec    FlowRate".
+  /// [Unit] "FR": the unit of flow rates, "cc/sec". Writes that unit and the word FlowRate, in columns. No arguments.
+  /// False: no path is set.
   bool SetUnitFlowRate();
-  /// "IP": "MPa       InjectPressure".
+  /// [Unit] "IP": the unit of injection pressures, "MPa". Writes that unit and the word InjectPressure, in columns. No
+  /// arguments. False: no path is set.
   bool SetUnitInjectPressure();
-  /// "PP": "MPa       PackPressure".
+  /// [Unit] "PP": the unit of packing pressures, "MPa". Writes that unit and the word PackPressure, in columns. No
+  /// arguments. False: no path is set.
   bool SetUnitPackPressure();
-  /// "Volum": "cc        Volume".
+  /// [Unit] "Volum": the unit of volumes under the spelling of the older object, "cc". Writes that unit and the word
+  /// Volume, in columns. No arguments. False: no path is set.
   bool SetUnitVolume();
 
   // [Flow-%d]: the filling stage of an inlet. The stage is the last argument.
 
-  /// "FillTime": the filling time, in sec.
+  /// [Flow-%d] "FillTime": the filling time, in sec. Arguments: the value, the stage. False, the value untouched: not
+  /// in the file.
   bool GetFillTime(double& value, int stage);
+  /// [Flow-%d] "FillTime": the filling time, in sec. Arguments: the value, the stage. False: no path is set.
   bool SetFillTime(double value, int stage);
-  /// "MeltTemp": the melt temperature, in oC.
+  /// [Flow-%d] "MeltTemp": the melt temperature, in oC. Arguments: the value, the stage. False, the value untouched:
+  /// not in the file.
   bool GetMeltTemperature(double& value, int stage);
+  /// [Flow-%d] "MeltTemp": the melt temperature, in oC. Arguments: the value, the stage. False: no path is set.
   bool SetMeltTemperature(double value, int stage);
-  /// "MoldTemp": the mold temperature, in oC.
+  /// [Flow-%d] "MoldTemp": the mold temperature, in oC. Arguments: the value, the stage. False, the value untouched:
+  /// not in the file.
   bool GetMoldTemperature(double& value, int stage);
+  /// [Flow-%d] "MoldTemp": the mold temperature, in oC. Arguments: the value, the stage. False: no path is set.
   bool SetMoldTemperature(double value, int stage);
-  /// "InjectPres": the injection pressure, in MPa.
+  /// [Flow-%d] "InjectPres": the injection pressure, in MPa. Arguments: the value, the stage. False, the value
+  /// untouched: not in the file.
   bool GetInjectPressure(double& value, int stage);
+  /// [Flow-%d] "InjectPres": the injection pressure, in MPa. Arguments: the value, the stage. False: no path is set.
   bool SetInjectPressure(double value, int stage);
-  /// "PreFill": the pre-fill.
+  /// [Flow-%d] "PreFill": the pre-fill, a target of filling: how much of the cavity is full when filling ends and
+  /// packing takes over; 100 in the default document. Arguments: the value, the stage. False, the value untouched: not
+  /// in the file.
   bool GetPreFill(double& value, int stage);
+  /// [Flow-%d] "PreFill": the pre-fill, a target of filling: how much of the cavity is full when filling ends and
+  /// packing takes over; 100 in the default document. Arguments: the value, the stage. False: no path is set.
   bool SetPreFill(double value, int stage);
-  /// "InjVol": the injected volume, in cc.
+  /// [Flow-%d] "InjVol": the volume that is injected, in cc. Arguments: the value, the stage. False, the value
+  /// untouched: not in the file.
   bool GetInjectVolume(double& value, int stage);
+  /// [Flow-%d] "InjVol": the volume that is injected, in cc. Arguments: the value, the stage. False: no path is set.
   bool SetInjectVolume(double value, int stage);
-  /// "TransTime": the filling time of transfer molding, in sec.
+  /// [Flow-%d] "TransTime": the filling time of transfer molding, in sec. Arguments: the value, the stage. False, the
+  /// value untouched: not in the file.
   bool GetTransferTime(double& value, int stage);
+  /// [Flow-%d] "TransTime": the filling time of transfer molding, in sec. Arguments: the value, the stage. False: no
+  /// path is set.
   bool SetTransferTime(double value, int stage);
-  /// "ResnTemp": the resin temperature of transfer molding, in oC.
+  /// [Flow-%d] "ResnTemp": the resin temperature of transfer molding, in oC. Arguments: the value, the stage. False,
+  /// the value untouched: not in the file.
   bool GetResinTemperature(double& value, int stage);
+  /// [Flow-%d] "ResnTemp": the resin temperature of transfer molding, in oC. Arguments: the value, the stage. False: no
+  /// path is set.
   bool SetResinTemperature(double value, int stage);
-  /// "TransPres": the transfer pressure, in MPa.
+  /// [Flow-%d] "TransPres": the pressure of transfer molding, in MPa. Arguments: the value, the stage. False, the value
+  /// untouched: not in the file.
   bool GetTransferPressure(double& value, int stage);
+  /// [Flow-%d] "TransPres": the pressure of transfer molding, in MPa. Arguments: the value, the stage. False: no path
+  /// is set.
   bool SetTransferPressure(double value, int stage);
-  /// "InitConv": the conversion at the start.
+  /// [Flow-%d] "InitConv": how far the resin's curing reaction has gone (its conversion) at the start of filling.
+  /// Arguments: the value, the stage. False, the value untouched: not in the file.
   bool GetInitialConversion(double& value, int stage);
+  /// [Flow-%d] "InitConv": how far the resin's curing reaction has gone (its conversion) at the start of filling.
+  /// Arguments: the value, the stage. False: no path is set.
   bool SetInitialConversion(double value, int stage);
-  /// "EndConv": the conversion at the end.
+  /// [Flow-%d] "EndConv": how far the resin's curing reaction has gone (its conversion) at the end of filling.
+  /// Arguments: the value, the stage. False, the value untouched: not in the file.
   bool GetEndConversion(double& value, int stage);
+  /// [Flow-%d] "EndConv": how far the resin's curing reaction has gone (its conversion) at the end of filling.
+  /// Arguments: the value, the stage. False: no path is set.
   bool SetEndConversion(double value, int stage);
-  /// "FRDisplayType": how the flow rate profile is shown.
+  /// [Flow-%d] "FRDisplayType": a code: how a front end shows the flow rate profile. Arguments: the value, the stage.
+  /// False, the value untouched: not in the file.
   bool GetFRDisplayType(int& value, int stage);
-  /// "IPDisplayType": how the injection pressure profile is shown.
+  /// [Flow-%d] "IPDisplayType": a code: how a front end shows the injection pressure profile. Arguments: the value, the
+  /// stage. False, the value untouched: not in the file.
   bool GetIPDisplayType(int& value, int stage);
-  /// "TPDisplayType": how the transfer pressure profile is shown.
+  /// [Flow-%d] "TPDisplayType": a code: how a front end shows the transfer pressure profile. Arguments: the value, the
+  /// stage. False, the value untouched: not in the file.
   bool GetTPDisplayType(int& value, int stage);
-  /// "FRSet": the number of flow rate points.
+  /// [Flow-%d] "FRSet": the number of points of the flow rate profile. Arguments: the count, the stage. False, the
+  /// count untouched: not in the file.
   bool GetFRSection(int& count, int stage);
+  /// [Flow-%d] "FRSet": the number of points of the flow rate profile. Arguments: the count, the stage. False: no path
+  /// is set.
   bool SetFRSection(int count, int stage);
-  /// "FR-%d": a point of the flow rate profile: x, y.
+  /// [Flow-%d] "FR-%d": a point of the flow rate profile: how far filling has gone, and the flow rate, in cc/sec.
+  /// Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetFRProfile(int point, double& x, double& y, int stage);
+  /// [Flow-%d] "FR-%d": a point of the flow rate profile: how far filling has gone, and the flow rate, in cc/sec.
+  /// Arguments: the point, x, y, the stage. False: no path is set.
   bool SetFRProfile(int point, double x, double y, int stage);
-  /// "UserFRSet": the number of flow rate points as the user entered them.
+  /// [Flow-%d] "UserFRSet": the number of points of the flow rate profile as the user entered it. Arguments: the count,
+  /// the stage. False, the count untouched: not in the file.
   bool GetUserFRSection(int& count, int stage);
-  /// "UserFR-%d": a point of the flow rate profile as the user entered it: x, y.
+  /// [Flow-%d] "UserFR-%d": a point of the flow rate profile as the user entered it: x and y. Arguments: the point, x,
+  /// y, the stage. False, outputs untouched: not in the file.
   bool GetUserFRProfile(int point, double& x, double& y, int stage);
-  /// "IPSet": the number of injection pressure points.
+  /// [Flow-%d] "IPSet": the number of points of the injection pressure profile. Arguments: the count, the stage. False,
+  /// the count untouched: not in the file.
   bool GetIPSection(int& count, int stage);
+  /// [Flow-%d] "IPSet": the number of points of the injection pressure profile. Arguments: the count, the stage. False:
+  /// no path is set.
   bool SetIPSection(int count, int stage);
-  /// "IP-%d": a point of the injection pressure profile: x, y.
+  /// [Flow-%d] "IP-%d": a point of the injection pressure profile: how far filling has gone, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetIPProfile(int point, double& x, double& y, int stage);
+  /// [Flow-%d] "IP-%d": a point of the injection pressure profile: how far filling has gone, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False: no path is set.
   bool SetIPProfile(int point, double x, double y, int stage);
-  /// "UserIPSet": the number of injection pressure points as the user entered them.
+  /// [Flow-%d] "UserIPSet": the number of points of the injection pressure profile as the user entered it. Arguments:
+  /// the count, the stage. False, the count untouched: not in the file.
   bool GetUserIPSection(int& count, int stage);
-  /// "UserIP-%d": a point of the injection pressure profile as the user entered it: x, y.
+  /// [Flow-%d] "UserIP-%d": a point of the injection pressure profile as the user entered it: x and y. Arguments: the
+  /// point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetUserIPProfile(int point, double& x, double& y, int stage);
-  /// "TPSet": the number of transfer pressure points.
+  /// [Flow-%d] "TPSet": the number of points of the transfer pressure profile. Arguments: the count, the stage. False,
+  /// the count untouched: not in the file.
   bool GetTPSection(int& count, int stage);
+  /// [Flow-%d] "TPSet": the number of points of the transfer pressure profile. Arguments: the count, the stage. False:
+  /// no path is set.
   bool SetTPSection(int count, int stage);
-  /// "TP-%d": a point of the transfer pressure profile: x, y.
+  /// [Flow-%d] "TP-%d": a point of the transfer pressure profile: how far filling has gone, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetTPProfile(int point, double& x, double& y, int stage);
+  /// [Flow-%d] "TP-%d": a point of the transfer pressure profile: how far filling has gone, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False: no path is set.
   bool SetTPProfile(int point, double x, double y, int stage);
-  /// "UserTPSet": the number of transfer pressure points as the user entered them.
+  /// [Flow-%d] "UserTPSet": the number of points of the transfer pressure profile as the user entered it. Arguments:
+  /// the count, the stage. False, the count untouched: not in the file.
   bool GetUserTPSection(int& count, int stage);
-  /// "UserTP-%d": a point of the transfer pressure profile as the user entered it: x, y.
+  /// [Flow-%d] "UserTP-%d": a point of the transfer pressure profile as the user entered it: x and y. Arguments: the
+  /// point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetUserTPProfile(int point, double& x, double& y, int stage);
 
   // [Pack-%d]: the packing stage of an inlet. The stage is the last argument.
 
-  /// "PackTime": the packing time, in sec.
+  /// [Pack-%d] "PackTime": the packing time, in sec. Arguments: the value, the stage. False, the value untouched: not
+  /// in the file.
   bool GetPackTime(double& value, int stage);
+  /// [Pack-%d] "PackTime": the packing time, in sec. Arguments: the value, the stage. False: no path is set.
   bool SetPackTime(double value, int stage);
-  /// "PackPres": the packing pressure, in MPa.
+  /// [Pack-%d] "PackPres": the packing pressure, in MPa. Arguments: the value, the stage. False, the value untouched:
+  /// not in the file.
   bool GetPackPressure(double& value, int stage);
+  /// [Pack-%d] "PackPres": the packing pressure, in MPa. Arguments: the value, the stage. False: no path is set.
   bool SetPackPressure(double value, int stage);
-  /// "PackSwch": the switch value of packing.
+  /// [Pack-%d] "PackSwch": the switch value at which packing takes over from filling. Arguments: the value, the stage.
+  /// False, the value untouched: not in the file.
   bool GetPackSwitch(double& value, int stage);
+  /// [Pack-%d] "PackSwch": the switch value at which packing takes over from filling. Arguments: the value, the stage.
+  /// False: no path is set.
   bool SetPackSwitch(double value, int stage);
-  /// "PPDisplayType": how the packing pressure profile is shown.
+  /// [Pack-%d] "PPDisplayType": a code: how a front end shows the packing pressure profile. Arguments: the value, the
+  /// stage. False, the value untouched: not in the file.
   bool GetPPDisplayType(int& value, int stage);
-  /// "PPSet": the number of packing pressure points.
+  /// [Pack-%d] "PPSet": the number of points of the packing pressure profile. Arguments: the count, the stage. False,
+  /// the count untouched: not in the file.
   bool GetPPSection(int& count, int stage);
+  /// [Pack-%d] "PPSet": the number of points of the packing pressure profile. Arguments: the count, the stage. False:
+  /// no path is set.
   bool SetPPSection(int count, int stage);
-  /// "PP-%d": a point of the packing pressure profile: x, y.
+  /// [Pack-%d] "PP-%d": a point of the packing pressure profile: the time in the stage, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetPPProfile(int point, double& x, double& y, int stage);
+  /// [Pack-%d] "PP-%d": a point of the packing pressure profile: the time in the stage, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False: no path is set.
   bool SetPPProfile(int point, double x, double y, int stage);
-  /// "UserPPSet": the number of packing pressure points as the user entered them.
+  /// [Pack-%d] "UserPPSet": the number of points of the packing pressure profile as the user entered it. Arguments: the
+  /// count, the stage. False, the count untouched: not in the file.
   bool GetUserPPSection(int& count, int stage);
-  /// "UserPP-%d": a point of the packing pressure profile as the user entered it: x, y.
+  /// [Pack-%d] "UserPP-%d": a point of the packing pressure profile as the user entered it: x and y. Arguments: the
+  /// point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetUserPPProfile(int point, double& x, double& y, int stage);
 
   // [Cure-%d]: the curing stage of an inlet. The stage is the last argument.
 
-  /// "CureTime": the curing time, in sec.
+  /// [Cure-%d] "CureTime": the curing time, in sec. Arguments: the value, the stage. False, the value untouched: not in
+  /// the file.
   bool GetCureTime(double& value, int stage);
+  /// [Cure-%d] "CureTime": the curing time, in sec. Arguments: the value, the stage. False: no path is set.
   bool SetCureTime(double value, int stage);
-  /// "CurePres": the curing pressure, in MPa.
+  /// [Cure-%d] "CurePres": the curing pressure, in MPa. Arguments: the value, the stage. False, the value untouched:
+  /// not in the file.
   bool GetCurePressure(double& value, int stage);
+  /// [Cure-%d] "CurePres": the curing pressure, in MPa. Arguments: the value, the stage. False: no path is set.
   bool SetCurePressure(double value, int stage);
-  /// "CureSwch": the switch value of curing.
+  /// [Cure-%d] "CureSwch": the switch value at which curing takes over from packing. Arguments: the value, the stage.
+  /// False, the value untouched: not in the file.
   bool GetCureSwitch(double& value, int stage);
+  /// [Cure-%d] "CureSwch": the switch value at which curing takes over from packing. Arguments: the value, the stage.
+  /// False: no path is set.
   bool SetCureSwitch(double value, int stage);
-  /// "CPDisplayType": how the curing pressure profile is shown.
+  /// [Cure-%d] "CPDisplayType": a code: how a front end shows the curing pressure profile. Arguments: the value, the
+  /// stage. False, the value untouched: not in the file.
   bool GetCPDisplayType(int& value, int stage);
-  /// "CPSet": the number of curing pressure points.
+  /// [Cure-%d] "CPSet": the number of points of the curing pressure profile. Arguments: the count, the stage. False,
+  /// the count untouched: not in the file.
   bool GetCPSection(int& count, int stage);
+  /// [Cure-%d] "CPSet": the number of points of the curing pressure profile. Arguments: the count, the stage. False: no
+  /// path is set.
   bool SetCPSection(int count, int stage);
-  /// "CP-%d": a point of the curing pressure profile: x, y.
+  /// [Cure-%d] "CP-%d": a point of the curing pressure profile: the time in the stage, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetCPProfile(int point, double& x, double& y, int stage);
+  /// [Cure-%d] "CP-%d": a point of the curing pressure profile: the time in the stage, and the pressure, in MPa.
+  /// Arguments: the point, x, y, the stage. False: no path is set.
   bool SetCPProfile(int point, double x, double y, int stage);
-  /// "UserCPSet": the number of curing pressure points as the user entered them.
+  /// [Cure-%d] "UserCPSet": the number of points of the curing pressure profile as the user entered it. Arguments: the
+  /// count, the stage. False, the count untouched: not in the file.
   bool GetUserCPSection(int& count, int stage);
-  /// "UserCP-%d": a point of the curing pressure profile as the user entered it: x, y.
+  /// [Cure-%d] "UserCP-%d": a point of the curing pressure profile as the user entered it: x and y. Arguments: the
+  /// point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetUserCPProfile(int point, double& x, double& y, int stage);
 
   // [RamPosition]: profiles over the ram's stroke, and the V/P switch-over by ram position.
 
-  /// "RamDir": the code of the ram's direction.
+  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetScrewDirection(int& value);
+  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value. False: no path is
+  /// set.
   bool SetScrewDirection(int value);
-  /// "IsVPswitch": 1 where the V/P switch-over is by ram position.
-  /// The flag getter yields the flag itself, false for a missing key too.
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument: the value. False,
+  /// the value untouched: not in the file.
   bool GetVPSwitch(int& value);
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument: the value. False: no
+  /// path is set.
   bool SetVPSwitch(int value);
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. As a flag: whether it is 1.
+  /// The result is the flag itself, so it is false for a missing key, too. Argument: the flag.
   bool GetVPSwitch(bool& flag);
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. As a flag: writes 1 or 0.
+  /// Argument: the flag. False: no path is set.
   bool SetVPSwitch(bool flag);
-  /// "VPswitchRam": the ram position of the V/P switch-over.
+  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetVPSwitchPosition(double& value);
+  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument: the value. False: no
+  /// path is set.
   bool SetVPSwitchPosition(double value);
-  /// "RP_FRSet": the number of flow rate points.
+  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the count. False, the count
+  /// untouched: not in the file.
   bool GetRamFRSection(int& count);
+  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the count. False: no path is
+  /// set.
   bool SetRamFRSection(int count);
-  /// "RP_FR-%d": a point of the flow rate profile: x, y.
+  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow rate, in cc/sec.
+  /// Arguments: the point, x, y. False, outputs untouched: not in the file.
   bool GetRamFRProfile(int point, double& x, double& y);
+  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow rate, in cc/sec.
+  /// Arguments: the point, x, y. False: no path is set.
   bool SetRamFRProfile(int point, double x, double y);
-  /// "RP_IPSet": the number of injection pressure points.
+  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument: the count. False, the
+  /// count untouched: not in the file.
   bool GetRamIPSection(int& count);
+  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument: the count. False: no
+  /// path is set.
   bool SetRamIPSection(int count);
-  /// "RP_IP-%d": a point of the injection pressure profile: x, y.
+  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the pressure, in MPa.
+  /// Arguments: the point, x, y. False, outputs untouched: not in the file.
   bool GetRamIPProfile(int point, double& x, double& y);
+  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the pressure, in MPa.
+  /// Arguments: the point, x, y. False: no path is set.
   bool SetRamIPProfile(int point, double x, double y);
 
   // [QuickSetting]: the profiles of the quick setting. Their point keys have an underscore before the number.
 
-  /// "ScrewDirection": the code of the screw's direction.
+  /// [QuickSetting] "ScrewDirection": a code: in which direction screw positions count. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetQSScrewDirection(int& value);
+  /// [QuickSetting] "ScrewDirection": a code: in which direction screw positions count. Argument: the value. False: no
+  /// path is set.
   bool SetQSScrewDirection(int value);
-  /// "ProfileType": the code of the kind of profile.
+  /// [QuickSetting] "ProfileType": a code: in which form the profiles were entered. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetQSProfileType(int& value);
+  /// [QuickSetting] "ProfileType": a code: in which form the profiles were entered. Argument: the value. False: no path
+  /// is set.
   bool SetQSProfileType(int value);
-  /// "IsSameSetting": 1 where the settings are the same.
+  /// [QuickSetting] "IsSameSetting": a code: whether the settings are all the same. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetQSIsSameSetting(int& value);
+  /// [QuickSetting] "IsSameSetting": a code: whether the settings are all the same. Argument: the value. False: no path
+  /// is set.
   bool SetQSIsSameSetting(int value);
-  /// "Q_SettingType": the code of the flow rate setting.
+  /// [QuickSetting] "Q_SettingType": a code: how the flow rate is set. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetQSFRSettingType(int& value);
+  /// [QuickSetting] "Q_SettingType": a code: how the flow rate is set. Argument: the value. False: no path is set.
   bool SetQSFRSettingType(int value);
-  /// "Pi_SettingType": the code of the injection pressure setting.
+  /// [QuickSetting] "Pi_SettingType": a code: how the injection pressure is set. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetQSIPSettingType(int& value);
+  /// [QuickSetting] "Pi_SettingType": a code: how the injection pressure is set. Argument: the value. False: no path is
+  /// set.
   bool SetQSIPSettingType(int value);
-  /// "Pp_SettingType": the code of the packing pressure setting.
+  /// [QuickSetting] "Pp_SettingType": a code: how the packing pressure is set. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetQSPPSettingType(int& value);
+  /// [QuickSetting] "Pp_SettingType": a code: how the packing pressure is set. Argument: the value. False: no path is
+  /// set.
   bool SetQSPPSettingType(int value);
-  /// "Q_Section": the number of flow rate points.
+  /// [QuickSetting] "Q_Section": the number of points of the flow rate profile. Argument: the count. False, the count
+  /// untouched: not in the file.
   bool GetQSFRSection(int& count);
+  /// [QuickSetting] "Q_Section": the number of points of the flow rate profile. Argument: the count. False: no path is
+  /// set.
   bool SetQSFRSection(int count);
-  /// "Q_Setting_%d": a point of the flow rate profile: x, y.
+  /// [QuickSetting] "Q_Setting_%d": a point of the flow rate profile: x, and the flow rate. Arguments: the point, x, y.
+  /// False, outputs untouched: not in the file.
   bool GetQSFRProfile(int point, double& x, double& y);
+  /// [QuickSetting] "Q_Setting_%d": a point of the flow rate profile: x, and the flow rate. Arguments: the point, x, y.
+  /// False: no path is set.
   bool SetQSFRProfile(int point, double x, double y);
-  /// "Pi_Section": the number of injection pressure points.
+  /// [QuickSetting] "Pi_Section": the number of points of the injection pressure profile. Argument: the count. False,
+  /// the count untouched: not in the file.
   bool GetQSIPSection(int& count);
+  /// [QuickSetting] "Pi_Section": the number of points of the injection pressure profile. Argument: the count. False:
+  /// no path is set.
   bool SetQSIPSection(int count);
-  /// "Pi_Setting_%d": a point of the injection pressure profile: x, y.
+  /// [QuickSetting] "Pi_Setting_%d": a point of the injection pressure profile: x, and the pressure. Arguments: the
+  /// point, x, y. False, outputs untouched: not in the file.
   bool GetQSIPProfile(int point, double& x, double& y);
+  /// [QuickSetting] "Pi_Setting_%d": a point of the injection pressure profile: x, and the pressure. Arguments: the
+  /// point, x, y. False: no path is set.
   bool SetQSIPProfile(int point, double x, double y);
-  /// "Pp_Section": the number of packing pressure points.
+  /// [QuickSetting] "Pp_Section": the number of points of the packing pressure profile. Argument: the count. False, the
+  /// count untouched: not in the file.
   bool GetQSPPSection(int& count);
+  /// [QuickSetting] "Pp_Section": the number of points of the packing pressure profile. Argument: the count. False: no
+  /// path is set.
   bool SetQSPPSection(int count);
-  /// "Pp_Setting_%d": a point of the packing pressure profile: x, y.
+  /// [QuickSetting] "Pp_Setting_%d": a point of the packing pressure profile: x, and the pressure. Arguments: the
+  /// point, x, y. False, outputs untouched: not in the file.
   bool GetQSPPProfile(int point, double& x, double& y);
+  /// [QuickSetting] "Pp_Setting_%d": a point of the packing pressure profile: x, and the pressure. Arguments: the
+  /// point, x, y. False: no path is set.
   bool SetQSPPProfile(int point, double x, double y);
 
   // [FlowCTL]: what controls filling, packing and the V/P switch-over.
 
-  /// "FlowCtrl": the code of what controls filling.
+  /// [FlowCTL] "FlowCtrl": a code: which quantity controls filling. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetFlowCTLFlowCtrl(int& value);
-  /// "VPSwitchCtrl": the code of the V/P switch-over criterion.
+  /// [FlowCTL] "VPSwitchCtrl": the criterion of the V/P switch-over: 0 filled volume, 1 ram position, 2 injection
+  /// pressure, 3 a further one over the filled volume. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetFlowCTLVPSwitchCtrl(int& value);
-  /// "PackingCtrl": the code of what controls packing.
+  /// [FlowCTL] "PackingCtrl": a code: which quantity controls packing. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetFlowCTLPackingCtrl(int& value);
-  /// "MoldTemperature": the mold temperature, in oC.
+  /// [FlowCTL] "MoldTemperature": the mold temperature, in oC. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetFlowCTLMoldTemperature(double& value);
-  /// "MeltTemperature": the melt temperature, in oC.
+  /// [FlowCTL] "MeltTemperature": the melt temperature, in oC. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetFlowCTLMeltTemperature(double& value);
-  /// "InjectionTime": the injection time, in sec.
+  /// [FlowCTL] "InjectionTime": the injection time, in sec. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetFlowCTLInjectionTime(double& value);
-  /// "VolumeFilled": the filled volume at the V/P switch-over.
+  /// [FlowCTL] "VolumeFilled": how much is filled when the V/P switch-over comes, for the criteria 0 and 3. Argument:
+  /// the value. False, the value untouched: not in the file.
   bool GetFlowCTLVolumeFilled(double& value);
-  /// "RamPosition": the ram position at the V/P switch-over.
+  /// [FlowCTL] "RamPosition": the ram position at which the V/P switch-over comes, for criterion 1. Argument: the
+  /// value. False, the value untouched: not in the file.
   bool GetFlowCTLRamPosition(double& value);
-  /// "InjectionPressure": the injection pressure at the V/P switch-over, in MPa.
+  /// [FlowCTL] "InjectionPressure": the injection pressure at which the V/P switch-over comes, in MPa, for criterion 2.
+  /// Argument: the value. False, the value untouched: not in the file.
   bool GetFlowCTLInjectionPressure(double& value);
 
   // [Output]: when results are put out.
 
-  /// "TimeStep": the output time step.
+  /// [Output] "TimeStep": how many time steps lie between two outputs. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetOutputTimeStep(int& value);
+  /// [Output] "TimeStep": how many time steps lie between two outputs. Argument: the value. False: no path is set.
   bool SetOutputTimeStep(int value);
-  /// "TimeFill": the output time in filling, in sec.
+  /// [Output] "TimeFill": the time of output in filling, in sec. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetOutputTimeFill(double& value);
+  /// [Output] "TimeFill": the time of output in filling, in sec. Argument: the value. False: no path is set.
   bool SetOutputTimeFill(double value);
-  /// "TimePack": the output time in packing, in sec.
+  /// [Output] "TimePack": the time of output in packing, in sec. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetOutputTimePack(double& value);
+  /// [Output] "TimePack": the time of output in packing, in sec. Argument: the value. False: no path is set.
   bool SetOutputTimePack(double value);
 
   // [Project]: the mesh and material files and the volumes of the project.
 
-  /// "Mesh": the mesh file.
+  /// [Project] "Mesh": the mesh file. Argument: the text. The text is valid until the thread's next read through any
+  /// object of this class, its line break included. False, the text untouched: not in the file.
   bool GetProjectMesh(char*& text);
+  /// [Project] "Mesh": the mesh file. Argument: the text. False: no path is set, or the text is null.
   bool SetProjectMesh(char* text);
-  /// "Material": the material file.
+  /// [Project] "Mesh", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetProjectMesh(Char* text) {
+    return SetProjectMesh(const_cast<char*>(text));
+  }
+  /// [Project] "Material": the material file. Argument: the text. The text is valid until the thread's next read
+  /// through any object of this class, its line break included. False, the text untouched: not in the file.
   bool GetProjectMaterial(char*& text);
+  /// [Project] "Material": the material file. Argument: the text. False: no path is set, or the text is null.
   bool SetProjectMaterial(char* text);
-  /// "CavVol": the volume of the cavity, in cc.
+  /// [Project] "Material", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetProjectMaterial(Char* text) {
+    return SetProjectMaterial(const_cast<char*>(text));
+  }
+  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetCavityVolume(double& value);
+  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False: no path is set.
   bool SetCavityVolume(double value);
-  /// "CushionVol": the volume of the cushion, in cc.
+  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc. Argument: the value.
+  /// False, the value untouched: not in the file.
   bool GetCushionVolume(double& value);
+  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc. Argument: the value.
+  /// False: no path is set.
   bool SetCushionVolume(double value);
 
   // [AdvancedSetting]: the clamp force and the opening direction of the mold. The getters need a "FileVersion" of 1010.
 
-  /// "ClampForce": the clamp force. 0 and false for older files.
+  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. For a "FileVersion" below 1010 it is 0, and
+  /// the result false. Argument: the value.
   bool GetMoldClampingForce(double& value);
+  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. Argument: the value. False: no path is set.
   bool SetMoldClampingForce(double value);
-  /// "OpenDirection": the direction in which the mold opens: x, y, z. Zeros and false for older files.
+  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a vector. For a
+  /// "FileVersion" below 1010 all three are 0, and the result false. Arguments: x, y, z.
   bool GetMoldOpenDirection(double& x, double& y, double& z);
+  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a vector. Arguments:
+  /// x, y, z. False: no path is set.
   bool SetMoldOpenDirection(double x, double y, double z);
 
   // [TransientInletConv]: pellet pre-heating and initial conversion where the inlet conversion is transient. The
   // getters need a "FileVersion" of 1010.
 
-  /// "InitPelletConv": the initial conversion of the pellet. 0 and false for older files.
+  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its conversion) before
+  /// pre-heating. For a "FileVersion" below 1010 it is 0, and the result false. Argument: the value.
   bool GetInitPelletConv(double& value);
+  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its conversion) before
+  /// pre-heating. Argument: the value. False: no path is set.
   bool SetInitPelletConv(double value);
-  /// "PelletDiameter": the pellet's diameter. 0 and false for older files.
+  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. For a "FileVersion" below 1010 it is 0, and the
+  /// result false. Argument: the value.
   bool GetPelletDiameter(double& value);
+  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. Argument: the value. False: no path is set.
   bool SetPelletDiameter(double value);
-  /// "PelletHeight": the pellet's height. 0 and false for older files.
+  /// [TransientInletConv] "PelletHeight": the height of the pellet. For a "FileVersion" below 1010 it is 0, and the
+  /// result false. Argument: the value.
   bool GetPelletHeight(double& value);
+  /// [TransientInletConv] "PelletHeight": the height of the pellet. Argument: the value. False: no path is set.
   bool SetPelletHeight(double value);
-  /// "PreHeatTime": the pre-heating time, in sec. 0 and false for older files.
+  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. For a "FileVersion" below 1010 it
+  /// is 0, and the result false. Argument: the value.
   bool GetPreHeatTime(double& value);
+  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. Argument: the value. False: no path
+  /// is set.
   bool SetPreHeatTime(double value);
 
   // [ICPackage]: pellet pre-heating and initial conversion of IC package encapsulation.
 
-  /// "InitConversionType": the code of the initial conversion.
+  /// [ICPackage] "InitConversionType": a code: how the initial conversion is given. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetICInitConversionType(int& value);
-  /// "InitConversion": the initial conversion of the pellet.
+  /// [ICPackage] "InitConversion": how far the pellet's curing reaction has gone (its conversion) before pre-heating.
+  /// Argument: the value. False, the value untouched: not in the file.
   bool GetICInitConversion(double& value);
-  /// "PelletDiameter": the pellet's diameter.
+  /// [ICPackage] "PelletDiameter": the diameter of the pellet. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetICPelletDiameter(double& value);
-  /// "PelletHeight": the pellet's height.
+  /// [ICPackage] "PelletHeight": the height of the pellet. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetICPelletHeight(double& value);
-  /// "PreHeatingTime": the pre-heating time, in sec.
+  /// [ICPackage] "PreHeatingTime": how long the pellet is pre-heated, in sec. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetICPreHeatingTime(double& value);
 
   // [MoldThermalBoundaryType]: the heat transfer between melt and mold.
 
-  /// "Type": the code of the kind of heat transfer.
+  /// [MoldThermalBoundaryType] "Type": a code: how the heat transfer between melt and mold is given. Argument: the
+  /// value. False, the value untouched: not in the file.
   bool GetMoldThermalBoundaryType(int& value);
+  /// [MoldThermalBoundaryType] "Type": a code: how the heat transfer between melt and mold is given. Argument: the
+  /// value. False: no path is set.
   bool SetMoldThermalBoundaryType(int value);
-  /// "Flow": the coefficient in filling, in W/m^2.K; the unit is written behind the number. The setter leaves the file's
-  /// date alone.
+  /// [MoldThermalBoundaryType] "Flow": the heat transfer coefficient in filling, with a note such as its unit. The note
+  /// is passed over. Argument: the value. False, the value untouched: not in the file.
   bool GetFlowHeatTransferCoefficient(double& value);
+  /// [MoldThermalBoundaryType] "Flow": the heat transfer coefficient in filling, with a note such as its unit. In
+  /// W/m^2.K, and the unit is written behind the number. Unlike the other setters it leaves "Date" alone. Argument: the
+  /// value. False: no path is set.
   bool SetFlowHeatTransferCoefficient(double value);
-  /// "Pack": the coefficient in packing, in W/m^2.K; the unit is written behind the number. The setter leaves the file's
-  /// date alone.
+  /// [MoldThermalBoundaryType] "Pack": the heat transfer coefficient in packing, with a note such as its unit. The note
+  /// is passed over. Argument: the value. False, the value untouched: not in the file.
   bool GetPackHeatTransferCoefficient(double& value);
+  /// [MoldThermalBoundaryType] "Pack": the heat transfer coefficient in packing, with a note such as its unit. In
+  /// W/m^2.K, and the unit is written behind the number. Unlike the other setters it leaves "Date" alone. Argument: the
+  /// value. False: no path is set.
   bool SetPackHeatTransferCoefficient(double value);
 
   // [GasF-%d]: gas-assisted filling at a gas inlet. The stage is the first argument.
 
-  /// "GasTime": the gas injection time, in sec.
+  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the stage, the value. False, the value
+  /// untouched: not in the file.
   bool GetGasTime(int stage, double& value);
+  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the stage, the value. False: no path is set.
   bool SetGasTime(int stage, double value);
-  /// "GasPres": the gas pressure, in MPa.
+  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the stage, the value. False, the value untouched:
+  /// not in the file.
   bool GetGasPressure(int stage, double& value);
+  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the stage, the value. False: no path is set.
   bool SetGasPressure(int stage, double value);
-  /// "GasSwch": the switch value of the gas.
+  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the stage, the value.
+  /// False, the value untouched: not in the file.
   bool GetGasSwitch(int stage, double& value);
+  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the stage, the value.
+  /// False: no path is set.
   bool SetGasSwitch(int stage, double value);
-  /// "DelayTime": the delay time, in sec.
+  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the stage, the value. False, the
+  /// value untouched: not in the file.
   bool GetGasDelayTime(int stage, double& value);
+  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the stage, the value. False: no
+  /// path is set.
   bool SetGasDelayTime(int stage, double value);
-  /// "GRDisplayType": how the gas flow rate profile is shown.
+  /// [GasF-%d] "GRDisplayType": a code: how a front end shows the gas flow rate profile. Arguments: the stage, the
+  /// value. False, the value untouched: not in the file.
   bool GetGasGRDisplayType(int stage, int& value);
-  /// "GRProfileType": how the gas flow rate profile was entered.
+  /// [GasF-%d] "GRProfileType": a code: in which form the gas flow rate profile was entered. Arguments: the stage, the
+  /// value. False, the value untouched: not in the file.
   bool GetGasGRProfileType(int stage, int& value);
-  /// "GPDisplayType": how the gas pressure profile is shown.
+  /// [GasF-%d] "GPDisplayType": a code: how a front end shows the gas pressure profile. Arguments: the stage, the
+  /// value. False, the value untouched: not in the file.
   bool GetGasGPDisplayType(int stage, int& value);
-  /// "GPProfileType": how the gas pressure profile was entered.
+  /// [GasF-%d] "GPProfileType": a code: in which form the gas pressure profile was entered. Arguments: the stage, the
+  /// value. False, the value untouched: not in the file.
   bool GetGasGPProfileType(int stage, int& value);
-  /// "GRSet": the number of gas flow rate points.
+  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. Arguments: the stage, the count. False, the
+  /// count untouched: not in the file.
   bool GetGasFRSection(int stage, int& count);
+  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. Arguments: the stage, the count. False: no
+  /// path is set.
   bool SetGasFRSection(int stage, int count);
-  /// "GR-%d": a point of the gas flow rate profile: x, y. The one number selects the stage and the point: point 2 is always
-  /// that of stage 2.
+  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow rate. The one number
+  /// selects the stage and the point: point 2 is always that of stage 2. Arguments: the stage and point, x, y. False,
+  /// outputs untouched: not in the file.
   bool GetGasFRProfile(int number, double& x, double& y);
+  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow rate. The one number
+  /// selects the stage and the point: point 2 is always that of stage 2. Arguments: the stage and point, x, y. False:
+  /// no path is set.
   bool SetGasFRProfile(int number, double x, double y);
-  /// "UserGRSet": the number of gas flow rate points as the user entered them.
+  /// [GasF-%d] "UserGRSet": the number of points of the gas flow rate profile as the user entered it. Arguments: the
+  /// stage, the count. False, the count untouched: not in the file.
   bool GetUserGasFRSection(int stage, int& count);
-  /// "UserGR-%d": a point of the gas flow rate profile as the user entered it: x, y. The stage stands last here.
+  /// [GasF-%d] "UserGR-%d": a point of the gas flow rate profile as the user entered it: x and y. The stage stands last
+  /// here. Arguments: the point, x, y, the stage. False, outputs untouched: not in the file.
   bool GetUserGasFRProfile(int point, double& x, double& y, int stage);
-  /// "GPSet": the number of gas pressure points.
+  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. Arguments: the stage, the count. False, the
+  /// count untouched: not in the file.
   bool GetGasGPSection(int stage, int& count);
+  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. Arguments: the stage, the count. False: no
+  /// path is set.
   bool SetGasGPSection(int stage, int count);
-  /// "GP-%d": a point of the gas pressure profile: x, y. The one number selects the stage and the point: point 2 is always
-  /// that of stage 2.
+  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the pressure, in MPa. The one
+  /// number selects the stage and the point: point 2 is always that of stage 2. Arguments: the stage and point, x, y.
+  /// False, outputs untouched: not in the file.
   bool GetGasGPProfile(int number, double& x, double& y);
+  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the pressure, in MPa. The one
+  /// number selects the stage and the point: point 2 is always that of stage 2. Arguments: the stage and point, x, y.
+  /// False: no path is set.
   bool SetGasGPProfile(int number, double x, double y);
-  /// "UserGPSet": the number of gas pressure points as the user entered them.
+  /// [GasF-%d] "UserGPSet": the number of points of the gas pressure profile as the user entered it. Arguments: the
+  /// stage, the count. False, the count untouched: not in the file.
   bool GetUserGasGPSection(int stage, int& count);
-  /// "UserGP-%d": a point of the gas pressure profile as the user entered it: x, y. The stage stands last here.
+  /// [GasF-%d] "UserGP-%d": a point of the gas pressure profile as the user entered it, as the older object looks for
+  /// it: x and y. The stage stands last here. Arguments: the point, x, y, the stage. False, outputs untouched: not in
+  /// the file.
   bool GetUserGasGPProfile(int point, double& x, double& y, int stage);
 
   // [GateCTL]: when each valve gate is open.
 
-  /// "ST-%d": the start time of a gate, in sec.
+  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the gate, the value. False, the
+  /// value untouched: not in the file.
   bool GetValveGateStartTime(int gate, double& value);
+  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the gate, the value. False: no path
+  /// is set.
   bool SetValveGateStartTime(int gate, double value);
-  /// "ET-%d": the end time of a gate, in sec.
+  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the gate, the value. False, the
+  /// value untouched: not in the file.
   bool GetValveGateEndTime(int gate, double& value);
+  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the gate, the value. False: no path
+  /// is set.
   bool SetValveGateEndTime(int gate, double value);
 
   // [GateValve-%d]: a valve gate. The gate is the first argument.
 
-  /// "GCSet": the number of control rows.
+  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the gate, the value. False, the
+  /// value untouched: not in the file.
   bool GetValveGateControlNo(int gate, int& value);
+  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the gate, the value. False: no
+  /// path is set.
   bool SetValveGateControlNo(int gate, int value);
-  /// "GC-%d" with the gate's own number: the switching time, in sec, and a flag.
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3
+  /// an integer. Here the point has the number of the gate, and holds a time, in sec, and a flag. Arguments: the gate,
+  /// the time, the flag. False, outputs untouched: not in the file.
   bool GetValveGateTimeSwitch(int gate, double& time, int& flag);
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3
+  /// an integer. Here the point has the number of the gate, and holds a time, in sec, and a flag. Arguments: the gate,
+  /// the time, the flag. False: no path is set.
   bool SetValveGateTimeSwitch(int gate, double time, int flag);
-  /// "GC-%d": a control row: the switching value, an integer, the mode, an integer that is written for the modes 2 and 3
-  /// only. Outputs that the text does not supply keep their values.
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3
+  /// an integer. Outputs that the text lacks keep their values. Arguments: the gate, the point, the switching value,
+  /// the integer, the mode, the last integer. False, outputs untouched: not in the file.
   bool GetValveGateControlData(int gate, int row, double& value, int& second, int& mode, int& fourth);
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3
+  /// an integer. The last integer is written for the modes 2 and 3 alone. Arguments: the gate, the point, the switching
+  /// value, the integer, the mode, the last integer. False: no path is set.
   bool SetValveGateControlData(int gate, int row, double value, int second, int mode, int fourth);
 
   // [OFGateValve-%d]: the valve of an overflow. The gate is the first argument.
 
-  /// "GCSet": the number of control rows.
+  /// [OFGateValve-%d] "GCSet": the number of control points of the overflow valve. Arguments: the gate, the value.
+  /// False, the value untouched: not in the file.
   bool GetOverFlowControlNo(int gate, int& value);
-  /// "GC-%d" with the gate's own number: the switching time, in sec, and a flag.
+  /// [OFGateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and
+  /// 3 an integer. Here the point has the number of the gate, and holds a time, in sec, and a flag. Arguments: the
+  /// gate, the time, the flag. False, outputs untouched: not in the file.
   bool GetOverFlowTimeSwitch(int gate, double& time, int& flag);
-  /// "GC-%d": a control row: the switching value, an integer, the mode, an integer. Outputs that the text does not supply
-  /// keep their values.
+  /// [OFGateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and
+  /// 3 an integer. Outputs that the text lacks keep their values. Arguments: the gate, the point, the switching value,
+  /// the integer, the mode, the last integer. False, outputs untouched: not in the file.
   bool GetOverFlowControlData(int gate, int row, double& value, int& second, int& mode, int& fourth);
 
   // [Cool]: cycle times, temperatures and the kind of cooling.
 
-  /// "CoolTime": the cooling time, in sec.
+  /// [Cool] "CoolTime": the cooling time, in sec. Argument: the value. False, the value untouched: not in the file.
   bool GetCoolTime(double& value);
+  /// [Cool] "CoolTime": the cooling time, in sec. Argument: the value. False: no path is set.
   bool SetCoolTime(double value);
-  /// "OpenTime": the time the mold is open, in sec.
+  /// [Cool] "OpenTime": how long the mold is open between two shots, in sec. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetOpenTime(double& value);
+  /// [Cool] "OpenTime": how long the mold is open between two shots, in sec. Argument: the value. False: no path is
+  /// set.
   bool SetOpenTime(double value);
-  /// "EjectTemp": the ejection temperature, in oC.
+  /// [Cool] "EjectTemp": the temperature at which the part is ejected, in oC. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetEjectTemperature(double& value);
+  /// [Cool] "EjectTemp": the temperature at which the part is ejected, in oC. Argument: the value. False: no path is
+  /// set.
   bool SetEjectTemperature(double value);
-  /// "AirTemp": the air temperature, in oC.
+  /// [Cool] "AirTemp": the temperature of the air around the mold, in oC. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetAirTemperature(double& value);
+  /// [Cool] "AirTemp": the temperature of the air around the mold, in oC. Argument: the value. False: no path is set.
   bool SetAirTemperature(double value);
-  /// "InitialMoldbaseTemperature": the mold base's initial temperature, in oC.
+  /// [Cool] "InitialMoldbaseTemperature": the mold base's initial temperature, in oC. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetInitMoldTemperature(double& value);
-  /// "CoolingType": the code of the kind of cooling.
+  /// [Cool] "CoolingType": a code of the kind of cooling. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetCoolingType(int& value);
-  /// "CoolantTemp": the coolant temperature, in oC.
+  /// [Cool] "CoolantTemp": the coolant temperature, in oC. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetCoolantTemperature(double& value);
+  /// [Cool] "CoolantTemp": the coolant temperature, in oC. Argument: the value. False: no path is set.
   bool SetCoolantTemperature(double value);
-  /// "CoolantFR": the coolant flow rate, in cc/sec.
+  /// [Cool] "CoolantFR": the coolant flow rate, in cc/sec. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetCoolantFlowRate(double& value);
+  /// [Cool] "CoolantFR": the coolant flow rate, in cc/sec. Argument: the value. False: no path is set.
   bool SetCoolantFlowRate(double value);
-  /// "AutoSetCoolTime": 1 where the cooling time is set automatically.
-  /// The flag getter yields the flag itself, false for a missing key too.
+  /// [Cool] "AutoSetCoolTime": 1 where the cooling time is set automatically, else 0. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetAutoSetCoolTime(int& value);
+  /// [Cool] "AutoSetCoolTime": 1 where the cooling time is set automatically, else 0. Argument: the value. False: no
+  /// path is set.
   bool SetAutoSetCoolTime(int value);
+  /// [Cool] "AutoSetCoolTime": 1 where the cooling time is set automatically, else 0. As a flag: whether it is 1. The
+  /// result is the flag itself, so it is false for a missing key, too. Argument: the flag.
   bool GetAutoSetCoolTime(bool& flag);
+  /// [Cool] "AutoSetCoolTime": 1 where the cooling time is set automatically, else 0. As a flag: writes 1 or 0.
+  /// Argument: the flag. False: no path is set.
   bool SetAutoSetCoolTime(bool flag);
 
   // [CoolCTL]: the coolant of each circuit.
 
-  /// "T-%d": the coolant temperature of a circuit, in oC.
+  /// [CoolCTL] "T-%d": the coolant temperature at an entrance, in oC. Arguments: the circuit, the value. False, the
+  /// value untouched: not in the file.
   bool GetCoolCTLTemperature(int circuit, double& value);
+  /// [CoolCTL] "T-%d": the coolant temperature at an entrance, in oC. Arguments: the circuit, the value. False: no path
+  /// is set.
   bool SetCoolCTLTemperature(int circuit, double value);
-  /// "F-%d": the coolant flow rate of a circuit, in cc/sec.
+  /// [CoolCTL] "F-%d": the coolant flow rate at an entrance, in cc/sec. Arguments: the circuit, the value. False, the
+  /// value untouched: not in the file.
   bool GetCoolCTLFlowRate(int circuit, double& value);
+  /// [CoolCTL] "F-%d": the coolant flow rate at an entrance, in cc/sec. Arguments: the circuit, the value. False: no
+  /// path is set.
   bool SetCoolCTLFlowRate(int circuit, double value);
-  /// "M-%d": the coolant system of a circuit.
+  /// [CoolCTL] "M-%d": the coolant system of an entrance. Arguments: the circuit, the value. False, the value
+  /// untouched: not in the file.
   bool GetCoolCTLSystem(int circuit, int& value);
+  /// [CoolCTL] "M-%d": the coolant system of an entrance. Arguments: the circuit, the value. False: no path is set.
   bool SetCoolCTLSystem(int circuit, int value);
 
   // [Coolant]: the coolants, one row each.
 
-  /// "%d", the row's number: four reals, an integer, the name (one word), a real, an integer. What the text does not supply
-  /// is 0, the name null.
+  /// [Coolant] "%d": a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)),
+  /// viscosity (poise), coolant system, name (one word), channel diameter, channel group. What the text lacks is 0, the
+  /// name null. Arguments: the row, density, specific heat, conductivity, viscosity, the coolant system, the name, the
+  /// diameter, the channel group. The name is valid until the next read of its kind. False, outputs untouched: not in
+  /// the file.
   bool GetCoolant(int row, double& first, double& second, double& third, double& fourth, int& fifth, char*& name, double& seventh, int& eighth);
+  /// [Coolant] "%d": a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)),
+  /// viscosity (poise), coolant system, name (one word), channel diameter, channel group. The name is written as it is
+  /// given: one that is empty or holds a blank is not read back. Arguments: the row, density, specific heat,
+  /// conductivity, viscosity, the coolant system, the name, the diameter, the channel group. False: no path is set, or
+  /// the name is null.
   bool SetCoolant(int row, double first, double second, double third, double fourth, int fifth, char* name, double seventh, int eighth);
+  /// [Coolant] "%d", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetCoolant(int row, double first, double second, double third, double fourth, int fifth, Char* name, double seventh,
+                                   int eighth) {
+    return SetCoolant(row, first, second, third, fourth, fifth, const_cast<char*>(name), seventh, eighth);
+  }
 
   // [VarCoolCTL]: variable cooling.
 
-  /// "CoolantNo": the number of rows.
+  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetTotalCoolantNo(int& value);
+  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value. False: no path is set.
   bool SetTotalCoolantNo(int value);
-  /// "Coolant-%d": a row of four reals and an integer. What the text does not supply is 0.
+  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. What the text lacks is 0.
+  /// Arguments: the row, the first, second, third, fourth real, the integer. False, outputs untouched: not in the file.
   bool GetCoolant(int row, double& first, double& second, double& third, double& fourth, int& fifth);
+  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. Arguments: the row, the first,
+  /// second, third, fourth real, the integer. False: no path is set.
   bool SetCoolant(int row, double first, double second, double third, double fourth, int fifth);
 
   // [CoolChannel-%d]: a cooling channel. The channel is the first argument.
 
-  /// "Diameter": the channel's diameter.
+  /// [CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the channel, the value. False, the value
+  /// untouched: not in the file.
   bool GetCoolChannelDiameter(int channel, double& value);
+  /// [CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the channel, the value. False: no path is
+  /// set.
   bool SetCoolChannelDiameter(int channel, double value);
-  /// "GroupID": the channel's group. The setter takes the value by reference and leaves it alone.
+  /// [CoolChannel-%d] "GroupID": the group that the channel belongs to. Arguments: the channel, the value. False, the
+  /// value untouched: not in the file.
   bool GetCoolChannelGroupID(int channel, int& value);
+  /// [CoolChannel-%d] "GroupID": the group that the channel belongs to. The value is taken by reference and left alone.
+  /// Arguments: the channel, the value. False: no path is set.
   bool SetCoolChannelGroupID(int channel, int& value);
-  /// "TimeSet": the number of control points. The setter takes the value by reference and leaves it alone.
+  /// [CoolChannel-%d] "TimeSet": the number of control points of the channel. Arguments: the channel, the value. False,
+  /// the value untouched: not in the file.
   bool GetCoolChannelTimeSet(int channel, int& value);
+  /// [CoolChannel-%d] "TimeSet": the number of control points of the channel. The value is taken by reference and left
+  /// alone. Arguments: the channel, the value. False: no path is set.
   bool SetCoolChannelTimeSet(int channel, int& value);
-  /// "TCP-%d": a control point: a real, an integer, three reals. What the text does not supply is 0.
+  /// [CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the temperature, the flow
+  /// rate, an integer. The last field is read as a real. What the text lacks is 0. Arguments: the channel, the point,
+  /// the real, the coolant system, the temperature, the flow rate, the last field. False, outputs untouched: not in the
+  /// file.
   bool GetCoolChannelControlPoint(int channel, int point, double& first, int& second, double& third, double& fourth, double& fifth);
-  /// Writes a control point under "TCP-%d" with the channel's number: the point is not used. The last item is the signed
-  /// decimal of the low 32 bits of the fifth value's bit pattern: 0 for 1.0 and 0.5, -1717986918 for 0.1. The files that
-  /// are about have this layout. The member's name is spelled so.
+  /// [CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the temperature, the flow
+  /// rate, an integer. It is written under the number of the channel: the point is not used. The last field is the
+  /// signed decimal of the low 32 bits of the fifth value's bit pattern: 0 for 1.0 and 0.5, -1717986918 for 0.1. The
+  /// files that are about have this layout. The member's name is spelled so. Arguments: the channel, the point, the
+  /// real, the coolant system, the temperature, the flow rate, the last field. False: no path is set.
   bool SetcoolChannelControlPoint(int channel, int point, double first, int second, double third, double fourth, double fifth);
 
   // [MoldPreheat]: preheating of the mold.
 
-  /// "ControlType": what preheat channels are controlled by: 1 pressure, otherwise flow rate.
+  /// [MoldPreheat] "ControlType": what preheat channels are controlled by: 1 pressure, otherwise flow rate. Argument:
+  /// the value. False, the value untouched: not in the file.
   bool GetMoldPreHeatControlType(int& value);
-  /// "MaxMoldPreHeatTime": the longest preheating time, in sec.
+  /// [MoldPreheat] "MaxMoldPreHeatTime": the limit of the preheating time, in sec. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetMaxMoldPreHeatTime(double& value);
+  /// [MoldPreheat] "MaxMoldPreHeatTime": the limit of the preheating time, in sec. Argument: the value. False: no path
+  /// is set.
   bool SetMaxMoldPreHeatTime(double value);
-  /// "MoldPreHeatTime": the preheating time, in sec.
+  /// [MoldPreheat] "MoldPreHeatTime": how long the mold is preheated, in sec. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMoldPreHeatTime(double& value);
+  /// [MoldPreheat] "MoldPreHeatTime": how long the mold is preheated, in sec. Argument: the value. False: no path is
+  /// set.
   bool SetMoldPreHeatTime(double value);
-  /// "MoldPreHeatTemperature": the preheating temperature, in oC. The getter's name is spelled so.
+  /// [MoldPreheat] "MoldPreHeatTemperature": the temperature to which the mold is preheated, in oC. The member's name
+  /// is spelled so. Argument: the value. False, the value untouched: not in the file.
   bool GetMoldPreHearTemperature(double& value);
+  /// [MoldPreheat] "MoldPreHeatTemperature": the temperature to which the mold is preheated, in oC. Argument: the
+  /// value. False: no path is set.
   bool SetMoldPreHeatTemperature(double value);
-  /// "MoldPreHeatType": the code of the kind of preheating.
+  /// [MoldPreheat] "MoldPreHeatType": a code of the kind of preheating. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMoldPreHeatType(int& value);
+  /// [MoldPreheat] "MoldPreHeatType": a code of the kind of preheating. Argument: the value. False: no path is set.
   bool SetMoldPreHeatType(int value);
 
   // [MPreheat_CoolChannel-%d]: a channel that preheats the mold. The channel is the first argument.
 
-  /// "Diameter": the channel's diameter.
+  /// [MPreheat_CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the channel, the value. False, the
+  /// value untouched: not in the file.
   bool GetMPreheatCoolChannelDiameter(int channel, double& value);
+  /// [MPreheat_CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the channel, the value. False: no
+  /// path is set.
   bool SetMPreheatCoolChannelDiameter(int channel, double value);
-  /// "GroupID": the channel's group. The setter takes the value by reference and leaves it alone.
+  /// [MPreheat_CoolChannel-%d] "GroupID": the group that the channel belongs to. Arguments: the channel, the value.
+  /// False, the value untouched: not in the file.
   bool GetMPreheatCoolChannelGroupID(int channel, int& value);
+  /// [MPreheat_CoolChannel-%d] "GroupID": the group that the channel belongs to. The value is taken by reference and
+  /// left alone. Arguments: the channel, the value. False: no path is set.
   bool SetMPreheatCoolChannelGroupID(int channel, int& value);
-  /// "TimeSet": the number of control points. The setter takes the value by reference and leaves it alone.
+  /// [MPreheat_CoolChannel-%d] "TimeSet": the number of control points of the channel. Arguments: the channel, the
+  /// value. False, the value untouched: not in the file.
   bool GetMPreheatCoolChannelTimeSet(int channel, int& value);
+  /// [MPreheat_CoolChannel-%d] "TimeSet": the number of control points of the channel. The value is taken by reference
+  /// and left alone. Arguments: the channel, the value. False: no path is set.
   bool SetMPreheatCoolChannelTimeSet(int channel, int& value);
-  /// "TCP-%d": a control point: a real, an integer, three reals. What the text does not supply is 0.
+  /// [MPreheat_CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the temperature, the
+  /// flow rate, an integer. The last field is read as a real. What the text lacks is 0. Arguments: the channel, the
+  /// point, the real, the coolant system, the temperature, the flow rate, the last field. False, outputs untouched: not
+  /// in the file.
   bool GetMPreheatCoolChannelControlPoint(int channel, int point, double& first, int& second, double& third, double& fourth, double& fifth);
-  /// Writes a control point under "TCP-%d" with the channel's number: the point is not used. The last item is the signed
-  /// decimal of the low 32 bits of the fifth value's bit pattern: 0 for 1.0 and 0.5, -1717986918 for 0.1. The files that
-  /// are about have this layout.
+  /// [MPreheat_CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the temperature, the
+  /// flow rate, an integer. It is written under the number of the channel: the point is not used. The last field is the
+  /// signed decimal of the low 32 bits of the fifth value's bit pattern: 0 for 1.0 and 0.5, -1717986918 for 0.1. The
+  /// files that are about have this layout. Arguments: the channel, the point, the real, the coolant system, the
+  /// temperature, the flow rate, the last field. False: no path is set.
   bool SetMPreheatCoolChannelControlPoint(int channel, int point, double first, int second, double third, double fourth, double fifth);
 
   // [Machine]: the injection molding machine.
 
-  /// "Maker": the maker.
+  /// [Machine] "Maker": the maker of the machine. Argument: the text. The text is valid until the thread's next read
+  /// through any object of this class, its line break included. False, the text untouched: not in the file.
   bool GetMachineMaker(char*& text);
+  /// [Machine] "Maker": the maker of the machine. Argument: the text. False: no path is set, or the text is null.
   bool SetMachineMaker(char* text);
-  /// "Grade": the grade.
+  /// [Machine] "Maker", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetMachineMaker(Char* text) {
+    return SetMachineMaker(const_cast<char*>(text));
+  }
+  /// [Machine] "Grade": the grade of the machine: its model. Argument: the text. The text is valid until the thread's
+  /// next read through any object of this class, its line break included. False, the text untouched: not in the file.
   bool GetMachineGrade(char*& text);
+  /// [Machine] "Grade": the grade of the machine: its model. Argument: the text. False: no path is set, or the text is
+  /// null.
   bool SetMachineGrade(char* text);
-  /// "LastModifiedDate": the date of the last change.
+  /// [Machine] "Grade", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetMachineGrade(Char* text) {
+    return SetMachineGrade(const_cast<char*>(text));
+  }
+  /// [Machine] "LastModifiedDate": when the data of the machine were last changed. Argument: the text. The text is
+  /// valid until the thread's next read through any object of this class, its line break included. False, the text
+  /// untouched: not in the file.
   bool GetMachineLastModifiedDate(char*& text);
-  /// "Remark": a remark.
+  /// [Machine] "Remark": a remark about the machine. Argument: the text. The text is valid until the thread's next read
+  /// through any object of this class, its line break included. False, the text untouched: not in the file.
   bool GetMachineRemark(char*& text);
+  /// [Machine] "Remark": a remark about the machine. Argument: the text. False: no path is set, or the text is null.
   bool SetMachineRemark(char* text);
-  /// "Diameter": the screw diameter.
+  /// [Machine] "Remark", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetMachineRemark(Char* text) {
+    return SetMachineRemark(const_cast<char*>(text));
+  }
+  /// [Machine] "Diameter": the diameter of the screw. Argument: the value. False, the value untouched: not in the file.
   bool GetMachineScrewDiameter(double& value);
+  /// [Machine] "Diameter": the diameter of the screw. Argument: the value. False: no path is set.
   bool SetMachineScrewDiameter(double value);
-  /// "MaxRamPos": the longest ram position.
+  /// [Machine] "MaxRamPos": the farthest position of the ram. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetMachineMaxRamPosition(double& value);
+  /// [Machine] "MaxRamPos": the farthest position of the ram. Argument: the value. False: no path is set.
   bool SetMachineMaxRamPosition(double value);
-  /// "ShotVolume": the shot volume.
+  /// [Machine] "ShotVolume": the largest volume of a shot. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineShotVolume(double& value);
-  /// "Weight": the shot weight.
+  /// [Machine] "Weight": the largest weight of a shot. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineShotWeight(double& value);
+  /// [Machine] "Weight": the largest weight of a shot. Argument: the value. False: no path is set.
   bool SetMachineShotWeight(double value);
-  /// "MaxMachinePres": the highest injection pressure.
+  /// [Machine] "MaxMachinePres": the highest injection pressure of the machine. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMachineMaxPressure(double& value);
+  /// [Machine] "MaxMachinePres": the highest injection pressure of the machine. Argument: the value. False: no path is
+  /// set.
   bool SetMachineMaxPressure(double value);
-  /// "HoldingPressure": the holding pressure.
+  /// [Machine] "HoldingPressure": the highest holding pressure of the machine. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMachineHoldingPressure(double& value);
-  /// "InjectionSpeed": the injection speed.
+  /// [Machine] "InjectionSpeed": the highest injection speed of the machine. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMachineInjectionSpeed(double& value);
-  /// "FR": the highest flow rate.
+  /// [Machine] "FR": the highest flow rate of the machine. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineMaxFlowRate(double& value);
+  /// [Machine] "FR": the highest flow rate of the machine. Argument: the value. False: no path is set.
   bool SetMachineMaxFlowRate(double value);
-  /// "PlasticationRate": the plastication rate.
+  /// [Machine] "PlasticationRate": how much material the screw melts in a unit of time. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetMachinePlasticationRate(double& value);
-  /// "ScrewSpeed": the screw speed.
+  /// [Machine] "ScrewSpeed": the highest speed of the screw's rotation. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetMachineScrewSpeed(double& value);
-  /// "NozzleContactForce": the contact force of the nozzle.
+  /// [Machine] "NozzleContactForce": the force with which the nozzle is held against the mold. Argument: the value.
+  /// False, the value untouched: not in the file.
   bool GetMachineNozzleContactForce(double& value);
-  /// "NozzleStroke": the nozzle's stroke.
+  /// [Machine] "NozzleStroke": how far the nozzle can be moved. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetMachineNozzleStroke(double& value);
-  /// "HeaterWattage": the heater's wattage.
+  /// [Machine] "HeaterWattage": the power of the barrel's heaters. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetMachineHeaterWattage(double& value);
-  /// "TemperatureControlZones": the number of temperature control zones; 4+2 reads as 4.
+  /// [Machine] "TemperatureControlZones": the number of temperature control zones, or a sum such as 4+2. Of a sum it
+  /// reads the first number: 4+2 reads as 4. Argument: the value. False, the value untouched: not in the file.
   bool GetMachineTemperatureControlZone(int& value);
-  /// "Size": the clamp force.
+  /// [Machine] "Size": the clamp force of the machine. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineClampingForce(double& value);
+  /// [Machine] "Size": the clamp force of the machine. Argument: the value. False: no path is set.
   bool SetMachineClampingForce(double value);
-  /// "OpeningStroke": the opening stroke.
+  /// [Machine] "OpeningStroke": how far the clamp can open. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineOpeningStroke(double& value);
-  /// "MaxDaylight": the largest daylight.
+  /// [Machine] "MaxDaylight": the largest distance between the platens (daylight). Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetMachineMaxDaylight(double& value);
-  /// "MoldHeight": the mold height.
+  /// [Machine] "MoldHeight": the mold height that the machine takes. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetMachineMoldHeight(double& value);
-  /// "DistanceBetweenTieBars(HxV)": the distance between the tie bars: horizontal, vertical.
+  /// [Machine] "DistanceBetweenTieBars(HxV)": the distance between the tie bars, as text. Argument: the text. The text
+  /// is valid until the thread's next read through any object of this class, its line break included. False, the text
+  /// untouched: not in the file.
   bool GetMachineTieBarsDistance(char*& text);
-  /// "PlatenSize(HxV)": the size of the platen: horizontal, vertical.
+  /// [Machine] "PlatenSize(HxV)": the size of the platen, as text. Argument: the text. The text is valid until the
+  /// thread's next read through any object of this class, its line break included. False, the text untouched: not in
+  /// the file.
   bool GetMachinePlatenSize(char*& text);
-  /// "EjectorPoint": the number of ejector points.
+  /// [Machine] "EjectorPoint": the number of ejector points. Argument: the value. False, the value untouched: not in
+  /// the file.
   bool GetMachineEjectorPoint(int& value);
-  /// "EjectorForce": the ejector's force.
+  /// [Machine] "EjectorForce": the force of the ejector. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineEjectorForce(double& value);
-  /// "EjectorStroke": the ejector's stroke.
+  /// [Machine] "EjectorStroke": how far the ejector can be moved. Argument: the value. False, the value untouched: not
+  /// in the file.
   bool GetMachineEjectorStroke(double& value);
-  /// "MachineWeight": the machine's weight.
+  /// [Machine] "MachineWeight": the weight of the machine. Argument: the value. False, the value untouched: not in the
+  /// file.
   bool GetMachineWeight(double& value);
-  /// "MachineDimension(LxWxH)": the machine's size: length, width, height.
+  /// [Machine] "MachineDimension(LxWxH)": the size of the machine, as text. Argument: the text. The text is valid until
+  /// the thread's next read through any object of this class, its line break included. False, the text untouched: not
+  /// in the file.
   bool GetMachineDimension(char*& text);
-  /// "BarrelCompressionCtrl": the code of the barrel compression's control.
+  /// [Machine] "BarrelCompressionCtrl": a code: whether and how the compression of the melt in the barrel counts.
+  /// Argument: the value. False, the value untouched: not in the file.
   bool GetBarrelCompressionCtrlType(int& value);
 
   // [Moldbase]: the mold bases, one row each: three thermal values, the name, which may hold blanks where all six numbers are
   // there, three mechanical values.
 
-  /// "%d", the row's number: the three thermal values and the name. What the text does not supply is 0.
+  /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values. The
+  /// three thermal values and the name alone. What the text lacks is 0. Arguments: the row, thermal value 1, thermal
+  /// value 2, thermal value 3, the name. The name is valid until the next read of its kind. False, outputs untouched:
+  /// not in the file.
   bool GetMoldbase(int row, double& first, double& second, double& third, char*& name);
+  /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values.
+  /// Writes the three thermal values and the name, and nothing behind it. Arguments: the row, thermal value 1, thermal
+  /// value 2, thermal value 3, the name. False: no path is set, or the name is null.
   bool SetMoldbase(int row, double first, double second, double third, char* name);
-  /// The whole row, for a "FileVersion" of 1010 or more; false, with the record untouched, for older files.
+  /// [Moldbase] "%d", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetMoldbase(int row, double first, double second, double third, Char* name) {
+    return SetMoldbase(row, first, second, third, const_cast<char*>(name));
+  }
+  /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values. The
+  /// whole row, for a "FileVersion" of 1010 or more; false, with the record untouched, for older files. Arguments: the
+  /// row, the record. The name is valid until the next read of its kind.
   bool GetMoldbase(int row, QELPRO_MMM_MECHANICAL& record);
-  /// Writes thermal values 1 and 2, mechanical value 2, the name, mechanical values 1, 2 and 3: mechanical value 2 twice,
-  /// thermal value 3 not at all. The files that are about have this layout.
+  /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values.
+  /// Writes thermal values 1 and 2, mechanical value 2, the name, and mechanical values 1, 2 and 3: mechanical value 2
+  /// twice, thermal value 3 not at all. The files that are about have this layout. Arguments: the row, the record.
+  /// False: no path is set.
   bool SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& record);
 
   // [MoldMetalMaterial]: the mold metals, in rows like those of the mold bases.
 
-  /// "%d", the row's number: the three thermal values and the name. What the text does not supply is 0.
+  /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
+  /// values. The three thermal values and the name alone. What the text lacks is 0. Arguments: the row, thermal value
+  /// 1, thermal value 2, thermal value 3, the name. The name is valid until the next read of its kind. False, outputs
+  /// untouched: not in the file.
   bool GetMoldMetalMaterial(int row, double& first, double& second, double& third, char*& name);
+  /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
+  /// values. Writes the three thermal values and the name, and nothing behind it. Arguments: the row, thermal value 1,
+  /// thermal value 2, thermal value 3, the name. False: no path is set, or the name is null.
   bool SetMoldMetalMaterial(int row, double first, double second, double third, char* name);
-  /// The whole row. Where the "FileVersion" is below 1010 the row is read all the same, the mechanical values are 2e12, 0.3
-  /// and 0.00012, and the result is false.
+  /// [MoldMetalMaterial] "%d", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> SetMoldMetalMaterial(int row, double first, double second, double third, Char* name) {
+    return SetMoldMetalMaterial(row, first, second, third, const_cast<char*>(name));
+  }
+  /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
+  /// values. The whole row. Where the "FileVersion" is below 1010 the row is read all the same, the mechanical values
+  /// are 2e12, 0.3 and 0.00012, and the result is false. Arguments: the row, the record. The name is valid until the
+  /// next read of its kind.
   bool GetMoldMetalMaterial(int row, QELPRO_MMM_MECHANICAL& record);
-  /// Writes thermal values 1 and 2, mechanical value 2, the name, mechanical values 1, 2 and 3: mechanical value 2 twice,
-  /// thermal value 3 not at all. The files that are about have this layout.
+  /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
+  /// values. Writes thermal values 1 and 2, mechanical value 2, the name, and mechanical values 1, 2 and 3: mechanical
+  /// value 2 twice, thermal value 3 not at all. The files that are about have this layout. Arguments: the row, the
+  /// record. False: no path is set.
   bool SetMoldMetalMaterial(int row, const QELPRO_MMM_MECHANICAL& record);
 
   // [PartingSurface]: the cavity and core sides. Outputs that the text does not supply keep their values.
 
-  /// "CavityPart": the part on the cavity side: an integer and three reals.
+  /// [PartingSurface] "CavityPart": the part on the cavity side: an integer and three reals. Outputs that the text
+  /// lacks keep their values. Arguments: the integer, the first real, the second real, the third real. False, outputs
+  /// untouched: not in the file.
   bool GetPSCavityPart(int& first, double& second, double& third, double& fourth);
-  /// "CavityMoldBase": the mold base on the cavity side: an integer and three reals.
+  /// [PartingSurface] "CavityMoldBase": the mold base on the cavity side under the spelling of the older object: an
+  /// integer and three reals. Outputs that the text lacks keep their values. Arguments: the integer, the first real,
+  /// the second real, the third real. False, outputs untouched: not in the file.
   bool GetPSCavityMoldBase(int& first, double& second, double& third, double& fourth);
-  /// "CorePart": the part on the core side: an integer and three reals.
+  /// [PartingSurface] "CorePart": the part on the core side: an integer and three reals. Outputs that the text lacks
+  /// keep their values. Arguments: the integer, the first real, the second real, the third real. False, outputs
+  /// untouched: not in the file.
   bool GetPSCorePart(int& first, double& second, double& third, double& fourth);
-  /// "CoreMoldBase": the mold base on the core side: an integer and three reals.
+  /// [PartingSurface] "CoreMoldBase": the mold base on the core side under the spelling of the older object: an integer
+  /// and three reals. Outputs that the text lacks keep their values. Arguments: the integer, the first real, the second
+  /// real, the third real. False, outputs untouched: not in the file.
   bool GetPSCoreMoldBase(int& first, double& second, double& third, double& fourth);
 
   // [EjectCriteria]: the sensor and criteria nodes that decide ejection.
 
-  /// "TotalSensorNode": the number of sensor nodes.
+  /// [EjectCriteria] "TotalSensorNode": the number of sensor nodes. Argument: the value. False, the value untouched:
+  /// not in the file.
   bool GetTotalSensorNode(int& value);
-  /// "TotalCriteriaNode": the number of criteria nodes.
+  /// [EjectCriteria] "TotalCriteriaNode": the number of criteria nodes. Argument: the value. False, the value
+  /// untouched: not in the file.
   bool GetTotalCriteriaNode(int& value);
-  /// "SensorNode-%d": the node of a sensor, and a real.
+  /// [EjectCriteria] "SensorNode-%d": the mesh node of a sensor and a real that the older object alone reads.
+  /// Arguments: the sensor, the node, the real. False, outputs untouched: not in the file.
   bool GetSensorNodeSetting(int number, int& node, double& value);
-  /// "CriteriaNode-%d": the node of a criterion, and the criterion's value.
+  /// [EjectCriteria] "CriteriaNode-%d": the mesh node of a criterion, and the criterion's value. Arguments: the
+  /// criterion, the node, the value. False, outputs untouched: not in the file.
   bool GetCriteriaNodeSetting(int number, int& node, double& value);
 
   // [PartInsertInitialTemperature]: the initial temperature of each part insert.
 
-  /// "TotalPartInsert": the number of part inserts.
+  /// [PartInsertInitialTemperature] "TotalPartInsert": the number of part inserts. Argument: the value. False, the
+  /// value untouched: not in the file.
   bool GetTotalPartInsert(int& value);
-  /// "PartInsert-%d": an insert: its identifier, its name (one word), its initial temperature, in oC. Outputs that the text
-  /// does not supply keep their values.
+  /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, its initial temperature,
+  /// in oC. Of a name with blanks it hands out the first word, and the temperature keeps its value. A row without a
+  /// name hands out an empty one. Arguments: the insert, the identifier, the name, the temperature. The name is valid
+  /// until the next read of its kind. False, outputs untouched: not in the file.
   bool GetPartInsertSetting(int number, int& id, char*& name, double& temperature);
 
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1: first a name line for each boundary
-  // condition, as many as "TotalNodeBC" of [Summary] says, then the profile lines of all of them, one condition after the
-  // other. Positions go on into the sections behind the block, which is best the last of its file; a position behind the
-  // last line is written at the end of the file. A position below 1 yields false, and nothing is written.
+  // condition, as many as "TotalNodeBC" of [Summary] says, then the setting lines of all of them, one condition after the
+  // other. The lines end with their section: nothing behind the next header is found or touched, and a position behind the
+  // last line becomes the new last line. Empty lines count. A position below 1 yields false, and nothing is written.
 
-  /// Name line `line`: the number of profile points of the condition, and its name.
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the number of its setting
+  /// lines, its name, and an integer. The first number and the name. In a line of four words or more the name may hold
+  /// blanks. Arguments: the line, from 1, the number of setting lines, the name. The name is valid until the next read
+  /// of its kind. False, outputs untouched: not in the file.
   bool GetBCCountName(int line, int& count, char*& name);
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the number of its setting
+  /// lines, its name, and an integer. Writes the first number and the name, and no integer behind it. A line behind the
+  /// section's last one becomes its new last line. Arguments: the line, from 1, the number of setting lines, the name.
+  /// False: no path is set, or the name is null.
   bool SetBCCountName(int line, int count, char* name);
-  /// Name line `line` with the condition's type behind the name. In a line of four words or more the name may hold blanks;
-  /// in a shorter one the type may be missing, and keeps its value.
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line, from a text that is constant, such as a literal: the same
+  /// member.
+  template <class Char>
+  qel::IfConstant<Char> SetBCCountName(int line, int count, Char* name) {
+    return SetBCCountName(line, count, const_cast<char*>(name));
+  }
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the number of its setting
+  /// lines, its name, and an integer. In a line of four words or more the name may hold blanks; in a shorter one the
+  /// integer may be missing, and keeps its value. Arguments: the line, from 1, the number of setting lines, the name,
+  /// the integer. The name is valid until the next read of its kind. False, outputs untouched: not in the file.
   bool GetBCSetting(int line, int& count, char*& name, int& type);
-  /// Point `point` of the profile of condition `bc`: x and y; what the line does not supply is 0. False where a name line
-  /// before it, "TotalNodeBC", or the line itself is missing. Writing counts 0 for what is missing.
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition after the other: a
+  /// number, "=", and two reals. Point `point` of condition `bc`: its line stands behind as many header lines as
+  /// "TotalNodeBC" of [Summary] says, and behind the setting lines of the conditions before it, as many as their header
+  /// lines say; a missing "TotalNodeBC" counts as 0. What the line lacks is 0. Arguments: the condition, the point, x, y.
+  /// False, outputs untouched: a header line before it, or the line itself, is not there.
   bool GetBCProfile(int bc, int point, double& x, double& y);
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition after the other: a
+  /// number, "=", and two reals. Point `point` of condition `bc`, at the line that `GetBCProfile` reads; a header line
+  /// or a "TotalNodeBC" that is missing counts as 0. Written as the point, " = ", and the two reals. A line behind the
+  /// section's last one becomes its new last line. Arguments: the condition, the point, x, y. False: no path is set, or
+  /// no line has that position.
   bool SetBCProfile(int bc, int point, double x, double y);
 
  private:

@@ -20,9 +20,11 @@ class QELPROENGINE_API CQELMachineIdentification {
 
   /// The bank that `LoadFileData` reads; the text is copied. A null path changes nothing.
   void SetMachineUserBankPath(const char* path);
+  /// The same by a wide path. Of the two kinds the one that was set last counts.
   void SetMachineUserBankPath(const wchar_t* path);
   /// Kept, and used by nothing.
   void SetIdentificationPath(const char* path);
+  /// Kept, and used by nothing.
   void SetIdentificationPath(const wchar_t* path);
 
   /// Forgets the machines and reads the bank. False when no path is set, when the file cannot be opened (no machine is left
@@ -30,11 +32,12 @@ class QELPROENGINE_API CQELMachineIdentification {
   /// loads, and holds no machine.
   bool LoadFileData();
 
+  /// How many makers the bank lists; 0 before it was loaded.
   int GetMakerCount();
   /// The maker at a position from 0, in the order of the makers' bytes. At most `size` characters are copied: no terminator is
   /// added when the name fills the buffer. False out of range, for a null buffer, or for a size of 0.
   bool GetMaker(int index, char* buffer, unsigned int size);
-  /// 0 for an unknown maker, or null.
+  /// How many grades a maker has, repeats included; 0 for an unknown maker, or null.
   int GetGradeCount(const char* maker);
   /// The grade at a position from 0, in the order of the file, copied as `GetMaker` does. False for an unknown maker, too.
   bool GetGrade(const char* maker, int index, char* buffer, unsigned int size);

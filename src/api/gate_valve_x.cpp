@@ -30,35 +30,24 @@ bool CQELPROWriter_Manipulator::GateValveX_WriteControlPoint(int value, int valv
   return write(session_, &Session::gate_valve_x, kGCSet, in_section(valve), value);
 }
 
-namespace {
-
-// The writer's own copy of its path; null where it was given none.
-const char* path_of(const std::string& path) { return path.empty() ? nullptr : path.c_str(); }
-
-}  // namespace
-
 bool CQELPROWriter_Manipulator::GateValveX_WriteGateSetting(double value, int number, int mode, int point, int valve) {
-  return session_ != nullptr && attempt([&] {
-           return is_done(session_->gate_valve_x.WriteGateSetting(GatePointShort::print(value, number, mode), point, valve, path_of(path_)));
-         });
+  return session_ != nullptr &&
+         attempt([&] { return is_done(session_->gate_valve_x.WriteGateSetting(GatePointShort::print(value, number, mode), point, valve)); });
 }
 
 bool CQELPROWriter_Manipulator::GateValveX_WriteGateSetting(double value, int number, int mode, int last, int point, int valve) {
-  return session_ != nullptr && attempt([&] {
-           return is_done(session_->gate_valve_x.WriteGateSetting(GatePoint::print(value, number, mode, last), point, valve, path_of(path_)));
-         });
+  return session_ != nullptr &&
+         attempt([&] { return is_done(session_->gate_valve_x.WriteGateSetting(GatePoint::print(value, number, mode, last), point, valve)); });
 }
 
 bool CQELPROWriter_Manipulator::GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int point, int id) {
   return session_ != nullptr && attempt([&] {
-           return is_done(
-               session_->gate_valve_x.WriteGateSettingByValveGateID(GatePointShort::print(value, number, mode), point, id, path_of(path_)));
+           return is_done(session_->gate_valve_x.WriteGateSettingByValveGateID(GatePointShort::print(value, number, mode), point, id));
          });
 }
 
 bool CQELPROWriter_Manipulator::GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int last, int point, int id) {
   return session_ != nullptr && attempt([&] {
-           return is_done(
-               session_->gate_valve_x.WriteGateSettingByValveGateID(GatePoint::print(value, number, mode, last), point, id, path_of(path_)));
+           return is_done(session_->gate_valve_x.WriteGateSettingByValveGateID(GatePoint::print(value, number, mode, last), point, id));
          });
 }

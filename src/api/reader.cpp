@@ -54,7 +54,7 @@ bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key,
          qel::attempt([&] { return qel::is_done(session_->document().ReadOnce(section, key, value, buffer, size)); });
 }
 
-bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value, char* buffer, unsigned int /*size*/) {
+bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
   return raw_reads_disabled_ == 0 && session_ != nullptr &&
-         qel::attempt([&] { return session_->document().ScanValue(session_->document().own_path(), section, key, value, buffer); });
+         qel::attempt([&] { return session_->document().ScanValue(session_->document().own_path(), section, key, value, buffer, size); });
 }

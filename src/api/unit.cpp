@@ -3,7 +3,8 @@
 // [Unit]
 
 void CQELPROWriter_Manipulator::WriteUnitBlock() {
-  if (session_ != nullptr) {
-    session_->unit.WriteUnits();
+  // Every entry is written, whatever becomes of those before it.
+  for (std::size_t number = 0; session_ != nullptr && number < CQELPROBlockIOUnit::kUnits; ++number) {
+    qel::attempt([&] { return qel::is_done(session_->unit.WriteUnit(number)); });
   }
 }

@@ -1,20 +1,34 @@
 #include <cstdarg>
+#include <string>
 
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "api/forward.h"
 #include "api/ownership.h"
 #include "platform/format.h"
+#include "refdata/user_file.h"
+
+namespace {
+
+// The text is kept and not used: the document has a copy of its own. Without memory for it, none is kept.
+void keep(std::string& path, const std::string& other) {
+  if (!qel::attempt([&] { return path = other, true; })) {
+    path.clear();
+  }
+}
+
+}  // namespace
 
 CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() = default;
 
-CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other)
-    : session_(qel::share(other.session_)), path_(other.path_) {}
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other) : session_(qel::share(other.session_)) {
+  keep(path_, other.path_);
+}
 
 CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(const CQELPROWriter_Manipulator& other) {
   if (this != &other) {
     CQELPROWriter* previous = session_;
     session_ = qel::share(other.session_);
-    path_ = other.path_;
+    keep(path_, other.path_);
     qel::release(previous);
   }
   return *this;
@@ -33,8 +47,15 @@ bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
   if (path == nullptr || !OpenSession()) {
     return false;
   }
-  path_ = path;
-  return qel::open(*session_, path, CQELPROIO::kWriting);
+  return qel::attempt([&] {
+    std::string copy(path);
+    qel::refdata::make_folder_for_save(path);
+    const bool opened = qel::open(*session_, path, CQELPROIO::kWriting);
+    if (opened) {
+      path_ = std::move(copy);
+    }
+    return opened;
+  });
 }
 
 bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }

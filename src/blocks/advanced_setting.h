@@ -7,10 +7,17 @@ namespace qel::advanced_setting {
 
 inline constexpr char kSection[] = "[AdvancedSetting]";
 
-inline constexpr Key<RealTriple> kOpenDirection{
-    "OpenDirection", {"AdvancedSetting_ReadOpenDirection"}, {"AdvancedSetting_WriteOpenDirection"}, "the direction in which the mold opens: x, y, z"};
-inline constexpr Key<Real> kClampForce{"ClampForce", {"AdvancedSetting_ReadClampForce"}, {"AdvancedSetting_WriteClampForce"}, "the clamp force"};
-inline constexpr Key<Real> kCycleTime{"CycleTime", {"AdvancedSetting_ReadCycleTime"}, {}, "the cycle time, in sec; a text that holds no number is 0"};
+inline constexpr Key<RealTriple> kOpenDirection{"OpenDirection",
+                                                {"AdvancedSetting_ReadOpenDirection"},
+                                                {"AdvancedSetting_WriteOpenDirection"},
+                                                "the direction in which the mold opens: the x, y and z of a vector",
+                                                {.older = {"GetMoldOpenDirection", "SetMoldOpenDirection"}}};
+inline constexpr Key<Real> kClampForce{"ClampForce",
+                                       {"AdvancedSetting_ReadClampForce"},
+                                       {"AdvancedSetting_WriteClampForce"},
+                                       "the force that holds the mold shut",
+                                       {.older = {"GetMoldClampingForce", "SetMoldClampingForce"}}};
+inline constexpr Key<Real> kCycleTime{"CycleTime", {"AdvancedSetting_ReadCycleTime"}, {}, "the time from one shot to the next, in sec"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
 

@@ -59,7 +59,7 @@ class CQELPROBlockIOBase {
     char* text = nullptr;
     const int result = FindText(key.text, place, text);
     if (result == qel::to_int(qel::Result::done)) {
-      Encoding::scan(text, values...);
+      qel::scan_together<Encoding>(text, values...);
     }
     return result;
   }

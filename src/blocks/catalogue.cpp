@@ -27,30 +27,68 @@
 #include "blocks/mold_thermal_boundary_type.h"
 #include "blocks/moldbase.h"
 #include "blocks/moldbase_info.h"
+#include "blocks/output.h"
 #include "blocks/overflow.h"
 #include "blocks/pack_x.h"
 #include "blocks/part_insert_contact_angle.h"
 #include "blocks/part_insert_initial_temperature.h"
 #include "blocks/parting_surface.h"
 #include "blocks/project.h"
+#include "blocks/quick_setting.h"
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
 #include "blocks/transient_inlet_conv.h"
 #include "blocks/unit.h"
 #include "blocks/var_cool_ctl.h"
 
-#include <cstring>
+#include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
 namespace qel {
 namespace {
 
-// Sections that only the simulator process takes: an inlet's stages under the names of co-injection and of two melt entrances.
-constexpr SectionInfo kFlowSkin{"[Flow-%d-Skin]", "the filling stage of co-injection", flow_x::kKeys, std::size(flow_x::kKeys)};
-constexpr SectionInfo kPackSkin{"[Pack-%d-Skin]", "the packing stage of co-injection", pack_x::kKeys, std::size(pack_x::kKeys)};
-constexpr SectionInfo kFlowEM{"[Flow-EM%d]", "the filling stage of a melt entrance", flow_x::kKeys, std::size(flow_x::kKeys)};
-constexpr SectionInfo kPackEM{"[Pack-EM%d]", "the packing stage of a melt entrance", pack_x::kKeys, std::size(pack_x::kKeys)};
+// The loader also takes an inlet's stages from sections of other names. Nothing else serves those, and what it does not take is
+// no key of theirs.
+template <const auto& stage_keys>
+struct LoaderKeys {
+  static constexpr std::size_t kCount = std::ranges::count_if(stage_keys, [](const KeyInfo* key) { return key->elsewhere.loader != nullptr; });
+
+  static constexpr std::array<KeyInfo, kCount> rows() {
+    std::array<KeyInfo, kCount> taken{};
+    std::size_t count = 0;
+    for (const KeyInfo* key : stage_keys) {
+      if (key->elsewhere.loader != nullptr) {
+        taken[count] = *key;
+        taken[count].readers = {};
+        taken[count].writers = {};
+        taken[count++].elsewhere = {.loader = key->elsewhere.loader};
+      }
+    }
+    return taken;
+  }
+  static constexpr std::array<KeyInfo, kCount> kRows = rows();
+
+  static constexpr std::array<const KeyInfo*, kCount> pointers() {
+    std::array<const KeyInfo*, kCount> all{};
+    std::ranges::transform(kRows, all.begin(), [](const KeyInfo& row) { return &row; });
+    return all;
+  }
+  static constexpr std::array<const KeyInfo*, kCount> kKeys = pointers();
+};
+
+template <const auto& stage_keys>
+constexpr SectionInfo loader_section(const char* name, const char* subject) {
+  return {name, subject, LoaderKeys<stage_keys>::kKeys.data(), LoaderKeys<stage_keys>::kCount};
+}
+
+constexpr SectionInfo kFlowSkin =
+    loader_section<flow_x::kKeys>("[Flow-%d-Skin]", "the filling stage of both inlets of co-injection (project type 8)");
+constexpr SectionInfo kPackSkin =
+    loader_section<pack_x::kKeys>("[Pack-%d-Skin]", "the packing stage of both inlets of co-injection (project type 8)");
+constexpr SectionInfo kFlowEM = loader_section<flow_x::kKeys>("[Flow-EM%d]", "the filling stage of a melt entrance (project type 11)");
+constexpr SectionInfo kPackEM = loader_section<pack_x::kKeys>("[Pack-EM%d]", "the packing stage of a melt entrance (project type 11)");
 
 constexpr const SectionInfo* kSections[] = {
     &file_header::kInfo,
@@ -96,6 +134,8 @@ constexpr const SectionInfo* kSections[] = {
     &kPackSkin,
     &kFlowEM,
     &kPackEM,
+    &quick_setting::kInfo,
+    &output::kInfo,
 };
 
 // Whether the text is the pattern, with a number as it is printed in the place of "%d" or "%ld".

@@ -52,7 +52,7 @@ struct IntegerAndReal {
   static std::string print(int number, double value) { return fields::print("\t", number, value); }
 };
 
-/// Two sizes with any one character between them, written "%gx%g".
+/// Two sizes with any one character between them, written "%gx%g". They are decimal: "0x900" is 0 and 900.
 struct SizePair {
   static constexpr const char* kName = "pair of sizes (1200x900)";
   static constexpr std::size_t kLimit = kCompoundLimit;
@@ -60,12 +60,12 @@ struct SizePair {
   static void scan(const char* text, double& first, double& second) {
     char separator = 0;
     fields::clear(first, second);
-    fields::scan(text, first, separator, second);
+    fields::scan(text, fields::Decimal{first}, separator, fields::Decimal{second});
   }
   static std::string print(double first, double second) { return fields::print("x", first, second); }
 };
 
-/// Three sizes with any one character between them, written "%gx%gx%g".
+/// Three sizes with any one character between them, written "%gx%gx%g". They are decimal.
 struct SizeTriple {
   static constexpr const char* kName = "triple of sizes (5.2x1.4x2.1)";
   static constexpr std::size_t kLimit = kCompoundLimit;
@@ -73,7 +73,7 @@ struct SizeTriple {
   static void scan(const char* text, double& length, double& width, double& height) {
     char separator = 0;
     fields::clear(length, width, height);
-    fields::scan(text, length, separator, width, separator, height);
+    fields::scan(text, fields::Decimal{length}, separator, fields::Decimal{width}, separator, fields::Decimal{height});
   }
   static std::string print(double length, double width, double height) { return fields::print("x", length, width, height); }
 };

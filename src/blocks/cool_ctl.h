@@ -8,12 +8,28 @@ namespace qel::cool_ctl {
 inline constexpr char kSection[] = "[CoolCTL]";
 
 inline constexpr Key<Real> kT{
-    "T-%d", {"CoolCTL_ReadCoolantTemperature"}, {"CoolCTL_WriteCoolantTemperature"}, "the coolant temperature at an entrance, in oC"};
+    "T-%d",
+    {"CoolCTL_ReadCoolantTemperature"},
+    {"CoolCTL_WriteCoolantTemperature"},
+    "the coolant temperature at an entrance, in oC",
+    {.older = {"GetCoolCTLTemperature", "SetCoolCTLTemperature"}, .adapter = {"SetCoolCTL_WriteCoolantTemperature", "SetCoolingChannelData"}}};
 inline constexpr Key<Real> kF{
-    "F-%d", {"CoolCTL_ReadCoolantFlowRate"}, {"CoolCTL_WriteCoolantFlowRate"}, "the coolant flow rate at an entrance, in cc/sec"};
-inline constexpr Key<Real> kP{
-    "P-%d", {"CoolCTL_ReadCoolantPressure"}, {"CoolCTL_WroteCoolantPressure"}, "the coolant pressure at an entrance, in MPa"};
-inline constexpr Key<Integer> kM{"M-%d", {"CoolCTL_ReadCoolantSystem"}, {"CoolCTL_WriteCoolantSystem"}, "the coolant system of an entrance"};
+    "F-%d",
+    {"CoolCTL_ReadCoolantFlowRate"},
+    {"CoolCTL_WriteCoolantFlowRate"},
+    "the coolant flow rate at an entrance, in cc/sec",
+    {.older = {"GetCoolCTLFlowRate", "SetCoolCTLFlowRate"}, .adapter = {"SetCoolCTL_WriteCoolantFlowRate", "SetCoolingChannelData"}}};
+inline constexpr Key<Real> kP{"P-%d",
+                              {"CoolCTL_ReadCoolantPressure"},
+                              {"CoolCTL_WroteCoolantPressure"},
+                              "the coolant pressure at an entrance, in MPa",
+                              {.adapter = {"SetCoolCTL_WroteCoolantPressure"}}};
+inline constexpr Key<Integer> kM{
+    "M-%d",
+    {"CoolCTL_ReadCoolantSystem"},
+    {"CoolCTL_WriteCoolantSystem"},
+    "the coolant system of an entrance",
+    {.older = {"GetCoolCTLSystem", "SetCoolCTLSystem"}, .adapter = {"SetCoolCTL_WriteCoolantSystem", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kT, &kF, &kP, &kM};
 

@@ -8,11 +8,12 @@ namespace qel::coolant {
 
 inline constexpr char kSection[] = "[Coolant]";
 
-inline constexpr Key<CoolantLine> kCoolant{
-    "%d",
-    {"Coolant_ReadCoolant"},
-    {"Coolant_WriteCoolant"},
-    "a coolant: four properties, its system, its name (one word), a real, an integer; what the text does not supply is 0, the name null"};
+inline constexpr Key<CoolantLine> kCoolant{"%d",
+                                           {"Coolant_ReadCoolant"},
+                                           {"Coolant_WriteCoolant"},
+                                           "a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)), viscosity "
+                                           "(poise), coolant system, name (one word), channel diameter, channel group",
+                                           {.older = {"GetCoolant", "SetCoolant"}, .adapter = {"SetCoolant_WriteCoolant", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolant};
 

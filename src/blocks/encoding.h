@@ -19,6 +19,14 @@ namespace qel {
 inline constexpr std::size_t kScalarLimit = 4096;
 inline constexpr std::size_t kCompoundLimit = 256;
 
+/// Scans into all outputs together: they keep their values where there is no memory for a name among them.
+template <class Encoding, class... Values>
+void scan_together(char* text, Values&... values) {
+  std::tuple<Values...> scanned(values...);
+  std::apply([text](Values&... each) { Encoding::scan(text, each...); }, scanned);
+  std::tie(values...) = scanned;
+}
+
 /// "%d"
 struct Integer {
   static constexpr const char* kName = "integer";

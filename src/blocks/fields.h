@@ -12,6 +12,12 @@ inline bool scan_one(const char*& at, int& value) { return platform::scan_int(at
 inline bool scan_one(const char*& at, double& value) { return platform::scan_real(at, value); }
 inline bool scan_one(const char*& at, char& value) { return platform::scan_char(at, value); }
 
+/// A real that is never hexadecimal: one behind which an "x" may stand.
+struct Decimal {
+  double& value;
+};
+inline bool scan_one(const char*& at, const Decimal& decimal) { return platform::scan_decimal_real(at, decimal.value); }
+
 /// " %c": a character behind white space, which is skipped.
 struct Separator {};
 inline bool scan_one(const char*& at, Separator& /*dropped*/) {
@@ -26,7 +32,7 @@ inline bool scan_one(const char*& at, std::string& value) { return platform::sca
 
 /// Scans as one scan format does: the first field that does not scan ends it, and the rest keep their values.
 template <class... Values>
-bool scan(const char* text, Values&... values) {
+bool scan(const char* text, Values&&... values) {
   return (scan_one(text, values) && ...);
 }
 

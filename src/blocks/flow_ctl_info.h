@@ -7,13 +7,17 @@ namespace qel::flow_ctl_info {
 
 inline constexpr char kSection[] = "[FlowCTLInfo]";
 
-inline constexpr Key<Integer> kTotalInlet{"TotalInlet", {"FlowCTLInfo_ReadTotalInlet"}, {}, "the number of inlets"};
+inline constexpr Key<Integer> kTotalInlet{
+    "TotalInlet", {"FlowCTLInfo_ReadTotalInlet"}, {}, "the number of melt inlets", {.loader = "AppendFlowPackProcess"}};
 inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
-    "FlowCTL-%d", {"FlowCTLInfo_ReadFlowCTL"}, {}, "two control codes of an inlet, the second its control type; a number that is missing is 0"};
+    "FlowCTL-%d", {"FlowCTLInfo_ReadFlowCTL"}, {}, "two control codes of an inlet, the second its control type"};
 
-// Only the simulator process takes these; no member reads or writes them.
-inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{
-    "FlowCTL-%d]", {}, {}, "two control codes of an inlet, the second its control type; the closing bracket belongs to the key"};
+// Only the loader takes these.
+inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{"FlowCTL-%d]",
+                                                           {},
+                                                           {},
+                                                           "the same two codes as the loader looks for them: the closing bracket belongs to the key",
+                                                           {.loader = "set_process_InletControlType"}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet, &kFlowCTLOfInletBracketed};
 

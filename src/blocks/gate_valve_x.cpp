@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "blocks/summary.h"
-#include "core/snapshot.h"
 
 using qel::Integer;
 using qel::Key;
@@ -12,13 +11,12 @@ using qel::Snapshot;
 
 namespace {
 
-// The file as it stands now; nothing is found in one that cannot be read.
-Snapshot snapshot_of(const char* path) {
-  Snapshot file;
-  if (path != nullptr) {
-    file.load(path);
+// Loads the file as it stands now. One that cannot be read cannot be rewritten either.
+Result load(CQELPROIO* document, Snapshot& file) {
+  if (document == nullptr) {
+    return Result::no_file;
   }
-  return file;
+  return document->own_path() != nullptr && file.load(document->own_path()) ? Result::done : Result::no_open;
 }
 
 std::string section_of(int valve) { return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).str()); }
@@ -53,12 +51,8 @@ std::optional<int> find_valve(Snapshot& file, int id) {
 
 }  // namespace
 
-int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve, const char* path) {
-  Snapshot file = snapshot_of(path);
+int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve, Snapshot& file) {
   const int count = integer(file, section_of(valve), qel::gate_valve_x::kGCSet, 1);
-  if (document() == nullptr) {
-    return to_int(Result::no_file);
-  }
   const qel::NumberedName key(qel::gate_valve_x::kGCPoint.text, point);
   const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
   if (result != to_int(Result::done) || count >= point) {
@@ -67,8 +61,18 @@ int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int poin
   return Write(qel::gate_valve_x::kGCSet, qel::in_section(valve), point);
 }
 
-int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path) {
-  Snapshot file = snapshot_of(path);
+int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve) {
+  Snapshot file;
+  const Result loaded = load(document(), file);
+  return loaded == Result::done ? WriteGateSetting(text, point, valve, file) : to_int(loaded);
+}
+
+int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point, int id) {
+  Snapshot file;
+  const Result loaded = load(document(), file);
+  if (loaded != Result::done) {
+    return to_int(loaded);
+  }
   const std::optional<int> valve = find_valve(file, id);
-  return valve ? WriteGateSetting(text, point, *valve, path) : to_int(Result::absent);
+  return valve ? WriteGateSetting(text, point, *valve, file) : to_int(Result::absent);
 }

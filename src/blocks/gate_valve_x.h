@@ -2,19 +2,26 @@
 
 #include "blocks/block.h"
 #include "blocks/compound_encoding.h"
+#include "core/snapshot.h"
 
 /// [GateValve-%d]: a valve gate.
 namespace qel::gate_valve_x {
 
 inline constexpr char kSection[] = "[GateValve-%d]";
 
-inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the valve gate's identifier"};
-inline constexpr Key<Integer> kGCSet{"GCSet", {"GateValveX_ReadControlPoint"}, {"GateValveX_WriteControlPoint"}, "the number of control points"};
+inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the identifier of the valve gate"};
+inline constexpr Key<Integer> kGCSet{"GCSet",
+                                     {"GateValveX_ReadControlPoint"},
+                                     {"GateValveX_WriteControlPoint"},
+                                     "the number of control points of the valve gate",
+                                     {.older = {"GetValveGateControlNo", "SetValveGateControlNo"}, .adapter = {"SetGateValveX_ControlPoint"}}};
 inline constexpr Key<GatePoint> kGCPoint{
     "GC-%d",
     {"GateValveX_ReadGateSetting"},
     {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-    "a control point: the switching value, an integer, the mode, an integer (-1 for modes 1 and 4); what the text does not supply is 0"};
+    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an integer",
+    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch", "GetValveGateControlData", "SetValveGateControlData"},
+     .adapter = {"SetGateValveX_GateSetting"}}};
 inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d",
                                                    {"GateValveX_ReadGateSetting"},
                                                    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
@@ -31,9 +38,12 @@ class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {
   CQELPROBlockIOGateValveX() : CQELPROBlockIOBase(qel::gate_valve_x::kSection) {}
 
   /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the point's number where it is
-  /// lower; a valve without "GCSet" has one point. `path` is the file as it stands on disk.
-  int WriteGateSetting(const std::string& text, int point, int valve, const char* path);
+  /// lower; a valve without "GCSet" has one point. The document's path is looked at as it stands on disk.
+  int WriteGateSetting(const std::string& text, int point, int valve);
   /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of [Summary] says there are. A
   /// valve without "GCId" bears 0.
-  int WriteGateSettingByValveGateID(const std::string& text, int point, int id, const char* path);
+  int WriteGateSettingByValveGateID(const std::string& text, int point, int id);
+
+ private:
+  int WriteGateSetting(const std::string& text, int point, int valve, qel::Snapshot& file);
 };

@@ -14,7 +14,7 @@ inline constexpr Key<Real> kFoamDurationTime{"FoamDurationTime",
 inline constexpr Key<Integer> kStartFoamingType{"StartFoamingType",
                                                 {"MicrocellularMolding_ReadStartFoamingType"},
                                                 {"MicrocellularMolding_WriteStartFoamingType"},
-                                                "the code of what makes foaming begin"};
+                                                "a code: what makes foaming begin"};
 inline constexpr Key<Real> kVolumeFilled{"VolumeFilled",
                                          {"MicrocellularMolding_ReadVolumeFilled"},
                                          {"MicrocellularMolding_WriteVolumeFilled"},
@@ -22,25 +22,33 @@ inline constexpr Key<Real> kVolumeFilled{"VolumeFilled",
 inline constexpr Key<Real> kPreInjectedVolume{"PreInjectedVolume",
                                               {"MicrocellularMolding_ReadPreInjectedVolume"},
                                               {"MicrocellularMolding_WritePreInjectedVolume"},
-                                              "the volume injected before"};
+                                              "the volume that is injected before foaming begins"};
 inline constexpr Key<Integer> kInitialGasConcentrationType{"InitialGasConcentrationType",
                                                            {"MicrocellularMolding_ReadInitialGasConcentrationType"},
                                                            {"MicrocellularMolding_WriteInitialGasConcentrationType"},
-                                                           "the code of how the initial gas concentration is given"};
-inline constexpr Key<Real> kGasDosageAmount{
-    "GasDosageAmount", {"MicrocellularMolding_ReadGasDosageAmount"}, {"MicrocellularMolding_WriteGasDosageAmount"}, "the amount of gas"};
+                                                           "a code: how the initial gas concentration is given"};
+inline constexpr Key<Real> kGasDosageAmount{"GasDosageAmount",
+                                            {"MicrocellularMolding_ReadGasDosageAmount"},
+                                            {"MicrocellularMolding_WriteGasDosageAmount"},
+                                            "how much gas is dissolved in the melt"};
 inline constexpr Key<Real> kGasSaturationPressure{"GasSaturationPressure",
                                                   {"MicrocellularMolding_ReadGasSaturationPressure"},
                                                   {"MicrocellularMolding_WriteGasSaturationPressure"},
                                                   "the saturation pressure of the gas, in MPa"};
 inline constexpr Key<Integer> kNozzleShutoff{
-    "NozzleShutoff", {"MicrocellularMolding_ReadNozzleShutoff"}, {"MicrocellularMolding_WriteNozzleShutoff"}, "the code of the nozzle shut-off"};
-inline constexpr Key<Integer> kAdvancedType{
-    "AdvancedType", {"MicrocellularMolding_ReadAdvancedType"}, {"MicrocellularMolding_WriteAdvancedType"}, "the code of the advanced setting"};
-inline constexpr Key<Real> kRamPosition{
-    "RamPosition", {"MicrocellularMolding_ReadRamPosition"}, {"MicrocellularMolding_WriteRamPosition"}, "the ram position"};
-inline constexpr Key<Real> kPartWeight{
-    "PartWeight", {"MicrocellularMolding_ReadPartWeight"}, {"MicrocellularMolding_WritePartWeight"}, "the weight of the part"};
+    "NozzleShutoff", {"MicrocellularMolding_ReadNozzleShutoff"}, {"MicrocellularMolding_WriteNozzleShutoff"}, "a code: whether the nozzle shuts off"};
+inline constexpr Key<Integer> kAdvancedType{"AdvancedType",
+                                            {"MicrocellularMolding_ReadAdvancedType"},
+                                            {"MicrocellularMolding_WriteAdvancedType"},
+                                            "a code: which of the advanced values counts"};
+inline constexpr Key<Real> kRamPosition{"RamPosition",
+                                        {"MicrocellularMolding_ReadRamPosition"},
+                                        {"MicrocellularMolding_WriteRamPosition"},
+                                        "the ram position, for an advanced type that asks for one"};
+inline constexpr Key<Real> kPartWeight{"PartWeight",
+                                       {"MicrocellularMolding_ReadPartWeight"},
+                                       {"MicrocellularMolding_WritePartWeight"},
+                                       "the weight of the part, for an advanced type that asks for one"};
 
 inline constexpr const KeyInfo* kKeys[] = {
     &kFoamDurationTime, &kStartFoamingType,      &kVolumeFilled,  &kPreInjectedVolume, &kInitialGasConcentrationType,

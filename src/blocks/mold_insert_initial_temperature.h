@@ -15,12 +15,12 @@ inline constexpr Key<Integer> kTotalMoldInsert{"TotalMoldInsert",
 inline constexpr Key<MoldInsertLine> kMoldInsert{"MoldInsert-%d",
                                                  {"MoldInsertInitialTemperature_ReadMoldInsert"},
                                                  {"MoldInsertInitialTemperature_WriteMoldInsert"},
-                                                 "an insert: its identifier, its name (the first word of it), its initial temperature, in oC"};
+                                                 "a mold insert: its identifier, its name, its initial temperature, in oC"};
 inline constexpr Key<MoldInsertLineOfFour> kMoldInsertOfFour{
     "MoldInsert-%d",
     {"MoldInsertInitialTemperature_ReadMoldInsert"},
     {},
-    "an insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
+    "a mold insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalMoldInsert, &kMoldInsert, &kMoldInsertOfFour};
 

@@ -11,7 +11,8 @@ inline constexpr char kSection[] = "[MoldMetalMaterial]";
 inline constexpr Key<MoldMetalLine> kMaterial{"%d",
                                               {"MoldMetalMaterial_ReadMaterial"},
                                               {"MoldMetalMaterial_WriteMaterial"},
-                                              "a mold metal: three reals, its name, which may hold blanks, three reals"};
+                                              "a mold metal: three thermal values, its name, which may hold blanks, three mechanical values",
+                                              {.older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
 

@@ -12,13 +12,17 @@ inline constexpr char kSection[] = "[MoldTemperatureBC-%d]";
 /// first token.
 inline constexpr char kPositionalSection[] = "[SURFACE";
 
-inline constexpr Key<Text> kBCName{"BCName", {"MoldTemperatureBCX_ReadName"}, {"MoldTemperatureBCX_WriteName"}, "its name"};
-inline constexpr Key<Integer> kBCDisplayType{
-    "BCDisplayType", {"MoldTemperatureBCX_ReadDisplayType"}, {"MoldTemperatureBCX_WriteDisplayType"}, "how it is shown"};
+inline constexpr Key<Text> kBCName{"BCName", {"MoldTemperatureBCX_ReadName"}, {"MoldTemperatureBCX_WriteName"}, "the name of the boundary condition"};
+inline constexpr Key<Integer> kBCDisplayType{"BCDisplayType",
+                                             {"MoldTemperatureBCX_ReadDisplayType"},
+                                             {"MoldTemperatureBCX_WriteDisplayType"},
+                                             "a code: how a front end shows the boundary condition"};
 inline constexpr Key<Integer> kBCNodeCount{
-    "BCNodeCount", {"MoldTemperatureBCX_ReadNodeCount"}, {"MoldTemperatureBCX_WriteNodeCount"}, "the number of its nodes"};
-inline constexpr Key<RealPair> kBCPoint{
-    "BC-%d", {"MoldTemperatureBCX_ReadBCProfile"}, {"MoldTemperatureBCX_WriteBCProfile"}, "a point of its profile"};
+    "BCNodeCount", {"MoldTemperatureBCX_ReadNodeCount"}, {"MoldTemperatureBCX_WriteNodeCount"}, "the number of mesh nodes of the boundary condition"};
+inline constexpr Key<RealPair> kBCPoint{"BC-%d",
+                                        {"MoldTemperatureBCX_ReadBCProfile"},
+                                        {"MoldTemperatureBCX_WriteBCProfile"},
+                                        "a point of the boundary condition's profile: the time, and the temperature, in oC"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
 
@@ -27,11 +31,13 @@ inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condit
 inline constexpr Key<PositionalHeader> kHeaderLine{"header line",
                                                    {"MoldTemperatureBCX_ReadBC"},
                                                    {"MoldTemperatureBCX_WriteBC"},
-                                                   "one for each boundary condition: the number of its setting lines, its name, an integer"};
+                                                   "one for each boundary condition: the number of its setting lines, its name, and an integer",
+                                                   {.older = {"GetBCCountName", "SetBCCountName", "GetBCSetting"}}};
 inline constexpr Key<PositionalSetting> kSettingLine{"setting line",
                                                      {"MoldTemperatureBCX_ReadBCSetting"},
                                                      {"MoldTemperatureBCX_WriteBCSetting"},
-                                                     "behind the header lines, one condition after the other: the condition, two reals"};
+                                                     "behind all header lines, one condition after the other: a number, \"=\", and two reals",
+                                                     {.older = {"GetBCProfile", "SetBCProfile"}}};
 
 inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
 
@@ -60,10 +66,13 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
   }
 
   /// Header line number `line` of the positional section: how many setting lines the condition has, its name, an integer.
+  /// It is found as the document finds a line by its index; a line is written into the section, or becomes its last one.
   int ReadBC(int& first, char*& name, int& second, int line);
   int WriteBC(int first, const char* name, int second, int line);
 
-  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines.
+  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines. The header
+  /// lines of the conditions before it, and a line that is read, stand before the next section's header, or are not there. A
+  /// line that is written behind the section's last one becomes its last.
   int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
   int WriteBCSetting(double a, double b, int setting, int condition, int offset);
 

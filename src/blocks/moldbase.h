@@ -8,8 +8,11 @@ namespace qel::moldbase {
 
 inline constexpr char kSection[] = "[Moldbase]";
 
-inline constexpr Key<MoldbaseLine> kMoldbase{
-    "%d", {"Moldbase_ReadMoldbase"}, {"Moldbase_WriteMoldbase"}, "a mold base: three reals, its name, which may hold blanks, three reals"};
+inline constexpr Key<MoldbaseLine> kMoldbase{"%d",
+                                             {"Moldbase_ReadMoldbase"},
+                                             {"Moldbase_WriteMoldbase"},
+                                             "a mold base: three thermal values, its name, which may hold blanks, three mechanical values",
+                                             {.older = {"GetMoldbase", "SetMoldbase"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 

@@ -8,8 +8,10 @@ namespace qel::moldbase_info {
 
 inline constexpr char kSection[] = "[MoldbaseInfo]";
 
-inline constexpr Key<IntegerAndQuotedName> kMoldbase{
-    "MB-%d", {"MoldbaseInfo_ReadMoldbaseInfo"}, {"MoldbaseInfo_WriteMoldbaseInfo"}, "a number and the name, which stands in double quotes"};
+inline constexpr Key<IntegerAndQuotedName> kMoldbase{"MB-%d",
+                                                     {"MoldbaseInfo_ReadMoldbaseInfo"},
+                                                     {"MoldbaseInfo_WriteMoldbaseInfo"},
+                                                     "a mold base: an integer and its name, which stands in double quotes"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 

@@ -33,17 +33,50 @@ void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2,
   name = buffer.keep(whole.substr(begin, end - begin));
 }
 
+// Whether an insert's name was left out: nothing but blanks stands between two tabs, and a number and no more in the next
+// piece. Where a word stands there, the tabs only align the fields.
+bool has_no_name(const std::vector<std::string>& pieces) {
+  constexpr const char* kBlanks = " ";
+  if (pieces.size() < 3 || pieces[1].find_first_not_of(kBlanks) != std::string::npos) {
+    return false;
+  }
+  const char* at = pieces[2].c_str();
+  double temperature = 0;
+  return fields::scan_one(at, temperature) && at[std::strspn(at, kBlanks)] == '\0';
+}
+
 void scan_insert(const char* text, NameBuffer& buffer, int& id, char*& name, double& temperature) {
   fields::clear(id, temperature);
   std::string word;
-  fields::scan(text, id, word, temperature);
+  const std::vector<std::string> pieces = pieces_of(text, '\t');
+  if (has_no_name(pieces)) {
+    fields::scan(pieces[0].c_str(), id);
+    fields::scan(pieces[2].c_str(), temperature);
+  } else {
+    fields::scan(text, id, word, temperature);
+  }
   name = buffer.keep(word);
+}
+
+// The four pieces of a line that has as many, none where it has not. Pieces may be empty, a name that is followed by no
+// temperature and the identifier excepted: there a file's tabs align the fields.
+std::vector<std::string> four_pieces(const char* text) {
+  constexpr std::size_t kPieces = 4;
+  std::vector<std::string> pieces = pieces_of(text, '\t');
+  const bool aligned = pieces.size() != kPieces || pieces[0].empty() || (pieces[1].empty() && !has_no_name(pieces));
+  if (aligned) {
+    pieces = split(text, "\t");
+  }
+  if (pieces.size() != kPieces) {
+    pieces.clear();
+  }
+  return pieces;
 }
 
 void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& id, char*& name, double& temperature, int& fourth) {
   fields::clear(id, name, temperature, fourth);
-  const std::vector<std::string> pieces = split(text, "\t");
-  if (pieces.size() == 4) {
+  const std::vector<std::string> pieces = four_pieces(text);
+  if (!pieces.empty()) {
     fields::scan(pieces[3].c_str(), fourth);
     fields::scan(pieces[2].c_str(), temperature);
     fields::scan(pieces[0].c_str(), id);

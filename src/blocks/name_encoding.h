@@ -3,7 +3,8 @@
 #include "blocks/encoding.h"
 
 /// Encodings with a name among their fields. A name that is read stands in a buffer of the thread, one for each of these
-/// encodings, until the next reading of the same kind; it is cut at 255 characters.
+/// encodings, until the next reading of the same kind; it is cut at 255 characters. Names are written as they are given, also those
+/// that do not read back: one with blanks where the reading takes one word, an empty one among fields that blanks separate.
 namespace qel {
 
 /// "%lf %lf %lf %lf %d %s %lf %d", written with tabs. Clears its outputs, the name to null; the name is one word.
@@ -47,7 +48,8 @@ struct IntegerAndQuotedName {
   static std::string print(int number, const char* name) { return fields::print_one(number) + "\t\"" + name + "\""; }
 };
 
-/// "%d %s %lf", written with tabs. Clears its outputs. A name with blanks yields its first word, and no temperature.
+/// "%d %s %lf", written with tabs. Clears its outputs. A name with blanks yields its first word, and no temperature; an
+/// empty one between two tabs, before a number, yields an empty text.
 struct InsertLine {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, double>;
@@ -64,7 +66,7 @@ struct MoldInsertLine : InsertLine {
 
 /// Identifier, name with blanks, temperature and an optional integer. Clears its outputs, the name to null.
 ///
-/// Four pieces between tabs are the four fields. Otherwise words count: the last one is the fourth field where it is an
+/// Four pieces between tabs are the four fields; the name may be empty. Otherwise words count: the last one is the fourth field where it is an
 /// integer not above the insert's own number, and the temperature where it is above; the fourth field is the insert's
 /// number then. A line whose last word is no integer gives its words as the name, and nothing else.
 struct InsertLineOfFour {

@@ -1,7 +1,73 @@
 #include "blocks/part_insert_contact_angle.h"
 
+#include <charconv>
+#include <map>
+#include <optional>
+#include <string_view>
+
 using qel::Result;
 using namespace qel::part_insert_contact_angle;
+
+namespace {
+
+// Whether a key is a group's number as the members spell it: "1", not "01".
+bool is_number(std::string_view key, int& number) {
+  const char* end = key.data() + key.size();
+  const auto parsed = std::from_chars(key.data(), end, number);
+  return parsed.ec == std::errc() && parsed.ptr == end && key.front() >= '1' && key.front() <= '9';
+}
+
+// What lookups of the groups 1, 2, 3, ... come to, without a scan for each: of every number the first line counts, in whatever
+// order the numbers stand.
+class GroupSearch {
+ public:
+  GroupSearch(const std::string& wanted, int count) : wanted_(wanted), count_(count) {}
+
+  // False once the search is at its end.
+  bool goes_on(std::string_view key, std::string_view value) {
+    int number = 0;
+    if (!is_number(key, number) || number < next_ || number > count_ || waiting_.count(number) != 0) {
+      return true;
+    }
+    Group group;
+    std::string name;
+    group.has_name = qel::ContactAngle::scan(std::string(value).c_str(), name, group.angle);
+    group.is_wanted = group.has_name && name == wanted_;
+    waiting_.emplace(number, group);
+    return pass_those_in_order();
+  }
+
+  [[nodiscard]] std::optional<double> angle() const { return angle_; }
+
+ private:
+  struct Group {
+    bool has_name = false;
+    bool is_wanted = false;
+    double angle = 0;
+  };
+
+  bool pass_those_in_order() {
+    for (auto group = waiting_.begin(); group != waiting_.end() && group->first == next_; group = waiting_.erase(group)) {
+      if (group->second.is_wanted) {
+        angle_ = group->second.angle;
+        return false;
+      }
+      if (!group->second.has_name || next_ == count_) {
+        return false;
+      }
+      ++next_;
+    }
+    return true;
+  }
+
+  const std::string& wanted_;
+  int count_;
+  int next_ = 1;
+  std::map<int, Group> waiting_;  // groups from the next one on; ordered, so that no choice of numbers is slow
+  std::optional<double> angle_;
+};
+
+}  // namespace
 
 int CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name, double& angle) {
   char* text = nullptr;
@@ -18,8 +84,16 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(int group, double& angle) {
 }
 
 int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& angle) {
+  const std::string wanted(name);
   int count = 0;
   Read(kGroupCount, {}, count);
+  if (count < 1) {
+    return to_int(Result::absent);
+  }
+  return document() != nullptr && document()->scans_plainly() ? FindInOneScan(wanted, count, angle) : FindByLookups(wanted, count, angle);
+}
+
+int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wanted, int count, double& angle) {
   std::string group_name;
   double group_angle = 0;
   for (int group = 1; group <= count; ++group) {
@@ -27,7 +101,7 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& an
     if (result != to_int(Result::done)) {
       return result;
     }
-    if (group_name == name) {
+    if (group_name == wanted) {
       angle = group_angle;
       return result;
     }
@@ -36,4 +110,14 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& an
     }
   }
   return to_int(Result::absent);
+}
+
+int CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted, int count, double& angle) {
+  GroupSearch search(wanted, count);
+  const int result = document()->VisitEntries(name(), [&search](std::string_view key, std::string_view value) { return search.goes_on(key, value); });
+  if (search.angle()) {
+    angle = *search.angle();
+    return to_int(Result::done);
+  }
+  return result == to_int(Result::done) ? to_int(Result::absent) : result;
 }

@@ -9,11 +9,11 @@ namespace qel::part_insert_contact_angle {
 inline constexpr char kSection[] = "[PartInsertContactAngle]";
 
 inline constexpr Key<Integer> kGroupCount{
-    "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups"};
+    "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups of part inserts"};
 inline constexpr Key<ContactAngle> kGroup{"%d",
                                           {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
                                           {"PartInsertContactAngle_WriteGroup"},
-                                          "a group: its name in double quotes, and its angle"};
+                                          "a group of part inserts: its name in double quotes, and its contact angle"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
 
@@ -28,9 +28,11 @@ class CQELPROBlockIOPartInsertContactAngle : public CQELPROBlockIOBase {
   /// Fails for a line without two double quotes.
   int ReadAngle(int group, double& angle);
   /// The first group whose name is exactly this one, among the groups that "GroupCount" says there are. A group that is
-  /// missing, or has no quoted name, ends the search.
+  /// missing, or has no quoted name, ends the search. The name may stand in a buffer of a lookup's.
   int ReadAngle(const char* name, double& angle);
 
  private:
   int ReadGroup(int group, std::string& name, double& angle);
+  int FindByLookups(const std::string& wanted, int count, double& angle);
+  int FindInOneScan(const std::string& wanted, int count, double& angle);
 };

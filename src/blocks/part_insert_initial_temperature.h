@@ -11,16 +11,18 @@ inline constexpr char kSection[] = "[PartInsertInitialTemperature]";
 inline constexpr Key<Integer> kTotalPartInsert{"TotalPartInsert",
                                                {"PartInsertInitialTemperature_ReadTotalPartInsert"},
                                                {"PartInsertInitialTemperature_WriteTotalPartInsert"},
-                                               "the number of part inserts"};
+                                               "the number of part inserts",
+                                               {.older = {"GetTotalPartInsert"}}};
 inline constexpr Key<PartInsertLine> kPartInsert{"PartInsert-%d",
                                                  {"PartInsertInitialTemperature_ReadPartInsert"},
                                                  {"PartInsertInitialTemperature_WritePartInsert"},
-                                                 "an insert: its identifier, its name (the first word of it), its initial temperature, in oC"};
+                                                 "a part insert: its identifier, its name, its initial temperature, in oC",
+                                                 {.older = {"GetPartInsertSetting"}}};
 inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
     "PartInsert-%d",
     {"PartInsertInitialTemperature_ReadPartInsert"},
     {},
-    "an insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
+    "a part insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
 

@@ -2,7 +2,7 @@
 
 #include "blocks/block.h"
 
-/// [TransientInletConv]: pellet pre-heating and initial conversion where the inlet conversion is transient.
+/// [TransientInletConv]: pellet pre-heating and initial conversion, where the conversion at the inlet changes with time.
 namespace qel::transient_inlet_conv {
 
 inline constexpr char kSection[] = "[TransientInletConv]";
@@ -10,21 +10,31 @@ inline constexpr char kSection[] = "[TransientInletConv]";
 inline constexpr Key<Integer> kInitConversionType{"InitConversionType",
                                                   {"TransientInletConv_ReadInitConversionType"},
                                                   {"TransientInletConv_WriteInitConversionType"},
-                                                  "the code of the initial conversion"};
+                                                  "a code: how the initial conversion is given"};
 inline constexpr Key<Real> kInitPelletConv{"InitPelletConv",
                                            {"TransientInletConv_ReadInitPelletConversion"},
                                            {"TransientInletConv_WriteInitPelletConversion"},
-                                           "the initial conversion of the pellet"};
-inline constexpr Key<Real> kPelletDiameter{
-    "PelletDiameter", {"TransientInletConv_ReadPelletDiameter"}, {"TransientInletConv_WritePelletDiameter"}, "the pellet's diameter"};
-inline constexpr Key<Real> kPelletHeight{
-    "PelletHeight", {"TransientInletConv_ReadPelletHeight"}, {"TransientInletConv_WritePelletHeight"}, "the pellet's height"};
-inline constexpr Key<Real> kPreHeatTime{
-    "PreHeatTime", {"TransientInletConv_ReadPreHeatTime"}, {"TransientInletConv_WritePreHeatTime"}, "the pre-heating time, in sec"};
+                                           "how far the pellet's curing reaction has gone (its conversion) before pre-heating",
+                                           {.older = {"GetInitPelletConv", "SetInitPelletConv"}}};
+inline constexpr Key<Real> kPelletDiameter{"PelletDiameter",
+                                           {"TransientInletConv_ReadPelletDiameter"},
+                                           {"TransientInletConv_WritePelletDiameter"},
+                                           "the diameter of the pellet",
+                                           {.older = {"GetPelletDiameter", "SetPelletDiameter"}}};
+inline constexpr Key<Real> kPelletHeight{"PelletHeight",
+                                         {"TransientInletConv_ReadPelletHeight"},
+                                         {"TransientInletConv_WritePelletHeight"},
+                                         "the height of the pellet",
+                                         {.older = {"GetPelletHeight", "SetPelletHeight"}}};
+inline constexpr Key<Real> kPreHeatTime{"PreHeatTime",
+                                        {"TransientInletConv_ReadPreHeatTime"},
+                                        {"TransientInletConv_WritePreHeatTime"},
+                                        "how long the pellet is pre-heated, in sec",
+                                        {.older = {"GetPreHeatTime", "SetPreHeatTime"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitPelletConv, &kPelletDiameter, &kPelletHeight, &kPreHeatTime};
 
-inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion where the inlet conversion is transient", kKeys,
+inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion, where the conversion at the inlet changes with time", kKeys,
                                    std::size(kKeys)};
 
 }  // namespace qel::transient_inlet_conv

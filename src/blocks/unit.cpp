@@ -1,12 +1,20 @@
 #include "blocks/unit.h"
 
-void CQELPROBlockIOUnit::WriteUnits() {
-  using namespace qel::unit;
-  Write(kTime, {}, "sec\tTime");
-  Write(kTemp, {}, "oC\tTemperature");
-  Write(kPres, {}, "MPa\tPressure");
-  Write(kFR, {}, "cc/sec\tFlowRate");
-  Write(kIP, {}, "MPa\tInjectionPressure");
-  Write(kPP, {}, "MPa\tPackPressure");
-  Write(kVolume, {}, "cc\tVolume");
-}
+using namespace qel::unit;
+
+namespace {
+
+struct FixedUnit {
+  const qel::Key<qel::Text>& key;
+  const char* text;
+};
+
+constexpr FixedUnit kFixed[] = {
+    {kTime, "sec\tTime"},       {kTemp, "oC\tTemperature"}, {kPres, "MPa\tPressure"}, {kFR, "cc/sec\tFlowRate"}, {kIP, "MPa\tInjectionPressure"},
+    {kPP, "MPa\tPackPressure"}, {kVolume, "cc\tVolume"},
+};
+static_assert(std::size(kFixed) == CQELPROBlockIOUnit::kUnits);
+
+}  // namespace
+
+int CQELPROBlockIOUnit::WriteUnit(std::size_t number) { return Write(kFixed[number].key, {}, kFixed[number].text); }

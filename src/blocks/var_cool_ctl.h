@@ -8,11 +8,16 @@ namespace qel::var_cool_ctl {
 
 inline constexpr char kSection[] = "[VarCoolCTL]";
 
-inline constexpr Key<Integer> kCoolantNo{"CoolantNo", {"VarCoolCTL_ReadCoolantCount"}, {"VarCoolCTL_WriteCoolantCount"}, "the number of entries"};
+inline constexpr Key<Integer> kCoolantNo{"CoolantNo",
+                                         {"VarCoolCTL_ReadCoolantCount"},
+                                         {"VarCoolCTL_WriteCoolantCount"},
+                                         "the number of entries of variable cooling",
+                                         {.older = {"GetTotalCoolantNo", "SetTotalCoolantNo"}}};
 inline constexpr Key<FourRealsAndInteger> kCoolant{"Coolant-%d",
                                                    {"VarCoolCTL_ReadCoolant"},
                                                    {"VarCoolCTL_WriteCoolant"},
-                                                   "an entry of four reals and an integer; what the text does not supply is 0"};
+                                                   "an entry of variable cooling: four reals and an integer",
+                                                   {.older = {"GetCoolant", "SetCoolant"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolantNo, &kCoolant};
 

@@ -17,6 +17,18 @@ std::vector<std::string> split(std::string_view text, std::string_view separator
   }
 }
 
+std::vector<std::string> pieces_of(std::string_view text, char separator) {
+  std::vector<std::string> pieces;
+  for (;;) {
+    const std::size_t end = std::min(text.find(separator), text.size());
+    pieces.emplace_back(text.substr(0, end));
+    if (end == text.size()) {
+      return pieces;
+    }
+    text.remove_prefix(end + 1);
+  }
+}
+
 std::string join(const std::vector<std::string>& words, std::string_view separator) {
   std::string text;
   for (const std::string& word : words) {

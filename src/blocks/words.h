@@ -9,6 +9,9 @@ namespace qel {
 /// The non-empty pieces between the separator characters.
 std::vector<std::string> split(std::string_view text, std::string_view separators);
 
+/// All pieces between the separators, the empty ones too.
+std::vector<std::string> pieces_of(std::string_view text, char separator);
+
 std::string join(const std::vector<std::string>& words, std::string_view separator);
 
 }  // namespace qel

@@ -1,6 +1,7 @@
 #include "core/document.h"
 
 #include <string_view>
+#include <utility>
 
 #include "core/scan_value.h"
 #include "core/text.h"
@@ -85,14 +86,21 @@ void CQELPROIO::release_held() {
   file_.close();
 }
 
-void CQELPROIO::remember(const char* path) {
-  path_copy_ = path;
+void CQELPROIO::forget_lent() {
+  if (lent_ != nullptr) {
+    lent_.reset();
+    stream_ = nullptr;
+  }
+}
+
+void CQELPROIO::remember(const char* path, std::string& copy) {
+  path_copy_.swap(copy);
   path_ = path;
   wide_path_ = nullptr;
 }
 
-void CQELPROIO::remember(const wchar_t* path) {
-  wide_path_copy_ = path;
+void CQELPROIO::remember(const wchar_t* path, std::wstring& copy) {
+  wide_path_copy_.swap(copy);
   wide_path_ = path;
   path_ = nullptr;
 }
@@ -102,6 +110,7 @@ bool CQELPROIO::open(const Character* path, int mode) {
   if (path == nullptr) {
     return false;
   }
+  std::basic_string<Character> copy(path);  // before anything is changed: there may be no memory for it
   if (mode == kWriting) {
     OsFile file;
     if constexpr (std::is_same_v<Character, char>) {
@@ -111,19 +120,25 @@ bool CQELPROIO::open(const Character* path, int mode) {
     } else if (!file.open_for_update(path)) {
       return false;
     }
-    remember(path);
-    // A file that is held stays in use; one that was closed gives way to the path.
+    if (!file.close()) {
+      return false;
+    }
+    forget_lent();
+    remember(path, copy);
+    // A file that the document itself opened stays in use; one that was closed gives way to the path.
     attached_ = holds_file();
     indexed_ = indexed_ && attached_;
-    return file.close();
+    return true;
   }
+  forget_lent();
   release_held();
   if (!file_.open_for_reading(path)) {
     return false;
   }
   attached_ = indexed_ = true;
-  index_.turn_to_another_file();
-  remember(path);
+  index_.begin_file();
+  seen_changes_ = file_.change_count();
+  remember(path, copy);
   return true;
 }
 
@@ -135,11 +150,12 @@ bool CQELPROIO::SetFilePtr(std::FILE*& stream) {
   if (stream == nullptr) {
     return false;
   }
+  auto lent = std::make_unique<qel::platform::LentStream>(stream);
   if (file_.is_open()) {
     release_held();
   }
   stream_ = stream;
-  lent_ = std::make_unique<qel::platform::LentStream>(stream);
+  lent_ = std::move(lent);
   attached_ = true;
   indexed_ = false;
   path_ = nullptr;
@@ -197,6 +213,10 @@ int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned
   std::optional<LineScanner> lines;
   std::optional<Line> line;
   if (indexed_) {
+    if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
+      index_.forget();
+      seen_changes_ = changes;
+    }
     line = find_indexed(*file, target, index_, lines);
   } else {
     lines.emplace(*file, 0);
@@ -218,12 +238,32 @@ int CQELPROIO::VisitLines(const char* section, int count, const std::function<vo
     return to_int(lines.failed() ? Result::no_open : Result::absent);
   }
   for (int position = 1; position <= count; ++position) {
-    if (!lines.next(line)) {
+    if (!lines.next(line) || qel::text::is_header(line.text)) {
       return to_int(lines.failed() ? Result::no_open : Result::absent);
     }
     visit(std::string(qel::text::index_value(line.text)).c_str());
   }
   return to_int(Result::done);
+}
+
+int CQELPROIO::VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit) {
+  OsFile own;
+  RandomAccess* file = nullptr;
+  const Result chosen = choose_file(own, file);
+  if (chosen != Result::done) {
+    return to_int(chosen);
+  }
+  LineScanner lines(*file, 0);
+  Line line;
+  if (!find_plain_header(lines, view(section), line)) {
+    return to_int(lines.failed() ? Result::no_open : Result::absent);
+  }
+  while (lines.next(line)) {
+    if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
+      return to_int(Result::done);
+    }
+  }
+  return to_int(lines.failed() ? Result::no_open : Result::done);
 }
 
 int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
@@ -305,7 +345,7 @@ int CQELPROIO::ReplaceValue(const char* section, const char* key, const char* va
   return to_int(store_into(file, [&](Store& store) { return store.replace(entry); }));
 }
 
-bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer) {
+bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
   OsFile file;
   if (path == nullptr || section == nullptr || key == nullptr || !file.open_for_reading(path)) {
     return false;
@@ -317,10 +357,11 @@ bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key
   }
   if (buffer == nullptr) {
     thread_local char own[kValueBuffer];
-    if (text->size() >= kValueBuffer) {
-      return false;
-    }
     buffer = own;
+    size = kValueBuffer;
+  }
+  if (size != 0 && text->size() >= size) {
+    return false;
   }
   text->copy(buffer, text->size());
   buffer[text->size()] = '\0';

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/lookup.h"
 #include "core/result.h"
@@ -27,7 +28,8 @@ class CQELPROIO {
   static constexpr int kWriting = 1;
 
   /// Reading (any mode but 1) holds the file open and keeps an index of offsets that later files do not clear.
-  /// Writing holds nothing: every store opens the path again. A wide path never creates a file.
+  /// Writing holds nothing: every store opens the path again. A wide path never creates a file. A lent stream is forgotten and
+  /// stays open.
   virtual bool SetFilePath(const wchar_t* path, int mode);
   virtual bool SetFilePath(const char* path, int mode);
 
@@ -48,9 +50,15 @@ class CQELPROIO {
   /// The same of a target. A null buffer is the thread's own.
   int LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
 
-  /// Hands the first `count` lines behind a section's header to `visit`, trimmed, in one plain scan whatever the document's
-  /// mode is. -2 when there are fewer.
+  /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the document's mode is. -2 when
+  /// there are fewer: the section ends at the next header.
   int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
+
+  /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one through the index.
+  [[nodiscard]] bool scans_plainly() const { return !indexed_; }
+  /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token and the value, until it
+  /// yields false.
+  int VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
   int SetValue(const char* section, const char* key, const char* value, int index);
@@ -58,7 +66,8 @@ class CQELPROIO {
   int ReplaceValue(const char* section, const char* key, const char* value);
 
   /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes on into later sections.
-  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer);
+  /// False, too, for a value that does not fit the buffer, whose size is not looked at where it is 0.
+  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer, unsigned int size = 0);
 
   /// The caller's own pointer, or null when the file was given by a wide path or a stream.
   [[nodiscard]] const char* narrow_path() const { return path_; }
@@ -73,9 +82,10 @@ class CQELPROIO {
  private:
   template <class Character>
   bool open(const Character* path, int mode);
-  void remember(const char* path);
-  void remember(const wchar_t* path);
+  void remember(const char* path, std::string& copy);
+  void remember(const wchar_t* path, std::wstring& copy);
   void release_held();
+  void forget_lent();
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
   qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
@@ -87,6 +97,7 @@ class CQELPROIO {
   std::string path_copy_;
   std::wstring wide_path_copy_;
   qel::SectionIndex index_;
+  std::uint32_t seen_changes_ = 0;                   // what this program had written to the file when the index was last right
   qel::platform::OsFile file_;                       // opened by this document for reading
   std::unique_ptr<qel::platform::LentStream> lent_;  // lent by the caller
   std::FILE* stream_ = nullptr;                      // the lent stream, or one handed out over `file_`

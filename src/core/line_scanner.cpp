@@ -66,16 +66,16 @@ bool LineScanner::read_more() {
   return added > 0;
 }
 
-// Whether everything from here to the end of the file is blanks.
+// Whether everything from here to the end of the file is padding.
 bool LineScanner::is_padding(std::size_t begin) {
   const std::int64_t offset = window_offset_ + static_cast<std::int64_t>(begin);
   if (offset < first_text_behind_) {
     return false;
   }
   const std::string_view rest(window_ + begin, length_ - begin);
-  const std::size_t text = rest.find_first_not_of(' ');
-  if (text != std::string_view::npos) {
-    first_text_behind_ = offset + static_cast<std::int64_t>(text);
+  const std::size_t content = rest.find_first_not_of(text::kPadding);
+  if (content != std::string_view::npos) {
+    first_text_behind_ = offset + static_cast<std::int64_t>(content);
     return false;
   }
   if (at_end_) {
@@ -87,7 +87,7 @@ bool LineScanner::is_padding(std::size_t begin) {
     if (got <= 0) {
       return true;
     }
-    const std::size_t found = std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(' ');
+    const std::size_t found = std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(text::kPadding);
     if (found != std::string_view::npos) {
       first_text_behind_ = at + static_cast<std::int64_t>(found);
       return false;
@@ -110,13 +110,14 @@ bool LineScanner::next(Line& line) {
   if (line_break != nullptr && length > 0 && begin[length - 1] == '\r') {
     --length;
   }
+  line.is_piece = inside_long_line_;
   std::size_t consumed = 0;
   if (length < text::kLongestLine) {
     consumed = static_cast<std::size_t>(line_break - begin) + 1;
     inside_long_line_ = false;
   } else {
     consumed = length = std::min(available(), text::kLongestLine);
-    if (!inside_long_line_ && *begin == ' ' && is_padding(at_)) {
+    if (!inside_long_line_ && text::kPadding.find(*begin) != std::string_view::npos && is_padding(at_)) {
       return false;
     }
     inside_long_line_ = true;
@@ -126,6 +127,9 @@ bool LineScanner::next(Line& line) {
   const char* terminator = may_hold_nul_ ? find_byte(begin, length, '\0') : nullptr;
   line.text = {begin, terminator != nullptr ? static_cast<std::size_t>(terminator - begin) : length};
   at_ += consumed;
+  if (line_break == nullptr && at_end_ && available() == 0) {
+    line.text = text::without_end_mark(line.text);
+  }
   return true;
 }
 
@@ -164,7 +168,7 @@ bool LineScanner::next_starting_with(char first, Line& line) {
 }
 
 std::size_t length_without_padding(std::string_view contents) {
-  return contents.find('\n') == std::string_view::npos ? contents.size() : contents.find_last_not_of(' ') + 1;
+  return contents.find('\n') == std::string_view::npos ? text::without_end_mark(contents).size() : text::trim_end(contents, text::kPadding).size();
 }
 
 }  // namespace qel

@@ -12,13 +12,15 @@ struct Line {
   std::int64_t start = 0;
   std::int64_t end = 0;   ///< The offset behind the line and its line break.
   std::string_view text;  ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+  bool is_piece = false;  ///< Begins inside a line that is too long, and comes in pieces.
 };
 
 /// Walks over the lines of a file.
 ///
 /// - A line ends at "\n" or "\r\n". One that is longer than `text::kLongestLine` comes as several lines.
 /// - A byte order mark at the start of the file belongs to no line.
-/// - Blanks behind the last line break are padding that an earlier store left, and no line.
+/// - Blanks behind the last line break are padding that an earlier store left, and no line; so is an end mark there. One that ends
+///   the last line belongs to no text.
 class LineScanner {
  public:
   /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects to read.

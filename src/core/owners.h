@@ -1,11 +1,14 @@
 #pragma once
 
-/// What copies of an exported object share: a record that counts its owners, of which the last one deletes it.
+#include <atomic>
+
+/// What copies of an exported object share: a record that counts its owners, of which the last one deletes it. The copies may
+/// come and go on different threads.
 namespace qel {
 
 template <class Record>
 struct Shared : Record {
-  int owners = 1;
+  std::atomic<int> owners{1};
 };
 
 template <class Record>

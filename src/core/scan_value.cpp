@@ -16,7 +16,7 @@ std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::st
   if (file.read_at(0, contents.data(), contents.size()) != size || section.empty() || key.empty()) {
     return std::nullopt;
   }
-  std::string_view rest = contents;
+  std::string_view rest = text::without_end_mark(contents);
   for (bool in_section = false; !rest.empty();) {
     std::string_view line = rest.substr(0, rest.find('\n'));
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));

@@ -50,29 +50,29 @@ bool Snapshot::load(const char* path) {
     return false;
   }
   sections_.clear();
-  sorted_section_ = {};
+  sorted_section_ = kNone;
   may_hold_nul_ = contents_.find('\0') != std::string::npos;
   LineScanner lines(contents_, 0, may_hold_nul_);
   for (Line line; lines.next_starting_with('[', line);) {
     if (text::is_header(line.text)) {
-      sections_.try_emplace(std::string(text::first_token(line.text)), line.end);
+      sections_.insert(HashedName(text::first_token(line.text)), line.end);
     }
   }
   return true;
 }
 
 bool Snapshot::sort_entries_of(std::string_view section) {
-  if (section == sorted_section_) {
+  if (sorted_section_ != kNone && sections_.name(sorted_section_) == section) {
     return true;
   }
-  const auto found = sections_.find(std::string(section));
-  if (found == sections_.end()) {
+  const std::size_t found = sections_.position_of(HashedName(section));
+  if (found == kNone) {
     return false;
   }
-  sorted_section_ = found->first;
+  sorted_section_ = found;
   entries_.clear();
   sorted_.clear();
-  LineScanner lines(contents_, found->second, may_hold_nul_);
+  LineScanner lines(contents_, sections_.value(found), may_hold_nul_);
   for (Line line; lines.next(line) && !text::is_header(line.text);) {
     const std::string_view key = text::first_token(line.text);
     if (!key.empty()) {
@@ -112,8 +112,8 @@ std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most)
   const std::size_t place = pattern.find("%d");
   const std::string_view suffix = pattern.substr(place + 2);
   std::vector<int> result;
-  for (const auto& section : sections_) {
-    std::string_view name = section.first;
+  for (std::size_t section = 0; section < sections_.size(); ++section) {
+    std::string_view name = sections_.name(section);
     if (name.size() > suffix.size() && name.substr(name.size() - suffix.size()) == suffix) {
       name.remove_suffix(suffix.size());
       const std::optional<int> number = number_behind(name, pattern.substr(0, place));

@@ -4,8 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
+
+#include "core/name_table.h"
 
 namespace qel {
 
@@ -49,6 +50,8 @@ class Snapshot {
     std::size_t entry;
   };
 
+  static constexpr std::size_t kNone = NameTable<std::int64_t>::kUnknown;
+
   // False where there is no such section.
   bool sort_entries_of(std::string_view section);
   // The first of the sorted entries whose key is not below this one.
@@ -56,11 +59,11 @@ class Snapshot {
 
   std::string contents_;
   bool may_hold_nul_ = false;
-  std::unordered_map<std::string, std::int64_t> sections_;  // where the line behind the header begins
-  std::string_view sorted_section_;                         // the section that was asked for last
-  std::vector<Entry> entries_;                              // its entries as they stand in the file
-  std::vector<Sorted> sorted_;                              // the same by key, then by place
-  std::vector<Numbered> numbered_;                          // what was handed out last
+  NameTable<std::int64_t> sections_;    // where the line behind the header begins
+  std::size_t sorted_section_ = kNone;  // the section that was asked for last
+  std::vector<Entry> entries_;          // its entries as they stand in the file
+  std::vector<Sorted> sorted_;          // the same by key, then by place
+  std::vector<Numbered> numbered_;      // what was handed out last
 };
 
 }  // namespace qel

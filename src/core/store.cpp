@@ -35,15 +35,20 @@ bool assigns(std::string_view line, std::string_view key) {
 
 bool is_refused(const Entry& entry) {
   const Target& target = entry.target;
-  if (!text::is_findable(target.section) || !fits(target.section) || has_line_break(without_trailing_break(entry.value))) {
+  const auto holds_end_mark = [](std::string_view text) { return text.find(text::kEndMark) != std::string_view::npos; };
+  if (holds_end_mark(target.section) || holds_end_mark(target.key) || holds_end_mark(entry.value)) {
+    return true;  // some programs would take it for the end of the file
+  }
+  if (!fits(target.section) || has_line_break(without_trailing_break(entry.value))) {
     return true;
   }
-  if (target.index == 0 || (target.by_key() && !text::is_findable(target.key))) {
-    return true;
+  if (target.by_key()) {
+    return !text::is_section_name(target.section) || !text::is_key(target.key) || !fits(inserted_line_of(entry));
   }
-  // A line that reads as a header would end the section it stands in.
-  const std::string line = target.by_key() ? inserted_line_of(entry) : line_of(entry);
-  return !fits(line) || text::is_header(line);
+  // A positional section is asked for by the first token of its header, which may be an open bracket and a word. A line that reads
+  // as a header would end the section it stands in.
+  const std::string line = line_of(entry);
+  return target.index == 0 || !text::is_findable(target.section) || target.section.front() != '[' || !fits(line) || text::is_header(line);
 }
 
 bool Store::load() {
@@ -64,8 +69,7 @@ bool Store::load() {
 bool Store::overwrite(std::size_t at, std::string_view bytes) {
   const auto offset = static_cast<std::int64_t>(at);
   const auto old_size = static_cast<std::int64_t>(image_.bytes().size());
-  const auto new_size = std::max(old_size, offset + static_cast<std::int64_t>(bytes.size()));
-  if (!file_.secure_growth(old_size, new_size)) {
+  if (!file_.secure_growth(old_size, offset + static_cast<std::int64_t>(bytes.size()))) {
     return false;
   }
   if (file_.write_at(offset, bytes.data(), bytes.size())) {
@@ -117,8 +121,7 @@ Result Store::insert_at(std::size_t at, std::string_view line) {
 }
 
 Result Store::append_section(std::string_view header, std::string_view line) {
-  // Only a header that reads "[...]" is found again by every lookup.
-  if (!text::is_header(header) || !fits(line)) {
+  if (!fits(line)) {
     return Result::no_open;
   }
   std::string text(line_break_);

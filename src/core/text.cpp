@@ -48,8 +48,21 @@ bool is_header(std::string_view line) {
   if (line.empty() || line.front() != '[') {
     return false;
   }
-  line = without_trailing(line);
-  return line.size() > 1 && line.back() == ']';
+  if (const std::string_view trimmed = without_trailing(line); trimmed.size() > 1 && trimmed.back() == ']') {
+    return true;
+  }
+  // The brackets may hold blanks; a "=" inside them ends the first token before they close.
+  for (std::size_t at = 1; at < line.size() && line[at] != '='; ++at) {
+    if (line[at] == ']' && at + 1 < line.size() && (line[at + 1] == ' ' || line[at + 1] == '\t')) {
+      const std::size_t behind = line.find_first_not_of(" \t", at + 1);
+      return behind == std::string_view::npos || line[behind] != '=';
+    }
+  }
+  return false;
+}
+
+bool is_header_of(std::string_view line, std::string_view section) {
+  return first_token_is(line, section) && (section.front() != '[' || is_header(line));
 }
 
 std::string_view trim_blanks(std::string_view text) { return trim_end(without_leading_blanks(text), " "); }
@@ -59,9 +72,16 @@ std::string_view trim_end(std::string_view text, std::string_view characters) {
   return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
-bool only_blanks(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
+std::string_view without_end_mark(std::string_view last_line) {
+  const std::string_view text = trim_end(last_line, kPadding);
+  return last_line.find(kEndMark, text.size()) != std::string_view::npos ? text : last_line;
+}
 
 bool is_findable(std::string_view name) { return !name.empty() && name.find_first_of(" \t=\r\n") == std::string_view::npos; }
+
+bool is_section_name(std::string_view name) { return is_findable(name) && name.size() > 1 && name.front() == '[' && name.back() == ']'; }
+
+bool is_key(std::string_view name) { return is_findable(name) && name.front() != '['; }
 
 std::string padded_entry(std::string_view key, std::string_view value) {
   constexpr std::size_t kKeyColumns = 20;

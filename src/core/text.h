@@ -25,17 +25,33 @@ std::string_view entry_value(std::string_view line);
 /// The whole line, trimmed as a value is.
 std::string_view index_value(std::string_view line);
 
-/// Whether the line reads "[...]" once what trails it is removed: the header as a section ends at it.
-/// (A section is found by first token alone.)
+/// Whether a section begins at the line: it reads "[...]" once what trails it is removed, or words stand behind its "[...]".
+/// A "=" behind the brackets makes it the entry of an odd key.
 bool is_header(std::string_view line);
+
+/// Whether the line is the header of the section of this name. A name that does not begin with a bracket, under which nothing
+/// is ever stored, is found at any line that begins with it.
+bool is_header_of(std::string_view line, std::string_view section);
 
 std::string_view trim_blanks(std::string_view text);
 std::string_view trim_end(std::string_view text, std::string_view characters);
 
-bool only_blanks(std::string_view text);
+/// Programs whose text mode knows an end mark stop reading at it.
+inline constexpr char kEndMark = '\x1A';
 
-/// Whether a section name or key can be found again once it is written: not empty, and all of it first token.
+/// What blanks and end marks at a file's very end are made of: no content, and room for the next store.
+inline constexpr std::string_view kPadding = " \x1A";
+
+/// The last line of a file, which has no line break, without an end mark and the blanks around it.
+std::string_view without_end_mark(std::string_view last_line);
+
+/// Whether all of a name is first token, so that a line of it can be found.
 bool is_findable(std::string_view name);
+
+/// Whether a name reads as a section's, or as a key's, once it is written: a section's stands in brackets, and a key begins
+/// with none.
+bool is_section_name(std::string_view name);
+bool is_key(std::string_view name);
 
 /// "%-20s = %s", the layout of an entry that is appended or replaced.
 std::string padded_entry(std::string_view key, std::string_view value);

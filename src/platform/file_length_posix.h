@@ -1,6 +1,7 @@
 #pragma once
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -16,6 +17,12 @@ int uninterrupted(Call call) {
     result = call();
   } while (result != 0 && errno == EINTR);
   return result;
+}
+
+/// Whether the process may write a file up to there. A write past its limit on file sizes would end it with a signal.
+inline bool is_within_limit(std::int64_t end) {
+  rlimit limit{};
+  return ::getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY || static_cast<rlim_t>(end) <= limit.rlim_cur;
 }
 
 /// Sets room aside for a file to grow from a length to another, which it does not take yet. A file system that cannot do that is

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "platform/change_count.h"
 #include "platform/random_access.h"
 
 namespace qel::platform {
@@ -16,13 +17,14 @@ class LentStream final : public RandomAccess {
   std::int64_t size() override;
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
-  bool secure_growth(std::int64_t old_size, std::int64_t new_size) override;
+  bool secure_growth(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;
   bool flush() override;
 
  private:
   std::FILE* stream_;
-  bool has_contents_;
+  bool has_contents_ = false;
+  ChangeCount changes_;
 };
 
 }  // namespace qel::platform

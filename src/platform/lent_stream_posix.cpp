@@ -7,18 +7,17 @@
 
 namespace qel::platform {
 
-namespace {
-
 // A device may go on without end, and a pipe has no offsets. A stream over memory has no descriptor.
-bool has_contents(std::FILE* stream) {
+LentStream::LentStream(std::FILE* stream) : stream_(stream) {
   const int fd = ::fileno(stream);
   struct stat status {};
-  return fd < 0 || (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode));
+  if (fd < 0) {
+    has_contents_ = true;
+  } else if (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
+    has_contents_ = true;
+    changes_ = ChangeCount(status.st_dev, status.st_ino);
+  }
 }
-
-}  // namespace
-
-LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(has_contents(stream)) {}
 
 std::int64_t LentStream::size() {
   if (!has_contents_) {
@@ -41,11 +40,12 @@ std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t coun
 }
 
 bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  const CountedChange change(changes_);
   std::clearerr(stream_);
   return ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) == 0 && std::fwrite(from, 1, count, stream_) == count && flush();
 }
 
-bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
+bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {
   const int fd = ::fileno(stream_);
   if (fd < 0) {
     return true;  // a stream over memory: its own write tells
@@ -54,13 +54,14 @@ bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
   if (flags < 0 || (flags & O_APPEND) != 0 || (flags & O_ACCMODE) == O_RDONLY) {
     return false;  // bytes would land elsewhere than asked, or nowhere
   }
-  if (new_size <= old_size) {
-    return true;
+  if (!is_within_limit(end)) {
+    return false;
   }
-  return set_room_aside(fd, old_size, new_size);
+  return end <= old_size || set_room_aside(fd, old_size, end);
 }
 
 bool LentStream::truncate(std::int64_t size) {
+  const CountedChange change(changes_);
   const int fd = ::fileno(stream_);
   return fd >= 0 && flush() && set_length(fd, size);
 }

@@ -22,7 +22,7 @@ bool synchronize(std::FILE* stream) {
 
 }  // namespace
 
-LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(is_disk_file(handle_of(stream))) {}
+LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(is_disk_file(handle_of(stream))), changes_(0, 0) {}
 
 std::int64_t LentStream::size() { return has_contents_ && synchronize(stream_) ? size_of(handle_of(stream_)) : -1; }
 
@@ -31,14 +31,18 @@ std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t coun
 }
 
 bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  const CountedChange change(changes_);
   return has_contents_ && synchronize(stream_) && write_to(handle_of(stream_), offset, from, count) && flush();
 }
 
-bool LentStream::secure_growth(std::int64_t old_size, std::int64_t new_size) {
-  return has_contents_ && (new_size <= old_size || set_aside(handle_of(stream_), new_size));
+bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {
+  return has_contents_ && (end <= old_size || set_aside(handle_of(stream_), end));
 }
 
-bool LentStream::truncate(std::int64_t size) { return has_contents_ && synchronize(stream_) && set_size(handle_of(stream_), size); }
+bool LentStream::truncate(std::int64_t size) {
+  const CountedChange change(changes_);
+  return has_contents_ && synchronize(stream_) && set_size(handle_of(stream_), size);
+}
 
 bool LentStream::flush() { return synchronize(stream_); }
 

@@ -76,8 +76,10 @@ bool lex_digits(const char* at, Mantissa& number) {
   return true;
 }
 
-bool lex_number(const char* at, Mantissa& number) {
-  number.hexadecimal = at[0] == '0' && lower(at[1]) == 'x';
+enum class Radix { any, decimal };
+
+bool lex_number(const char* at, Radix radix, Mantissa& number) {
+  number.hexadecimal = radix == Radix::any && at[0] == '0' && lower(at[1]) == 'x';
   return number.hexadecimal ? lex_digits<true>(at + 2, number) : lex_digits<false>(at, number);
 }
 
@@ -117,6 +119,39 @@ bool is_huge(const Mantissa& number) {
   return magnitude + (negative ? -exponent : exponent) > 0;
 }
 
+bool scan_real(const char*& at, Radix radix, double& value) {
+  const char* p = at;
+  skip_space(p);
+  const bool negative = *p == '-';
+  if (*p == '+' || *p == '-') {
+    ++p;
+  }
+  double result = 0;
+  if (take_word(p, "inf")) {
+    // "inf" may go on to "infinity" only: a scan that has begun the longer word does not fall back to the shorter one.
+    if (lower(*p) == 'i' && !take_word(p, "inity")) {
+      return false;
+    }
+    result = std::numeric_limits<double>::infinity();
+  } else if (take_word(p, "nan")) {
+    result = std::numeric_limits<double>::quiet_NaN();
+  } else {
+    Mantissa number{};
+    if (!lex_number(p, radix, number)) {
+      return false;
+    }
+    const auto format = number.hexadecimal ? std::chars_format::hex : std::chars_format::general;
+    const auto parsed = std::from_chars(number.begin, number.value_end, result, format);
+    if (parsed.ec == std::errc::result_out_of_range) {
+      result = is_huge(number) ? HUGE_VAL : 0.0;
+    }
+    p = number.consumed_end;
+  }
+  value = negative ? -result : result;
+  at = p;
+  return true;
+}
+
 }  // namespace
 
 bool scan_int64(const char*& at, std::int64_t& value) {
@@ -150,38 +185,9 @@ bool scan_int(const char*& at, int& value) {
   return true;
 }
 
-bool scan_real(const char*& at, double& value) {
-  const char* p = at;
-  skip_space(p);
-  const bool negative = *p == '-';
-  if (*p == '+' || *p == '-') {
-    ++p;
-  }
-  double result = 0;
-  if (take_word(p, "inf")) {
-    // "inf" may go on to "infinity" only: a scan that has begun the longer word does not fall back to the shorter one.
-    if (lower(*p) == 'i' && !take_word(p, "inity")) {
-      return false;
-    }
-    result = std::numeric_limits<double>::infinity();
-  } else if (take_word(p, "nan")) {
-    result = std::numeric_limits<double>::quiet_NaN();
-  } else {
-    Mantissa number{};
-    if (!lex_number(p, number)) {
-      return false;
-    }
-    const auto format = number.hexadecimal ? std::chars_format::hex : std::chars_format::general;
-    const auto parsed = std::from_chars(number.begin, number.value_end, result, format);
-    if (parsed.ec == std::errc::result_out_of_range) {
-      result = is_huge(number) ? HUGE_VAL : 0.0;
-    }
-    p = number.consumed_end;
-  }
-  value = negative ? -result : result;
-  at = p;
-  return true;
-}
+bool scan_real(const char*& at, double& value) { return scan_real(at, Radix::any, value); }
+
+bool scan_decimal_real(const char*& at, double& value) { return scan_real(at, Radix::decimal, value); }
 
 bool scan_char(const char*& at, char& value) {
   if (*at == '\0') {

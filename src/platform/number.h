@@ -19,6 +19,9 @@ bool scan_int64(const char*& at, std::int64_t& value);
 /// "%lf": leading white space, a sign, a decimal or hexadecimal number, "inf", "infinity" or "nan".
 bool scan_real(const char*& at, double& value);
 
+/// The same without hexadecimal numbers: of "0x900" it takes the 0.
+bool scan_decimal_real(const char*& at, double& value);
+
 /// "%c": the very next character.
 bool scan_char(const char*& at, char& value);
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "platform/change_count.h"
 #include "platform/random_access.h"
 
 namespace qel::platform {
@@ -29,9 +30,11 @@ class OsFile final : public RandomAccess {
   std::int64_t size() override;
   /// The length that the file had when it was opened: known without asking again.
   [[nodiscard]] std::int64_t size_when_opened() const { return size_when_opened_; }
+  /// Moves with everything that this program writes to the file, through whatever object.
+  [[nodiscard]] std::uint32_t change_count() const { return changes_.value(); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
-  bool secure_growth(std::int64_t old_size, std::int64_t new_size) override;
+  bool secure_growth(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;
   bool flush() override { return true; }
 
@@ -44,6 +47,7 @@ class OsFile final : public RandomAccess {
 
   std::intptr_t handle_ = kClosed;
   std::int64_t size_when_opened_ = -1;
+  ChangeCount changes_;
 };
 
 }  // namespace qel::platform

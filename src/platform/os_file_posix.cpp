@@ -12,14 +12,30 @@ namespace qel::platform {
 namespace {
 
 int open_retrying(const char* path, int flags) {
-  // O_NONBLOCK keeps a named pipe from stopping the caller; it means nothing for a regular file.
-  constexpr int kAlways = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  constexpr int kAlways = O_CLOEXEC | O_NOCTTY;
   constexpr mode_t kCreateMode = 0666;
   int fd = -1;
   do {
     fd = ::open(path, flags | kAlways, kCreateMode);
   } while (fd < 0 && errno == EINTR);
   return fd;
+}
+
+// Whether something stands there that is no regular file.
+bool is_something_else(const char* path) {
+  struct stat status {};
+  return ::stat(path, &status) == 0 && !S_ISREG(status.st_mode);
+}
+
+// A named pipe is not opened at all: even that would be noticed at its other end. Nor may one that takes the file's place
+// meanwhile stop the caller, so that nothing is waited for at first. A regular file then has to be waited for only while another
+// program holds a lease on it, which the system asks back.
+int open_file(const char* path, int flags) {
+  if (is_something_else(path)) {
+    return -1;
+  }
+  const int fd = open_retrying(path, flags | O_NONBLOCK);
+  return fd < 0 && errno == EWOULDBLOCK && !is_something_else(path) ? open_retrying(path, flags) : fd;
 }
 
 int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
@@ -40,18 +56,19 @@ bool OsFile::adopt(std::intptr_t handle) {
   }
   handle_ = handle;
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
+  changes_ = ChangeCount(status.st_dev, status.st_ino);
   return true;
 }
 
-bool OsFile::open_for_reading(const char* path) { return adopt(open_retrying(path, O_RDONLY)); }
+bool OsFile::open_for_reading(const char* path) { return adopt(open_file(path, O_RDONLY)); }
 
 bool OsFile::open_for_reading(const wchar_t* path) { return open_for_reading(to_utf8(path).c_str()); }
 
-bool OsFile::open_for_update(const char* path) { return adopt(open_retrying(path, O_RDWR)); }
+bool OsFile::open_for_update(const char* path) { return adopt(open_file(path, O_RDWR)); }
 
 bool OsFile::open_for_update(const wchar_t* path) { return open_for_update(to_utf8(path).c_str()); }
 
-bool OsFile::create(const char* path) { return adopt(open_retrying(path, O_RDWR | O_CREAT)); }
+bool OsFile::create(const char* path) { return adopt(open_file(path, O_RDWR | O_CREAT)); }
 
 bool OsFile::close() {
   if (!is_open()) {
@@ -86,6 +103,7 @@ std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) {
 }
 
 bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  const CountedChange change(changes_);
   std::size_t done = 0;
   while (done < count) {
     const ssize_t put = ::pwrite(descriptor(handle_), from + done, count - done, static_cast<off_t>(offset) + static_cast<off_t>(done));
@@ -100,8 +118,11 @@ bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) 
   return true;
 }
 
-bool OsFile::secure_growth(std::int64_t old_size, std::int64_t new_size) {
-  if (new_size <= old_size) {
+bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) {
+  if (!is_within_limit(end)) {
+    return false;
+  }
+  if (end <= old_size) {
     return true;
   }
   struct stat status {};
@@ -109,13 +130,16 @@ bool OsFile::secure_growth(std::int64_t old_size, std::int64_t new_size) {
     return false;
   }
   constexpr std::int64_t kStatBlock = 512;
-  if (static_cast<std::int64_t>(status.st_blocks) * kStatBlock >= new_size) {
+  if (static_cast<std::int64_t>(status.st_blocks) * kStatBlock >= end) {
     return true;
   }
-  return set_room_aside(descriptor(handle_), old_size, new_size);
+  return set_room_aside(descriptor(handle_), old_size, end);
 }
 
-bool OsFile::truncate(std::int64_t size) { return set_length(descriptor(handle_), size); }
+bool OsFile::truncate(std::int64_t size) {
+  const CountedChange change(changes_);
+  return set_length(descriptor(handle_), size);
+}
 
 std::FILE* OsFile::duplicate_as_stream() {
   const int copy = ::fcntl(descriptor(handle_), F_DUPFD_CLOEXEC, 0);

@@ -9,6 +9,8 @@
 #include "platform/handle_windows.h"
 
 namespace qel::platform {
+// To ask for a file's number takes as long as to open it: all files share one counter here.
+
 namespace {
 
 // Whoever else has the file open, for whatever: the C runtime's own streams share as freely.
@@ -39,6 +41,7 @@ bool OsFile::adopt(std::intptr_t handle) {
   }
   handle_ = handle;
   size_when_opened_ = size();
+  changes_ = ChangeCount(0, 0);
   return true;
 }
 
@@ -67,11 +70,17 @@ std::int64_t OsFile::size() { return size_of(to_handle(handle_)); }
 
 std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) { return read_from(to_handle(handle_), offset, to, count); }
 
-bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) { return write_to(to_handle(handle_), offset, from, count); }
+bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) {
+  const CountedChange change(changes_);
+  return write_to(to_handle(handle_), offset, from, count);
+}
 
-bool OsFile::secure_growth(std::int64_t old_size, std::int64_t new_size) { return new_size <= old_size || set_aside(to_handle(handle_), new_size); }
+bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) { return end <= old_size || set_aside(to_handle(handle_), end); }
 
-bool OsFile::truncate(std::int64_t size) { return set_size(to_handle(handle_), size); }
+bool OsFile::truncate(std::int64_t size) {
+  const CountedChange change(changes_);
+  return set_size(to_handle(handle_), size);
+}
 
 std::FILE* OsFile::duplicate_as_stream() {
   // A duplicate of the handle would share its position, which every read moves.

@@ -27,9 +27,9 @@ class RandomAccess {
   /// Writes all of `count` bytes, or fails.
   virtual bool write_at(std::int64_t offset, const char* from, std::size_t count) = 0;
 
-  /// Makes sure that the file can grow from `old_size` to `new_size` before any old byte is touched.
+  /// Makes sure that the file, which is `old_size` long, can be written up to `end`, before any old byte is touched.
   /// The length that `size` tells stays `old_size`.
-  virtual bool secure_growth(std::int64_t old_size, std::int64_t new_size) = 0;
+  virtual bool secure_growth(std::int64_t old_size, std::int64_t end) = 0;
 
   virtual bool truncate(std::int64_t size) = 0;
 

@@ -1,63 +1,52 @@
-#include <new>
+#include <memory>
 #include <string>
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "QELPROEngine/CQEL_ProcessAdapter.h"
+#include "core/owners.h"
 
 namespace {
 
 // The writer that copies of an adapter share, with a path that outlives the caller's text.
-struct SharedWriter : CQELPROWriter_Manipulator {
+struct WriterOfAPath : CQELPROWriter_Manipulator {
   std::string path;
-  int owners = 1;
 };
+using SharedWriter = qel::Shared<WriterOfAPath>;
 
 SharedWriter* shared(CQELPROWriter_Manipulator* writer) { return static_cast<SharedWriter*>(writer); }
-
-CQELPROWriter_Manipulator* share(CQELPROWriter_Manipulator* writer) {
-  if (writer != nullptr) {
-    ++shared(writer)->owners;
-  }
-  return writer;
-}
-
-void release(CQELPROWriter_Manipulator* writer) {
-  if (writer != nullptr && --shared(writer)->owners == 0) {
-    delete writer;
-  }
-}
 
 }  // namespace
 
 CQEL_ProcessAdapter::CQEL_ProcessAdapter() = default;
 
-CQEL_ProcessAdapter::CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other) : writer_(share(other.writer_)), path_(other.path_) {}
+CQEL_ProcessAdapter::CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other) : writer_(qel::share(shared(other.writer_))), path_(other.path_) {}
 
 CQEL_ProcessAdapter& CQEL_ProcessAdapter::operator=(const CQEL_ProcessAdapter& other) {
   if (this != &other) {
     CQELPROWriter_Manipulator* previous = writer_;
-    writer_ = share(other.writer_);
+    writer_ = qel::share(shared(other.writer_));
     path_ = other.path_;
-    release(previous);
+    qel::release(shared(previous));
   }
   return *this;
 }
 
-CQEL_ProcessAdapter::~CQEL_ProcessAdapter() { release(writer_); }
+CQEL_ProcessAdapter::~CQEL_ProcessAdapter() { qel::release(shared(writer_)); }
 
 bool CQEL_ProcessAdapter::SetProcessPath(const char* path) try {
   if (writer_ != nullptr) {
     return false;
   }
-  writer_ = new SharedWriter;
+  auto writer = std::make_unique<SharedWriter>();
+  writer->path = path != nullptr ? path : "";
+  writer_ = writer.release();
   if (!writer_->SetFilePath(path)) {
     return false;
   }
-  shared(writer_)->path = path;
   path_ = path;
   return true;
-} catch (const std::bad_alloc&) {
+} catch (...) {
   return false;
 }
 

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <limits>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -30,6 +32,14 @@ struct LoadingReader : CQELPROReader_Manipulator {
 LoadingReader* loading(CQELPROReader_Manipulator* reader) { return static_cast<LoadingReader*>(reader); }
 
 Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader)->file; }
+
+// A list that found no memory for a point says so; no process rather than one that lacks it.
+template <class List, class Point>
+void append_to(List& list, Point point) {
+  if (!list.AppendDataPoint(point)) {
+    throw std::bad_alloc();
+  }
+}
 
 template <class Target>
 struct Convert {
@@ -75,12 +85,12 @@ void load_profile(Snapshot& file, const char* section, std::string_view count_ke
     if (scan_real(at, point.x)) {
       scan_real(at, point.y);
     }
-    profile.AppendDataPoint(point);
+    append_to(profile, point);
   });
 }
 
 void load_array(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, QELG_Array<double>& array) {
-  load_list(file, section, count_key, prefix, [&array](const std::string& text) { array.AppendDataPoint(to_real(text.c_str())); });
+  load_list(file, section, count_key, prefix, [&array](const std::string& text) { append_to(array, to_real(text.c_str())); });
 }
 
 // A list without a count ends before the first number that is missing.
@@ -90,7 +100,7 @@ void load_open_list(Snapshot& file, const char* section, std::string_view prefix
     if (entry.number != expected++) {
       return;
     }
-    array.AppendDataPoint(to_real(std::string(entry.value).c_str()));
+    append_to(array, to_real(std::string(entry.value).c_str()));
   }
 }
 
@@ -105,6 +115,7 @@ std::pair<int, int> scan_pair(std::string_view text) {
   return pair;
 }
 
+constexpr unsigned int kMostInlets = 4096;  // that a process holds
 constexpr unsigned int kCoInjection = 8;
 constexpr unsigned int kTwoMeltEntrances = 11;
 
@@ -160,7 +171,11 @@ void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& pro
   if (const auto total = file_of(reader_).value("[FlowCTLInfo]", "TotalInlet")) {
     count = static_cast<unsigned int>(to_int(std::string(*total).c_str()));
   }
+  const unsigned int wanted = count;
   while (count-- != 0 && process.AppendFlowPackProcess() != nullptr) {
+  }
+  if (process.GetNumOfInlets() < std::min(wanted, kMostInlets)) {
+    throw std::bad_alloc();
   }
 }
 

@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "platform/os_file.h"
+#include "proio/contents.h"
 #include "proio/entries.h"
 #include "proio/line_store.h"
 #include "proio/typed.h"
@@ -12,35 +13,42 @@ namespace platform = qel::platform;
 
 namespace {
 
-// How many profile lines the conditions before this one have together, by their name lines.
-struct PointsBefore {
-  long long count = 0;
-  bool complete = false;  // whether each of them has a name line
+constexpr Target kConditions{summary::kSection, summary::kBoundaryConditionNo.key.text};
+
+// Where a profile point stands behind the header of the boundary conditions.
+struct Place {
+  long long line = 0;
+  bool named = false;     // whether each of the conditions before has a name line
+  bool readable = false;  // whether all that this rests on could be read
 };
 
-PointsBefore points_before(const char* path, int condition) {
-  PointsBefore points;
-  platform::OsFile file;
-  if (path == nullptr || !file.open_for_reading(path)) {
-    return points;
-  }
-  LineScanner lines(file);
-  const std::int64_t contents_end = length_without_padding(file);
-  constexpr Target kNextLine{boundary_condition::kSection, {}, 1};
+// `Source` is a file, or the contents of one. What is missing counts 0.
+template <class Source>
+Place place_of(Source& source, std::int64_t contents_end, int condition, int point) {
+  LineScanner head(source);
   Buffer text;
-  Line line;
+  int conditions = 0;
+  if (read(head, kConditions, text) == Code::success) {
+    scan_items(text.text(), conditions);
+  }
+  Place place;
+  place.line = static_cast<long long>(conditions) + point;
+  LineScanner names(source);
+  constexpr Target kNextLine{boundary_condition::kSection, {}, 1};
+  Line name;
   int k = 1;
-  for (bool more = seek_section(lines, boundary_condition::kSection); more && k < condition; ++k) {
-    more = seek_line(lines, kNextLine, line, contents_end);
+  for (bool more = seek_section(names, boundary_condition::kSection); more && k < condition; ++k) {
+    more = seek_line(names, kNextLine, name, contents_end);
     if (!more) {
       break;
     }
     int count = 0;
-    scan_items(text.assign(line.text).text(), count);
-    points.count += count;
+    scan_items(text.assign(name.text).text(), count);
+    place.line += count;
   }
-  points.complete = k >= condition;
-  return points;
+  place.named = k >= condition;
+  place.readable = !head.failed() && !names.failed();
+  return place;
 }
 
 int as_index(long long line) { return static_cast<int>(std::min<long long>(line, std::numeric_limits<int>::max())); }
@@ -89,25 +97,47 @@ bool CPROIO_Manipulator::GetBCSetting(int line, int& count, char*& name, int& ty
 }
 
 bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
-  int conditions = 0;
-  char* text = nullptr;
-  if (!GetBoundaryConditionNo(conditions)) {
-    return false;
-  }
-  const PointsBefore before = points_before(path_, bc);
-  if (!before.complete || !ReadBC(conditions + before.count + point, text)) {
-    return false;
-  }
-  int number = 0;
-  char equals = '\0';
-  x = y = 0;
-  scan_items(text, number, Symbol{equals}, x, y);
-  return true;
+  return attempt([&] {
+    platform::OsFile file;
+    if (path_ == nullptr || !file.open_for_reading(path_)) {
+      return false;
+    }
+    const Place place = place_of<platform::RandomAccess>(file, length_without_padding(file), bc, point);
+    Buffer text;
+    if (!place.readable || !place.named || place.line < 1 ||
+        read(file, {boundary_condition::kSection, {}, as_index(place.line)}, text) != Code::success) {
+      return false;
+    }
+    int number = 0;
+    char equals = '\0';
+    x = y = 0;
+    scan_items(text.text(), number, Symbol{equals}, x, y);
+    return true;
+  });
 }
 
+// The place is read from the same contents that the line goes into: a place that rests on a failed read would be that of another
+// line. A file that cannot be written is not reported, as ever.
 bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
-  int conditions = 0;
-  GetBoundaryConditionNo(conditions);
-  const long long line = conditions + points_before(path_, bc).count + point;
-  return attempt([&] { return WriteBC(line, (print_item(point) + " = " + print_items(x, y)).c_str()); });
+  return attempt([&] {
+    if (path_ == nullptr) {
+      return false;
+    }
+    const std::string line = print_item(point) + " = " + print_items(x, y);
+    platform::OsFile file;
+    if (!file.open_for_update(path_) && (point < 1 || !file.create(path_))) {
+      return point >= 1;
+    }
+    Contents contents(file);
+    if (!contents.load()) {
+      return true;
+    }
+    const std::string_view text = contents.text();
+    const Place place = place_of(text, static_cast<std::int64_t>(text.size()), bc, point);
+    if (place.line < 1) {
+      return false;
+    }
+    const bool stored = store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) && file.close();
+    return !stored || SetFileDate();
+  });
 }

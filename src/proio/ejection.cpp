@@ -1,7 +1,36 @@
+#include <cstring>
+
 #include "proio/entries.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;
+
+namespace {
+
+// Whether a name was left out: nothing but blanks stands between two tabs, and a number and no more in the next piece. Then
+// `at` goes on before the number.
+bool skip_missing_name(const char*& at) {
+  const char* next = at;
+  for (int tab = 0; tab < 2; ++tab) {
+    next += std::strspn(next, " ");
+    if (*next++ != '\t') {
+      return false;
+    }
+  }
+  const char* end = next;
+  double number = 0;
+  if (!scan_item(end, number)) {
+    return false;
+  }
+  end += std::strspn(end, " ");
+  if (*end != '\0' && *end != '\t' && *end != '\n') {
+    return false;
+  }
+  at = next;
+  return true;
+}
+
+}  // namespace
 
 // [PartingSurface]
 
@@ -33,5 +62,20 @@ bool CPROIO_Manipulator::GetCriteriaNodeSetting(int number, int& node, double& v
 
 bool CPROIO_Manipulator::GetTotalPartInsert(int& value) { return Get(part_insert::kTotalPartInsert, value); }
 bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name, double& temperature) {
-  return Get(part_insert::kInsert.at(number), id, Word{name, scratch().part_insert_name}, temperature);
+  char* text = nullptr;
+  if (!Get(part_insert::kInsert.at(number), text)) {
+    return false;
+  }
+  Buffer& buffer = scratch().part_insert_name.assign({});
+  name = buffer.text();
+  const char* at = text;
+  if (!scan_item(at, id)) {
+    return true;
+  }
+  if (skip_missing_name(at)) {
+    scan_items(at, temperature);
+  } else {
+    scan_items(at, Word{name, buffer}, temperature);
+  }
+  return true;
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "proio/scratch.h"
 
@@ -51,10 +52,13 @@ std::string print_items(First first, Rest... rest) {
   return text;
 }
 
-inline bool is_null(const char* item) { return item == nullptr; }
-template <class Number>
-bool is_null(Number) {
-  return false;
+template <class Item>
+bool is_null(Item item) {
+  if constexpr (std::is_pointer_v<Item>) {
+    return item == nullptr;
+  } else {
+    return false;
+  }
 }
 
 }  // namespace qel::proio

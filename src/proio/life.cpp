@@ -17,12 +17,14 @@ CPROIO_Manipulator::~CPROIO_Manipulator() = default;
 void CPROIO_Manipulator::SetFilePath(char* path) { path_ = path; }  // NOLINT(readability-non-const-parameter): the constant one looks at the file
 
 bool CPROIO_Manipulator::SetFilePath(const char* path) {
-  platform::OsFile file;
-  if (path == nullptr || !file.open_for_reading(path)) {
-    return false;
+  const bool can_be_read = path != nullptr && attempt([path] {
+                             platform::OsFile file;
+                             return file.open_for_reading(path);
+                           });
+  if (can_be_read) {
+    path_ = path;
   }
-  path_ = path;
-  return true;
+  return can_be_read;
 }
 
 bool CPROIO_Manipulator::GetFilePath(const char*& path) {

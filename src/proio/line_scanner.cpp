@@ -10,6 +10,16 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 // The longest line in bytes: its line break may take two.
 constexpr std::size_t kMostBytes = LineScanner::kLongestLine + 1;
 
+constexpr std::string_view kPadding = " \x1A";
+
+// What stands in front of the first end mark of the padding.
+std::string_view without_end_marks(std::string_view contents) {
+  if (contents.empty() || kPadding.find(contents.back()) == std::string_view::npos || contents.find(kEndMark) == std::string_view::npos) {
+    return contents;
+  }
+  return contents.substr(0, contents.find(kEndMark, contents.find_last_not_of(kPadding) + 1));
+}
+
 }  // namespace
 
 LineScanner::LineScanner(platform::RandomAccess& file) : file_(&file) {
@@ -17,7 +27,8 @@ LineScanner::LineScanner(platform::RandomAccess& file) : file_(&file) {
   skip_byte_order_mark();
 }
 
-LineScanner::LineScanner(std::string_view contents) : window_(contents), at_end_(true), may_hold_nul_(contents.find('\0') != std::string_view::npos) {
+LineScanner::LineScanner(std::string_view contents)
+    : window_(without_end_marks(contents)), at_end_(true), may_hold_nul_(contents.find('\0') != std::string_view::npos) {
   skip_byte_order_mark();
 }
 
@@ -42,6 +53,10 @@ void LineScanner::fill() {
   window_ = {buffer_.data(), kept + added};
   may_hold_nul_ = may_hold_nul_ || window_.substr(kept).find('\0') != std::string_view::npos;
   at_end_ = added < room;
+  failed_ = got < 0;
+  if (at_end_) {
+    window_ = without_end_marks(window_);
+  }
 }
 
 bool LineScanner::next(Line& line) {
@@ -65,6 +80,7 @@ bool LineScanner::next(Line& line) {
   line.end = offset_ + static_cast<std::int64_t>(consumed);
   const std::string_view whole = ahead.substr(0, length);
   line.text = may_hold_nul_ ? whole.substr(0, whole.find('\0')) : whole;
+  line.begins = !inside_long_line_;
   line.has_break = ended && line.text.size() == length;
   inside_long_line_ = !ended;
   pass(consumed);
@@ -82,26 +98,32 @@ void LineScanner::pass_lines_without(std::string_view text) {
 }
 
 std::size_t length_without_padding(std::string_view contents) {
+  contents = without_end_marks(contents);
   const std::size_t last = contents.find_last_not_of(' ');
   return last != std::string_view::npos && contents[last] == '\n' ? last + 1 : contents.size();
 }
 
 std::int64_t length_without_padding(platform::RandomAccess& file) {
-  const std::int64_t size = file.size();
+  std::int64_t without_marks = file.size();
   std::array<char, 4096> block;
-  for (std::int64_t end = size; end > 0;) {
+  for (std::int64_t end = without_marks; end > 0;) {
     const std::int64_t begin = std::max<std::int64_t>(end - static_cast<std::int64_t>(block.size()), 0);
     const auto length = static_cast<std::size_t>(end - begin);
     if (file.read_at(begin, block.data(), length) != end - begin) {
       return -1;
     }
-    const std::size_t last = std::string_view(block.data(), length).find_last_not_of(' ');
+    const std::string_view bytes(block.data(), length);
+    const std::size_t last = bytes.find_last_not_of(kPadding);
+    const std::size_t mark = bytes.find(kEndMark, last + 1);
+    if (mark != std::string_view::npos) {
+      without_marks = begin + static_cast<std::int64_t>(mark);
+    }
     if (last != std::string_view::npos) {
-      return block[last] == '\n' ? begin + static_cast<std::int64_t>(last) + 1 : size;
+      return block[last] == '\n' ? begin + static_cast<std::int64_t>(last) + 1 : without_marks;
     }
     end = begin;
   }
-  return size;
+  return without_marks;
 }
 
 }  // namespace qel::proio

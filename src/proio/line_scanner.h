@@ -13,6 +13,7 @@ struct Line {
   std::int64_t start = 0;
   std::int64_t end = 0;    ///< The offset behind the line and its line break.
   std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+  bool begins = true;      ///< Whether a line begins here, and no long one goes on.
   bool has_break = false;  ///< Whether the line break belongs to the text: the line ended, and no NUL byte cut it.
 };
 
@@ -21,6 +22,7 @@ struct Line {
 /// - A line ends at "\n" or "\r\n", which both count as one character.
 /// - A line of more than 127 characters comes as several.
 /// - A byte order mark at the start of the file belongs to no line.
+/// - Nor does an end mark at its very end, which other programs' text mode takes for the end of the file, with the padding behind it.
 class LineScanner {
  public:
   static constexpr std::size_t kLongestLine = 127;
@@ -36,6 +38,9 @@ class LineScanner {
   /// break.
   void pass_lines_without(std::string_view text);
 
+  /// Whether the file ended because it could not be read on.
+  [[nodiscard]] bool failed() const { return failed_; }
+
  private:
   void fill();
   void pass(std::size_t count);
@@ -46,11 +51,16 @@ class LineScanner {
   std::string_view window_;  // what is known of the file from the current position on
   std::int64_t offset_ = 0;  // of the current position
   bool at_end_ = false;
+  bool failed_ = false;
   bool may_hold_nul_ = false;
   bool inside_long_line_ = false;
 };
 
-/// The length of the contents without the padding that earlier stores left: blanks behind the last line break.
+/// Ends a file for other programs' text mode. At the very end, the padding apart, it is padding; anywhere else it is text.
+inline constexpr char kEndMark = '\x1A';
+
+/// The length of the contents without what is padding: the blanks that earlier stores left behind the last line break, an end mark
+/// and what blanks surround it.
 std::size_t length_without_padding(std::string_view contents);
 
 /// The same for a file, of which no more than its end is read; -1 when it cannot be read.

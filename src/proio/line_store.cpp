@@ -3,130 +3,138 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/line_break.h"
-
 namespace qel::proio {
 namespace {
 
-// A new positional section always gets this header, whatever section was asked for.
+// A new positional section always gets this header, whatever section was asked for; it is found by its first word.
 constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
+constexpr std::string_view kPositionalSection = "[SURFACE";
 
 constexpr std::size_t kKeyColumns = 14;
+constexpr std::string_view kWordEnd = "\t\n =";
+constexpr std::string_view kBlanks = " \t";
 
 std::string_view without_leading_blanks(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
   return text;
 }
 
-// A file's bytes, and what is to become of them.
-class Contents {
- public:
-  explicit Contents(platform::RandomAccess& file) : file_(file) {}
-
-  bool load();
-  [[nodiscard]] std::string_view text() const { return text_; }
-
-  [[nodiscard]] std::string line(const Target& target, std::string_view value) const;
-  [[nodiscard]] std::string header(const Target& target) const;
-  // An entry behind a last line that has no line break would become part of that line.
-  [[nodiscard]] std::string_view missing_break() const { return text_.empty() || text_.back() == '\n' ? std::string_view{} : line_break_; }
-
-  bool replace(std::size_t begin, std::size_t end, std::string bytes);
-  bool append(std::string bytes) { return replace(text_.size(), text_.size(), std::move(bytes)); }
-
- private:
-  void append_as_text(std::string& bytes, std::string_view text) const;
-  bool overwrite(std::size_t at, std::string_view bytes);
-
-  platform::RandomAccess& file_;
-  std::string whole_;      // the file's bytes
-  std::string_view text_;  // those in front of the padding
-  std::string_view line_break_;
-};
-
-bool Contents::load() {
-  const std::int64_t size = file_.size_in_memory();
-  if (size < 0) {
-    return false;
-  }
-  whole_.resize(static_cast<std::size_t>(size));
-  if (file_.read_at(0, whole_.data(), whole_.size()) != size) {
-    return false;
-  }
-  text_ = std::string_view(whole_).substr(0, length_without_padding(whole_));
-  const std::size_t first_break = text_.find('\n');
-  if (first_break == std::string_view::npos) {
-    line_break_ = platform::kLineBreak;
-  } else {
-    line_break_ = first_break > 0 && text_[first_break - 1] == '\r' ? "\r\n" : "\n";
-  }
-  return true;
-}
-
 // A line feed inside a value is a line break like any other in the file.
-void Contents::append_as_text(std::string& bytes, std::string_view text) const {
+void append_as_text(std::string& bytes, std::string_view text, std::string_view line_break) {
   for (const char c : text) {
-    if (c == '\n' && line_break_.size() > 1) {
+    if (c == '\n' && line_break.size() > 1) {
       if (!bytes.empty() && bytes.back() == '\r') {
         bytes.pop_back();
       }
-      bytes.append(line_break_);
+      bytes.append(line_break);
     } else {
       bytes.push_back(c);
     }
   }
 }
 
-std::string Contents::line(const Target& target, std::string_view value) const {
+std::string line_of(const Target& target, std::string_view value, std::string_view line_break) {
   std::string bytes;
   if (target.by_key()) {
     bytes.assign(target.key);
     bytes.resize(std::max(bytes.size(), kKeyColumns), ' ');
     bytes.append(" = ");
   }
-  append_as_text(bytes, value);
-  return bytes.append(line_break_);
+  append_as_text(bytes, value, line_break);
+  return bytes.append(line_break);
 }
 
-std::string Contents::header(const Target& target) const {
-  std::string bytes(line_break_);
-  return bytes.append(target.by_key() ? target.section : kPositionalHeader).append(line_break_);
+std::string header_of(const Target& target, std::string_view line_break) {
+  std::string bytes(line_break);
+  return bytes.append(target.by_key() ? target.section : kPositionalHeader).append(line_break);
 }
 
-// Puts bytes in the place of others. The file keeps its length at least: blanks fill it up behind the last line break,
-// where those of earlier stores are already.
-bool Contents::replace(std::size_t begin, std::size_t end, std::string bytes) {
-  if (bytes.size() != end - begin) {
-    bytes.append(text_.substr(end));
-    bytes.resize(std::max(bytes.size(), text_.size() - begin), ' ');
+// Where the section ends: at the next header, or with the text. Without the empty lines in front of that header, where those
+// are not to belong to it; what goes on a long line is none.
+std::size_t end_of_section(std::string_view text, std::string_view section, bool with_empty_lines) {
+  LineScanner lines(text);
+  std::size_t first_empty = text.size();
+  Line line;
+  for (bool more = seek_section(lines, section); more && lines.next(line);) {
+    const auto start = static_cast<std::size_t>(line.start);
+    if (is_header(line)) {
+      return with_empty_lines ? start : std::min(first_empty, start);
+    }
+    if (!line.begins || line.text.find_first_not_of(kBlanks) != std::string_view::npos) {
+      first_empty = text.size();
+    } else {
+      first_empty = std::min(first_empty, start);
+    }
   }
-  return overwrite(begin, bytes);
+  return text.size();
 }
 
-// All of the bytes, or none: the room for them is made sure of before an old byte is touched.
-bool Contents::overwrite(std::size_t at, std::string_view bytes) {
-  const auto offset = static_cast<std::int64_t>(at);
-  const auto old_size = static_cast<std::int64_t>(whole_.size());
-  const std::int64_t new_size = std::max(old_size, offset + static_cast<std::int64_t>(bytes.size()));
-  if (!file_.secure_growth(old_size, new_size)) {
-    return false;
+bool ends_in_positional_section(std::string_view text) {
+  LineScanner lines(text);
+  return seek_section(lines, kPositionalSection) && end_of_section(text, kPositionalSection, true) == text.size();
+}
+
+// The line goes over one that is there, all of it. A text with line breaks is found where it stands already.
+bool store_over(Contents& contents, const Line& old, std::string line) {
+  const std::string_view text = contents.text();
+  const auto begin = static_cast<std::size_t>(old.start);
+  auto end = static_cast<std::size_t>(old.end);
+  if (text[end - 1] != '\n') {
+    end = std::min(text.find('\n', end), text.size() - 1) + 1;
   }
-  if (file_.write_at(offset, bytes.data(), bytes.size())) {
-    return true;
+  if (text.substr(begin, line.size()) == line) {
+    end = begin + line.size();
   }
-  file_.write_at(offset, whole_.data() + at, whole_.size() - at);
-  file_.truncate(old_size);
-  return false;
+  return contents.replace(begin, end, std::move(line));
+}
+
+bool store_new(Contents& contents, const Target& target, std::string line) {
+  const std::string_view text = contents.text();
+  std::size_t place = text.size();
+  if (!target.by_key()) {
+    place = end_of_section(text, target.section, true);
+  } else if (ends_in_positional_section(text)) {
+    place = end_of_section(text, target.section, false);
+    if (place == text.size()) {
+      line.insert(0, header_of(target, contents.line_break()));
+      return contents.replace(place, place, std::move(line));
+    }
+  }
+  // A line behind a last one that has no line break would become part of that one.
+  if (place == text.size() && !text.empty() && text.back() != '\n') {
+    line.insert(0, contents.line_break());
+  }
+  return contents.replace(place, place, std::move(line));
 }
 
 }  // namespace
 
 bool is_match(std::string_view line, std::string_view name) {
-  constexpr std::string_view kWordEnd = "\t\n =";
   if (line.substr(0, name.size()) != name || name.find_first_of(kWordEnd) != std::string_view::npos) {
     return false;
   }
   return line.size() == name.size() || kWordEnd.find(line[name.size()]) != std::string_view::npos;
+}
+
+bool is_header(const Line& line) {
+  const std::string_view text = line.text;
+  if (!line.begins || text.empty() || text.front() != '[') {
+    return false;
+  }
+  if (is_match(text, kPositionalSection)) {
+    return true;
+  }
+  // The brackets may hold blanks; a "=" inside them ends the first word before they close.
+  for (std::size_t at = 1; at < text.size() && text[at] != '='; ++at) {
+    const std::size_t next = text.find_first_not_of(kBlanks, at + 1);
+    if (text[at] == ']' && next != at + 1) {
+      if (next == std::string_view::npos || text[next] != '=') {
+        return true;
+      }
+      break;
+    }
+  }
+  return text[text.find_last_not_of(kBlanks)] == ']';
 }
 
 bool seek_section(LineScanner& lines, std::string_view section) {
@@ -142,22 +150,22 @@ bool seek_section(LineScanner& lines, std::string_view section) {
 
 bool seek_line(LineScanner& lines, const Target& target, Line& line, std::int64_t contents_end) {
   for (int position = 1; lines.next(line) && line.start < contents_end; ++position) {
-    if (target.by_key() ? is_match(line.text, target.key) : position == target.index) {
+    if (target.by_key()) {
+      if (is_match(line.text, target.key)) {
+        return true;
+      }
+    } else if (is_header(line)) {
+      return false;
+    } else if (position == target.index) {
       return true;
     }
   }
   return false;
 }
 
-Code read(platform::RandomAccess& file, const Target& target, Buffer& value) {
-  LineScanner lines(file);
+Code read(LineScanner& lines, const Target& target, Buffer& value, std::int64_t contents_end) {
   Line line;
-  if (!seek_section(lines, target.section)) {
-    return Code::not_found;
-  }
-  // Padding has no leading word, so that it matters to positions alone.
-  const bool found = target.by_key() ? seek_line(lines, target, line) : seek_line(lines, target, line, length_without_padding(file));
-  if (!found) {
+  if (!seek_section(lines, target.section) || !seek_line(lines, target, line, contents_end)) {
     return Code::not_found;
   }
   std::string_view text = line.text;
@@ -173,20 +181,22 @@ Code read(platform::RandomAccess& file, const Target& target, Buffer& value) {
   return Code::success;
 }
 
-bool store(platform::RandomAccess& file, const Target& target, std::string_view value) {
-  Contents contents(file);
-  if (!contents.load()) {
-    return false;
-  }
-  LineScanner lines(contents.text());
-  Line line;
+Code read(platform::RandomAccess& file, const Target& target, Buffer& value) {
+  LineScanner lines(file);
+  // Padding has no leading word, so that it matters to positions alone.
+  return target.by_key() ? read(lines, target, value) : read(lines, target, value, length_without_padding(file));
+}
+
+bool store(Contents& contents, const Target& target, std::string_view value) {
+  const std::string_view text = contents.text();
+  std::string new_line = line_of(target, value, contents.line_break());
+  LineScanner lines(text);
   if (!seek_section(lines, target.section)) {
-    return contents.append(contents.header(target) + contents.line(target, value));
+    new_line.insert(0, header_of(target, contents.line_break()));
+    return contents.replace(text.size(), text.size(), std::move(new_line));
   }
-  if (!seek_line(lines, target, line)) {
-    return contents.append(std::string(contents.missing_break()) + contents.line(target, value));
-  }
-  return contents.replace(static_cast<std::size_t>(line.start), static_cast<std::size_t>(line.end), contents.line(target, value));
+  Line line;
+  return seek_line(lines, target, line) ? store_over(contents, line, std::move(new_line)) : store_new(contents, target, std::move(new_line));
 }
 
 }  // namespace qel::proio

@@ -1,5 +1,8 @@
+#include <cstring>
+
 #include "platform/os_file.h"
 #include "proio/catalogue.h"
+#include "proio/contents.h"
 #include "proio/line_store.h"
 #include "proio/typed.h"
 
@@ -10,9 +13,13 @@ namespace {
 
 int to_int(Code code) { return static_cast<int>(code); }
 
+// An end mark in a text would be the end of the file for others.
+bool is_storable(const char* value) { return value != nullptr && std::strchr(value, kEndMark) == nullptr; }
+
 bool store_into(const char* path, const Target& target, const char* value) {
   platform::OsFile file;
-  return (file.open_for_update(path) || file.create(path)) && store(file, target, value) && file.close();
+  Contents contents(file);
+  return (file.open_for_update(path) || file.create(path)) && contents.load() && store(contents, target, value) && file.close();
 }
 
 }  // namespace
@@ -32,28 +39,26 @@ const char* CPROIO_Manipulator::KeyOf(const Entry& entry) {
 bool CPROIO_Manipulator::IsOK(int code) { return code == to_int(Code::success); }
 
 int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value, int index) {
-  platform::OsFile file;
-  if (path_ == nullptr || !file.open_for_reading(path_)) {
-    return to_int(Code::no_file);
-  }
-  Buffer& buffer = scratch().value;
-  const Code code = read(file, {section, key, index}, buffer);
+  Code code = Code::no_file;
+  attempt([&] {
+    platform::OsFile file;
+    if (path_ != nullptr && file.open_for_reading(path_)) {
+      code = read(file, {section, key, index}, scratch().value);
+    }
+    return true;
+  });
   if (code == Code::success) {
-    value = buffer.text();
+    value = scratch().value.text();
   }
   return to_int(code);
 }
 
-// A file that cannot be written is not reported: the callers of old take every write for done.
+// A file that cannot be written is not reported: the callers of old take every write for done. Memory that is missing is.
 int CPROIO_Manipulator::Write(const char* section, const char* key, const char* value, bool stampDate, int index) {
-  if (path_ == nullptr || value == nullptr) {
-    return to_int(Code::refused);
-  }
-  attempt([&] { return store_into(path_, {section, key, index}, value); });
-  if (stampDate) {
-    SetFileDate();
-  }
-  return to_int(Code::success);
+  const bool taken = is_storable(value) && attempt([&] {
+                       return path_ != nullptr && (!store_into(path_, {section, key, index}, value) || !stampDate || SetFileDate());
+                     });
+  return to_int(taken ? Code::success : Code::refused);
 }
 
 bool CPROIO_Manipulator::checkIsThisPROFileSupport(int version) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/random_access.h"
 
@@ -12,11 +13,14 @@ namespace qel::refdata {
 /// Walks over the lines of a reference data file.
 ///
 /// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted as one, comes in pieces.
-/// What stands behind a NUL byte of a line is not seen. A byte order mark at the start of the file belongs to no line.
+/// What stands behind a NUL byte of a line is not seen. A byte order mark at the start of the file belongs to no line, and
+/// neither do 0x1A bytes at its very end, which other programs' text mode leaves there.
 class BoundedLines {
  public:
   /// The file outlives the lines.
   explicit BoundedLines(platform::RandomAccess& file);
+  /// Over the contents of a whole file, which outlive the lines.
+  explicit BoundedLines(std::string_view contents);
 
   /// The next line without its line break; false, and an empty line, at the end of the file or when it cannot be read.
   bool next(std::string& line);
@@ -29,11 +33,12 @@ class BoundedLines {
   /// The next character, "\r\n" being one.
   bool next_character(char& character);
 
-  platform::RandomAccess* file_;
+  platform::RandomAccess* file_ = nullptr;
   std::unique_ptr<char[]> block_;
-  std::int64_t offset_ = 0;
+  std::int64_t offset_ = 0;  // of what comes behind the window
+  std::int64_t end_ = 0;     // of the contents; what stands behind is no line
+  std::string_view window_;
   std::size_t at_ = 0;
-  std::size_t length_ = 0;
 };
 
 }  // namespace qel::refdata

@@ -14,6 +14,9 @@ constexpr std::string_view kSection = "[Coolant-";
 
 bool contains(std::string_view line, std::string_view text) { return line.find(text) != std::string_view::npos; }
 
+// A section without a number, such as "[Coolant-Water]", is none of a coolant's.
+bool has_number(const char* text, int& number) { return platform::scan_int(text, number); }
+
 void read_row(const std::string& key, const char* numbers, Coolant& coolant) {
   constexpr std::string_view kRow = "Data-";
   const char* at = key.c_str() + key.find(kRow) + kRow.size();
@@ -81,9 +84,10 @@ std::vector<Coolant> read_coolants(platform::RandomAccess& file) {
   for (std::string line; lines.next(line) && !contains(line, "[EOF]");) {
     if (!line.empty() && line.front() == '[') {
       const std::size_t name = line.find(kSection);
-      in_section = name != std::string::npos;
+      int number = 0;
+      in_section = name != std::string::npos && has_number(line.c_str() + name + kSection.size(), number);
       if (in_section) {
-        coolants.emplace_back().number = platform::to_int(line.c_str() + name + kSection.size());
+        coolants.emplace_back().number = number;
       }
     } else if (in_section) {
       read_entry(line, coolants.back());

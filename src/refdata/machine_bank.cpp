@@ -22,34 +22,30 @@ std::vector<std::string> fields_of(const std::string& line) {
   return fields;
 }
 
-void add_machine(const std::string& line, Makers& makers) {
+// Whether the line is a machine's.
+bool is_machine(const std::vector<std::string>& fields) {
   constexpr std::size_t kFields = 22;
-  constexpr std::size_t kMaker = 1;
-  constexpr std::size_t kGrade = 2;
-  const std::vector<std::string> fields = fields_of(line);
-  if (fields.size() >= kFields) {
-    makers[fields[kMaker]].push_back(fields[kGrade]);
-  }
+  return fields.size() >= kFields;
 }
 
-// "%s %d" of the line, its commas taken for blanks.
-void read_version(std::string& line, int& version) {
+void add_machine(const std::vector<std::string>& fields, Makers& makers) {
+  constexpr std::size_t kMaker = 1;
+  constexpr std::size_t kGrade = 2;
+  makers[fields[kMaker]].push_back(fields[kGrade]);
+}
+
+// "%s %d" of the line, its commas taken for blanks; false where there is no number.
+bool read_version(std::string& line, int& version) {
   std::replace(line.begin(), line.end(), ',', ' ');
   const char* at = line.c_str();
   std::string word;
-  if (platform::scan_word(at, word)) {
-    platform::scan_int(at, version);
-  }
+  return platform::scan_word(at, word) && platform::scan_int(at, version);
 }
 
-}  // namespace
-
-bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) {
+BankReport read(BoundedLines lines, int& version, Makers& makers) {
   constexpr int kUnreadVersion = 1000;
   constexpr int kMachine = 1;
-  BoundedLines lines(file);
-  bool in_header = false;
-  bool in_data = false;
+  BankReport report;
   int flag = 0;
   int header_version = kUnreadVersion;
   std::string line;
@@ -58,30 +54,52 @@ bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& maker
     if (contains(line, "[EOF]")) {
       break;
     }
-    in_header = in_header || contains(line, "[Header]");
+    report.has_header = report.has_header || contains(line, "[Header]");
     if (contains(line, "Database]")) {
-      in_data = true;
+      report.has_data = true;
       more = lines.next(line);
       if (contains(line, "[EOF]")) {
         break;
       }
     }
-    if (in_header && contains(line, "Version")) {
-      read_version(line, header_version);
+    if (report.has_header && contains(line, "Version")) {
+      const std::string as_it_stands = line;
+      if (!read_version(line, header_version)) {
+        report.unread_version_line = as_it_stands;
+      }
       version = header_version;
     }
-    if (in_header && contains(line, "TotalNo")) {
-      return false;
+    if (report.has_header && contains(line, "TotalNo")) {
+      report.has_total = true;
+      break;
     }
-    if (in_data) {
+    if (report.has_data) {
       const char* at = line.c_str();
       platform::scan_int(at, flag);
-      if (flag == kMachine && !line.empty() && version == kBankVersion) {
-        add_machine(line, makers);
+      const std::vector<std::string> fields = flag == kMachine ? fields_of(line) : std::vector<std::string>();
+      if (!is_machine(fields)) {
+        continue;
+      }
+      if (version == kBankVersion) {
+        add_machine(fields, makers);
+        ++report.machines;
+      } else {
+        ++report.machines_passed_over;
       }
     }
   }
-  return true;
+  report.version = version;
+  return report;
+}
+
+}  // namespace
+
+bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) { return !read(BoundedLines(file), version, makers).has_total; }
+
+BankReport examine_machine_bank(std::string_view contents) {
+  int version = 0;
+  Makers makers;
+  return read(BoundedLines(contents), version, makers);
 }
 
 }  // namespace qel::refdata

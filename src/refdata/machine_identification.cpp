@@ -1,5 +1,4 @@
 #include <cstring>
-#include <new>
 #include <string>
 #include <vector>
 
@@ -8,7 +7,7 @@
 #include "platform/os_file.h"
 #include "refdata/machine_bank.h"
 
-namespace {
+namespace qel::refdata {
 
 // A path that is given in one of two ways; the other is empty then.
 struct Path {
@@ -16,11 +15,11 @@ struct Path {
   std::wstring wide;
 
   void set(const char* text) {
-    narrow = text;
+    narrow = std::string(text);
     wide.clear();
   }
   void set(const wchar_t* text) {
-    wide = text;
+    wide = std::wstring(text);
     narrow.clear();
   }
   [[nodiscard]] bool open(qel::platform::OsFile& file) const {
@@ -31,13 +30,13 @@ struct Path {
   }
 };
 
-}  // namespace
+}  // namespace qel::refdata
 
 struct QELMachineRecord {
   std::vector<const char*> handed_out;
   int version = 0;
-  Path user_bank;
-  Path identification;
+  qel::refdata::Path user_bank;
+  qel::refdata::Path identification;
   qel::refdata::Makers makers;
   std::vector<const std::string*> makers_in_order;
 };
@@ -51,19 +50,23 @@ Record* record_of(QELMachineRecord* record) { return static_cast<Record*>(record
 Record* make_record() {
   try {
     return new Record;
-  } catch (const std::bad_alloc&) {
+  } catch (...) {
     return nullptr;
   }
 }
 
+// An object that found no memory for its record makes it here.
 template <class Character>
-void set_path(QELMachineRecord* record, Path QELMachineRecord::*path, const Character* text) {
+void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*path, const Character* text) {
+  if (record == nullptr) {
+    record = make_record();
+  }
   if (record == nullptr || text == nullptr) {
     return;
   }
   try {
     (record->*path).set(text);
-  } catch (const std::bad_alloc&) {
+  } catch (...) {
     return;  // the path before stays
   }
 }
@@ -103,7 +106,7 @@ bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, cons
       pointers.push_back(text_of(text).c_str());
     }
     record.handed_out = std::move(pointers);
-  } catch (const std::bad_alloc&) {
+  } catch (...) {
     return false;
   }
   *list = record.handed_out.data();
@@ -133,19 +136,22 @@ void CQELMachineIdentification::SetMachineUserBankPath(const wchar_t* path) { se
 void CQELMachineIdentification::SetIdentificationPath(const char* path) { set_path(record_, &QELMachineRecord::identification, path); }
 void CQELMachineIdentification::SetIdentificationPath(const wchar_t* path) { set_path(record_, &QELMachineRecord::identification, path); }
 
-bool CQELMachineIdentification::LoadFileData() try {
+bool CQELMachineIdentification::LoadFileData() {
   if (record_ == nullptr) {
     return false;
   }
   record_->makers_in_order.clear();
   record_->makers.clear();
   record_->handed_out.clear();
-  qel::platform::OsFile file;
-  const bool loaded = record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
-  record_->makers_in_order = in_order(record_->makers);
-  return loaded;
-} catch (const std::bad_alloc&) {
-  return false;
+  try {
+    qel::platform::OsFile file;
+    const bool loaded = record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+    record_->makers_in_order = in_order(record_->makers);
+    return loaded;
+  } catch (...) {
+    record_->makers.clear();  // those read so far would be known by name, and not be listed
+    return false;
+  }
 }
 
 int CQELMachineIdentification::GetMakerCount() { return record_ != nullptr ? static_cast<int>(record_->makers_in_order.size()) : 0; }

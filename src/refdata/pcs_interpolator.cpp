@@ -1,14 +1,13 @@
 #include <algorithm>
 #include <cstring>
-#include <new>
 #include <string>
 #include <vector>
 
 #include "QELPROEngine/CQELPCSInterpolator.h"
 #include "core/owners.h"
 #include "platform/os_file.h"
-#include "platform/user_folder.h"
 #include "refdata/coolant_table.h"
+#include "refdata/user_file.h"
 
 struct QELCoolantTables {
   std::vector<qel::refdata::Coolant> coolants;
@@ -50,7 +49,7 @@ CQELPCSInterpolator::~CQELPCSInterpolator() { qel::release(tables_of(tables_)); 
 
 bool CQELPCSInterpolator::LoadDataFromFile(const char* path) try {
   qel::release(tables_of(tables_));
-  tables_ = nullptr;
+  tables_ = nullptr;  // should there be no memory for another
   tables_ = new Tables;
   qel::platform::OsFile file;
   if (path == nullptr || !file.open_for_reading(path)) {
@@ -58,7 +57,7 @@ bool CQELPCSInterpolator::LoadDataFromFile(const char* path) try {
   }
   tables_->coolants = qel::refdata::read_coolants(file);
   return true;
-} catch (const std::bad_alloc&) {
+} catch (...) {
   return false;
 }
 
@@ -81,22 +80,12 @@ bool CQELPCSInterpolator::InterpolateCoolantProperties(int coolant, double argum
 }
 
 bool g_GetCurrentUserPSCFilePath(char* buffer, unsigned int size) try {
-  constexpr std::size_t kShortestFolder = 3;
-  std::string path = qel::platform::user_folder();
-  if (buffer == nullptr || path.size() < kShortestFolder) {
-    return false;
-  }
-  for (const char* part : {"Kestrel", "Vantor R14.0", "PROCoolantSetting.pcs"}) {
-    if (path.back() != qel::platform::kPathSeparator) {
-      path += qel::platform::kPathSeparator;
-    }
-    path += part;
-  }
-  if (path.size() >= size) {
+  const std::string path = qel::refdata::user_coolant_file();
+  if (buffer == nullptr || path.empty() || path.size() >= size) {
     return false;
   }
   std::memcpy(buffer, path.c_str(), path.size() + 1);
   return true;
-} catch (const std::bad_alloc&) {
+} catch (...) {
   return false;
 }

@@ -53,6 +53,29 @@ TEST(Coolant, ComesBackAsItWasWritten) {
   EXPECT_EQ(fields.f8, 2);
 }
 
+// The reader takes one word for the name, so that it yields less than what the writer was given.
+TEST(Coolant, NameIsWrittenAsItIsGivenAlsoWhereItDoesNotReadBack) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  char hot_water[] = "Hot Water";
+  char none[] = "";
+  EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, hot_water, 0.01, 2, 1));
+  EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, none, 0.01, 2, 2));
+  EXPECT_EQ(bytes_of(path), native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tHot Water\t0.01\t2") + "\n2 = 1\t2\t3\t4\t5\t\t0.01\t2\n"));
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  Fields fields;
+  EXPECT_TRUE(fields.read(reader, 1));
+  EXPECT_STREQ(fields.name, "Hot");
+  EXPECT_EQ(fields.f7, 0);
+  EXPECT_TRUE(fields.read(reader, 2));
+  EXPECT_STREQ(fields.name, "0.01");
+  EXPECT_EQ(fields.f7, 2);
+  EXPECT_EQ(fields.f8, 0);
+}
+
 TEST(Coolant, FieldsThatTheLineLacksAreZero) {
   const Scratch scratch;
   const std::string path = scratch.file("[Coolant]\n1 = 1 2 3\n2 = \n");

@@ -166,6 +166,26 @@ TEST_F(GateSetting, IsNotWrittenWhereNoFileCouldBeOpened) {
   EXPECT_FALSE(exists(scratch_.path("missing")));
 }
 
+constexpr const char* kFivePoints = "[Summary]\nTotalGateCTL = 1\n[GateValve-1]\nGCId = 9\nGCSet = 5\n";
+
+TEST_F(GateSetting, IsCountedInTheFileItIsWrittenIntoAfterAPathThatFailed) {
+  begin(kFivePoints);
+  EXPECT_FALSE(writer_.SetFilePath(scratch_.path("missing/file.pro").c_str()));
+  EXPECT_TRUE(writer_.GateValveX_WriteGateSetting(5.5, 1, 2, 3, 1));
+  EXPECT_TRUE(writer_.GateValveX_WriteGateSettingByValveGateID(5.5, 1, 2, 4, 9));
+  EXPECT_NE(bytes().find("\nGCSet = 5\n"), std::string::npos) << bytes();
+}
+
+TEST_F(GateSetting, IsCountedInTheFileItIsWrittenIntoThroughACopyToo) {
+  const std::string other = scratch_.file(kFivePoints, "other.pro");
+  begin("[GateValve-1]\nGCSet = 1\n");
+  Writer copy = writer_;
+  ASSERT_TRUE(writer_.SetFilePath(other.c_str()));
+  EXPECT_TRUE(copy.GateValveX_WriteGateSetting(5.5, 1, 2, 3, 1)) << "copies share the file";
+  EXPECT_EQ(bytes_of(other), std::string(kFivePoints) + "GC-3 = 5.5\t1\t2\n");
+  EXPECT_EQ(bytes(), "[GateValve-1]\nGCSet = 1\n");
+}
+
 TEST_F(GateSetting, ByIdentifierSeesWhatTheSameWriterWroteBefore) {
   begin("");
   ASSERT_TRUE(writer_.Summary_WriteTotalValveGate(2) && writer_.GateValveX_WriteGateValveID(3, 1) && writer_.GateValveX_WriteGateValveID(8, 2));

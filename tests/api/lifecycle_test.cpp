@@ -290,5 +290,50 @@ TEST(Objects, KeepTheirSize) {
 
 TEST(Version, IsTheLibrarysNumber) { EXPECT_EQ(GetPRODLLVersion(), 9103); }
 
+TEST(Writer, StoresByThePathAloneOnceItWasGivenOneAfterAStream) {
+  const Scratch scratch;
+  const Stream lent(scratch.file("[Flow-1]\nFillTime = 1\n", "lent.pro"), "r+");
+  const std::string path = scratch.file("[Flow-1]\nFillTime = 1\n");
+  CQELPROWriter_Manipulator writer;
+  std::FILE* stream = lent.file;
+  ASSERT_TRUE(writer.SetFilePtr(stream));
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_TRUE(writer.FlowX_WriteFillingTime(2, 1));
+  EXPECT_TRUE(writer.FlowX_WriteMeltTemperature(3, 1));
+  EXPECT_EQ(bytes_of(scratch.path("lent.pro")), "[Flow-1]\nFillTime = 1\n");
+  EXPECT_EQ(bytes_of(path), "[Flow-1]\nFillTime             = 2\nMeltTemp = 3\n");
+}
+
+TYPED_TEST(Lifecycle, LeavesALentStreamToItsCallerWhenItIsGivenAPath) {
+  std::FILE* stream = std::fopen(this->scratch_.file(kFile, "lent.pro").c_str(), "r+");
+  {
+    const std::string path = this->scratch_.file(kFile);
+    TypeParam object;
+    ASSERT_TRUE(object.SetFilePtr(stream));
+    ASSERT_TRUE(object.SetFilePath(path.c_str()));
+    EXPECT_EQ(std::fgetc(stream), '[');
+    object.CloseFile();
+    EXPECT_EQ(std::fgetc(stream), 'F') << "it is no file of the object's any more";
+  }
+  EXPECT_EQ(std::fclose(stream), 0);
+}
+
+TEST(Writer, GoesOnWithItsFileWhereAnotherCannotBeOpened) {
+  const Scratch scratch;
+  const std::string path = scratch.file("[Summary]\nTotalGateCTL = 1\n[GateValve-1]\nGCId = 7\nGCSet = 5\n");
+  // A gate writer counts in the file at the writer's path and stores through its document: both are the file that is open.
+  CQELPROWriter_Manipulator writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_FALSE(writer.SetFilePath(scratch.path("no/such/folder.pro").c_str()));
+  EXPECT_TRUE(writer.GateValveX_WriteGateSettingByValveGateID(1.5, 1, 2, 3, 7));
+  CQELPROReader_Manipulator reader;
+  int points = 0;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  ASSERT_TRUE(reader.GateValveX_ReadControlPoint(points, 1));
+  EXPECT_EQ(points, 5) << "counted in this file";
+  char* text = nullptr;
+  EXPECT_TRUE(reader.ReadString("[GateValve-1]", "GC-3", text, nullptr, 0)) << "and stored into it";
+}
+
 }  // namespace
 }  // namespace qelpro_test

@@ -148,6 +148,52 @@ TEST(Machine, NumbersThatAPairOrTripleLacksAreZero) {
   EXPECT_EQ(c, 0);
 }
 
+TEST(Machine, SizesReadBackAsTheyAreWrittenAZeroIncluded) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  for (const double first : {0.0, -0.0, 10.0, 1.5e10, 1e-7}) {
+    ASSERT_TRUE(writer.Machine_WritePlatenSize(first, 900) && writer.Machine_WriteDistanceBetweenTieBars(first, 0) &&
+                writer.Machine_WriteMachineDimension(first, 0, 32));
+    Reader reader;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+    double a = -1;
+    double b = -1;
+    double c = -1;
+    EXPECT_TRUE(reader.Machine_ReadPlatenSize(a, b));
+    EXPECT_EQ(a, first);
+    EXPECT_EQ(b, 900);
+    EXPECT_TRUE(reader.Machine_ReadDistanceBetweenTieBars(a, b));
+    EXPECT_EQ(a, first);
+    EXPECT_EQ(b, 0);
+    EXPECT_TRUE(reader.Machine_ReadMachineDimension(a, b, c));
+    EXPECT_EQ(a, first);
+    EXPECT_EQ(b, 0);
+    EXPECT_EQ(c, 32);
+  }
+}
+
+TEST(Machine, SizesAreDecimalWhateverFollowsAZero) {
+  const Scratch scratch;
+  const struct {
+    const char* text;
+    double first;
+    double second;
+  } rows[] = {{"0x900", 0, 900}, {"-0x5", 0, 5},     {"0X5", 0, 5},  {"0x1p3", 0, 1},   {"0x0x5", 0, 0},         {"1200x0x10", 1200, 0},
+              {"00x7", 0, 7},    {"0x 900", 0, 900}, {"0xff", 0, 0}, {"0 x 900", 0, 0}, {"1200 x 900", 1200, 0}, {"0x.5", 0, 0.5}};
+  for (const auto& row : rows) {
+    const std::string path = scratch.file("[Machine]\nPlatenSize(HxV) = " + std::string(row.text) + "\n");
+    Reader reader;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+    double first = -1;
+    double second = -1;
+    EXPECT_TRUE(reader.Machine_ReadPlatenSize(first, second));
+    EXPECT_EQ(first, row.first) << row.text;
+    EXPECT_EQ(second, row.second) << row.text;
+  }
+}
+
 TEST(Machine, DimensionsAreWrittenWithAnX) {
   const Scratch scratch;
   const std::string path = scratch.path();

@@ -56,6 +56,66 @@ TEST(MoldInsert, FourPiecesBetweenTabs) {
   expect_line("3\tCore  Pin\t80.5\t9", 1, {3, "Core  Pin", 80.5, 9});
 }
 
+TEST(MoldInsert, NameBetweenTwoTabsMayBeEmpty) {
+  expect_line("3\t\t80\t2", 1, {3, "", 80, 2});
+  expect_line("3\t \t80.5\t9", 1, {3, " ", 80.5, 9});
+  expect_line("3\t\t80", 1, {3, nullptr, 80, 1});
+}
+
+TEST(MoldInsert, TabsThatOnlyAlignTheFieldsAreNoEmptyName) {
+  expect_line("3\t\tPin\t80", 1, {3, "Pin", 80, 1});
+  expect_line("3\t\tPin A\t80\t2", 1, {3, "Pin A", 80, 2});
+  expect_line("\t3\tPin A\t80\t2", 1, {3, "Pin A", 80, 2});
+  expect_line("\t3\tPin\t80", 1, {3, "Pin", 80, 1});
+}
+
+TEST(MoldInsert, WithoutANameReadsBackWithoutOne) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  char blanks[] = "  ";
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  for (char* none : {blanks + 2, blanks}) {
+    ASSERT_TRUE(writer.MoldInsertInitialTemperature_WriteMoldInsert(3, none, 80.5, 1));
+    Reader reader;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+    int id = -1;
+    char* name = nullptr;
+    double temperature = -1;
+    int fourth = -1;
+    EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, 1));
+    EXPECT_EQ(id, 3);
+    EXPECT_STREQ(name, "");
+    EXPECT_EQ(temperature, 80.5);
+    EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, fourth, 1));
+    EXPECT_EQ(id, 3);
+    EXPECT_EQ(name, nullptr);
+    EXPECT_EQ(temperature, 80.5);
+    EXPECT_EQ(fourth, 1);
+  }
+}
+
+TEST(MoldInsert, OfThreeOutputsTakesAnEmptyNameOnlyBeforeANumber) {
+  const Scratch scratch;
+  const struct {
+    const char* text;
+    const char* name;
+    double temperature;
+  } rows[] = {{"3\t\t80\t2", "", 80}, {"3\t\tPin\t80", "Pin", 80}, {"3\t\t80 Pin\t70", "80", 0}, {"3\t\tnano\t70", "nano", 70}, {"3\t80", "80", 0}};
+  for (const auto& row : rows) {
+    const std::string path = scratch.file("[MoldInsertInitialTemperature]\nMoldInsert-1 = " + std::string(row.text) + "\n");
+    Reader reader;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+    int id = -1;
+    char* name = nullptr;
+    double temperature = -1;
+    EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, 1));
+    EXPECT_EQ(id, 3) << row.text;
+    EXPECT_STREQ(name, row.name) << row.text;
+    EXPECT_EQ(temperature, row.temperature) << row.text;
+  }
+}
+
 TEST(MoldInsert, LastWordAboveTheInsertNumberIsTheTemperature) {
   expect_line("3\tCore Pin A\t80", 1, {3, "Core Pin A", 80, 1});
   expect_line("3 Core   Pin 80.5", 2, {3, "Core Pin", 80.5, 2});

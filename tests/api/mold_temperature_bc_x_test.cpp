@@ -220,6 +220,69 @@ TEST(BoundaryConditionSetting, TakesAnyCharacterForTheEqualsSign) {
   EXPECT_EQ(b, 11);
 }
 
+// A section of two conditions with no settings of the second, and another section behind it.
+std::string settings_before_another_section() {
+  return std::string("[A]\nx = 1\n") + kHeader + "1\tTop\t0\n1\tSide\t0\n1 = 10\t11\n[Cool]\n7 = 8 9\n2 = 40\t41\n";
+}
+
+// Over the path and over a lent stream.
+void expect_no_setting(const std::string& path, int p, int q, int r) {
+  std::FILE* stream = std::fopen(path.c_str(), "r");
+  ASSERT_NE(stream, nullptr);
+  {
+    Reader reader;
+    Reader lent;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()) && lent.SetFilePtr(stream));
+    for (Reader* each : {&reader, &lent}) {
+      double a = -1;
+      double b = -1;
+      EXPECT_FALSE(each->MoldTemperatureBCX_ReadBCSetting(a, b, p, q, r)) << p << ' ' << q << ' ' << r;
+      EXPECT_EQ(a, -1);
+      EXPECT_EQ(b, -1);
+    }
+  }
+  std::fclose(stream);
+}
+
+TEST(BoundaryConditionSetting, IsNotFoundBehindTheNextHeader) {
+  const Scratch scratch;
+  const std::string path = scratch.file(settings_before_another_section());
+  expect_no_setting(path, 1, 2, 2);
+  expect_no_setting(path, 2, 2, 2);
+  expect_no_setting(path, 3, 2, 2);
+  expect_no_setting(path, 1, 1, 3);
+}
+
+TEST(BoundaryConditionSetting, TakesNoHeaderLineFromALaterSection) {
+  const Scratch scratch;
+  const std::string path = scratch.file(settings_before_another_section());
+  expect_no_setting(path, 1, 5, -2);
+  expect_no_setting(path, 1, 6, -8);
+  const std::string before = bytes_of(path);
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_FALSE(writer.MoldTemperatureBCX_WriteBCSetting(1, 2, 1, 5, -2));
+  EXPECT_EQ(bytes_of(path), before);
+}
+
+TEST(BoundaryConditionSetting, BehindTheLastLineBecomesTheSectionsNewLastLine) {
+  const Scratch scratch;
+  const std::string path = scratch.file(settings_before_another_section());
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBCSetting(40, 60, 9, 2, 2));
+  std::string expected = settings_before_another_section();
+  expected.insert(expected.find("[Cool]"), "2 = 40\t60\n");
+  EXPECT_EQ(bytes_of(path), expected);
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  double a = -1;
+  double b = -1;
+  EXPECT_TRUE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 1, 2, 2));
+  EXPECT_EQ(a, 40);
+  EXPECT_EQ(b, 60);
+}
+
 TEST(BoundaryConditionBlock, RenamesItselfForTheRestOfTheSession) {
   const Scratch scratch;
   const std::string path = scratch.file(settings() + "[MoldTemperatureBC-1]\nBCName = Top\n");

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
+#include "support/line_break.h"
 #include "support/scratch.h"
 #include "support/section_members.h"
 
@@ -72,6 +74,56 @@ TEST(Moldbase, NameBeginsWhereItsFirstWordFirstOccurs) {
 TEST(Moldbase, NameEndsWhereItsLastWordLastOccurs) {
   // "P" is found behind the name once more, inside the last number's text.
   expect(row_of("1 2 3 Steel P 4 5 6P"), 1, 2, 3, "Steel P 4 5 6P", 4, 5, 6);
+}
+
+TEST(Moldbase, EmptyNameIsWrittenAsItIsGivenAndDoesNotReadBack) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  char none[] = "";
+  EXPECT_TRUE(writer.Moldbase_WriteMoldbase(1, 2, 3, none, 4, 5, 6, 1));
+  EXPECT_EQ(bytes_of(path), native("\n[Moldbase]\n" + padded("1", "1\t2\t3\t\t4\t5\t6") + "\n"));
+  expect(row_of("1\t2\t3\t\t4\t5\t6"), 1, 2, 3, "4", 5, 6, 0);
+}
+
+// Each kind of line has a buffer of its own for names.
+TEST(Names, OutliveTheReadsOfOtherKinds) {
+  const Scratch scratch;
+  const std::string path = scratch.file(
+      "[Moldbase]\n1 = 1 2 3 Base 4 5 6\n[MoldMetalMaterial]\n1 = 1 2 3 Metal 4 5 6\n[MoldbaseInfo]\nMB-1 = 1 \"Info\"\n"
+      "[Coolant]\n1 = 1 2 3 4 5 Water 6 7\n[PartInsertInitialTemperature]\nPartInsert-1 = 1\tPart\t80\t1\n"
+      "[MoldInsertInitialTemperature]\nMoldInsert-1 = 1\tMold\t80\t1\n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  double d[7] = {};
+  int i[2] = {};
+  char* base = nullptr;
+  char* metal = nullptr;
+  char* info = nullptr;
+  char* coolant = nullptr;
+  char* part = nullptr;
+  char* part_of_four = nullptr;
+  char* mold = nullptr;
+  char* mold_of_four = nullptr;
+  ASSERT_TRUE(reader.Moldbase_ReadMoldbase(d[0], d[1], d[2], base, d[3], d[4], d[5], 1));
+  ASSERT_TRUE(reader.MoldMetalMaterial_ReadMaterial(d[0], d[1], d[2], metal, d[3], d[4], d[5], 1));
+  ASSERT_TRUE(reader.MoldbaseInfo_ReadMoldbaseInfo(i[0], info, 1));
+  ASSERT_TRUE(reader.Coolant_ReadCoolant(d[0], d[1], d[2], d[3], i[0], coolant, d[4], i[1], 1));
+  ASSERT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(i[0], part, d[0], 1));
+  ASSERT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(i[0], part_of_four, d[0], i[1], 1));
+  ASSERT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(i[0], mold, d[0], 1));
+  ASSERT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(i[0], mold_of_four, d[0], i[1], 1));
+  EXPECT_STREQ(base, "Base");
+  EXPECT_STREQ(metal, "Metal");
+  EXPECT_STREQ(info, "Info");
+  EXPECT_STREQ(coolant, "Water");
+  EXPECT_STREQ(part, "Part");
+  EXPECT_STREQ(part_of_four, "Part");
+  EXPECT_STREQ(mold, "Mold");
+  EXPECT_STREQ(mold_of_four, "Mold");
+  const std::set<const char*> buffers = {base, metal, info, coolant, part, part_of_four, mold, mold_of_four};
+  EXPECT_EQ(buffers.size(), 8U);
 }
 
 TEST(Moldbase, NameOfAnyLengthUpToTheBufferComesBack) {

@@ -1,6 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "support/scratch.h"
 #include "support/section_members.h"
@@ -115,6 +122,109 @@ TEST_F(ContactAngle, HugeCountsCostNoMoreThanTheFile) {
   open("GroupCount = 2147483647\n1 = \"A\"\t1\n2 = \"B\"\t2\n");
   EXPECT_EQ(by_name("Z"), -1);
   EXPECT_EQ(by_name("B"), 2);
+}
+
+TEST_F(ContactAngle, IsFoundByANameThatAnotherReadHandedOut) {
+  open("GroupCount = 2\n1 = \"Boss\"\t1\n2 = \"Rib\"\t2\nChosen = Rib\n");
+  char* name = nullptr;
+  ASSERT_TRUE(reader_.ReadString("[PartInsertContactAngle]", "Chosen", name, nullptr, 0));
+  EXPECT_EQ(by_name(name), 2);
+  std::FILE* stream = std::fopen(path_.c_str(), "r");
+  ASSERT_NE(stream, nullptr);
+  {
+    Reader lent;
+    ASSERT_TRUE(lent.SetFilePtr(stream));
+    ASSERT_TRUE(lent.ReadString("[PartInsertContactAngle]", "Chosen", name, nullptr, 0));
+    double angle = -1;
+    EXPECT_TRUE(lent.PartInsertContactAngle_ReadAngle(name, angle));
+    EXPECT_EQ(angle, 2);
+  }
+  std::fclose(stream);
+}
+
+// The search by name as the lookups of one key after another make it.
+std::optional<double> by_lookups(Reader& reader, const std::string& name) {
+  const auto value = [&reader](const std::string& key) -> std::optional<std::string> {
+    char* text = nullptr;
+    return reader.ReadString("[PartInsertContactAngle]", key.c_str(), text, nullptr, 0) ? std::optional<std::string>(text) : std::nullopt;
+  };
+  const int count = std::atoi(value("GroupCount").value_or("0").c_str());
+  for (int group = 1; group <= count; ++group) {
+    const std::optional<std::string> text = value(std::to_string(group));
+    const std::size_t open = text ? text->find('"') : std::string::npos;
+    const std::size_t close = open != std::string::npos ? text->find('"', open + 1) : std::string::npos;
+    if (close == std::string::npos) {
+      return std::nullopt;
+    }
+    if (text->substr(open + 1, close - open - 1) == name) {
+      return std::atof(text->c_str() + close + 1);
+    }
+  }
+  return std::nullopt;
+}
+
+TEST_F(ContactAngle, IsFoundByNameAsByOneLookupAfterAnother) {
+  std::mt19937 random(20261);
+  const auto below = [&random](unsigned int limit) { return static_cast<int>(random() % limit); };
+  int found = 0;
+  for (int round = 0; round < 400; ++round) {
+    std::vector<std::string> lines = {"GroupCount = " + std::to_string(below(7))};
+    for (int line = below(9); line > 0; --line) {
+      const std::string name(1, static_cast<char>('A' + below(4)));
+      const char* const keys[] = {"", "0", "+", " "};
+      lines.push_back((below(8) == 0 ? keys[below(4)] : "") + std::to_string(1 + below(6)) + (below(9) == 0 ? " = A 5" : " = \"" + name + "\" ") +
+                      std::to_string(10 + below(80)));
+    }
+    std::shuffle(lines.begin(), lines.end(), random);
+    if (below(3) == 0) {
+      lines.insert(lines.begin() + below(static_cast<unsigned int>(lines.size())), "[Later]");
+    }
+    std::string contents = "1 = \"A\" 1\n[PartInsertContactAngle]\n";
+    for (const std::string& line : lines) {
+      contents += line + "\n";
+    }
+    const std::string path = scratch_.file(contents);
+    std::FILE* stream = std::fopen(path.c_str(), "r");
+    ASSERT_NE(stream, nullptr);
+    {
+      Reader lent;
+      Reader held;
+      ASSERT_TRUE(lent.SetFilePtr(stream) && held.SetFilePath(path.c_str()));
+      for (const char* name : {"A", "B", "C", "D", "E"}) {
+        for (Reader* reader : {&lent, &held}) {
+          double angle = -1;
+          const std::optional<double> expected = by_lookups(*reader, name);
+          EXPECT_EQ(reader->PartInsertContactAngle_ReadAngle(name, angle), expected.has_value()) << name << " in\n" << contents;
+          EXPECT_EQ(angle, expected.value_or(-1)) << name << " in\n" << contents;
+          found += expected ? 1 : 0;
+        }
+      }
+    }
+    std::fclose(stream);
+  }
+  EXPECT_GT(found, 200);
+}
+
+TEST_F(ContactAngle, SearchForAnAbsentNameReadsALentStreamOnce) {
+  constexpr int kGroups = 30000;
+  std::string entries = "GroupCount = " + std::to_string(kGroups) + "\n";
+  for (int group = kGroups; group > 0; --group) {
+    entries += std::to_string(group) + " = \"Group " + std::to_string(group) + "\"\t40\n";
+  }
+  open(entries);
+  std::FILE* stream = std::fopen(path_.c_str(), "r");
+  ASSERT_NE(stream, nullptr);
+  {
+    Reader lent;
+    ASSERT_TRUE(lent.SetFilePtr(stream));
+    const auto begin = std::chrono::steady_clock::now();
+    double angle = -1;
+    EXPECT_FALSE(lent.PartInsertContactAngle_ReadAngle("Absent", angle));
+    EXPECT_FALSE(reader_.PartInsertContactAngle_ReadAngle("Absent", angle));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8)) << "a scan for each group takes minutes";
+    EXPECT_TRUE(lent.PartInsertContactAngle_ReadAngle("Group 29999", angle));
+  }
+  std::fclose(stream);
 }
 
 TEST_F(ContactAngle, NullIsNoName) {

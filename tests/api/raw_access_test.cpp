@@ -198,5 +198,22 @@ TEST_F(RawAccess, SectionMembersWriteTheSameNumbersInAHostOfAnotherLocale) {
   EXPECT_EQ(bytes_of(path), native("\n[Flow-1]\nFillTime             = 1.5\nPair = 0.25 7.5\n"));
 }
 
+TEST_F(RawAccess, WritesNothingPastTheBufferOfAReadValue) {
+  const std::string longer(5000, 'v');
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(scratch_.file("[A]\nx = " + longer + "\ny = 12345\n").c_str()));
+  std::string buffer(4097, '#');
+  char* value = nullptr;
+  EXPECT_FALSE(reader.ReadValue("[A]", "x", value, buffer.data(), 4096));
+  EXPECT_EQ(buffer, std::string(4097, '#'));
+  EXPECT_EQ(value, nullptr);
+  EXPECT_FALSE(reader.ReadValue("[A]", "y", value, buffer.data(), 5));
+  EXPECT_TRUE(reader.ReadValue("[A]", "y", value, buffer.data(), 6));
+  EXPECT_STREQ(value, "12345");
+  std::string large(5001, '#');
+  EXPECT_TRUE(reader.ReadValue("[A]", "x", value, large.data(), 0)) << "no size is looked at where it is 0";
+  EXPECT_EQ(value, longer);
+}
+
 }  // namespace
 }  // namespace qelpro_test

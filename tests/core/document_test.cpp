@@ -222,9 +222,9 @@ TEST_F(Document, LooksUpPlainlyOnceItHasTurnedFromReadingToWriting) {
   EXPECT_EQ(look(document, "[A]", "y"), "2");
 }
 
-TEST_F(Document, LooksUpPlainlyInAStreamWhateverPathItWritesTo) {
-  lend("[A]\nx = 1\n[B]\ny = 2\n", "r");
-  ASSERT_TRUE(document.SetFilePath(scratch.file("", "other.pro").c_str(), CQELPROIO::kWriting));
+TEST_F(Document, LooksUpPlainlyInThePathThatItWritesTo) {
+  lend("[A]\nx = 1\n", "r");
+  ASSERT_TRUE(document.SetFilePath(scratch.file("[A]\nx = 1\n[B]\ny = 2\n", "other.pro").c_str(), CQELPROIO::kWriting));
   EXPECT_EQ(look(document, "[A]", "y"), "2");
   std::fclose(stream);
 }
@@ -387,12 +387,13 @@ TEST_F(Document, ClosesALentStreamWhenItIsToldTo) {
   EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kNoFile);
 }
 
-TEST_F(Document, ClosesALentStreamWhenAFileIsOpenedForReading) {
-  lend("[A]\nx = 1\n", "r");
-  const int descriptor = ::fileno(stream);
-  const std::string other = scratch.path("missing.pro");
-  EXPECT_FALSE(document.SetFilePath(other.c_str(), CQELPROIO::kReading));
-  EXPECT_EQ(::lseek(descriptor, 0, SEEK_CUR), -1);
+TEST_F(Document, LeavesALentStreamOpenWhenAFileIsOpenedForReading) {
+  lend("[A]\nx = 1\n");
+  const std::string next = scratch.file("[A]\nx = 2\n", "next.pro");
+  ASSERT_TRUE(document.SetFilePath(next.c_str(), CQELPROIO::kReading));
+  EXPECT_EQ(look(document, "[A]", "x"), "2");
+  EXPECT_EQ(std::fgetc(stream), '[');
+  EXPECT_EQ(std::fclose(stream), 0);
 }
 
 TEST_F(Document, HandsTheLentStreamOut) {
@@ -439,16 +440,25 @@ TEST_F(Document, StoresByANewPathOnceALentStreamIsClosed) {
   EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
 }
 
-TEST_F(Document, StoresThroughAStreamThatIsStillLentWhateverPathItIsGiven) {
+TEST_F(Document, ForgetsALentStreamWhenItIsGivenAPath) {
   lend("[A]\nx = 1\n");
   const std::string next = scratch.file("[A]\nx = 1\n", "next.pro");
   ASSERT_TRUE(document.SetFilePath(next.c_str(), CQELPROIO::kWriting));
   EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kDone);
-  EXPECT_EQ(bytes_of(path), "[A]\nx                    = 2\n");
-  EXPECT_EQ(bytes_of(next), "[A]\nx = 1\n");
-  EXPECT_EQ(document.SetValue("[A]", "y", "3", kByKey), kDone) << "a new key of a section goes by the path";
-  EXPECT_EQ(bytes_of(next), "[A]\nx = 1\ny = 3\n");
+  EXPECT_EQ(document.SetValue("[A]", "y", "3", kByKey), kDone);
+  EXPECT_EQ(bytes_of(next), "[A]\nx                    = 2\ny = 3\n");
+  EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
+  document.CloseFile();
+  EXPECT_EQ(std::fgetc(stream), '[') << "it is the caller's, and still open";
+  EXPECT_EQ(std::fclose(stream), 0);
+}
+
+TEST_F(Document, StoresIntoALentStreamWhereAPathCannotBeOpened) {
+  lend("[A]\nx = 1\n");
+  EXPECT_FALSE(document.SetFilePath(scratch.path("no/such/folder.pro").c_str(), CQELPROIO::kWriting));
+  EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kDone);
   std::fclose(stream);
+  EXPECT_EQ(bytes_of(path), "[A]\nx                    = 2\n");
 }
 
 TEST_F(Document, StoresThroughALentStream) {

@@ -7,6 +7,7 @@
 #include <ostream>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/document.h"
@@ -45,8 +46,11 @@ class Reading {
   Answer look(const std::string& bytes, const std::string& section, const std::string& key, int index);
 
  private:
+  // Lines found by position are known apart from those of keys, so that neither changes what the other yields.
+  using Name = std::tuple<bool, std::string, std::string>;
+
   std::map<std::string, std::size_t> sections_;
-  std::map<std::string, std::size_t> keys_;
+  std::map<Name, std::size_t> lines_;
 };
 
 bool is_one_of(char c, const std::string& set) { return set.find(c) != std::string::npos; }
@@ -78,13 +82,28 @@ std::string value_of(std::string line, bool by_key) {
   return strip_back(strip_front(line, " "), " \t\n");
 }
 
+// A line "[...]", whatever blanks follow, or one with words behind its brackets. An entry of an odd key has a "=" there.
 bool closes_a_section(const std::string& line) {
   const std::string text = strip_back(line, " \t\n");
-  return text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1;
+  if (text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1) {
+    return true;
+  }
+  const std::size_t close = std::min(line.find("] "), line.find("]\t"));
+  if (line.find('[') != 0 || close == std::string::npos || line.find('=') < close) {
+    return false;
+  }
+  const std::string words = strip_front(line.substr(close + 1), " \t");
+  return words.empty() || words[0] != '=';
 }
 
-// What the file holds besides the blanks at its end.
-std::string contents_of(const std::string& bytes) { return bytes.find('\n') == std::string::npos ? bytes : strip_back(bytes, " "); }
+// A last line without a line break: an end mark there is none of its text.
+std::string without_mark(const std::string& last_line) {
+  const std::string text = strip_back(last_line, " \x1A");
+  return last_line.find('\x1A', text.size()) != std::string::npos ? text : last_line;
+}
+
+// What the file holds besides the blanks and end marks at its end.
+std::string contents_of(const std::string& bytes) { return bytes.find('\n') == std::string::npos ? without_mark(bytes) : strip_back(bytes, " \x1A"); }
 
 std::string line_break_of(const std::string& contents) {
   const std::size_t at = contents.find('\n');
@@ -112,16 +131,19 @@ std::string padded(const std::string& key, const std::string& value) {
 bool bad(const std::string& section, const std::string& key, const std::string& value, int index) {
   const bool by_key = index < 0;
   const std::string line = by_key ? key + " = " + value : value;
-  return !is_name(section) || too_long(section) || (by_key && !is_name(key)) || index == 0 || value.find_first_of("\r\n") != std::string::npos ||
-         closes_a_section(line) || too_long(line);
+  const bool names_fit = by_key
+                             ? is_name(key) && key[0] != '[' && is_name(section) && section.size() > 1 && section[0] == '[' && section.back() == ']'
+                             : is_name(section) && section[0] == '[';
+  return !names_fit || too_long(section) || index == 0 || value.find_first_of("\r\n\x1A") != std::string::npos ||
+         key.find('\x1A') != std::string::npos || section.find('\x1A') != std::string::npos || closes_a_section(line) || too_long(line);
 }
 
-// The file after a store: never shorter than it was.
+// The file after a store: never shorter than it was. What stood behind its contents stays, where they do not reach.
 void put_back(std::string& bytes, std::string contents) {
-  while (contents.size() < bytes.size()) {
+  while (contents.size() < contents_of(bytes).size()) {
     contents += ' ';
   }
-  bytes = contents;
+  bytes = contents + (contents.size() < bytes.size() ? bytes.substr(contents.size()) : "");
 }
 
 // Puts lines into the contents at an offset; behind a last line without a line break, one is written first.
@@ -144,7 +166,7 @@ std::string with_section(const std::string& contents, const std::string& header,
 // The number of the line that a plain scan takes for the section's header; the number of lines where there is none.
 std::size_t header_of(const std::vector<Line>& list, const std::string& section) {
   for (std::size_t i = 0; i < list.size(); ++i) {
-    if (!section.empty() && token_of(list[i].text) == section) {
+    if (!section.empty() && token_of(list[i].text) == section && (section[0] != '[' || closes_a_section(list[i].text))) {
       return i;
     }
   }
@@ -198,7 +220,7 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from) {
   }
   bool in_long_line = false;
   while (at < bytes.size()) {
-    if (!in_long_line && bytes.find_first_not_of(' ', at) == std::string::npos) {
+    if (!in_long_line && bytes.find_first_not_of(" \x1A", at) == std::string::npos) {
       break;
     }
     Line line;
@@ -211,6 +233,9 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from) {
       text_end = std::min(bytes.size(), at + 4095);
     }
     line.text = bytes.substr(at, text_end - at);
+    if (!ended && text_end == bytes.size() && line_break == std::string::npos) {
+      line.text = without_mark(line.text);
+    }
     at = ended ? line_break + 1 : text_end;
     in_long_line = !ended;
     line.end = at;
@@ -257,9 +282,10 @@ Answer whole_text(const std::string& bytes, const std::string& section, const st
   }
   bool inside = false;
   std::size_t next = 0;
-  for (std::size_t at = 0; at < bytes.size(); at = next) {
-    next = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
-    std::string line = bytes.substr(at, next - at);
+  const std::string text = without_mark(bytes);
+  for (std::size_t at = 0; at < text.size(); at = next) {
+    next = std::min(text.find('\n', at), text.size() - 1) + 1;
+    std::string line = text.substr(at, next - at);
     line = line.substr(0, std::min(line.find('\n'), line.find('\0')));
     const std::size_t equals = line.find('=');
     if (!inside) {
@@ -277,15 +303,16 @@ Answer Reading::look(const std::string& bytes, const std::string& section, const
     const std::vector<Line> list = lines(bytes, offset);
     return offset == 0 || list.empty() ? Answer{} : Answer{kDone, value_of(list[0].text, index < 0)};
   };
-  if (keys_.count(section + key) != 0) {
-    return line_at(keys_[section + key]);
+  const Name name(index < 0, section, key);
+  if (lines_.count(name) != 0) {
+    return line_at(lines_[name]);
   }
   std::size_t from = 0;
   const bool resumes = sections_.count(section) != 0;
   if (resumes) {
     from = sections_[section];
   } else {
-    for (const auto& [name, offset] : keys_) {
+    for (const auto& [known, offset] : lines_) {
       from = std::max(from, offset);
     }
   }
@@ -293,7 +320,8 @@ Answer Reading::look(const std::string& bytes, const std::string& section, const
   bool first = true;
   int position = 0;
   for (const Line& line : lines(bytes, from)) {
-    const bool header = closes_a_section(line.text) && !(resumes && first);
+    const bool own_header = resumes && first && closes_a_section(line.text);
+    const bool header = closes_a_section(line.text) && !own_header;
     first = false;
     if (!inside) {
       if (header) {
@@ -306,12 +334,12 @@ Answer Reading::look(const std::string& bytes, const std::string& section, const
       return {};
     }
     ++position;
-    const bool found = index < 0 ? (!key.empty() && token_of(line.text) == key) : index == position;
-    if (!found && line.text.find('=') != std::string::npos) {
-      keys_.emplace(section + token_of(line.text), line.start);
+    const bool found = index < 0 ? (!own_header && !key.empty() && token_of(line.text) == key) : index == position;
+    if (!found && !own_header && is_name(token_of(line.text))) {
+      lines_.emplace(Name(true, section, token_of(line.text)), line.start);
     }
     if (found) {
-      keys_.emplace(section + key, line.start);
+      lines_.emplace(name, line.start);
       return line.start == 0 ? Answer{} : Answer{kDone, value_of(line.text, index < 0)};
     }
   }
@@ -428,13 +456,13 @@ class Generator {
 
   std::string key() {
     static const std::vector<std::string> kKeys = {"x", "xy", "FR", "FR-1", "FR-10", "GC-1", "aKeyOfMoreThanTwentyCharacters"};
-    static const std::vector<std::string> kOdd = {"", "x y", "[A]", "[B", "x=", "]x"};
+    static const std::vector<std::string> kOdd = {"", "x y", "[A]", "[B", "x=", "]x", "x\x1A"};
     return chance(95) ? one_of(kKeys) : one_of(kOdd);
   }
 
   std::string value() {
-    static const std::vector<std::string> kOdd = {"",     " ",     "a = b", "[A]", "see [B] there", "y]", "1\n", "1\r\n",
-                                                  "1\n2", "\tt\t", "x = 1", "=",   "\f1\f"};
+    static const std::vector<std::string> kOdd = {"",     " ",     "a = b", "[A]", "see [B] there", "y]",   "1\n", "1\r\n",
+                                                  "1\n2", "\tt\t", "x = 1", "=",   "\f1\f",         "1\x1A"};
     if (chance(20)) {
       return one_of(kOdd);
     }
@@ -446,9 +474,36 @@ class Generator {
 
   std::string line() {
     static const std::vector<std::string> kHeaders = {"[A]", "[B]", "[Flow-1]", "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"};
-    static const std::vector<std::string> kOdd = {"",     " ",       "\t",   "[A] ",   "[B]\t ",         " [A]",    "[A] tail", "[A] = 5",
-                                                  "[not", "not]",    "x",    "FR =",   "  x = indented", "\tx = 1", "x\t= 1",   "= 3",
-                                                  "\r",   "x = 1\r", "[A]]", "]x = 9", "GC-1 = [1",      "see [A]", "[A][B]",   "x y = 1"};
+    static const std::vector<std::string> kOdd = {"",
+                                                  " ",
+                                                  "\t",
+                                                  "[A] ",
+                                                  "[B]\t ",
+                                                  " [A]",
+                                                  "[A] tail",
+                                                  "[A] = 5",
+                                                  "[not",
+                                                  "not]",
+                                                  "x",
+                                                  "FR =",
+                                                  "  x = indented",
+                                                  "\tx = 1",
+                                                  "x\t= 1",
+                                                  "= 3",
+                                                  "\r",
+                                                  "x = 1\r",
+                                                  "[A]]",
+                                                  "]x = 9",
+                                                  "GC-1 = [1",
+                                                  "see [A]",
+                                                  "[A][B]",
+                                                  "x y = 1",
+                                                  "[B] # note",
+                                                  "[A]\tnote = 1",
+                                                  "[SURFACE ELEMENT] note",
+                                                  "x = \x1A",
+                                                  "\x1A",
+                                                  "[B]x y"};
     const int kind = below(100);
     if (kind < 25) {
       return one_of(kHeaders);
@@ -483,6 +538,9 @@ class Generator {
     }
     if (chance(25)) {
       bytes += std::string(static_cast<std::size_t>(below(40)), ' ');
+    }
+    if (chance(10)) {
+      bytes += std::string(static_cast<std::size_t>(1 + below(2)), '\x1A');
     }
     return bytes;
   }

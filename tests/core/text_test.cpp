@@ -82,7 +82,7 @@ TEST(IsHeader, WantsTheBracketsAtBothEnds) {
   EXPECT_TRUE(is_header("[a]b]"));
   EXPECT_FALSE(is_header("[Unit"));
   EXPECT_FALSE(is_header("Unit]"));
-  EXPECT_FALSE(is_header("[Unit] x"));
+  EXPECT_FALSE(is_header("[Unit]x"));
   EXPECT_FALSE(is_header("["));
   EXPECT_FALSE(is_header("]"));
   EXPECT_FALSE(is_header(""));
@@ -111,11 +111,46 @@ TEST(TrimEnd, TakesTheGivenCharactersFromTheEndAlone) {
   EXPECT_EQ(trim_end("a", ""), "a");
 }
 
-TEST(OnlyBlanks, IsTrueForNothingAtAll) {
-  EXPECT_TRUE(only_blanks(""));
-  EXPECT_TRUE(only_blanks("   "));
-  EXPECT_FALSE(only_blanks(" \t"));
-  EXPECT_FALSE(only_blanks(" \n"));
+TEST(IsHeader, TakesWordsBehindTheBrackets) {
+  for (const char* line : {"[A] # first inlet", "[A]\tnote", "[A] note = 5", "[A B] note", "[a]b] c", "[A] = [B]", "[] x"}) {
+    EXPECT_TRUE(is_header(line)) << line;
+  }
+  for (const char* line : {"[A] = 5", "[A]=5", "[A] \t= 5", "[A]note", "[A note", "[A=] b", " [A] note", "A [B] c", "[A]x y"}) {
+    EXPECT_FALSE(is_header(line)) << line;
+  }
+}
+
+TEST(IsHeaderOf, NeedsTheNameAndAHeader) {
+  EXPECT_TRUE(is_header_of("[A]", "[A]"));
+  EXPECT_TRUE(is_header_of("[A] note", "[A]"));
+  EXPECT_TRUE(is_header_of("[SURFACE ELEMENT] note", "[SURFACE"));
+  EXPECT_FALSE(is_header_of("[A] = 5", "[A]"));
+  EXPECT_FALSE(is_header_of("[AB]", "[A]"));
+  EXPECT_FALSE(is_header_of("[A]", ""));
+  EXPECT_TRUE(is_header_of("Unit", "Unit")) << "a lookup finds what no store writes";
+}
+
+TEST(WithoutEndMark, DropsItWithTheBlanksAroundIt) {
+  EXPECT_EQ(without_end_mark("x = 1\x1A"), "x = 1");
+  EXPECT_EQ(without_end_mark("x = 1  \x1A\x1A "), "x = 1");
+  EXPECT_EQ(without_end_mark("x = 1  "), "x = 1  ");
+  EXPECT_EQ(without_end_mark("x\x1A = 1"), "x\x1A = 1");
+  EXPECT_EQ(without_end_mark("\x1A"), "");
+}
+
+TEST(IsSectionName, StandsInBrackets) {
+  EXPECT_TRUE(is_section_name("[A]"));
+  for (const char* name : {"", "[", "A", "[A", "A]", "[A B]", "[A]x", "Unit"}) {
+    EXPECT_FALSE(is_section_name(name)) << name;
+  }
+}
+
+TEST(IsKey, BeginsWithNoBracket) {
+  EXPECT_TRUE(is_key("FR-1"));
+  EXPECT_TRUE(is_key("x[1]"));
+  for (const char* name : {"", "[A]", "[x", "a b", "a="}) {
+    EXPECT_FALSE(is_key(name)) << name;
+  }
 }
 
 TEST(IsFindable, NeedsANameThatIsAllFirstToken) {

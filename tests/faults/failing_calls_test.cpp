@@ -167,6 +167,10 @@ TEST_P(FailingCallsOfTheObject, LeaveTheFileBeforeBetweenOrAfterItsTwoWrites) {
 }
 
 const std::string kStamped = "[FileHeader]\nDate           = 2001/01/01 00:00:00\n" + kFile;
+const std::string kConditions =
+    "[FileHeader]\nDate           = 2001/01/01 00:00:00\n[Summary]\nTotalNodeBC = 2\n"
+    "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n1\tSide\n1 = 2\t3\n1 = 1.5\t7\n" +
+    kFile;
 
 template <class Store>
 std::function<bool(const std::string&)> by_object(Store store) {
@@ -179,7 +183,8 @@ std::function<bool(const std::string&)> by_object(Store store) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Object, FailingCallsOfTheObject,
-                         testing::Values(Case{"Replace", kStamped, by_object([](auto& o) { return o.SetFillTime(7.5, 1); })},
+                         testing::Values(Case{"ByPosition", kConditions, by_object([](auto& o) { return o.SetBCProfile(2, 1, 7.5, 1); })},
+                                         Case{"Replace", kStamped, by_object([](auto& o) { return o.SetFillTime(7.5, 1); })},
                                          Case{"Append", kStamped, by_object([](auto& o) { return o.SetMeltTemperature(7.5, 1); })},
                                          Case{"NewSection", kStamped, by_object([](auto& o) { return o.SetCoolTime(7.5); })}),
                          [](const auto& row) { return row.param.name; });
@@ -188,6 +193,7 @@ INSTANTIATE_TEST_SUITE_P(Object, FailingCallsOfTheObject,
 TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
   const Scratch scratch;
   std::string path = scratch.file(kFile);
+  std::string conditions = scratch.file(kConditions, "conditions.pro");
   const std::function<bool(double&)> reads[] = {
       [&path](double& value) {
         CQELPROReader_Manipulator reader;
@@ -196,6 +202,11 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
       [&path](double& value) {
         CPROIO_Manipulator object;
         return object.SetFilePath(static_cast<const char*>(path.c_str())) && object.GetFillTime(value, 1);
+      },
+      [&conditions](double& value) {
+        CPROIO_Manipulator object;
+        double y = 0;
+        return object.SetFilePath(static_cast<const char*>(conditions.c_str())) && object.GetBCProfile(2, 1, value, y);
       },
       [&path](double& value) {
         CQELPROReader_Manipulator reader;

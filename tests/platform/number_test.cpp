@@ -157,5 +157,27 @@ TEST(Numbers, DoNotDependOnTheLocale) {
   EXPECT_EQ(to_real("1,5"), 1.0);
 }
 
+TEST(ScanDecimalReal, TakesTheZeroOfAHexadecimalNumber) {
+  for (const char* text : {"0x900", "-0X1p3", " 0x"}) {
+    const char* at = text;
+    double value = -7;
+    EXPECT_TRUE(scan_decimal_real(at, value));
+    EXPECT_EQ(value, 0);
+    EXPECT_EQ(*at | 0x20, 'x') << text;
+  }
+}
+
+TEST(ScanDecimalReal, IsTheSameForAnyOtherText) {
+  for (const char* text : {"1.5e3x", "-inf", "nan", " +.5", "1e+x", "", "x", "1x0x2", "infi"}) {
+    const char* at = text;
+    const char* decimal_at = text;
+    double value = -7;
+    double decimal = -7;
+    EXPECT_EQ(scan_decimal_real(decimal_at, decimal), scan_real(at, value)) << text;
+    EXPECT_EQ(decimal_at, at) << text;
+    EXPECT_TRUE(decimal == value || (std::isnan(decimal) && std::isnan(value))) << text;
+  }
+}
+
 }  // namespace
 }  // namespace qelpro_test

@@ -91,13 +91,66 @@ TEST_F(Lines, LongLineIsSeveralLines) {
   EXPECT_EQ(remark_of("[Machine]\nRemark = " + std::string(300, 'y') + "\n"), std::string(127 - 9, 'y'));
 }
 
-TEST_F(Lines, RewriteOfALongLineLeavesItsFurtherPieces) {
-  const std::string tail(40, 'z');
-  over("[FileHeader]\nDate = x\n[Machine]\nRemark = " + std::string(127 - 9, 'y') + tail + "\nGrade = 1\n");
+TEST_F(Lines, RewriteOfALongLineReplacesItWhole) {
+  for (const std::size_t length : {126U, 127U, 128U, 200U, 254U, 255U, 5000U}) {
+    for (const std::string& line_break : {std::string("\n"), std::string("\r\n")}) {
+      SCOPED_TRACE(length);
+      std::string line = "Remark = ";
+      line.resize(length, 'y');
+      const std::string before = "[FileHeader]" + line_break + "Date = x" + line_break + "[Machine]" + line_break;
+      over(before + line + line_break + "Grade = 1" + line_break);
+      char text[] = "short";
+      EXPECT_TRUE(object_.SetMachineRemark(text));
+      const std::string after = bytes();
+      EXPECT_NE(after.find("[Machine]" + line_break + "Remark         = short" + line_break + "Grade = 1" + line_break + " "), std::string::npos);
+    }
+  }
+}
+
+TEST_F(Lines, RewriteOfALongLastLineReplacesItWhole) {
+  over("[FileHeader]\nDate = x\n[Machine]\nRemark = " + std::string(300, 'y'));
   char text[] = "short";
   EXPECT_TRUE(object_.SetMachineRemark(text));
-  const std::string expected = "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "short") + tail + "\nGrade = 1\n";
-  EXPECT_EQ(masked_bytes().substr(0, expected.size()), expected);
+  const std::string after = masked_bytes();
+  EXPECT_EQ(after.substr(0, after.find_last_not_of(' ') + 1), "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "short"));
+}
+
+TEST_F(Lines, SameStoreTwiceLeavesWhatOneLeaves) {
+  for (const std::string& head : {std::string("[FileHeader]\nDate = x\n"), std::string("[FileHeader]\r\nDate = x\r\n"), std::string()}) {
+    for (std::string text : {std::string("short"), std::string(110, 'v'), std::string(111, 'v'), std::string(169, 'v'), std::string(5000, 'v'),
+                             std::string("text\n"), std::string("text\r\n"), std::string("\n\n"), std::string("two\nlines"),
+                             std::string("two\n") + std::string(300, 'v') + "\n", std::string("  ")}) {
+      SCOPED_TRACE(testing::PrintToString(text));
+      const auto store = [&] { return object_.SetProject(text.data()) && object_.SetBCCountName(1, 2, text.data()); };
+      over(head);
+      EXPECT_TRUE(store());
+      const std::string once = masked_bytes();
+      EXPECT_TRUE(store());
+      EXPECT_EQ(masked_bytes(), once);
+      EXPECT_TRUE(object_.SetMeshLayer(6));
+      const std::string with_more_behind = masked_bytes();
+      EXPECT_TRUE(store());
+      EXPECT_EQ(masked_bytes(), with_more_behind);
+    }
+  }
+}
+
+TEST_F(Lines, AThousandStoresOfALongPathDoNotLetTheFileGrow) {
+  over_missing_file().SetDefault();
+  std::string path(169, 'p');
+  EXPECT_TRUE(object_.SetProject(path.data()));
+  const std::string once = masked_bytes();
+  for (int i = 0; i < 1000; ++i) {
+    ASSERT_TRUE(object_.SetProject(path.data()));
+  }
+  EXPECT_EQ(masked_bytes(), once);
+  std::string other(300, 'q');
+  EXPECT_TRUE(object_.SetProject(other.data()));
+  const std::size_t size = bytes().size();
+  for (int i = 0; i < 500; ++i) {
+    ASSERT_TRUE(object_.SetProject(path.data()) && object_.SetProject(other.data()));
+  }
+  EXPECT_EQ(bytes().size(), size);
 }
 
 TEST_F(Lines, ShorterValueLeavesBlanksAtTheEndThatLaterOnesUseAgain) {
@@ -187,6 +240,75 @@ TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
   EXPECT_TRUE(object_.SetFillTime(1, 1));
   EXPECT_TRUE(std::filesystem::is_empty(path_));
   EXPECT_EQ(fill_time(), 777);
+}
+
+// Other programs' text mode ends a file at this byte.
+TEST_F(Lines, EndMarkAtTheVeryEndIsPadding) {
+  const std::string head = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00");
+  const std::string masked_head = "[FileHeader]\n" + kMaskedDate;
+  for (const std::string& end : {std::string("\n\x1A"), std::string("\x1A"), std::string("\n  \x1A   "), std::string("\n\x1A \x1A"),
+                                 std::string("\x1A  \x1A"), std::string("\n") + std::string(5000, ' ') + "\x1A" + std::string(5000, ' ')}) {
+    SCOPED_TRACE(testing::PrintToString(end));
+    EXPECT_EQ(remark_of(head + "[Machine]\nRemark = last" + end), end[0] == '\n' ? "last\n" : "last");
+    EXPECT_TRUE(object_.SetFillTime(2, 1));
+    EXPECT_EQ(masked_bytes().find(masked_head + "[Machine]\nRemark = last\n" + (end[0] == '\n' ? "\n" : "") + "[Flow-1]\n" + entry("FillTime", "2")),
+              0U);
+    EXPECT_EQ(fill_time(), 2);
+    over(head + "[Flow-1]\nMeltTemp = 3" + end);
+    EXPECT_TRUE(object_.SetFillTime(2, 1));
+    EXPECT_EQ(masked_bytes().find(masked_head + "[Flow-1]\nMeltTemp = 3\n" + entry("FillTime", "2")), 0U);
+    over(head + "[Flow-1]\nFillTime = 3" + end);
+    EXPECT_TRUE(object_.SetFillTime(2, 1));
+    EXPECT_EQ(masked_bytes().find(masked_head + "[Flow-1]\n" + entry("FillTime", "2")), 0U);
+    EXPECT_EQ(masked_bytes().find("FillTime", masked_bytes().find("= 2\n")), std::string::npos);
+    over(head + "[Flow-1]" + end);
+    EXPECT_TRUE(object_.SetFillTime(2, 1));
+    EXPECT_EQ(masked_bytes().find(masked_head + "[Flow-1]\n" + entry("FillTime", "2")), 0U);
+    over(head + "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop" + end);
+    int count = 0;
+    char* name = nullptr;
+    EXPECT_TRUE(object_.GetBCCountName(1, count, name));
+    EXPECT_STREQ(name, "Top");
+    EXPECT_FALSE(object_.GetBCCountName(2, count, name));
+    char two[] = "Two";
+    EXPECT_TRUE(object_.SetBCCountName(2, 2, two));
+    EXPECT_EQ(masked_bytes().find(masked_head + "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n2\tTwo\n"), 0U);
+  }
+  over("\x1A");
+  EXPECT_TRUE(object_.SetFillTime(2, 1));
+  EXPECT_EQ(fill_time(), 2);
+}
+
+TEST_F(Lines, EndMarkAnywhereElseIsText) {
+  EXPECT_EQ(remark_of("[Machine]\nRemark = a\x1A"
+                      "b\x1A\nGrade = 1\n"),
+            "a\x1A"
+            "b\x1A\n");
+}
+
+TEST_F(Lines, TextWithAnEndMarkIsRefused) {
+  const std::string contents = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00");
+  over(contents);
+  for (const char* text : {"\x1A", "a\x1A",
+                           "\x1A"
+                           "b",
+                           "a\x1A"
+                           "b"}) {
+    std::string copy = text;
+    for (const auto& row : text_accessors()) {
+      if (row.set) {
+        EXPECT_FALSE(row.set(object_, copy.data())) << row.name;
+      }
+    }
+    EXPECT_FALSE(object_.SetCoolant(1, 1, 2, 3, 4, 5, copy.data(), 6, 7));
+    EXPECT_FALSE(object_.SetMoldbase(1, 1, 2, 3, copy.data()));
+    EXPECT_FALSE(object_.SetBCCountName(1, 2, copy.data()));
+  }
+  EXPECT_EQ(bytes(), contents) << "nothing is stored, and nothing stamped";
+  over_missing_file();
+  char mark[] = "\x1A";
+  EXPECT_FALSE(object_.SetMachineRemark(mark));
+  EXPECT_FALSE(exists(path_));
 }
 
 TEST_F(Lines, FileBeyondTwoGiBIsKept) {

@@ -2,16 +2,16 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
+#include "proio/accessors.h"
 #include "proio/support.h"
 
 // Entries of several items: gates, coolants, control points, parting surface, ejection, inserts, mold rows.
 
 namespace qelpro_test {
 namespace {
-
-using Object = CPROIO_Manipulator;
 
 class Rows : public ProcessObject {
  protected:
@@ -219,6 +219,51 @@ TEST_F(Rows, PartInsertHasANameOfOneWord) {
   EXPECT_EQ(id, 4);
 }
 
+TEST_F(Rows, PartInsertWithoutANameHasAnEmptyOne) {
+  char before[] = "before";
+  const struct {
+    const char* text;
+    const char* name;
+    double temperature;
+  } rows[] = {{"3\t\t80.5", "", 80.5}, {"3\t\t80.5\t2", "", 80.5}, {"3", "", 77}, {"3\t\tPin\t80.5", "Pin", 80.5}};
+  for (const auto& row : rows) {
+    int id = 77;
+    char* name = before;
+    double temperature = 77;
+    EXPECT_TRUE(
+        over_entry("[PartInsertInitialTemperature]", std::string("PartInsert-2 = ") + row.text).GetPartInsertSetting(2, id, name, temperature));
+    EXPECT_EQ(id, 3) << row.text;
+    EXPECT_STREQ(name, row.name) << row.text;
+    EXPECT_EQ(temperature, row.temperature) << row.text;
+  }
+  int id = 77;
+  char* name = before;
+  double temperature = 77;
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = Pin").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_EQ(id, 77);
+  EXPECT_STREQ(name, "") << "a row that does not begin with a number";
+  name = before;
+  EXPECT_FALSE(over_head().GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_EQ(name, before);
+}
+
+TEST_F(Rows, PartInsertWithoutANamePointsToTheEmptiedBuffer) {
+  int id = 77;
+  char* name = nullptr;
+  double temperature = 77;
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 3\tPin\t80.5").GetPartInsertSetting(2, id, name, temperature));
+  const char* const buffer = name;
+  for (const char* text : {"PartInsert-2 = 5", "PartInsert-2 =", "PartInsert-2", "PartInsert-2 = none"}) {
+    char untouched[] = "untouched";
+    name = untouched;
+    temperature = 77;
+    EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", text).GetPartInsertSetting(2, id, name, temperature)) << text;
+    EXPECT_EQ(name, buffer) << text;
+    EXPECT_STREQ(name, "") << text;
+    EXPECT_EQ(temperature, 77);
+  }
+}
+
 // Both tables of mold rows.
 struct Table {
   const char* section;
@@ -301,15 +346,33 @@ TEST_F(Rows, NameOfAMoldRowStaysUntilTheNextMoldRowIsRead) {
 
 TEST_F(Rows, NullTextsAreRefusedAndTheFileIsKept) {
   const QELPRO_MMM_MECHANICAL record{{1, 2, 3}, {4, 5, 6}, nullptr};
-  over_head();
-  EXPECT_FALSE(object_.SetCoolant(1, 1, 2, 3, 4, 5, nullptr, 6, 7));
-  EXPECT_FALSE(object_.SetMoldbase(1, 1, 2, 3, nullptr));
-  EXPECT_FALSE(object_.SetMoldMetalMaterial(1, 1, 2, 3, nullptr));
-  EXPECT_FALSE(object_.SetMoldbase(1, record));
-  EXPECT_FALSE(object_.SetMoldMetalMaterial(1, record));
-  EXPECT_FALSE(object_.SetBCCountName(1, 2, nullptr));
-  EXPECT_FALSE(object_.SetRemark(nullptr));
-  EXPECT_EQ(bytes(), kHead);
+  struct Row {
+    std::string name;
+    std::function<bool(Object&)> set;
+  };
+  std::vector<Row> rows = {
+      {"SetCoolant", [](Object& o) { return o.SetCoolant(1, 1, 2, 3, 4, 5, nullptr, 6, 7); }},
+      {"SetMoldbase", [](Object& o) { return o.SetMoldbase(1, 1, 2, 3, nullptr); }},
+      {"SetMoldMetalMaterial", [](Object& o) { return o.SetMoldMetalMaterial(1, 1, 2, 3, nullptr); }},
+      {"SetMoldbase of a record", [&record](Object& o) { return o.SetMoldbase(1, record); }},
+      {"SetMoldMetalMaterial of a record", [&record](Object& o) { return o.SetMoldMetalMaterial(1, record); }},
+      {"SetBCCountName", [](Object& o) { return o.SetBCCountName(1, 2, nullptr); }},
+      {"SetFilePath", [](Object& o) { return o.SetFilePath(static_cast<const char*>(nullptr)); }},
+  };
+  for (const auto& accessor : text_accessors()) {
+    if (accessor.set) {
+      rows.push_back({accessor.name, [&accessor](Object& o) { return accessor.set(o, nullptr); }});
+    }
+  }
+  EXPECT_EQ(rows.size(), 22U) << "every member that takes a text";
+  for (const Row& row : rows) {
+    EXPECT_FALSE(row.set(over_head())) << row.name;
+    EXPECT_EQ(bytes(), kHead) << row.name;
+    EXPECT_FALSE(row.set(over_missing_file())) << row.name;
+    EXPECT_FALSE(exists(path_)) << row.name;
+  }
+  over_head().SetFilePath(static_cast<char*>(nullptr));
+  EXPECT_FALSE(object_.SetMeshLayer(6)) << "an object without a path";
 }
 
 TEST_F(Rows, WithoutAFileNothingIsWritten) {
@@ -359,7 +422,6 @@ TEST_F(Conditions, PointIsNotFoundWhereALineIsMissing) {
   double y = 77;
   EXPECT_FALSE(over(block()).GetBCProfile(3, 2, x, y)) << "behind the last line";
   EXPECT_FALSE(over("[Summary]\nTotalNodeBC = 3\n").GetBCProfile(1, 1, x, y)) << "no block";
-  EXPECT_FALSE(over(kBlock + std::string("1\tTop\n1 = 1 2\n")).GetBCProfile(1, 1, x, y)) << "no total";
   EXPECT_FALSE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n").GetBCProfile(5, 1, x, y)) << "no name line";
   EXPECT_EQ(x, 77);
   EXPECT_EQ(y, 77);

@@ -315,6 +315,15 @@ TEST_F(MachineBank, TakesEitherLineBreakAndAMissingLastOne) {
   EXPECT_THAT(all_makers(machines_), ElementsAre("A", "B"));
 }
 
+TEST_F(MachineBank, EndsBeforeAFinalControlZ) {
+  EXPECT_TRUE(load(kBefore + machine("A", "1") + "\x1A"));
+  EXPECT_THAT(all_makers(machines_), ElementsAre("A"));
+  std::string short_record = machine("B", "1", 21);
+  short_record.back() = ',';
+  EXPECT_TRUE(load(kBefore + short_record + "\x1A"));
+  EXPECT_THAT(all_makers(machines_), IsEmpty()) << "it is no 22nd field";
+}
+
 TEST_F(MachineBank, SeesALongLineInPieces) {
   const std::string before = "0," + std::string(1021, 'x');
   ASSERT_EQ(before.size(), 1023U);

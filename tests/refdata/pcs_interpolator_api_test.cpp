@@ -86,6 +86,16 @@ TEST_F(CoolantTables, ShiftIdentifiersFromSixOnAndRefuseThreeToFive) {
   }
 }
 
+TEST_F(CoolantTables, TakeASectionWithoutANumberForNoCoolant) {
+  for (const char* name : {"[Coolant-Water]", "[Coolant-]", "[Coolant-x0]", "[Coolant--]"}) {
+    ASSERT_TRUE(load(std::string(name) + "\nDataCount = 1\nData-1 = 0 9 9 9 9\n[Coolant-0]\nDataCount = 1\nData-1 = 0 1 2 3 4\n"));
+    EXPECT_EQ(at(0, 0), Properties({1, 2, 3, 4})) << name;
+    ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 2 3 4\n" + std::string(name) + "\nDataCount = 1\nData-1 = 0 9 9 9 9\n"));
+    EXPECT_FALSE(at(0, 0)) << name;
+    EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4})) << "its lines belong to no other coolant: " << name;
+  }
+}
+
 TEST_F(CoolantTables, TakeTheFirstOfTwoSectionsOfOneNumber) {
   ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 0 0 0\n[Coolant-1]\nDataCount = 1\nData-1 = 0 2 0 0 0\n"));
   EXPECT_EQ(at(1, 0), Properties({1, 0, 0, 0}));

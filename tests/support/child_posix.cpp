@@ -12,7 +12,7 @@ namespace {
 bool apply(const Limits& limits) {
   if (limits.longest_file != 0) {
     const rlimit limit{limits.longest_file, limits.longest_file};
-    if (std::signal(SIGXFSZ, SIG_IGN) == SIG_ERR || ::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+    if (std::signal(SIGXFSZ, limits.survives_long_file ? SIG_IGN : SIG_DFL) == SIG_ERR || ::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
       return false;
     }
   }

@@ -100,6 +100,64 @@ TEST(Threads, WriteFilesOfTheirOwn) {
   EXPECT_EQ(wrong, 0);
 }
 
+TEST(Threads, NamesOfLinesAreTheirOwn) {
+  const Scratch scratch;
+  std::atomic<int> wrong = 0;
+  std::atomic<int> ready = 0;
+  on_threads([&](int number) {
+    const std::string n = std::to_string(number);
+    const std::string path = scratch.file("[Coolant]\n1 = 1 2 3 4 5 Water-" + n + " 6 7\n[Moldbase]\n1 = 1 2 3 Steel-" + n + " 4 5 6\n", n + ".pro");
+    CQELPROReader_Manipulator reader;
+    double d[6] = {};
+    int i[2] = {};
+    char* coolant = nullptr;
+    char* base = nullptr;
+    const bool read = reader.SetFilePath(path.c_str()) && reader.Coolant_ReadCoolant(d[0], d[1], d[2], d[3], i[0], coolant, d[4], i[1], 1) &&
+                      reader.Moldbase_ReadMoldbase(d[0], d[1], d[2], base, d[3], d[4], d[5], 1);
+    for (++ready; ready < kThreads;) {
+      std::this_thread::yield();
+    }
+    wrong += read && "Water-" + n == coolant && "Steel-" + n == base ? 0 : 1;
+  });
+  EXPECT_EQ(wrong, 0);
+}
+
+// Copies of one object that come and go on different threads; what they share is released once, by the last of them.
+template <class Object>
+void copy_on_threads(Object& object) {
+  on_threads([&object](int /*number*/) {
+    for (int round = 0; round < kRounds; ++round) {
+      Object copy(object);
+      Object other;
+      other = copy;
+    }
+  });
+}
+
+TEST(Threads, CopyAndForgetOneObject) {
+  const Scratch scratch;
+  const std::string path = scratch.file(file_of(1));
+  CQELPROReader_Manipulator reader;
+  CQELPROWriter_Manipulator writer;
+  CQEL_ProcessAdapter adapter;
+  CQELMachineIdentification machines;
+  CQELPCSInterpolator coolants;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()) && writer.SetFilePath(path.c_str()) && adapter.SetProcessPath(path.c_str()));
+  machines.SetMachineUserBankPath(data_path("machines.bank").c_str());
+  ASSERT_TRUE(machines.LoadFileData() && coolants.LoadDataFromFile(data_path("coolants.pcs").c_str()));
+  copy_on_threads(reader);
+  copy_on_threads(writer);
+  copy_on_threads(adapter);
+  copy_on_threads(machines);
+  copy_on_threads(coolants);
+  double time = 0;
+  double p[4] = {};
+  EXPECT_TRUE(writer.FlowX_WriteFillingTime(7.5, 1) && adapter.SetCoolCTL_WriteCoolantTemperature(60, 1));
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 1));
+  EXPECT_EQ(machines.GetMakerCount(), 4);
+  EXPECT_TRUE(coolants.InterpolateCoolantProperties(6, 10, p[0], p[1], p[2], p[3]));
+}
+
 TEST(Threads, LoadProcessesOfTheirOwn) {
   const Scratch scratch;
   std::atomic<int> wrong = 0;

@@ -15,6 +15,7 @@ namespace {
 
 using namespace qelpro_test;
 using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -226,6 +227,20 @@ TEST(Set, RefusesAStoreThatAnotherLineHides) {
   EXPECT_EQ(bytes_of(file), contents);
 }
 
+TEST(EveryCommand, TakesAHeaderWithWordsBehindItForAHeader) {
+  const Scratch scratch;
+  const std::string file =
+      scratch.file("[Flow-1] # first inlet\nFillTime = 1\n[Flow-2]\tsecond\nMeltTemp = 2\n[SURFACE ELEMENT BOUNDARY CONDITION NAME] x\n1\tA\t0\n");
+  EXPECT_EQ(qelpro({"get", file, "Flow-1", "FillTime"}).out, "1\n");
+  EXPECT_EQ(qelpro({"get", file, "Flow-1", "MeltTemp"}).status, 1);
+  EXPECT_THAT(qelpro({"show", file}).out,
+              AllOf(StartsWith("[Flow-1]  # the filling stage of an inlet\n  # line 1: \"# first inlet\" behind the header is not read\n"),
+                    HasSubstr("\n[Flow-2]  # the filling stage"), HasSubstr("line 1 = 1  A  0")));
+  EXPECT_EQ(qelpro({"set", file, "Flow-1", "MeltTemp", "5"}).status, 0);
+  EXPECT_THAT(bytes_of(file), StartsWith("[Flow-1] # first inlet\nFillTime = 1\nMeltTemp = 5\n[Flow-2]\tsecond\nMeltTemp = 2\n"));
+  EXPECT_THAT(qelpro({"process", file}).out, AllOf(HasSubstr("FillTime: 1.0"), HasSubstr("MeltTemp: 5.0")));
+}
+
 TEST(EveryCommand, RefusesAUtf16File) {
   const Scratch scratch;
   for (const std::string& contents :
@@ -354,13 +369,21 @@ TEST(Show, ReadsThePositionalSectionLineByLine) {
 TEST(Show, PrintsTheRawTextOfWhatDidNotScanWhole) {
   const Scratch scratch;
   const std::string file = scratch.file("[Flow-1]\nFillTime = 1.5abc\nMeltTemp = 2\nFR-1 = 7\nMoldTemp = 1,5\nFRSet = \n");
-  EXPECT_EQ(qelpro({"show", file}).out,
-            "[Flow-1]  # the filling stage of an inlet\n"
-            "  FillTime = 1.5  (\"1.5abc\")  # the filling time, in sec; line 2: \"abc\" is not read\n"
-            "  MeltTemp = 2.0  # the melt temperature, in oC\n"
-            "  FR-1 = 7.0  0.0  (\"7\")  # a point of the flow rate profile; line 4: field 2, a number, is missing\n"
-            "  MoldTemp = 1.0  (\"1,5\")  # the mold temperature, in oC; line 5: \",5\" is not read: the decimal point is \".\"\n"
-            "  FRSet = 0  (\"\")  # the number of flow rate points; line 6: a whole number is missing\n");
+  const std::string out = qelpro({"show", file}).out;
+  const std::vector<std::pair<std::string, std::string>> lines = {
+      {"  FillTime = 1.5  (\"1.5abc\")  # ", "; line 2: \"abc\" is not read\n"},
+      {"  MeltTemp = 2.0  # ", "\n"},
+      {"  FR-1 = 7.0  0.0  (\"7\")  # ", "; line 4: field 2, a number, is missing\n"},
+      {"  MoldTemp = 1.0  (\"1,5\")  # ", "; line 5: \",5\" is not read: the decimal point is \".\"\n"},
+      {"  FRSet = 0  (\"\")  # ", "; line 6: a whole number is missing\n"}};
+  std::size_t at = out.find('\n') + 1;
+  for (const auto& [front, back] : lines) {
+    const std::string line = out.substr(at, out.find('\n', at) + 1 - at);
+    EXPECT_THAT(line, AllOf(StartsWith(front), EndsWith(back)));
+    EXPECT_EQ(line.find("; line") == std::string::npos, back == "\n") << line;
+    at += line.size();
+  }
+  EXPECT_EQ(at, out.size());
   EXPECT_THAT(qelpro({"show", file, "--json"}).out, AllOf(HasSubstr("\"text\": \"1.5abc\""), HasSubstr("\"note\": \"\\\"abc\\\" is not read\"")));
 }
 

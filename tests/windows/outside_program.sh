@@ -13,7 +13,7 @@ for file in bin/QELPROEngine.dll bin/QELG.dll bin/qelpro.exe lib/QELPROEngine.dl
   [[ -f $scratch/prefix/$file ]] || { echo "$file is not installed" >&2; exit 1; }
 done
 cp "$source/outside.cpp" "$source/CMakeLists.txt" "$scratch/"
-cmake -S "$scratch" -B "$scratch/cmake" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+cmake -G Ninja -S "$scratch" -B "$scratch/cmake" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
   -DCMAKE_PREFIX_PATH="$scratch/prefix" -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH >/dev/null
 cmake --build "$scratch/cmake" >/dev/null
 

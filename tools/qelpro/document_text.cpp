@@ -39,10 +39,14 @@ std::vector<TextLine> lines_of(std::string_view contents) {
   return lines;
 }
 
-// Lookups take a header by its first token; a name with blanks is known by the whole of it.
+// Lookups take a header by its first token; a name with blanks is known by the whole of it, up to the bracket that has words behind it.
 std::string_view name_of(std::string_view header) {
   const std::string_view token = text::first_token(header);
-  return token.size() > 1 && token.back() == ']' ? token : text::index_value(header);
+  if (token.size() > 1 && token.back() == ']') {
+    return token;
+  }
+  const std::size_t close = std::min(header.find("] "), header.find("]\t"));
+  return close != std::string_view::npos ? header.substr(0, close + 1) : text::index_value(header);
 }
 
 }  // namespace

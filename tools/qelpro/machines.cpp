@@ -57,9 +57,9 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
   const Where where{bank, version.line, "", ""};
   switch (version.problem) {
     case BankProblem::holds_total:
-      throw Failure(kFileError, at(where, "not a machine bank of version 7007: its header holds a \"TotalNo\" line"));
+      throw Failure(kFileError, at(where, R"(not a machine bank of version 7007: its header holds a "TotalNo" line)"));
     case BankProblem::no_version_line:
-      throw Failure(kFileError, at(where, "not a machine bank: no \"Version\" line behind a \"[Header]\" line"));
+      throw Failure(kFileError, at(where, R"(not a machine bank: no "Version" line behind a "[Header]" line)"));
     case BankProblem::unreadable_version:
       throw Failure(kFileError, at(where, "no version can be read from \"" + version.text + "\": write \"Version,7007\""));
     case BankProblem::other_version:

@@ -8,6 +8,7 @@
 #include <set>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 #include "blocks/catalogue.h"
@@ -59,7 +60,7 @@ struct Entries {
 
 class Diagnosis {
  public:
-  Diagnosis(const std::string& file, const DocumentText& document) : file_(file), document_(document) {}
+  Diagnosis(std::string file, const DocumentText& document) : file_(std::move(file)), document_(document) {}
 
   std::vector<ProcessNote> run() {
     for (std::size_t index = 0; index < document_.lines_before_sections(); ++index) {

@@ -43,7 +43,7 @@ class Printer {
 class PlainPrinter : public Printer {
  public:
   void begin_section(const Json& section) override {
-    if (section["section"] == "") {
+    if (plain_text(section["section"]).empty()) {
       answer() << "# before the first section\n";
       return;
     }
@@ -90,7 +90,7 @@ class JsonPrinter : public Printer {
     answer() << '[';
     any_entry_ = false;
     passed_over_.clear();
-    notes_ = Json::array();
+    notes_.clear();
   }
   void entry(const Json& entry) override {
     answer() << (any_entry_ ? ",\n" : "\n") << std::string(kMembers + 2, ' ');
@@ -114,7 +114,7 @@ class JsonPrinter : public Printer {
     if (!notes_.empty()) {
       answer() << ',';
       write_member("notes");
-      write_json(answer(), notes_, kMembers);
+      write_json(answer(), Json(notes_), kMembers);
     }
     answer() << "\n  }";
   }
@@ -132,7 +132,7 @@ class JsonPrinter : public Printer {
   bool any_section_ = false;
   bool any_entry_ = false;
   std::vector<PassedOver> passed_over_;
-  Json notes_;
+  std::vector<std::string> notes_;
 };
 
 // Why no lookup takes a value from the line; empty for an entry and for a blank line.

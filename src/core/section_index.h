@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/line_scanner.h"
+#include "core/name_table.h"
+
+namespace qel {
+
+/// A line that a session has seen: where it began, and how, so that a later look tells whether it still does.
+class LineMark {
+ public:
+  LineMark() = default;
+  LineMark(const Line& line, std::string_view first_token, std::uint32_t file);
+
+  [[nodiscard]] bool is_set() const { return file_ != 0; }
+  [[nodiscard]] std::int64_t start() const { return start_; }
+  [[nodiscard]] bool is_piece() const { return is_piece_; }
+  [[nodiscard]] std::uint32_t file() const { return file_; }
+
+  /// Whether a line begins with the first token that the marked one had, as far as the mark remembers it.
+  [[nodiscard]] bool matches(std::string_view line) const;
+
+ private:
+  std::int64_t start_ = 0;
+  std::uint32_t file_ = 0;  // the number of the session's file, from 1; 0 while no line is marked
+  std::uint32_t token_size_ = 0;
+  char token_[15];  // its first characters: enough to tell the keys of a section apart
+  bool is_piece_ = false;
+};
+
+/// Where the headers and entries that a reading session has passed begin. It only grows, but for `forget`. What was learnt of an
+/// earlier file of the session stays; its file number tells it from the present one's.
+class SectionIndex {
+ public:
+  SectionIndex() = default;
+  SectionIndex(const SectionIndex&) = delete;
+  SectionIndex& operator=(const SectionIndex&) = delete;
+
+  struct Place {
+    std::int64_t offset = 0;
+    std::uint32_t file = 0;
+    bool is_piece = false;
+  };
+
+  struct Section {
+    Place header;
+    LineMark passed;  ///< The last entry line of the present file that was learnt; what stands before it is known.
+  };
+
+  /// The section of this name; valid until the next `learn_section`. It is entered where it is new, which a lookup that meets its
+  /// header does.
+  Section& learn_section(std::string_view name, const Line& header);
+  /// Null for a section that has not been passed.
+  [[nodiscard]] Section* section(std::string_view name);
+
+  /// The one name under which a line is looked up: its section's and its key's, as they are spelled in the file. Valid until the
+  /// next call with the same purpose.
+  enum class Purpose { looked_for, passed };
+  HashedName line_name(Purpose purpose, std::string_view section, std::string_view key);
+
+  /// Enters the line of a key, the first time that the key is met.
+  void learn_entry(const HashedName& name, const Line& line, std::string_view first_token);
+  /// Notes the line that a lookup by position found, the first time: later ones under the same name find it again.
+  void learn_position(const HashedName& name, const Line& line, std::string_view first_token);
+  /// Null for a line that has not been passed; valid until the next `learn_entry`.
+  [[nodiscard]] const Place* entry(const HashedName& name) { return entries_.find(name); }
+  [[nodiscard]] const LineMark* position(const HashedName& name) { return positions_.find(name); }
+
+  /// The line learnt furthest from the file's beginning: the headers before it are all known.
+  [[nodiscard]] const LineMark& furthest() const { return furthest_; }
+
+  [[nodiscard]] bool is_of_present_file(std::uint32_t file) const { return file == file_; }
+  /// A mark of the present file for a line.
+  [[nodiscard]] LineMark mark(const Line& line, std::string_view first_token) const { return {line, first_token, file_}; }
+
+  /// Another file is read from now on. The offsets stay.
+  void begin_file() { ++file_; }
+  /// The file was changed: all offsets go.
+  void forget();
+
+ private:
+  void note_furthest(const Line& line, std::string_view first_token);
+
+  NameTable<Section> sections_;
+  NameTable<Place> entries_;
+  NameTable<LineMark> positions_;
+  std::size_t last_section_ = 0;  // the position of the one that was asked for last
+  LineMark furthest_;
+  std::uint32_t file_ = 1;
+  std::string names_[2];
+};
+
+}  // namespace qel
