@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <tuple>
+#include <vector>
 
 #include "support/run.h"
 #include "support/scratch.h"
@@ -48,6 +50,38 @@ TEST(MachinesCommand, TellsWhatIsMissing) {
   EXPECT_EQ(refused.status, 3);
   EXPECT_THAT(refused.err, HasSubstr("TotalNo"));
   EXPECT_EQ(qelpro({"machines"}).status, 2);
+}
+
+TEST(MachinesCommand, TellsABankOfAnUnreadableVersionFromAnEmptyOne) {
+  const Scratch scratch;
+  const std::string data = "[Machine Database]\n";
+  const std::vector<std::tuple<std::string, int, std::string>> rows = {
+      {"[Header]\nVersion = 7007\n" + data, 3, ":2: no version can be read from \"Version = 7007\": write \"Version,7007\"\n"},
+      {"[Header]\nVersion,7007\n" + data, 1, ": the bank is empty: no line of it is a machine (flag 1 and 22 fields or more)\n"},
+      {"[Header]\nVersion,7010\n" + data, 1, ":2: no machine: \"Version,7010\" is not version 7007, the one that is read\n"},
+      {data, 3, ": not a machine bank: no \"Version\" line behind a \"[Header]\" line\n"}};
+  for (const auto& [contents, status, message] : rows) {
+    const std::string bank = scratch.file(contents, "bank");
+    const Outcome outcome = qelpro({"machines", bank});
+    EXPECT_EQ(outcome.status, status) << message;
+    EXPECT_EQ(outcome.err, "qelpro: " + bank + message);
+  }
+}
+
+TEST(CoolantCommand, HelpSaysWhichNumberIdentifiesACoolant) {
+  EXPECT_THAT(qelpro({"coolant", "--help"}).out, AllOf(HasSubstr("[Coolant-3]"), HasSubstr("the section's number plus 3")));
+}
+
+TEST(CoolantCommand, NamesTheCoolantsThatAreThereWhereOneIsNotFound) {
+  const Outcome absent = qelpro({"coolant", data_path("coolants.pcs"), "17", "10"});
+  EXPECT_EQ(absent.status, 1);
+  EXPECT_EQ(absent.err, "qelpro: " + data_path("coolants.pcs") +
+                            ": coolant 17: not found; there are 0 ([Coolant-0], Water), 1 ([Coolant-1], Oil), 2 ([Coolant-2], WaterGlycol), "
+                            "6 ([Coolant-3], Brine), 7 ([Coolant-4], Steam), 8 ([Coolant-5], Unfinished, without \"DataCount\")\n");
+  EXPECT_THAT(qelpro({"coolant", data_path("coolants.pcs"), "8", "10"}).err, HasSubstr("its section holds no \"DataCount\" above 0"));
+  EXPECT_THAT(qelpro({"coolant", data_path("coolants.pcs"), "4", "10"}).err, HasSubstr("3, 4 and 5 identify no coolant"));
+  const Scratch scratch;
+  EXPECT_THAT(qelpro({"coolant", scratch.file("[Header]\n", "none.pcs"), "0", "10"}).err, HasSubstr("the file has no coolant"));
 }
 
 TEST(CoolantCommand, PrintsTheFourProperties) {

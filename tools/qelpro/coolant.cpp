@@ -3,19 +3,20 @@
 #include <CLI/CLI.hpp>
 #include <array>
 #include <cmath>
-#include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "commands.h"
+#include "json_text.h"
+#include "output.h"
+#include "platform/files.h"
+#include "reference_text.h"
 #include "status.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Arguments {
   std::vector<std::string> words;  // [FILE] ID TEMPERATURE, or [FILE] with --table
@@ -32,81 +33,130 @@ struct Request {
   std::vector<double> temperatures;
 };
 
-// Nothing, with a message in `why`, where the arguments make no request.
-std::optional<Request> request_of(const Arguments& arguments, std::string& why) {
-  constexpr double kMostRows = 1e6;
-  Request request;
-  std::size_t words = arguments.words.size();
-  if (arguments.table) {
-    if (!arguments.from || !arguments.to || !arguments.step) {
-      why = "--table needs --from, --to and --step";
-      return std::nullopt;
-    }
-    const double rows = std::floor((*arguments.to - *arguments.from) / *arguments.step + 1e-9);
-    if (!(*arguments.step > 0) || !(rows >= 0) || rows > kMostRows) {
-      why = "--from, --to and --step give no table: the step must be above 0, and --to not below --from";
-      return std::nullopt;
-    }
-    request.coolant = *arguments.table;
-    for (int row = 0; row <= static_cast<int>(rows); ++row) {
-      request.temperatures.push_back(*arguments.from + row * *arguments.step);
-    }
-  } else {
-    double temperature = 0;
-    if (words < 2 || !CLI::detail::lexical_cast(arguments.words[words - 2], request.coolant) ||
-        !CLI::detail::lexical_cast(arguments.words[words - 1], temperature)) {
-      why = "give a coolant's identifier and a temperature, or --table";
-      return std::nullopt;
-    }
-    request.temperatures.push_back(temperature);
-    words -= 2;
-  }
-  if (words > 1) {
-    why = "too many arguments";
-    return std::nullopt;
-  }
-  if (words == 1) {
-    request.file = arguments.words.front();
-    return request;
-  }
+[[noreturn]] void refuse(const std::string& why) { throw Failure(kUsage, "coolant: " + why + "; see qelpro coolant --help"); }
+
+std::string own_file() {
   std::array<char, 4096> path{};
   if (!g_GetCurrentUserPSCFilePath(path.data(), static_cast<unsigned int>(path.size()))) {
-    why = "no folder of settings is known for this user: name a coolant settings file";
-    return std::nullopt;
+    refuse("no folder of settings is known for this user: name a coolant settings file");
   }
-  request.file = path.data();
+  return path.data();
+}
+
+void take_table(const Arguments& arguments, Request& request) {
+  constexpr double kMostRows = 1e6;
+  for (const auto& [given, name] : {std::pair(arguments.from.has_value(), "--from"), std::pair(arguments.to.has_value(), "--to"),
+                                    std::pair(arguments.step.has_value(), "--step")}) {
+    if (!given) {
+      refuse(std::string("--table needs --from, --to and --step: ") + name + " is missing");
+    }
+  }
+  if (!(*arguments.step > 0)) {
+    refuse("--step must be above 0");
+  }
+  const double rows = std::floor((*arguments.to - *arguments.from) / *arguments.step + 1e-9);
+  if (!(rows >= 0)) {
+    refuse("--to must not be below --from");
+  }
+  if (rows > kMostRows) {
+    refuse("--step is too small: the table would have more than a million rows");
+  }
+  request.coolant = *arguments.table;
+  for (int row = 0; row <= static_cast<int>(rows); ++row) {
+    request.temperatures.push_back(*arguments.from + row * *arguments.step);
+  }
+}
+
+// The last two words are the coolant and the temperature.
+void take_point(std::vector<std::string>& words, Request& request) {
+  if (words.size() < 2) {
+    refuse(words.empty() ? "ID and TEMPERATURE are missing; or give --table"
+                         : "TEMPERATURE is missing behind \"" + words.back() + "\"; or give --table");
+  }
+  double temperature = 0;
+  if (!CLI::detail::lexical_cast(words.back(), temperature)) {
+    refuse("\"" + words.back() + "\" is no temperature");
+  }
+  words.pop_back();
+  if (!CLI::detail::lexical_cast(words.back(), request.coolant)) {
+    refuse("\"" + words.back() + "\" is no coolant's identifier: give a whole number");
+  }
+  words.pop_back();
+  request.temperatures.push_back(temperature);
+}
+
+Request request_of(const Arguments& arguments) {
+  Request request;
+  std::vector<std::string> words = arguments.words;
+  if (arguments.table) {
+    take_table(arguments, request);
+  } else {
+    take_point(words, request);
+  }
+  if (words.size() > 1) {
+    refuse("\"" + words[1] + "\" is one word too many");
+  }
+  request.file = words.empty() ? own_file() : words.front();
   return request;
 }
 
-int coolant(const Arguments& arguments) {
-  std::string why;
-  const std::optional<Request> request = request_of(arguments, why);
-  if (!request) {
-    return fail(kUsage, "coolant: " + why);
+std::string description_of(const ListedCoolant& coolant) {
+  return std::to_string(coolant_identifier(coolant.number)) + " ([Coolant-" + std::to_string(coolant.number) + "]" +
+         (coolant.name.empty() ? "" : ", " + coolant.name) + (coolant.has_rows ? "" : ", without \"DataCount\"") + ")";
+}
+
+[[noreturn]] void fail_to_find(const Request& request, const std::vector<ListedCoolant>& coolants) {
+  std::string what = "coolant " + std::to_string(request.coolant) + ": not found";
+  if (request.coolant >= 3 && request.coolant <= 5) {
+    what += ": 3, 4 and 5 identify no coolant";
   }
+  for (const ListedCoolant& coolant : coolants) {
+    if (coolant_identifier(coolant.number) == request.coolant) {
+      what += ": its section holds no \"DataCount\" above 0";
+      break;
+    }
+  }
+  std::string there;
+  for (const ListedCoolant& coolant : coolants) {
+    there += (there.empty() ? "" : ", ") + description_of(coolant);
+  }
+  throw Failure(kNotFound, at(request.file, what + (there.empty() ? "; the file has no coolant" : "; there are " + there)));
+}
+
+std::string in_columns(const std::vector<double>& numbers) {
+  std::ostringstream line;
+  line.imbue(std::locale::classic());
+  for (const double number : numbers) {
+    line << (line.tellp() == 0 ? "" : "\t") << number;
+  }
+  return line.str() + "\n";
+}
+
+int coolant(const Arguments& arguments) {
+  const Request request = request_of(arguments);
+  const std::string contents = platform::read_file(request.file);
   CQELPCSInterpolator tables;
-  if (!tables.LoadDataFromFile(request->file.c_str())) {
-    return fail(kFileError, request->file + ": " + why_unreadable(request->file));
+  if (!tables.LoadDataFromFile(request.file.c_str())) {
+    throw Failure(kFileError, at(request.file, "cannot be loaded: out of memory, or changed meanwhile"));
   }
   Json rows = Json::array();
-  for (const double temperature : request->temperatures) {
+  for (const double temperature : request.temperatures) {
     double p1 = 0;
     double p2 = 0;
     double p3 = 0;
     double p4 = 0;
-    if (!tables.InterpolateCoolantProperties(request->coolant, temperature, p1, p2, p3, p4)) {
-      return fail(kNotFound, request->file + ": coolant " + std::to_string(request->coolant) + ": not found");
+    if (!tables.InterpolateCoolantProperties(request.coolant, temperature, p1, p2, p3, p4)) {
+      fail_to_find(request, coolants_of(contents));
     }
     if (arguments.json) {
       rows.push_back({{"temperature", temperature}, {"properties", {p1, p2, p3, p4}}});
-    } else if (arguments.table) {
-      std::cout << temperature << '\t' << p1 << '\t' << p2 << '\t' << p3 << '\t' << p4 << '\n';
     } else {
-      std::cout << p1 << '\t' << p2 << '\t' << p3 << '\t' << p4 << '\n';
+      answer() << (arguments.table ? in_columns({temperature, p1, p2, p3, p4}) : in_columns({p1, p2, p3, p4}));
     }
   }
   if (arguments.json) {
-    std::cout << (arguments.table ? rows : rows.front()).dump(2) << '\n';
+    write_json(answer(), arguments.table ? rows : rows.front());
+    answer() << '\n';
   }
   return kDone;
 }
@@ -125,5 +175,9 @@ void add_coolant(CLI::App& app, int& status) {
   command->add_option("--to", arguments->to, "The temperature that the table does not exceed")->type_name("T");
   command->add_option("--step", arguments->step, "The step between two temperatures")->type_name("D");
   command->add_flag("--json", arguments->json, "Print JSON");
+  command->footer(
+      "ID is 0, 1 or 2 for the section [Coolant-0], [Coolant-1] or [Coolant-2], and from 6 on the section's number plus 3: 6 is [Coolant-3], 7 is\n"
+      "[Coolant-4]. 3, 4 and 5 identify no coolant. An ID that is not found is answered with those that are there.\n"
+      "Example: qelpro coolant coolants.pcs 6 25");
   command->callback([arguments, &status] { status = coolant(*arguments); });
 }

@@ -1,17 +1,18 @@
 #include <QELPROEngine/CQELMachineIdentification.h>
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "commands.h"
+#include "json_text.h"
+#include "output.h"
+#include "platform/files.h"
+#include "reference_text.h"
 #include "status.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Arguments {
   std::string bank;
@@ -19,7 +20,7 @@ struct Arguments {
   bool json = false;
 };
 
-int list_makers(CQELMachineIdentification& machines, bool json) {
+void list_makers(CQELMachineIdentification& machines, bool json) {
   const char** makers = nullptr;
   int count = 0;
   machines.GetAllMaker(&makers, &count);
@@ -29,50 +30,67 @@ int list_makers(CQELMachineIdentification& machines, bool json) {
     if (json) {
       list.push_back({{"maker", makers[i]}, {"grades", grades}});
     } else {
-      std::cout << makers[i] << '\t' << grades << '\n';
+      answer() << makers[i] << '\t' << std::to_string(grades) << '\n';
     }
   }
   if (json) {
-    std::cout << list.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    write_json(answer(), list);
+    answer() << '\n';
   }
-  return kDone;
 }
 
-int list_grades(CQELMachineIdentification& machines, const std::string& maker, bool json) {
+void list_grades(CQELMachineIdentification& machines, const std::string& maker, bool json) {
   const char** grades = nullptr;
   int count = 0;
   machines.GetAllGrade(maker.c_str(), &grades, &count);
   if (json) {
-    std::cout << Json{{"maker", maker}, {"grades", std::vector<std::string>(grades, grades + count)}}.dump(2, ' ', false,
-                                                                                                           Json::error_handler_t::replace)
-              << '\n';
-    return kDone;
+    write_json(answer(), {{"maker", maker}, {"grades", std::vector<std::string>(grades, grades + count)}});
+    answer() << '\n';
+    return;
   }
   for (int i = 0; i < count; ++i) {
-    std::cout << grades[i] << '\n';
+    answer() << grades[i] << '\n';
   }
-  return kDone;
+}
+
+[[noreturn]] void fail_without_machines(const std::string& bank, const BankVersion& version) {
+  const Where where{bank, version.line, "", ""};
+  switch (version.problem) {
+    case BankProblem::holds_total:
+      throw Failure(kFileError, at(where, R"(not a machine bank of version 7007: its header holds a "TotalNo" line)"));
+    case BankProblem::no_version_line:
+      throw Failure(kFileError, at(where, R"(not a machine bank: no "Version" line behind a "[Header]" line)"));
+    case BankProblem::unreadable_version:
+      throw Failure(kFileError, at(where, "no version can be read from \"" + version.text + "\": write \"Version,7007\""));
+    case BankProblem::other_version:
+      throw Failure(kNotFound, at(where, "no machine: \"" + version.text + "\" is not version 7007, the one that is read"));
+    case BankProblem::none:
+      break;
+  }
+  throw Failure(kNotFound, at(bank, "the bank is empty: no line of it is a machine (flag 1 and 22 fields or more)"));
 }
 
 int machines(const Arguments& arguments) {
-  if (const std::string why = why_unreadable(arguments.bank); !why.empty()) {
-    return fail(kFileError, arguments.bank + ": " + why);
-  }
+  const std::string contents = platform::read_file(arguments.bank);
   CQELMachineIdentification machines;
   machines.SetMachineUserBankPath(arguments.bank.c_str());
-  if (!machines.LoadFileData()) {
-    return fail(kFileError, arguments.bank + ": not a machine bank of this version (it holds a \"TotalNo\" line)");
+  const BankVersion version = bank_version_of(contents);
+  const bool loaded = machines.LoadFileData();
+  if (version.problem == BankProblem::holds_total || (loaded && machines.GetMakerCount() == 0)) {
+    fail_without_machines(arguments.bank, version);
   }
-  if (machines.GetMakerCount() == 0) {
-    return fail(kNotFound, arguments.bank + ": no machine (of a bank of version 7007)");
+  if (!loaded) {
+    throw Failure(kFileError, at(arguments.bank, "cannot be loaded: out of memory, or changed meanwhile"));
   }
   if (arguments.maker.empty()) {
-    return list_makers(machines, arguments.json);
+    list_makers(machines, arguments.json);
+    return kDone;
   }
   if (machines.GetGradeCount(arguments.maker.c_str()) == 0) {
-    return fail(kNotFound, arguments.bank + ": maker \"" + arguments.maker + "\": not found");
+    throw Failure(kNotFound, at(arguments.bank, "maker \"" + arguments.maker + "\": not found; qelpro machines FILE lists the makers"));
   }
-  return list_grades(machines, arguments.maker, arguments.json);
+  list_grades(machines, arguments.maker, arguments.json);
+  return kDone;
 }
 
 }  // namespace
@@ -83,5 +101,6 @@ void add_machines(CLI::App& app, int& status) {
   command->add_option("FILE", arguments->bank, "The machine bank")->required();
   command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
   command->add_flag("--json", arguments->json, "Print JSON");
+  command->footer("Example: qelpro machines machines.bank 'Any Maker'");
   command->callback([arguments, &status] { status = machines(*arguments); });
 }

@@ -1,11 +1,19 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
-/// The section whose lines are addressed by position.
-inline constexpr const char* kPositionalSection = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
+#include "document_text.h"
+#include "json_text.h"
 
-/// Its lines: header lines first, then each condition's setting lines. The file is read through a lent stream, which reads
-/// several lines of one section through one reader.
-nlohmann::ordered_json positional_lines(const std::string& file);
+/// The section whose lines are addressed by position. Lookups find it by its first word.
+bool is_positional(const TextSection& section);
+
+struct PositionalLines {
+  std::vector<Json> entries;
+  std::vector<std::size_t> passed_over;  ///< The indexes of the lines that nobody counts as a setting.
+  std::vector<std::string> notes;
+};
+
+/// Its lines: header lines first, then as many setting lines for each condition as its header line says and the section holds.
+PositionalLines positional_lines(const DocumentText& document, const TextSection& section);

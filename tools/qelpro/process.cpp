@@ -2,18 +2,19 @@
 #include <QELPROEngine/CQELProcessData_Manipulator.h>
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "commands.h"
+#include "document_text.h"
+#include "json_text.h"
+#include "output.h"
 #include "process_items.h"
+#include "process_notes.h"
 #include "status.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Arguments {
   std::string file;
@@ -104,11 +105,8 @@ Json process_of(const QELG_SimulatorProcess& process) {
 }
 
 std::string plain(const Json& value) {
-  if (value.is_string()) {
-    return value.get<std::string>();
-  }
   if (!value.is_array()) {
-    return value.dump();
+    return plain_text(value);
   }
   std::string line;
   for (const Json& part : value) {
@@ -120,14 +118,14 @@ std::string plain(const Json& value) {
 void print_lines(const Json& group, const std::string& indent) {
   for (const auto& [name, value] : group.items()) {
     if (value.is_array() && !value.empty() && value.front().is_array()) {
-      std::cout << indent << name << ":\n";
+      answer() << indent << name << ":\n";
       for (const Json& point : value) {
-        std::cout << indent << "  " << plain(point) << '\n';
+        answer() << indent << "  " << plain(point) << '\n';
       }
     } else if (value.is_object()) {
       print_lines(value, indent);
     } else if (!value.empty()) {
-      std::cout << indent << name << ": " << plain(value) << '\n';
+      answer() << indent << name << ": " << plain(value) << '\n';
     }
   }
 }
@@ -136,27 +134,52 @@ void print(const Json& process) {
   for (const auto& [name, group] : process.items()) {
     if (name == "inlets") {
       for (const Json& inlet : group) {
-        std::cout << "inlet " << inlet["number"] << '\n';
+        answer() << "inlet " << plain(inlet["number"]) << '\n';
         Json rest = inlet;
         rest.erase("number");
         print_lines(rest, "  ");
       }
     } else if (!group.empty()) {
-      std::cout << (name == "values" ? "process" : name) << '\n';
+      answer() << (name == "values" ? "process" : name) << '\n';
       print_lines(group.is_array() ? Json{{"values", group}} : group, "  ");
     }
   }
 }
 
+Json notes_as_json(const std::vector<ProcessNote>& notes) {
+  Json list = Json::array();
+  for (const ProcessNote& note : notes) {
+    Json entry = Json::object();
+    if (note.where.line != 0) {
+      entry["line"] = note.where.line;
+    }
+    entry["section"] = note.where.section;
+    entry["key"] = note.where.key;
+    entry["message"] = note.what;
+    list.push_back(std::move(entry));
+  }
+  return list;
+}
+
 int show(const Arguments& arguments) {
+  const DocumentText document = load_document(arguments.file);
+  if (document.sections().empty()) {
+    throw Failure(kFileError, at(arguments.file, "no process file: it has no section (a line such as [Flow-1])"));
+  }
   CQELProcessData_Manipulator loader;
   const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(arguments.file.c_str()));
   if (!process) {
-    return fail(kFileError, arguments.file + ": " + why_unreadable(arguments.file));
+    throw Failure(kFileError, at(arguments.file, "cannot be loaded: out of memory, or changed meanwhile"));
   }
-  const Json result = process_of(*process);
+  const std::vector<ProcessNote> notes = process_notes(arguments.file, document);
+  for (const ProcessNote& note : notes) {
+    complain(at(note.where, note.what));
+  }
+  Json result = process_of(*process);
   if (arguments.json) {
-    std::cout << result.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    result["notes"] = notes_as_json(notes);
+    write_json(answer(), result);
+    answer() << '\n';
   } else {
     print(result);
   }
@@ -170,5 +193,8 @@ void add_process(CLI::App& app, int& status) {
   CLI::App* command = app.add_subcommand("process", "Build the simulator process of a file and print it");
   command->add_option("FILE", arguments->file, "The process file")->required();
   command->add_flag("--json", arguments->json, "Print JSON");
+  command->footer(
+      "What of the file does not reach the process as it stands is told on stderr, and under \"notes\" in JSON.\nExample: qelpro process Default.pro "
+      "--json");
   command->callback([arguments, &status] { status = show(*arguments); });
 }

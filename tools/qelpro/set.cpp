@@ -1,10 +1,19 @@
+#include <QELPROEngine/CQELPROReader_Manipulator.h>
+
 #include <CLI/CLI.hpp>
+#include <array>
 #include <memory>
 #include <string>
 
+#include "blocks/catalogue.h"
 #include "commands.h"
-#include "own_section.h"
+#include "core/text.h"
+#include "document_text.h"
+#include "entry_edit.h"
+#include "names.h"
+#include "platform/files.h"
 #include "status.h"
+#include "value_check.h"
 
 namespace {
 
@@ -13,16 +22,61 @@ struct Arguments {
   std::string section;
   std::string key;
   std::string value;
+  bool force = false;
 };
 
-int set(const Arguments& arguments) {
-  const std::string reason = why_unreadable(arguments.file);
-  if (!reason.empty()) {
-    return fail(kFileError, arguments.file + ": " + reason);
+// Line breaks at a value's very end are no part of it.
+std::string without_line_breaks_behind(const std::string& value) { return value.substr(0, value.find_last_not_of("\r\n") + 1); }
+
+void check_encoding(const std::string& section, const std::string& key, const std::string& value) {
+  int number = 0;
+  const Reading reading = reading_of(qel::find_section(section.c_str(), number), key, qel::text::index_value(value));
+  if (reading.unread) {
+    throw Failure(kUsage, "\"" + value + "\" would not be read back whole: " + *reading.unread + " (it is read as: " + reading.key->encoding +
+                              "); --force stores it nevertheless");
   }
-  const std::string section = with_brackets(arguments.section);
-  const std::string error = store_in_own_section(arguments.file, section, arguments.key, arguments.value);
-  return error.empty() ? kDone : fail(kFileError, place(arguments.file, section, arguments.key) + ": " + error);
+}
+
+// The engine's own reading of the entry. Its lines are shorter than the buffer.
+bool is_read_back(const std::string& file, const std::string& section, const std::string& key, const std::string& value) {
+  std::array<char, 2 * qel::text::kLongestLine> buffer{};
+  CQELPROReader_Manipulator reader;
+  char* found = nullptr;
+  return reader.SetFilePath(file.c_str()) &&
+         reader.ReadString(section.c_str(), key.c_str(), found, buffer.data(), static_cast<unsigned int>(buffer.size())) &&
+         qel::text::index_value(value) == found;
+}
+
+void store(const Arguments& arguments, const std::string& section, const std::string& value) {
+  platform::Replacement file(arguments.file);
+  const DocumentText document(arguments.file, file.old_contents());
+  const std::string contents = with_entry(document, section, arguments.key, value);
+  if (contents == document.contents()) {
+    return;
+  }
+  const std::string& written = file.write(contents);
+  if (!is_read_back(written, section, arguments.key, value)) {
+    throw Failure(kFileError,
+                  at({arguments.file, 0, section, arguments.key},
+                     "not stored: another line of the file would be read in its place; qelpro show tells the lines that are passed over"));
+  }
+  file.commit();
+}
+
+int set(const Arguments& arguments) {
+  const std::string value = without_line_breaks_behind(arguments.value);
+  std::string section;
+  try {
+    section = section_name(arguments.section);
+    check_entry(section, arguments.key, value);
+    if (!arguments.force) {
+      check_encoding(section, arguments.key, value);
+    }
+  } catch (const Failure& failure) {
+    throw Failure(failure.status(), at({arguments.file, 0, section.empty() ? arguments.section : section, arguments.key}, failure.what()));
+  }
+  store(arguments, section, value);
+  return kDone;
 }
 
 }  // namespace
@@ -34,6 +88,7 @@ void add_set(CLI::App& app, int& status) {
   command->add_option("SECTION", arguments->section, "The section, with or without its brackets")->required();
   command->add_option("KEY", arguments->key, "The key")->required();
   command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")->required();
-  command->footer("A value that begins with a dash comes behind '--'.");
+  command->add_flag("--force", arguments->force, "Store a value too that the key's encoding does not read back whole");
+  command->footer("A value that begins with a dash comes behind '--'.\nExample: qelpro set Default.pro Flow-1 FillTime 1.5");
   command->callback([arguments, &status] { status = set(*arguments); });
 }

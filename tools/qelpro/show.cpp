@@ -1,19 +1,21 @@
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "blocks/catalogue.h"
 #include "commands.h"
+#include "core/text.h"
 #include "document_text.h"
+#include "entry_json.h"
+#include "json_text.h"
+#include "names.h"
+#include "output.h"
 #include "positional.h"
 #include "status.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Arguments {
   std::string file;
@@ -21,130 +23,229 @@ struct Arguments {
   bool json = false;
 };
 
-Json field_of(const qel::Field& field) {
-  return std::visit(
-      []<class Value>(const Value& value) {
-        if constexpr (std::is_same_v<Value, std::monostate>) {
-          return Json();
-        } else {
-          return Json(value);
-        }
-      },
-      field);
-}
+/// Takes a file section by section, and of each its entries and the lines that the engine passes over, in the file's order.
+class Printer {
+ public:
+  Printer() = default;
+  Printer(const Printer&) = delete;
+  Printer& operator=(const Printer&) = delete;
+  virtual ~Printer() = default;
 
-std::string trimmed(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return std::string(text.substr(0, text.find_last_not_of(" \t") + 1));
-}
+  /// `section` has "section", "known" and, where they apply, "subject" and "repeated".
+  virtual void begin_section(const Json& section) = 0;
+  virtual void entry(const Json& entry) = 0;
+  virtual void passed_over(const TextLine& line, const std::string& why) = 0;
+  virtual void note(const std::string& note) = 0;
+  virtual void end_section() = 0;
+  virtual void end() = 0;
+};
 
-// The text behind the "=", as a raw read gives it.
-std::string value_text(std::string_view line) {
-  const std::size_t equals = line.find('=');
-  return equals == std::string_view::npos ? "" : trimmed(line.substr(equals + 1));
-}
-
-Json entry_of(const qel::SectionInfo* section, std::string_view line) {
-  const std::string key(first_token(line));
-  const std::string text = value_text(line);
-  Json entry = {{"key", key}, {"text", text}};
-  int number = 0;
-  const qel::KeyInfo* known = section != nullptr ? qel::find_key(*section, key.c_str(), number) : nullptr;
-  entry["known"] = known != nullptr;
-  if (known != nullptr) {
-    entry["meaning"] = known->meaning;
-    entry["encoding"] = known->encoding;
-    Json values = Json::array();
-    for (const qel::Field& field : known->fields(text.c_str(), number)) {
-      values.push_back(field_of(field));
+class PlainPrinter : public Printer {
+ public:
+  void begin_section(const Json& section) override {
+    if (plain_text(section["section"]).empty()) {
+      answer() << "# before the first section\n";
+      return;
     }
-    entry["values"] = values;
+    answer() << plain_text(section["section"]) << (section["known"] ? "  # " + plain_text(section["subject"]) : "  # unknown section")
+             << (section.contains("repeated") ? ", repeated: never read\n" : "\n");
   }
-  return entry;
+  void entry(const Json& entry) override {
+    const bool known = entry["known"];
+    std::string value;
+    if (known) {
+      for (const Json& field : entry["values"]) {
+        value += (value.empty() ? "" : "  ") + plain_text(field);
+      }
+    } else {
+      value = plain_text(entry["text"]);
+    }
+    answer() << "  " << plain_text(entry["key"]) << " = " << value;
+    if (known && entry.contains("note")) {
+      answer() << "  (\"" << plain_text(entry["text"]) << "\")";
+    }
+    answer() << (known ? "  # " + plain_text(entry["meaning"]) : "  # unknown key") << (entry.contains("repeated") ? ", repeated: never read" : "")
+             << (entry.contains("note") ? "; line " + plain_text(entry["line"]) + ": " + plain_text(entry["note"]) : "") << '\n';
+  }
+  void passed_over(const TextLine& line, const std::string& why) override {
+    answer() << "  # line " << std::to_string(line.number) << " is passed over, " << why << ": " << line.whole << '\n';
+  }
+  void note(const std::string& note) override { answer() << "  # " << note << '\n'; }
+  void end_section() override {}
+  void end() override {}
+};
+
+/// One section is complete before the next one is begun: no more of a long file is held than the lines that were passed over.
+class JsonPrinter : public Printer {
+ public:
+  void begin_section(const Json& section) override {
+    answer() << (any_section_ ? ",\n  {" : "[\n  {");
+    any_section_ = true;
+    for (const auto& item : section.items()) {
+      write_member(item.key());
+      write_json(answer(), item.value(), kMembers);
+      answer() << ',';
+    }
+    write_member("entries");
+    answer() << '[';
+    any_entry_ = false;
+    passed_over_.clear();
+    notes_.clear();
+  }
+  void entry(const Json& entry) override {
+    answer() << (any_entry_ ? ",\n" : "\n") << std::string(kMembers + 2, ' ');
+    any_entry_ = true;
+    write_json(answer(), entry, kMembers + 2);
+  }
+  void passed_over(const TextLine& line, const std::string& why) override { passed_over_.push_back({&line, why}); }
+  void note(const std::string& note) override { notes_.push_back(note); }
+  void end_section() override {
+    answer() << (any_entry_ ? "\n" + std::string(kMembers, ' ') + "]" : "]");
+    if (!passed_over_.empty()) {
+      answer() << ',';
+      write_member("passed over");
+      answer() << '[';
+      for (const PassedOver& line : passed_over_) {
+        answer() << (&line == passed_over_.data() ? "\n" : ",\n") << std::string(kMembers + 2, ' ');
+        write_json(answer(), {{"line", line.line->number}, {"text", std::string(line.line->whole)}, {"why", line.why}}, kMembers + 2);
+      }
+      answer() << '\n' << std::string(kMembers, ' ') << ']';
+    }
+    if (!notes_.empty()) {
+      answer() << ',';
+      write_member("notes");
+      write_json(answer(), Json(notes_), kMembers);
+    }
+    answer() << "\n  }";
+  }
+  void end() override { answer() << (any_section_ ? "\n]\n" : "[]\n"); }
+
+ private:
+  static constexpr std::size_t kMembers = 4;
+
+  static void write_member(const std::string& name) { answer() << '\n' << std::string(kMembers, ' ') << '"' << name << "\": "; }
+
+  struct PassedOver {
+    const TextLine* line;
+    std::string why;
+  };
+  bool any_section_ = false;
+  bool any_entry_ = false;
+  std::vector<PassedOver> passed_over_;
+  std::vector<std::string> notes_;
+};
+
+// Why no lookup takes a value from the line; empty for an entry and for a blank line.
+std::string why_passed_over(const TextLine& line) {
+  switch (kind_of(line)) {
+    case LineKind::comment:
+      return "a comment";
+    case LineKind::indented:
+      return line.text.front() == '=' ? "no key before the \"=\"" : "it begins with a blank";
+    case LineKind::without_equals:
+      return "no \"=\"";
+    case LineKind::blank:
+    case LineKind::entry:
+      break;
+  }
+  return {};
 }
 
-// The sections in the order of the file. What comes again under a name that came before is never read.
-Json sections_of(const std::string& file, const std::string& text) {
-  Json sections = Json::array();
-  const qel::SectionInfo* known = nullptr;
-  std::set<std::string> section_names;
-  std::set<std::string> keys;
-  for (const TextLine& line : lines_of(text)) {
-    if (is_header(line.text)) {
-      const std::string name = trimmed(line.text);
-      int number = 0;
-      known = qel::find_section(name.c_str(), number);
-      keys.clear();
-      Json section = {{"section", name}, {"known", known != nullptr}};
-      if (known != nullptr) {
-        section["subject"] = known->subject;
+void print_entries(const DocumentText& document, const TextSection& section, Printer& printer) {
+  int section_number = 0;
+  const qel::SectionInfo* known_section = qel::find_section(std::string(section.name).c_str(), section_number);
+  std::set<std::string_view> keys;
+  for (std::size_t index = section.header + 1; index < section.behind; ++index) {
+    const TextLine& line = document.lines()[index];
+    const std::string_view key = qel::text::first_token(line.text);
+    if (const std::string why = why_passed_over(line); !why.empty()) {
+      printer.passed_over(line, why);
+      // A lookup takes the first line of a key, and finds an empty value where that has no "=".
+      if (kind_of(line) == LineKind::without_equals) {
+        keys.insert(key);
       }
-      if (!section_names.insert(std::string(first_token(name))).second) {
-        section["repeated"] = true;
-      }
-      section["entries"] = name == kPositionalSection && !section.contains("repeated") ? positional_lines(file) : Json::array();
-      sections.push_back(section);
       continue;
     }
-    const bool is_entry = line.text.find('=') != std::string_view::npos && !first_token(line.text).empty();
-    if (sections.empty() || !is_entry || sections.back()["section"] == kPositionalSection) {
+    if (kind_of(line) == LineKind::blank) {
       continue;
     }
-    Json entry = entry_of(known, line.text);
-    if (!keys.insert(entry["key"]).second) {
+    const std::string text(whole_value(line));
+    Json entry = typed_entry(std::string(key), line, text, reading_of(known_section, key, text));
+    if (!keys.insert(key).second) {
       entry["repeated"] = true;
     }
-    sections.back()["entries"].push_back(entry);
+    printer.entry(entry);
   }
-  return sections;
 }
 
-std::string plain(const Json& values) {
-  std::string line;
-  for (const Json& value : values) {
-    line += (line.empty() ? "" : "  ") + (value.is_string() ? value.get<std::string>() : value.dump());
+void print_section(const DocumentText& document, const TextSection& section, Printer& printer) {
+  int number = 0;
+  const qel::SectionInfo* known = qel::find_section(std::string(section.name).c_str(), number);
+  Json head = {{"section", std::string(section.name)}, {"known", known != nullptr}};
+  if (known != nullptr) {
+    head["subject"] = known->subject;
   }
-  return line;
-}
-
-void print(const Json& sections) {
-  for (const Json& section : sections) {
-    std::cout << section["section"].get<std::string>();
-    std::cout << (section["known"] ? "  # " + section["subject"].get<std::string>() : "  # unknown section");
-    std::cout << (section.contains("repeated") ? ", repeated: never read\n" : "\n");
-    for (const Json& entry : section["entries"]) {
-      const bool known = entry["known"];
-      std::cout << "  " << entry["key"].get<std::string>() << " = " << (known ? plain(entry["values"]) : entry["text"].get<std::string>())
-                << (known ? "  # " + entry["meaning"].get<std::string>() : "  # unknown key")
-                << (entry.contains("repeated") ? ", repeated: never read\n" : "\n");
+  if (section.repeated) {
+    head["repeated"] = true;
+  }
+  printer.begin_section(head);
+  const TextLine& header = document.lines()[section.header];
+  if (const std::string_view behind = qel::text::index_value(header.text.substr(section.name.size())); !behind.empty()) {
+    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) + "\" behind the header is not read");
+  }
+  if (is_positional(section) && !section.repeated) {
+    const PositionalLines lines = positional_lines(document, section);
+    for (const Json& entry : lines.entries) {
+      printer.entry(entry);
     }
+    for (const std::size_t line : lines.passed_over) {
+      printer.passed_over(document.lines()[line], "no condition counts it");
+    }
+    for (const std::string& note : lines.notes) {
+      printer.note(note);
+    }
+  } else {
+    print_entries(document, section, printer);
+  }
+  printer.end_section();
+}
+
+// Lines that belong to no section.
+void print_front(const DocumentText& document, Printer& printer) {
+  bool any = false;
+  for (std::size_t index = 0; index < document.lines_before_sections(); ++index) {
+    const TextLine& line = document.lines()[index];
+    if (kind_of(line) == LineKind::blank) {
+      continue;
+    }
+    if (!any) {
+      printer.begin_section({{"section", ""}, {"known", false}});
+      any = true;
+    }
+    printer.passed_over(line, kind_of(line) == LineKind::comment ? "a comment" : "it stands before the first section");
+  }
+  if (any) {
+    printer.end_section();
   }
 }
 
 int show(const Arguments& arguments) {
-  const std::string reason = why_unreadable(arguments.file);
-  if (!reason.empty()) {
-    return fail(kFileError, arguments.file + ": " + reason);
+  const std::string wanted = arguments.section.empty() ? "" : section_name(arguments.section);
+  const DocumentText document = load_document(arguments.file);
+  if (!wanted.empty() && document.find(wanted) == nullptr) {
+    throw Failure(kNotFound, at({arguments.file, 0, wanted, ""}, "not found: the file has no such section"));
   }
-  Json sections = sections_of(arguments.file, contents_of(arguments.file));
-  if (!arguments.section.empty()) {
-    const std::string wanted = with_brackets(arguments.section);
-    Json chosen = Json::array();
-    for (const Json& section : sections) {
-      if (section["section"] == wanted) {
-        chosen.push_back(section);
-      }
+  const std::unique_ptr<Printer> printer =
+      arguments.json ? std::unique_ptr<Printer>(std::make_unique<JsonPrinter>()) : std::make_unique<PlainPrinter>();
+  if (wanted.empty()) {
+    print_front(document, *printer);
+  }
+  for (const TextSection& section : document.sections()) {
+    if (wanted.empty() || section.name == wanted) {
+      print_section(document, section, *printer);
     }
-    if (chosen.empty()) {
-      return fail(kNotFound, arguments.file + ": " + wanted + ": not found");
-    }
-    sections = chosen;
   }
-  if (arguments.json) {
-    std::cout << sections.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
-  } else {
-    print(sections);
-  }
+  printer->end();
   return kDone;
 }
 
@@ -152,9 +253,10 @@ int show(const Arguments& arguments) {
 
 void add_show(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("show", "Print every entry with its meaning and its typed value");
+  CLI::App* command = app.add_subcommand("show", "Print every entry with its meaning and its typed value, and the lines that are never read");
   command->add_option("FILE", arguments->file, "The process file")->required();
   command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
   command->add_flag("--json", arguments->json, "Print JSON");
+  command->footer("Example: qelpro show Default.pro Flow-1");
   command->callback([arguments, &status] { status = show(*arguments); });
 }

@@ -1,32 +1,33 @@
 #include "status.h"
 
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
+#include <cstdio>
+#include <system_error>
 
-int fail(Status status, const std::string& message) {
-  std::cerr << "qelpro: " << message << '\n';
-  return status;
+#include "platform/streams.h"
+#include "visible.h"
+
+std::string at(const Where& where, std::string_view what) {
+  std::string text = where.file;
+  if (where.line != 0) {
+    text += ":" + std::to_string(where.line);
+  }
+  text += ":";
+  if (!where.section.empty()) {
+    text += " " + where.section;
+    text += where.key.empty() ? ":" : " " + where.key + ":";
+  }
+  return text.append(" ").append(what);
 }
 
-std::string place(const std::string& file, const std::string& section, const std::string& key) { return file + ": " + section + " " + key; }
+std::string at(const std::string& file, std::string_view what) { return file + ": " + std::string(what); }
 
-std::string with_brackets(const std::string& section) { return !section.empty() && section.front() == '[' ? section : "[" + section + "]"; }
-
-std::string why_unreadable(const std::string& file) {
-  std::error_code error;
-  const auto kind = std::filesystem::status(file, error);
-  if (!std::filesystem::exists(kind)) {
-    return std::strerror(ENOENT);
+void complain(std::string_view message) {
+  while (!message.empty() && (message.back() == '\n' || message.back() == '\r')) {
+    message.remove_suffix(1);
   }
-  if (!std::filesystem::is_regular_file(kind)) {
-    return "not a regular file";
-  }
-  errno = 0;
-  if (!std::ifstream(file, std::ios::binary)) {
-    return errno != 0 ? std::strerror(errno) : "cannot be read";
-  }
-  return {};
+  const Controls controls = platform::is_terminal(stderr) ? Controls::all : Controls::line_breaks;
+  const std::string line = "qelpro: " + visible(message, controls) + "\n";
+  std::fwrite(line.data(), 1, line.size(), stderr);
 }
+
+std::string reason_of(int error) { return std::generic_category().message(error); }

@@ -1,18 +1,38 @@
 #pragma once
 
+#include <cstddef>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 
 /// The exit statuses of the tool.
 enum Status : int { kDone = 0, kNotFound = 1, kUsage = 2, kFileError = 3 };
 
-/// Writes "qelpro: message" to stderr and gives the status back.
-int fail(Status status, const std::string& message);
+/// What ends a command before its time: the exit status, and the message.
+class Failure : public std::runtime_error {
+ public:
+  Failure(Status status, const std::string& message) : std::runtime_error(message), status_(status) {}
+  [[nodiscard]] Status status() const { return status_; }
 
-/// Where an entry is, for a message: file, section and key.
-std::string place(const std::string& file, const std::string& section, const std::string& key);
+ private:
+  Status status_;
+};
 
-/// The section's name with its brackets, which may be left out on the command line.
-std::string with_brackets(const std::string& section);
+/// Where something is, for a message. What is empty, or line 0, is left out.
+struct Where {
+  std::string file;
+  std::size_t line = 0;
+  std::string section;
+  std::string key;
+};
 
-/// Why a file cannot be used, in the operating system's words; empty when it is a regular file that can be read.
-std::string why_unreadable(const std::string& file);
+/// "FILE:LINE: [SECTION] KEY: what happened"
+std::string at(const Where& where, std::string_view what);
+/// "FILE: what happened"
+std::string at(const std::string& file, std::string_view what);
+
+/// Writes "qelpro: message" to stderr, in one line.
+void complain(std::string_view message);
+
+/// The operating system's words for an error number.
+std::string reason_of(int error);

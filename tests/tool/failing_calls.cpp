@@ -1,0 +1,125 @@
+// Preloaded into the tool: makes calls of the operating system fail.
+//
+// QELPRO_TEST_FAIL    the name of a call that always fails with EIO
+// QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
+//
+// A file whose name holds "unreadable" fails behind its first 16 KiB.
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace {
+
+template <class Function>
+Function* next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+bool fails(std::string_view call) {
+  const char* name = std::getenv("QELPRO_TEST_FAIL");
+  if (name == nullptr || call != name) {
+    return false;
+  }
+  errno = EIO;
+  return true;
+}
+
+std::string path_of(int fd) {
+  char path[4096];
+  const ssize_t length = ::readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof path);
+  return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : "";
+}
+
+constexpr off_t kReadable = 16 * 1024;
+
+// How much may be read at the offset; below 0 where it is to fail.
+ssize_t readable(int fd, off_t offset, std::size_t count) {
+  if (path_of(fd).find("unreadable") == std::string::npos) {
+    return static_cast<ssize_t>(count);
+  }
+  if (offset >= kReadable) {
+    errno = EIO;
+    return -1;
+  }
+  return static_cast<ssize_t>(std::min(count, static_cast<std::size_t>(kReadable - offset)));
+}
+
+void log_first_write(int fd) {
+  static bool done = false;
+  const char* log = std::getenv("QELPRO_TEST_LOG");
+  struct stat status {};
+  if (done || log == nullptr || ::fstat(fd, &status) != 0) {
+    return;
+  }
+  done = true;
+  std::FILE* stream = std::fopen(log, "w");
+  std::fprintf(stream, "%s %o %d", path_of(fd).c_str(), status.st_mode & 07777U, static_cast<int>(status.st_size));
+  std::fclose(stream);
+}
+
+}  // namespace
+
+#define VISIBLE extern "C" __attribute__((visibility("default")))
+
+VISIBLE ssize_t read(int fd, void* to, std::size_t count) {
+  static auto* const real = next<ssize_t(int, void*, std::size_t)>("read");
+  const ssize_t most = readable(fd, ::lseek(fd, 0, SEEK_CUR), count);
+  return most < 0 ? -1 : real(fd, to, static_cast<std::size_t>(most));
+}
+
+VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
+  static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
+  const ssize_t most = readable(fd, offset, count);
+  return most < 0 ? -1 : real(fd, to, static_cast<std::size_t>(most), offset);
+}
+
+VISIBLE ssize_t write(int fd, const void* from, std::size_t count) {
+  static auto* const real = next<ssize_t(int, const void*, std::size_t)>("write");
+  if (fd > STDERR_FILENO) {
+    log_first_write(fd);
+    if (fails("write")) {
+      return -1;
+    }
+  }
+  return real(fd, from, count);
+}
+
+VISIBLE int fsync(int fd) {
+  static auto* const real = next<int(int)>("fsync");
+  return fails("fsync") ? -1 : real(fd);
+}
+
+VISIBLE int fchmod(int fd, mode_t mode) noexcept {
+  static auto* const real = next<int(int, mode_t)>("fchmod");
+  return fails("fchmod") ? -1 : real(fd, mode);
+}
+
+VISIBLE int ftruncate(int fd, off_t length) noexcept {
+  static auto* const real = next<int(int, off_t)>("ftruncate");
+  return fails("ftruncate") ? -1 : real(fd, length);
+}
+
+VISIBLE int rename(const char* from, const char* to) noexcept {
+  static auto* const real = next<int(const char*, const char*)>("rename");
+  return fails("rename") ? -1 : real(from, to);
+}
+
+VISIBLE int renameat2(int from_folder, const char* from, int to_folder, const char* to, unsigned int flags) noexcept {
+  static auto* const real = next<int(int, const char*, int, const char*, unsigned int)>("renameat2");
+  return fails("renameat2") || fails("link") ? -1 : real(from_folder, from, to_folder, to, flags);
+}
+
+VISIBLE int link(const char* from, const char* to) noexcept {
+  static auto* const real = next<int(const char*, const char*)>("link");
+  return fails("link") ? -1 : real(from, to);
+}

@@ -1,0 +1,54 @@
+#include "entry_json.h"
+
+#include <type_traits>
+#include <variant>
+
+#include "core/text.h"
+
+namespace {
+
+Json field_of(const qel::Field& field) {
+  return std::visit(
+      []<class Value>(const Value& value) {
+        if constexpr (std::is_same_v<Value, std::monostate>) {
+          return Json();
+        } else {
+          return Json(value);
+        }
+      },
+      field);
+}
+
+// The longest line and a NUL byte end what the engine sees.
+std::string limit_of(const TextLine& line) {
+  if (line.whole.size() == line.text.size()) {
+    return {};
+  }
+  return line.text.size() < qel::text::kLongestLine ? "what stands behind a NUL byte is not read"
+                                                    : "line too long: of its " + std::to_string(line.whole.size()) + " characters the first " +
+                                                          std::to_string(qel::text::kLongestLine) + " are read";
+}
+
+}  // namespace
+
+Json typed_entry(const std::string& key, const TextLine& line, const std::string& text, const Reading& reading) {
+  const qel::KeyInfo* known = reading.key;
+  Json entry = {{"key", key}, {"line", line.number}, {"text", text}, {"known", known != nullptr}};
+  std::string note = limit_of(line);
+  if (known != nullptr) {
+    entry["meaning"] = known->meaning;
+    entry["encoding"] = known->encoding;
+    Json values = Json::array();
+    for (const qel::Field& field : known->fields(text.c_str(), reading.number)) {
+      values.push_back(field_of(field));
+    }
+    entry["values"] = std::move(values);
+    if (reading.unread && note.empty()) {
+      note = *reading.unread;
+    }
+  }
+  if (!note.empty()) {
+    entry["note"] = note;
+  }
+  return entry;
+}

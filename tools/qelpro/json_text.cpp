@@ -1,0 +1,100 @@
+#include "json_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "visible.h"
+
+namespace {
+
+std::string escape_of(unsigned int unit) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "\\u%04x", unit);
+  return text.data();
+}
+
+// How many characters in front are what they are.
+std::size_t plain_length(std::string_view text) {
+  const auto* const special = std::find_if(text.begin(), text.end(),
+                                           [](char c) { return c < ' ' || c == '"' || c == '\\' || c == '\x7F' || static_cast<signed char>(c) < 0; });
+  return static_cast<std::size_t>(special - text.begin());
+}
+
+std::string escaped(std::string_view text) {
+  constexpr unsigned int kLoneSurrogates = 0xDC00;
+  constexpr unsigned char kDelete = 0x7F;
+  std::string result = "\"";
+  for (std::size_t at = 0; at < text.size();) {
+    if (const std::size_t plain = plain_length(text.substr(at)); plain != 0) {
+      result += text.substr(at, plain);
+      at += plain;
+      continue;
+    }
+    const std::size_t length = utf8_length(text.substr(at));
+    const auto byte = static_cast<unsigned char>(text[at]);
+    if (length == 0) {
+      result += escape_of(kLoneSurrogates + byte);
+    } else if (length == 1 && (byte == '"' || byte == '\\')) {
+      result += {'\\', text[at]};
+    } else if (length == 1 && byte == '\t') {
+      result += "\\t";
+    } else if (length == 1 && (byte < ' ' || byte == kDelete)) {
+      result += escape_of(byte);
+    } else if (byte == 0xC2 && static_cast<unsigned char>(text[at + 1]) < 0xA0) {
+      result += escape_of(static_cast<unsigned char>(text[at + 1]));
+    } else {
+      result += text.substr(at, length);
+    }
+    at += length == 0 ? 1 : length;
+  }
+  return result + "\"";
+}
+
+std::string number_text(double value) {
+  if (std::isnan(value)) {
+    return "nan";
+  }
+  return value > 0 ? "inf" : "-inf";
+}
+
+bool is_beyond_json(const Json& value) { return value.is_number_float() && !std::isfinite(value.get<double>()); }
+
+}  // namespace
+
+void write_json(Output& output, const Json& value, std::size_t indent) {
+  if (value.is_string()) {
+    output << escaped(value.get_ref<const std::string&>());
+    return;
+  }
+  if (is_beyond_json(value)) {
+    output << '"' << number_text(value.get<double>()) << '"';
+    return;
+  }
+  if (!value.is_structured() || value.empty()) {
+    output << value.dump();
+    return;
+  }
+  const std::string line_break = "\n" + std::string(indent + 2, ' ');
+  output << (value.is_object() ? '{' : '[');
+  bool first = true;
+  for (const auto& item : value.items()) {
+    output << (first ? "" : ",") << line_break;
+    first = false;
+    if (value.is_object()) {
+      output << escaped(item.key()) << ": ";
+    }
+    write_json(output, item.value(), indent + 2);
+  }
+  output << '\n' << std::string(indent, ' ') << (value.is_object() ? '}' : ']');
+}
+
+std::string plain_text(const Json& value) {
+  if (value.is_string()) {
+    return value.get<std::string>();
+  }
+  return is_beyond_json(value) ? number_text(value.get<double>()) : value.dump();
+}

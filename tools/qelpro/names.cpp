@@ -1,0 +1,71 @@
+#include "names.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/text.h"
+#include "status.h"
+
+namespace text = qel::text;
+
+namespace {
+
+constexpr char kEndOfText = '\x1A';
+
+[[noreturn]] void refuse(const std::string& what) { throw Failure(kUsage, what); }
+
+std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
+
+void check_name(const std::string& kind, const std::string& name) {
+  if (name.find_first_of(" \t") != std::string::npos) {
+    refuse(kind + " " + quoted(name) + ": a name holds no blank and no tab");
+  }
+  if (name.find('=') != std::string::npos) {
+    refuse(kind + " " + quoted(name) + ": a name holds no \"=\"");
+  }
+  if (name.find_first_of("\r\n") != std::string::npos) {
+    refuse(kind + " " + quoted(name) + ": a name holds no line break");
+  }
+  if (name.find(kEndOfText) != std::string::npos) {
+    refuse(kind + " " + quoted(name) + ": a name holds no character 0x1A, where other programs end the file");
+  }
+}
+
+}  // namespace
+
+std::string section_name(const std::string& argument) {
+  const bool opened = !argument.empty() && argument.front() == '[';
+  const bool closed = !argument.empty() && argument.back() == ']';
+  if (argument.empty() || argument == "[]") {
+    refuse("section \"" + argument + "\": the name is empty");
+  }
+  if (opened != closed || argument == "[") {
+    refuse("section " + quoted(argument) + ": give both brackets, or none");
+  }
+  return opened ? argument : "[" + argument + "]";
+}
+
+void check_entry(const std::string& section, const std::string& key, const std::string& value) {
+  check_name("section", section);
+  if (key.empty()) {
+    refuse("the key is empty");
+  }
+  check_name("key", key);
+  if (key.front() == '[') {
+    refuse("key " + quoted(key) + ": a key that begins with \"[\" reads as a section");
+  }
+  if (key.front() == ';' || key.front() == '#' || key.substr(0, 2) == "//") {
+    refuse("key " + quoted(key) + ": a line that begins so is a comment");
+  }
+  if (value.find_first_of("\r\n") != std::string::npos) {
+    refuse("the value holds a line break: it is one line");
+  }
+  if (value.find(kEndOfText) != std::string::npos) {
+    refuse("the value holds a character 0x1A, where other programs end the file");
+  }
+  const std::size_t length = std::max(text::padded_entry(key, value).size(), section.size()) + 1;
+  if (length > text::kLongestLine) {
+    refuse("line too long: it would have " + std::to_string(length) + " characters with its line break, of which the engine reads " +
+           std::to_string(text::kLongestLine));
+  }
+}

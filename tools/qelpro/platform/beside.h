@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+namespace platform {
+
+/// A path for a temporary file in the folder of the file.
+inline std::string path_beside(const std::string& file) {
+  std::random_device random;
+  return (std::filesystem::path(file).parent_path() / (".qelpro-" + std::to_string(random()) + ".tmp")).string();
+}
+
+/// The folder of the file, as a message names it.
+inline std::string folder_of(const std::string& file) {
+  const std::string folder = std::filesystem::path(file).parent_path().string();
+  return folder.empty() ? "." : folder;
+}
+
+}  // namespace platform

@@ -1,0 +1,298 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "platform/beside.h"
+#include "platform/files.h"
+#include "status.h"
+
+namespace platform {
+namespace {
+
+[[noreturn]] void fail(const std::string& file, const std::string& what, int error = errno) {
+  throw Failure(kFileError, at(file, what + reason_of(error)));
+}
+
+// A call that a signal interrupted is made again.
+long retried(const std::function<long()>& call) {
+  long result = -1;
+  do {
+    result = call();
+  } while (result < 0 && errno == EINTR);
+  return result;
+}
+
+class Descriptor {
+ public:
+  Descriptor() = default;
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { reset(-1); }
+
+  [[nodiscard]] int get() const { return number_; }
+  [[nodiscard]] bool is_open() const { return number_ >= 0; }
+  void reset(int number) {
+    if (is_open()) {
+      ::close(number_);
+    }
+    number_ = number;
+  }
+  // False when something that was written is lost.
+  bool close() {
+    const int number = number_;
+    number_ = -1;
+    return ::close(number) == 0 || errno == EINTR;
+  }
+
+ private:
+  int number_ = -1;
+};
+
+int open_file(const std::string& file, int flags, mode_t mode = 0) {
+  return static_cast<int>(retried([&] { return ::open(file.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); }));
+}
+
+// Only a regular file is opened: to open a named pipe would wait for its other end.
+void check_is_regular(const std::string& file) {
+  struct stat status {};
+  if (::stat(file.c_str(), &status) != 0) {
+    fail(file, "");
+  }
+  if (S_ISDIR(status.st_mode)) {
+    fail(file, "", EISDIR);
+  }
+  if (!S_ISREG(status.st_mode)) {
+    throw Failure(kFileError, at(file, "not a regular file"));
+  }
+}
+
+std::string read_all(int descriptor, const std::string& file) {
+  constexpr std::size_t kSmallest = std::size_t{16} * 1024;
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) {
+    fail(file, "");
+  }
+  std::string contents(static_cast<std::size_t>(status.st_size) + 1, '\0');
+  std::size_t length = 0;
+  for (;;) {
+    if (length == contents.size()) {
+      contents.resize(length + std::max(length, kSmallest));
+    }
+    const long got = retried([&] { return ::read(descriptor, contents.data() + length, contents.size() - length); });
+    if (got < 0) {
+      fail(file, "cannot be read to its end: ");
+    }
+    if (got == 0) {
+      contents.resize(length);
+      return contents;
+    }
+    length += static_cast<std::size_t>(got);
+  }
+}
+
+bool write_all(int descriptor, std::string_view contents) {
+  while (!contents.empty()) {
+    const long put = retried([&] { return ::write(descriptor, contents.data(), contents.size()); });
+    if (put <= 0) {
+      return false;
+    }
+    contents.remove_prefix(static_cast<std::size_t>(put));
+  }
+  return true;
+}
+
+// Access lists and the like; what the file system or the user's rights do not allow is left.
+void copy_attributes(int from, int to) {
+  constexpr std::size_t kRoom = std::size_t{64} * 1024;
+  std::vector<char> names(kRoom);
+  std::vector<char> value(kRoom);
+  const ssize_t length = ::flistxattr(from, names.data(), names.size());
+  for (const char* name = names.data(); name < names.data() + length; name += std::char_traits<char>::length(name) + 1) {
+    const ssize_t size = ::fgetxattr(from, name, value.data(), value.size());
+    if (size >= 0) {
+      ::fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
+    }
+  }
+}
+
+// So that a name that was given lasts through a crash of the machine; where that cannot be had, the file is there nevertheless.
+void sync_folder(const std::string& file) {
+  const Descriptor folder(open_file(folder_of(file), O_RDONLY | O_DIRECTORY));
+  if (folder.is_open()) {
+    ::fsync(folder.get());
+  }
+}
+
+// While it lives, signals that end a program wait: no temporary file is left behind.
+class SignalsWait {
+ public:
+  SignalsWait() {
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+      sigaddset(&ending, signal);
+    }
+    ::sigprocmask(SIG_BLOCK, &ending, &before_);
+  }
+  SignalsWait(const SignalsWait&) = delete;
+  SignalsWait& operator=(const SignalsWait&) = delete;
+  ~SignalsWait() { ::sigprocmask(SIG_SETMASK, &before_, nullptr); }
+
+ private:
+  sigset_t before_{};
+};
+
+// Makes a temporary file beside the file and hands its path out.
+int make_beside(const std::string& file, const std::string& target, mode_t mode, std::string& path) {
+  constexpr int kAttempts = 100;
+  int descriptor = -1;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    path = path_beside(target);
+    descriptor = open_file(path, O_RDWR | O_CREAT | O_EXCL, mode);
+    if (descriptor >= 0 || errno != EEXIST) {
+      break;
+    }
+  }
+  if (descriptor < 0) {
+    const int error = errno;
+    path.clear();
+    fail(file, "cannot be written: no file can be made in \"" + folder_of(target) + "\": ", error);
+  }
+  return descriptor;
+}
+
+}  // namespace
+
+std::string read_file(const std::string& file) {
+  check_is_regular(file);
+  const Descriptor descriptor(open_file(file, O_RDONLY));
+  if (!descriptor.is_open()) {
+    fail(file, "");
+  }
+  return read_all(descriptor.get(), file);
+}
+
+struct Replacement::Handles {
+  Descriptor old_file;  // holds the lock
+  Descriptor new_file;
+  std::unique_ptr<SignalsWait> signals_wait;
+};
+
+Replacement::Replacement(const std::string& file) : file_(file), handles_(std::make_unique<Handles>()) {
+  struct stat held {};
+  struct stat named {};
+  do {
+    check_is_regular(file);
+    const std::unique_ptr<char, void (*)(void*)> real(::realpath(file.c_str(), nullptr), &std::free);
+    if (real == nullptr) {
+      fail(file, "");
+    }
+    target_ = real.get();
+    handles_->old_file.reset(open_file(target_, O_RDWR));
+    if (!handles_->old_file.is_open()) {
+      fail(file, "cannot be opened for writing: ");
+    }
+    // A file system without locks goes without.
+    retried([&] { return ::flock(handles_->old_file.get(), LOCK_EX); });
+    // Whoever held the lock has put another file into this one's place.
+  } while (::fstat(handles_->old_file.get(), &held) != 0 || ::stat(target_.c_str(), &named) != 0 || held.st_dev != named.st_dev ||
+           held.st_ino != named.st_ino);
+  old_contents_ = read_all(handles_->old_file.get(), file);
+}
+
+Replacement::~Replacement() {
+  if (!temporary_.empty()) {
+    ::unlink(temporary_.c_str());
+  }
+}
+
+const std::string& Replacement::write(std::string_view contents) {
+  constexpr mode_t kOwnersAlone = 0600;
+  constexpr mode_t kAllBits = 07777;
+  constexpr mode_t kGroupBits = 0070;
+  constexpr mode_t kOtherBits = 0007;
+  handles_->signals_wait = std::make_unique<SignalsWait>();
+  handles_->new_file.reset(make_beside(file_, target_, kOwnersAlone, temporary_));
+  const int descriptor = handles_->new_file.get();
+  struct stat status {};
+  if (::fstat(handles_->old_file.get(), &status) != 0) {
+    fail(file_, "");
+  }
+  // Who may not give a file away keeps it, and its group where that is possible.
+  if (::fchown(descriptor, status.st_uid, status.st_gid) != 0 && ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
+    // Another group gets what everybody may.
+    status.st_mode = (status.st_mode & ~kGroupBits) | ((status.st_mode & kOtherBits) << 3U);
+  }
+  copy_attributes(handles_->old_file.get(), descriptor);
+  if (::fchmod(descriptor, status.st_mode & kAllBits) != 0) {
+    fail(file_, "its permissions cannot be kept: ");
+  }
+  if (!write_all(descriptor, contents) || retried([&] { return ::fsync(descriptor); }) != 0) {
+    fail(file_, "cannot be written, and is as it was: ");
+  }
+  return temporary_;
+}
+
+void Replacement::commit() {
+  if (!handles_->new_file.close() || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+    fail(file_, "cannot be written, and is as it was: ");
+  }
+  temporary_.clear();
+  sync_folder(target_);
+}
+
+NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
+  constexpr mode_t kAsTheUserWants = 0666;
+  struct stat status {};
+  if (::lstat(file.c_str(), &status) == 0) {
+    throw Failure(kFileError, at(file, S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already" : "exists already"));
+  }
+  Descriptor descriptor(make_beside(file, file, kAsTheUserWants, temporary_));
+  if (!write_all(descriptor.get(), std::string(room, ' ')) || retried([&] { return ::fsync(descriptor.get()); }) != 0 ||
+      retried([&] { return ::ftruncate(descriptor.get(), 0); }) != 0 || !descriptor.close()) {
+    const int error = errno;
+    ::unlink(temporary_.c_str());
+    fail(file, "cannot be written: ", error);
+  }
+}
+
+NewFile::~NewFile() {
+  if (!temporary_.empty()) {
+    ::unlink(temporary_.c_str());
+  }
+}
+
+void NewFile::publish() {
+  {
+    const Descriptor descriptor(open_file(temporary_, O_RDWR));
+    if (!descriptor.is_open() || retried([&] { return ::fsync(descriptor.get()); }) != 0) {
+      fail(file_, "cannot be written: ");
+    }
+  }
+  // Neither call takes the place of what is there; not every file system knows both.
+  if (::renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, file_.c_str(), RENAME_NOREPLACE) != 0) {
+    if (errno == EEXIST) {
+      throw Failure(kFileError, at(file_, "exists already"));
+    }
+    if (::link(temporary_.c_str(), file_.c_str()) != 0) {
+      fail(file_, "cannot be written: ");
+    }
+    ::unlink(temporary_.c_str());
+  }
+  temporary_.clear();
+  sync_folder(file_);
+}
+
+}  // namespace platform

@@ -1,0 +1,16 @@
+#include "platform/streams.h"
+
+#include <io.h>
+
+#include <cstdlib>
+
+namespace platform {
+
+// A stream that the caller closed has no descriptor here, and a write to it fails.
+void prepare_streams() {}
+
+bool is_terminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
+
+void end_without_reader() { std::_Exit(0); }
+
+}  // namespace platform

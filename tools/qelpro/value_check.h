@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "blocks/key.h"
+
+/// Whether a key's encoding reads a text whole. The encodings take what scans and pass over the rest; this tells the rest.
+
+/// How the catalogue reads an entry.
+struct Reading {
+  const qel::KeyInfo* key = nullptr;  ///< Null for a key, or a section, that the catalogue does not know.
+  int number = 0;                     ///< The key's number.
+  std::optional<std::string> unread;  ///< What of the text is not read as it stands, and why, for a message.
+};
+
+/// Of several encodings of one key the first that reads the text whole, or else the first. `section` may be null.
+Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text);
+
+/// What one encoding does not read of the text.
+std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number);
+
+/// The same for one number as `atoi` and `atof` take it.
+std::optional<std::string> unread_part_of_integer(std::string_view text);
+std::optional<std::string> unread_part_of_real(std::string_view text);
+
+/// Whether the encoding of that name is known here. Every one of the catalogue is.
+bool is_checked(std::string_view encoding);
