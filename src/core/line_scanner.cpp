@@ -8,8 +8,6 @@
 namespace qel {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // The longest line with a line break of two bytes, which counts as one character.
 constexpr std::size_t kLongestInBytes = text::kLongestLine + 1;
 
@@ -23,17 +21,17 @@ LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::s
     buffer_.reset(new char[capacity_]);
   }
   window_ = block();
-  while (from == 0 && length_ < kByteOrderMark.size() && read_more()) {
+  while (from == 0 && length_ < text::kByteOrderMark.size() && read_more()) {
   }
-  if (from == 0 && std::string_view(window_, length_).substr(0, kByteOrderMark.size()) == kByteOrderMark) {
-    at_ = kByteOrderMark.size();
+  if (from == 0 && std::string_view(window_, length_).substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
+    at_ = text::kByteOrderMark.size();
   }
 }
 
 LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_hold_nul)
     : window_(contents.data()), length_(contents.size()), at_(static_cast<std::size_t>(from)), at_end_(true), may_hold_nul_(may_hold_nul) {
-  if (from == 0 && contents.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
-    at_ = kByteOrderMark.size();
+  if (from == 0 && contents.substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
+    at_ = text::kByteOrderMark.size();
   }
 }
 

@@ -112,8 +112,7 @@ class IndexedLookup {
 
 // The line that begins at the offset. In the present file, nothing where none begins there any more.
 std::optional<Line> IndexedLookup::find_at(std::int64_t offset, bool is_piece, std::uint32_t file, std::size_t expected) {
-  constexpr std::int64_t kByteOrderMark = 3;
-  const bool shows_line_break = index_.is_of_present_file(file) && !is_piece && offset > kByteOrderMark;
+  const bool shows_line_break = index_.is_of_present_file(file) && !is_piece && offset > static_cast<std::int64_t>(text::kByteOrderMark.size());
   lines_.emplace(file_, shows_line_break ? offset - 1 : offset, expected);
   Line line;
   if (shows_line_break && (!lines_->next(line) || line.end != offset)) {

@@ -9,6 +9,9 @@ namespace qel::text {
 /// The longest line, its line break counted as one character. A longer one is seen as several lines.
 inline constexpr std::size_t kLongestLine = 4095;
 
+/// What an editor may put at a file's very start; it belongs to no line.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// A positional section is always created with this header; lookups find it by its first token.
 inline constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
 
