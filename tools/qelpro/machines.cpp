@@ -61,7 +61,7 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
     case BankProblem::no_version_line:
       throw Failure(kFileError, at(where, R"(not a machine bank: no "Version" line behind a "[Header]" line)"));
     case BankProblem::unreadable_version:
-      throw Failure(kFileError, at(where, "no version can be read from \"" + version.text + "\": write \"Version,7007\""));
+      throw Failure(kFileError, at(where, "no version can be read from \"" + version.text + R"(": write "Version,7007")"));
     case BankProblem::other_version:
       throw Failure(kNotFound, at(where, "no machine: \"" + version.text + "\" is not version 7007, the one that is read"));
     case BankProblem::none:
