@@ -40,17 +40,17 @@ std::vector<std::string> names_in(const std::string& folder) {
   return names;
 }
 
-unsigned int mode_of(const std::string& path) {
-  struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
-}
-
 // A script's prelude that runs the tool without the rights of the superuser.
 const std::string kUnprivileged = "exec setpriv --reuid=65534 --regid=65534 --clear-groups -- ";
 bool may_drop_rights() { return ::geteuid() == 0 && shell(kUnprivileged + "true").status == 0; }
 
 #ifdef QELPRO_FAILING_CALLS
 const std::string kPreload = std::string("export LD_PRELOAD='") + QELPRO_FAILING_CALLS + "'; ";
+
+unsigned int mode_of(const std::string& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+}
 
 TEST(EveryCommand, FailsOnAFileThatCannotBeReadToItsEnd) {
   const Scratch scratch;
