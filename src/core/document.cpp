@@ -86,6 +86,11 @@ void CQELPROIO::release_held() {
   file_.close();
 }
 
+// Whether the path is the one that was read last: its offsets are looked at again, as in one session.
+bool CQELPROIO::is_read_again(const char* path) const { return path_ != nullptr && path_copy_ == path; }
+
+bool CQELPROIO::is_read_again(const wchar_t* path) const { return wide_path_ != nullptr && wide_path_copy_ == path; }
+
 void CQELPROIO::forget_lent() {
   if (lent_ != nullptr) {
     lent_.reset();
@@ -136,8 +141,13 @@ bool CQELPROIO::open(const Character* path, int mode) {
     return false;
   }
   attached_ = indexed_ = true;
-  index_.begin_file();
-  seen_changes_ = file_.change_count();
+  if (!is_read_again(path)) {
+    index_.begin_file();
+    seen_changes_ = file_.change_count();
+  } else if (file_.identity() != read_identity_) {
+    index_.forget();  // another file stands under the path now
+  }
+  read_identity_ = file_.identity();
   remember(path, copy);
   return true;
 }

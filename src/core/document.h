@@ -86,6 +86,8 @@ class CQELPROIO {
   void remember(const wchar_t* path, std::wstring& copy);
   void release_held();
   void forget_lent();
+  [[nodiscard]] bool is_read_again(const char* path) const;
+  [[nodiscard]] bool is_read_again(const wchar_t* path) const;
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
   qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
@@ -97,6 +99,7 @@ class CQELPROIO {
   std::string path_copy_;
   std::wstring wide_path_copy_;
   qel::SectionIndex index_;
+  std::uint64_t read_identity_ = 0;                  // of the file that was opened for reading last
   std::uint32_t seen_changes_ = 0;                   // what this program had written to the file when the index was last right
   qel::platform::OsFile file_;                       // opened by this document for reading
   std::unique_ptr<qel::platform::LentStream> lent_;  // lent by the caller

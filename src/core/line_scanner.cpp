@@ -131,6 +131,15 @@ bool LineScanner::next(Line& line) {
   return true;
 }
 
+bool LineScanner::skip_to(std::int64_t offset) {
+  const std::int64_t ahead = offset - (window_offset_ + static_cast<std::int64_t>(at_));
+  if (ahead < 0 || ahead > static_cast<std::int64_t>(available())) {
+    return false;
+  }
+  at_ += static_cast<std::size_t>(ahead);
+  return true;
+}
+
 bool LineScanner::next_starting_with(char first, Line& line) {
   while (available() != 0 || read_more()) {
     const char* begin = window_ + at_;

@@ -37,10 +37,15 @@ class LineScanner {
   /// The next line whose first byte is `first`. Much faster than asking `next` for each line between.
   bool next_starting_with(char first, Line& line);
 
+  /// Goes on at an offset further on, if it lies in what is in memory already.
+  bool skip_to(std::int64_t offset);
+
   [[nodiscard]] bool failed() const { return failed_; }
 
   static constexpr std::size_t kFirstBlock = std::size_t{8} * 1024;
   static constexpr std::size_t kBlock = std::size_t{64} * 1024;
+  /// Up to so many bytes are expected without a need of memory for them.
+  static constexpr std::size_t kFew = 2048;
 
  private:
   bool read_more();
@@ -60,7 +65,7 @@ class LineScanner {
   bool may_hold_nul_ = false;
   std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
   std::unique_ptr<char[]> buffer_;      // null while a few lines are all that is expected
-  char few_[512];
+  char few_[kFew];
 };
 
 /// The length of the contents without the padding that an earlier store left at their end: behind the last line break,

@@ -15,7 +15,7 @@ bool find_header(LineScanner& lines, std::string_view section, SectionIndex* ind
     const std::string_view name = text::first_token(line.text);
     if (index != nullptr) {
       // The furthest line of an earlier file is no start of a line here.
-      line.is_piece = line.is_piece || line.start == index->furthest().start();
+      line.is_piece = line.is_piece || line.start == index->furthest().place().offset;
       *learnt = &index->learn_section(name, line);
     }
     if (name == section) {
@@ -35,7 +35,7 @@ struct IndexedTarget {
 // Enters a line that was passed into the index, once.
 void learn(const IndexedTarget& at, const Target& target, const Line& line) {
   const std::string_view token = text::first_token(line.text);
-  if (token.empty() || (at.section.passed.is_set() && line.start <= at.section.passed.start())) {
+  if (token.empty() || (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
     return;
   }
   at.section.passed = at.index.mark(line, token);
@@ -90,12 +90,18 @@ class IndexedLookup {
   [[nodiscard]] bool changed() const { return changed_; }
 
  private:
-  std::optional<Line> find_at(std::int64_t offset, bool is_piece, std::uint32_t file, std::size_t expected);
-  std::optional<Line> find_at(const LineMark& mark, std::size_t expected);
-  std::optional<Line> find_known_entry(const SectionIndex::Place& place);
+  using Place = SectionIndex::Place;
+  using Section = SectionIndex::Section;
+
+  [[nodiscard]] bool is_present(std::uint32_t file) const { return index_.is_of_present_file(file); }
+  void begin_at(const Place& place, std::size_t expected);
+  bool next_at(const Place& place, Line& line);
+  bool find_header_again(const Place& header, std::size_t expected, Line& line);
+  std::optional<Line> find_in(const Section* section, const Place& place);
+  std::optional<Line> find_known_entry(const Place& place);
   std::optional<Line> find_known_position(const LineMark& mark);
-  std::optional<Line> find_behind_passed(SectionIndex::Section& section);
-  std::optional<Line> find_in_known(SectionIndex::Section& section);
+  std::optional<Line> find_behind_passed(Section& section);
+  std::optional<Line> find_in_known(Section& section);
   std::optional<Line> find_in_unknown();
   std::optional<Line> note_change() {
     changed_ = !lines_->failed();
@@ -110,58 +116,81 @@ class IndexedLookup {
   bool changed_ = false;
 };
 
-// The line that begins at the offset. In the present file, nothing where none begins there any more.
-std::optional<Line> IndexedLookup::find_at(std::int64_t offset, bool is_piece, std::uint32_t file, std::size_t expected) {
-  const bool shows_line_break = index_.is_of_present_file(file) && !is_piece && offset > static_cast<std::int64_t>(text::kByteOrderMark.size());
-  lines_.emplace(file_, shows_line_break ? offset - 1 : offset, expected);
+// Whether a line's beginning shows by the line break in front of it. A piece of a long line has none, nor has the file's first line.
+bool has_break_before(const SectionIndex::Place& place) {
+  return !place.is_piece && place.offset > static_cast<std::int64_t>(text::kByteOrderMark.size());
+}
+
+// Begins to read at the place, or at the line break in front of it.
+void IndexedLookup::begin_at(const Place& place, std::size_t expected) {
+  lines_.emplace(file_, has_break_before(place) ? place.offset - 1 : place.offset, expected);
+}
+
+// The line at the place, to which `lines_` has come; false where no line begins there any more.
+bool IndexedLookup::next_at(const Place& place, Line& line) {
+  return (!has_break_before(place) || (lines_->next(line) && line.end == place.offset)) && lines_->next(line);
+}
+
+bool IndexedLookup::find_header_again(const Place& header, std::size_t expected, Line& line) {
+  begin_at(header, expected);
+  return next_at(header, line) && text::is_header(line.text) && text::first_token(line.text) == target_.section;
+}
+
+// The line at a place in the section. In the present file, nothing where the section's header or the line does not stand where it
+// stood. One read serves for both where they are near each other.
+std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& place) {
   Line line;
-  if (shows_line_break && (!lines_->next(line) || line.end != offset)) {
-    return std::nullopt;
+  if (!is_present(place.file)) {
+    lines_.emplace(file_, place.offset, kOneLine);
+    return lines_->next(line) ? std::optional(line) : std::nullopt;
   }
-  return lines_->next(line) ? std::optional(line) : std::nullopt;
+  bool is_there = false;
+  if (section != nullptr && is_present(section->header.file) && section->header.offset < place.offset) {
+    const std::int64_t distance = place.offset - section->header.offset;
+    const std::size_t both = static_cast<std::size_t>(distance) + kOneLine;
+    if (!find_header_again(section->header, both <= LineScanner::kFew ? both : kOneLine, line)) {
+      return std::nullopt;
+    }
+    is_there = lines_->skip_to(has_break_before(place) ? place.offset - 1 : place.offset);
+  }
+  if (!is_there) {
+    begin_at(place, kOneLine);
+  }
+  return next_at(place, line) ? std::optional(line) : std::nullopt;
 }
 
-std::optional<Line> IndexedLookup::find_at(const LineMark& mark, std::size_t expected) {
-  std::optional<Line> line = find_at(mark.start(), mark.is_piece(), mark.file(), expected);
-  return line && (!index_.is_of_present_file(mark.file()) || mark.matches(line->text)) ? line : std::nullopt;
-}
-
-std::optional<Line> IndexedLookup::find_known_entry(const SectionIndex::Place& place) {
-  std::optional<Line> line = find_at(place.offset, place.is_piece, place.file, kOneLine);
-  if (!index_.is_of_present_file(place.file) || (line && text::first_token_is(line->text, target_.key))) {
-    return line;
-  }
-  return note_change();
+std::optional<Line> IndexedLookup::find_known_entry(const Place& place) {
+  const std::optional<Line> line = find_in(index_.section(target_.section), place);
+  return !is_present(place.file) || (line && text::first_token_is(line->text, target_.key)) ? line : note_change();
 }
 
 std::optional<Line> IndexedLookup::find_known_position(const LineMark& mark) {
-  std::optional<Line> line = find_at(mark, kOneLine);
-  return line || !index_.is_of_present_file(mark.file()) ? line : note_change();
+  const std::optional<Line> line = find_in(index_.section(target_.section), mark.place());
+  return !is_present(mark.place().file) || (line && mark.matches(line->text)) ? line : note_change();
 }
 
 // Goes on where the last lookup in the section stopped.
-std::optional<Line> IndexedLookup::find_behind_passed(SectionIndex::Section& section) {
-  if (!find_at(section.passed, kOneLine)) {
+std::optional<Line> IndexedLookup::find_behind_passed(Section& section) {
+  const std::optional<Line> line = find_in(&section, section.passed.place());
+  if (!line || !section.passed.matches(line->text)) {
     return note_change();
   }
   const IndexedTarget indexed{index_, section, name_};
   return find_inside(*lines_, target_, &indexed, false);
 }
 
-std::optional<Line> IndexedLookup::find_in_known(SectionIndex::Section& section) {
-  const bool has_passed = section.passed.is_set() && index_.is_of_present_file(section.passed.file());
+std::optional<Line> IndexedLookup::find_in_known(Section& section) {
+  const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
   if (has_passed && target_.by_key()) {
     const std::optional<Line> found = find_behind_passed(section);
     if (found || changed_ || lines_->failed()) {
       return found;
     }
   }
-  const SectionIndex::Place header = section.header;
-  if (index_.is_of_present_file(header.file)) {
-    const std::optional<Line> line = find_at(header.offset, header.is_piece, header.file, kOneSection);
-    if (!line || !text::is_header(line->text) || text::first_token(line->text) != target_.section) {
-      return note_change();
-    }
+  const Place header = section.header;
+  Line line;
+  if (is_present(header.file) && !find_header_again(header, kOneSection, line)) {
+    return note_change();
   }
   if (!has_passed) {
     section.passed = {};
@@ -172,13 +201,17 @@ std::optional<Line> IndexedLookup::find_in_known(SectionIndex::Section& section)
 }
 
 std::optional<Line> IndexedLookup::find_in_unknown() {
-  const LineMark& furthest = index_.furthest();
-  if (!furthest.is_set() || !index_.is_of_present_file(furthest.file())) {
-    lines_.emplace(file_, furthest.start());
-  } else if (!find_at(furthest, LineScanner::kFirstBlock)) {
-    return note_change();
+  const LineMark furthest = index_.furthest();
+  if (furthest.is_set() && is_present(furthest.place().file)) {
+    begin_at(furthest.place(), LineScanner::kFirstBlock);
+    Line line;
+    if (!next_at(furthest.place(), line) || !furthest.matches(line.text)) {
+      return note_change();
+    }
+  } else {
+    lines_.emplace(file_, furthest.place().offset);
   }
-  SectionIndex::Section* section = nullptr;
+  Section* section = nullptr;
   if (!find_header(*lines_, target_.section, &index_, &section)) {
     return std::nullopt;
   }
@@ -189,13 +222,13 @@ std::optional<Line> IndexedLookup::find_in_unknown() {
 std::optional<Line> IndexedLookup::find() {
   changed_ = false;
   if (target_.by_key()) {
-    if (const SectionIndex::Place* known = index_.entry(name_)) {
+    if (const Place* known = index_.entry(name_)) {
       return find_known_entry(*known);
     }
   } else if (const LineMark* known = index_.position(name_)) {
     return find_known_position(*known);
   }
-  SectionIndex::Section* const section = index_.section(target_.section);
+  Section* const section = index_.section(target_.section);
   return section != nullptr ? find_in_known(*section) : find_in_unknown();
 }
 

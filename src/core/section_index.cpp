@@ -7,7 +7,7 @@
 namespace qel {
 
 LineMark::LineMark(const Line& line, std::string_view first_token, std::uint32_t file)
-    : start_(line.start), file_(file), token_size_(static_cast<std::uint32_t>(first_token.size())), is_piece_(line.is_piece) {
+    : place_{line.start, file, line.is_piece}, token_size_(static_cast<std::uint32_t>(first_token.size())) {
   first_token.copy(token_, sizeof token_);
 }
 
@@ -40,7 +40,7 @@ HashedName SectionIndex::line_name(Purpose purpose, std::string_view section, st
 }
 
 void SectionIndex::note_furthest(const Line& line, std::string_view first_token) {
-  if (line.start > furthest_.start()) {
+  if (line.start > furthest_.place().offset) {
     furthest_ = mark(line, first_token);
   }
 }

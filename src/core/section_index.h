@@ -9,26 +9,29 @@
 
 namespace qel {
 
+/// Where a line was seen to begin.
+struct SeenAt {
+  std::int64_t offset = 0;
+  std::uint32_t file = 0;  ///< The number of the session's file, from 1; 0 for no line.
+  bool is_piece = false;   ///< It begins inside a line that is too long.
+};
+
 /// A line that a session has seen: where it began, and how, so that a later look tells whether it still does.
 class LineMark {
  public:
   LineMark() = default;
   LineMark(const Line& line, std::string_view first_token, std::uint32_t file);
 
-  [[nodiscard]] bool is_set() const { return file_ != 0; }
-  [[nodiscard]] std::int64_t start() const { return start_; }
-  [[nodiscard]] bool is_piece() const { return is_piece_; }
-  [[nodiscard]] std::uint32_t file() const { return file_; }
+  [[nodiscard]] bool is_set() const { return place_.file != 0; }
+  [[nodiscard]] const SeenAt& place() const { return place_; }
 
   /// Whether a line begins with the first token that the marked one had, as far as the mark remembers it.
   [[nodiscard]] bool matches(std::string_view line) const;
 
  private:
-  std::int64_t start_ = 0;
-  std::uint32_t file_ = 0;  // the number of the session's file, from 1; 0 while no line is marked
+  SeenAt place_;
   std::uint32_t token_size_ = 0;
-  char token_[15];  // its first characters: enough to tell the keys of a section apart
-  bool is_piece_ = false;
+  char token_[20];  // its first characters: enough to tell the keys of a section apart
 };
 
 /// Where the headers and entries that a reading session has passed begin. It only grows, but for `forget`. What was learnt of an
@@ -39,11 +42,7 @@ class SectionIndex {
   SectionIndex(const SectionIndex&) = delete;
   SectionIndex& operator=(const SectionIndex&) = delete;
 
-  struct Place {
-    std::int64_t offset = 0;
-    std::uint32_t file = 0;
-    bool is_piece = false;
-  };
+  using Place = SeenAt;
 
   struct Section {
     Place header;

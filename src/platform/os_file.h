@@ -30,6 +30,8 @@ class OsFile final : public RandomAccess {
   std::int64_t size() override;
   /// The length that the file had when it was opened: known without asking again.
   [[nodiscard]] std::int64_t size_when_opened() const { return size_when_opened_; }
+  /// Tells this file from others, where the operating system says so without being asked again; 0 elsewhere.
+  [[nodiscard]] std::uint64_t identity() const { return identity_; }
   /// Moves with everything that this program writes to the file, through whatever object.
   [[nodiscard]] std::uint32_t change_count() const { return changes_.value(); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
@@ -47,6 +49,7 @@ class OsFile final : public RandomAccess {
 
   std::intptr_t handle_ = kClosed;
   std::int64_t size_when_opened_ = -1;
+  std::uint64_t identity_ = 0;
   ChangeCount changes_;
 };
 

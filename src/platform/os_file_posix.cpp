@@ -56,6 +56,7 @@ bool OsFile::adopt(std::intptr_t handle) {
   }
   handle_ = handle;
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
+  identity_ = (std::uint64_t{status.st_dev} << 40U) ^ status.st_ino;
   changes_ = ChangeCount(status.st_dev, status.st_ino);
   return true;
 }

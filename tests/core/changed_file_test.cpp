@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <random>
 
 #include "core/document_fixture.h"
@@ -71,6 +72,62 @@ TEST_F(ChangedFile, AgreesWithAFreshSessionAtAnyMoment) {
           << bytes_of(path);
     }
   }
+}
+
+// What another program does is seen by what stands where lines were learnt.
+
+TEST_F(ChangedFile, IsReadRightWhereAnotherSectionsLineCameToStandWhereALineStood) {
+  read("[Project]\nMaterial             = abc\n[Flow-1]\nFillTime = 1\n[Flow-2]\nFillTime = 2\n");
+  EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "2");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
+  // Longer by just what one section takes.
+  put_bytes(path, "[Project]\nMaterial             = abc1234567890123456789012\n[Flow-1]\nFillTime = 1\n[Flow-2]\nFillTime = 2\n");
+  EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "2");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
+}
+
+TEST_F(ChangedFile, IsReadRightWhereHeadersWereExchanged) {
+  read("[Flow-1]\nFillTime = 1\n[Flow-2]\nFillTime = 2\n");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
+  EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "2");
+  put_bytes(path, "[Flow-2]\nFillTime = 1\n[Flow-1]\nFillTime = 2\n");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "2");
+  EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "1");
+  put_bytes(path, "[Flow-2]\nFillTime = 1\n[Flow-3]\nFillTime = 2\n");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "-2");
+}
+
+TEST_F(ChangedFile, LosesALineFoundByPositionWithItsHeader) {
+  read("\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1 Top 5\n1 Side 7\n");
+  EXPECT_EQ(look(document, "[SURFACE", "", 2), "1 Side 7");
+  put_bytes(path, "\n[XURFACE ELEMENT BOUNDARY CONDITION NAME]\n1 Top 5\n1 Side 7\n");
+  EXPECT_EQ(look(document, "[SURFACE", "", 2), "-2");
+}
+
+TEST_F(ChangedFile, IsReadRightFarBehindItsHeader) {
+  std::string points;
+  for (int point = 1; point <= 400; ++point) {
+    points += "FR-" + std::to_string(point) + " = " + std::to_string(point) + "\n";
+  }
+  read("[Flow-1]\n" + points + "[Flow-2]\n" + points);
+  EXPECT_EQ(look(document, "[Flow-1]", "FR-400"), "400");
+  EXPECT_EQ(look(document, "[Flow-1]", "FR-1"), "1");
+  put_bytes(path, "[Flow-3]\n" + points + "[Flow-1]\nFR-400 = 7\n");
+  EXPECT_EQ(look(document, "[Flow-1]", "FR-400"), "7");
+  EXPECT_EQ(look(document, "[Flow-1]", "FR-1"), "-2");
+}
+
+TEST_F(ChangedFile, IsReadAsItStandsNowWhereItsPathIsOpenedAgain) {
+  read("[Project]\nMaterial             = abc\n[Flow-1]\nFillTime = 1\n");
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
+  store("[Project]", "Material", "abcdefgh");
+  ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
+  put_bytes(scratch.path("next.pro"), "[Flow-1]\nMeltTemp = 5\nFillTime = 3\n");
+  std::filesystem::rename(scratch.path("next.pro"), path);
+  ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "3");
+  EXPECT_EQ(look(document, "[Flow-1]", "MeltTemp"), "5");
 }
 
 }  // namespace
