@@ -1318,8 +1318,9 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// not in the file.
   bool GetMoldbase(int row, double& first, double& second, double& third, char*& name);
   /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values.
-  /// Writes the three thermal values and the name, and nothing behind it. Arguments: the row, thermal value 1, thermal
-  /// value 2, thermal value 3, the name. False: no path is set, or the name is null.
+  /// Writes the three thermal values and the name, and nothing behind it. Of a name with blanks the getter gives back
+  /// the first word alone, or all but the last three of five words or more. Arguments: the row, thermal value 1,
+  /// thermal value 2, thermal value 3, the name. False: no path is set, or the name is null or holds a Ctrl-Z (0x1A).
   bool SetMoldbase(int row, double first, double second, double third, char* name);
   /// [Moldbase] "%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
@@ -1332,8 +1333,9 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool GetMoldbase(int row, QELPRO_MMM_MECHANICAL& record);
   /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three mechanical values.
   /// Writes thermal values 1 and 2, mechanical value 2, the name, and mechanical values 1, 2 and 3: mechanical value 2
-  /// twice, thermal value 3 not at all. The files that are about have this layout. Arguments: the row, the record.
-  /// False: no path is set.
+  /// twice, thermal value 3 not at all. The files that are about have this layout. Where the name is empty, the getter
+  /// takes mechanical value 1 for it; blanks around a name are lost. Arguments: the row, the record. False: no path is
+  /// set, or the name is null or holds a Ctrl-Z (0x1A).
   bool SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& record);
 
   // [MoldMetalMaterial]: the mold metals, in rows like those of the mold bases.
@@ -1344,8 +1346,10 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// untouched: not in the file.
   bool GetMoldMetalMaterial(int row, double& first, double& second, double& third, char*& name);
   /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
-  /// values. Writes the three thermal values and the name, and nothing behind it. Arguments: the row, thermal value 1,
-  /// thermal value 2, thermal value 3, the name. False: no path is set, or the name is null.
+  /// values. Writes the three thermal values and the name, and nothing behind it. Of a name with blanks the getter
+  /// gives back the first word alone, or all but the last three of five words or more. Arguments: the row, thermal
+  /// value 1, thermal value 2, thermal value 3, the name. False: no path is set, or the name is null or holds a Ctrl-Z
+  /// (0x1A).
   bool SetMoldMetalMaterial(int row, double first, double second, double third, char* name);
   /// [MoldMetalMaterial] "%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
@@ -1359,8 +1363,9 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool GetMoldMetalMaterial(int row, QELPRO_MMM_MECHANICAL& record);
   /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks, three mechanical
   /// values. Writes thermal values 1 and 2, mechanical value 2, the name, and mechanical values 1, 2 and 3: mechanical
-  /// value 2 twice, thermal value 3 not at all. The files that are about have this layout. Arguments: the row, the
-  /// record. False: no path is set.
+  /// value 2 twice, thermal value 3 not at all. The files that are about have this layout. Where the name is empty, the
+  /// getter takes mechanical value 1 for it; blanks around a name are lost. Arguments: the row, the record. False: no
+  /// path is set, or the name is null or holds a Ctrl-Z (0x1A).
   bool SetMoldMetalMaterial(int row, const QELPRO_MMM_MECHANICAL& record);
 
   // [PartingSurface]: the cavity and core sides. Outputs that the text does not supply keep their values.

@@ -34,7 +34,10 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   virtual ~CQELPROReader_Manipulator();
 
   /// Opens a file for reading. False when it cannot be opened; a file that was open before is closed all the same.
-  /// `GetFilePath` hands the caller's own pointer back, so the text should stay valid while the file is in use.
+  /// `GetFilePath` hands the caller's own pointer back, so the text should stay valid while the file is in use. Section
+  /// members go on reading the file that was opened, even where a program puts another one in its place, as editors and
+  /// `qelpro set` do: a new reader sees that one, and this one after the next `SetFilePath`, as far as what it
+  /// remembers fits. `ReadString` and `ReadValue` open the path for each call.
   bool SetFilePath(const char* path);
   /// The same by a wide path. `GetFilePath` hands out null then, and `ReadValue` finds nothing.
   bool SetFilePath(const wchar_t* path);
@@ -52,10 +55,11 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// in the thread's own buffer until the thread's next read, and `size` is not looked at. False, `value` untouched: not
   /// in the file.
   bool ReadString(const char* section, const char* key, char*& value, char* buffer, unsigned int size);
-  /// As `ReadString`, by another search: the section begins behind the first line that mentions its name, and the key may
-  /// stand in a later section. A `size` of 0 says nothing of the buffer, which must be large enough then; with any other
-  /// a value that does not fit yields false. Without a buffer (null) the value stands in another one of the thread's own.
-  /// Only for a file given by a narrow path: otherwise false.
+  /// As `ReadString`, by another search: the section begins behind the first line that mentions its name, the key may
+  /// stand in a later section, and its line needs a "=": one without is not found, while `ReadString` gives its empty
+  /// value. A `size` of 0 says nothing of the buffer, which must be large enough then; with any other a value that does
+  /// not fit yields false. Without a buffer (null) the value stands in another one of the thread's own. Only for a file
+  /// given by a narrow path: otherwise false.
   bool ReadValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size);
 
   // [FileHeader]: what the file is, who wrote it and when.
@@ -994,16 +998,17 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// value untouched: not in the file.
   bool PartInsertInitialTemperature_ReadTotalPartInsert(int& value);
   /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, its initial temperature,
-  /// in oC. Of a name with blanks it hands out the first word, and the temperature is 0. What the text lacks is 0.
-  /// Arguments: the identifier, the name, the temperature, the insert. The name is valid until the next read of its
-  /// kind. False, outputs untouched: not in the file.
+  /// in oC. Of a name with blanks it hands out the first word, and the temperature is 0. A name that is empty between
+  /// two tabs is an empty text. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
+  /// insert. The name is valid until the next read of its kind. False, outputs untouched: not in the file.
   bool PartInsertInitialTemperature_ReadPartInsert(int& id, char*& name, double& temperature, int insert);
   /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, which may hold blanks,
-  /// its initial temperature, in oC, and an integer. Four pieces between tabs are the four fields, and a piece may be
-  /// empty. Otherwise a last word that is an integer not above `insert` is the fourth field, and one above it the
-  /// temperature; the fourth is `insert` then. What the text lacks is 0. Arguments: the identifier, the name, the
-  /// temperature, the fourth field, the insert. The name is valid until the next read of its kind. False, outputs
-  /// untouched: not in the file.
+  /// its initial temperature, in oC, and an integer. Four pieces between tabs are the four fields, whatever is empty;
+  /// three of which the second is empty and the third a number leave out the fourth, which is `insert` then. Otherwise
+  /// a last word that is an integer not above `insert` is the fourth field, and one above it the temperature; the
+  /// fourth is `insert` then. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
+  /// fourth field, the insert. The name is valid until the next read of its kind. False, outputs untouched: not in the
+  /// file.
   bool PartInsertInitialTemperature_ReadPartInsert(int& id, char*& name, double& temperature, int& fourth, int insert);
 
   // [MoldInsertInitialTemperature]: the initial temperature of each mold insert.
@@ -1012,16 +1017,17 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// value untouched: not in the file.
   bool MoldInsertInitialTemperature_ReadTotalMoldInsert(int& value);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d": a mold insert: its identifier, its name, its initial temperature,
-  /// in oC. Of a name with blanks it hands out the first word, and the temperature is 0. What the text lacks is 0.
-  /// Arguments: the identifier, the name, the temperature, the insert. The name is valid until the next read of its
-  /// kind. False, outputs untouched: not in the file.
+  /// in oC. Of a name with blanks it hands out the first word, and the temperature is 0. A name that is empty between
+  /// two tabs is an empty text. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
+  /// insert. The name is valid until the next read of its kind. False, outputs untouched: not in the file.
   bool MoldInsertInitialTemperature_ReadMoldInsert(int& id, char*& name, double& temperature, int insert);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d": a mold insert: its identifier, its name, which may hold blanks,
-  /// its initial temperature, in oC, and an integer. Four pieces between tabs are the four fields, and a piece may be
-  /// empty. Otherwise a last word that is an integer not above `insert` is the fourth field, and one above it the
-  /// temperature; the fourth is `insert` then. What the text lacks is 0. Arguments: the identifier, the name, the
-  /// temperature, the fourth field, the insert. The name is valid until the next read of its kind. False, outputs
-  /// untouched: not in the file.
+  /// its initial temperature, in oC, and an integer. Four pieces between tabs are the four fields, whatever is empty;
+  /// three of which the second is empty and the third a number leave out the fourth, which is `insert` then. Otherwise
+  /// a last word that is an integer not above `insert` is the fourth field, and one above it the temperature; the
+  /// fourth is `insert` then. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
+  /// fourth field, the insert. The name is valid until the next read of its kind. False, outputs untouched: not in the
+  /// file.
   bool MoldInsertInitialTemperature_ReadMoldInsert(int& id, char*& name, double& temperature, int& fourth, int insert);
 
   // [PartInsertContactAngle]: the contact angle of each part insert group.

@@ -960,9 +960,11 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// stored, the file unchanged.
   bool PartInsertInitialTemperature_WriteTotalPartInsert(int value);
   /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, its initial temperature,
-  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives all
-  /// its words back, the other form the first one. Arguments: the identifier, the name, the temperature, the insert.
-  /// False: not stored, the file unchanged.
+  /// in oC. The name is written whole, blanks and all, and may be empty. The reader's form of four outputs gives its
+  /// words back, one blank between them, where the temperature without its fraction is above `insert`; otherwise it
+  /// takes the temperature for the fourth field, and the name's last word for the temperature. The other form gives the
+  /// first word back, and of a name with blanks no temperature. An empty name reads back empty. Arguments: the
+  /// identifier, the name, the temperature, the insert. False: not stored, the file unchanged.
   bool PartInsertInitialTemperature_WritePartInsert(int id, char* name, double temperature, int insert);
   /// [PartInsertInitialTemperature] "PartInsert-%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
@@ -976,9 +978,11 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// stored, the file unchanged.
   bool MoldInsertInitialTemperature_WriteTotalMoldInsert(int value);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d": a mold insert: its identifier, its name, its initial temperature,
-  /// in oC. The name is written whole, blanks and all, and may be empty: the reader's form of four outputs gives all
-  /// its words back, the other form the first one. Arguments: the identifier, the name, the temperature, the insert.
-  /// False: not stored, the file unchanged.
+  /// in oC. The name is written whole, blanks and all, and may be empty. The reader's form of four outputs gives its
+  /// words back, one blank between them, where the temperature without its fraction is above `insert`; otherwise it
+  /// takes the temperature for the fourth field, and the name's last word for the temperature. The other form gives the
+  /// first word back, and of a name with blanks no temperature. An empty name reads back empty. Arguments: the
+  /// identifier, the name, the temperature, the insert. False: not stored, the file unchanged.
   bool MoldInsertInitialTemperature_WriteMoldInsert(int id, char* name, double temperature, int insert);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d", from a text that is constant, such as a literal: the same member.
   template <class Char>

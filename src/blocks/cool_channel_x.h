@@ -38,7 +38,7 @@ inline constexpr Key<ControlPoint> kFlowControlPoint{
      .adapter = {"SetCoolChannelX_WriteControlPointSetting", "SetCoolingChannelData"}}};
 inline constexpr Key<ControlPoint> kPressureControlPoint{
     "TCPP-%d",
-    {"CoolChannelX_ReadPressureControlPointSetting"},
+    {"CoolChannelX_ReadPressureControlPointSetting", "CoolChannelX_ReadControlPointSetting"},
     {"CoolChannelX_WritePressureControlPointSetting"},
     "a control point by pressure: a real, the coolant system, the temperature, the pressure, an integer",
     {.adapter = {"SetCoolChannelX_WritePressureControlPointSetting", "SetCoolingChannelData"}}};

@@ -17,7 +17,7 @@ inline constexpr Key<Integer> kVPSwitchCtrl{
     {"FlowCTL_ReadVPSwitchCtrl"},
     {"FlowCTL_WriteVPSwitchCtrl"},
     "the criterion of the V/P switch-over: 0 filled volume, 1 ram position, 2 injection pressure, 3 a further one over the filled volume",
-    {.older = {"GetFlowCTLVPSwitchCtrl"}, .loader = "set_process_VPSwitchCtrl"}};
+    {.older = {"GetFlowCTLVPSwitchCtrl"}, .loader = "set_process_VPSwitchCtrl", .value_reader = {"GetVPSwitch"}}};
 inline constexpr Key<Integer> kPackingCtrl{"PackingCtrl",
                                            {"FlowCTL_ReadPackingCtrl"},
                                            {"FlowCTL_WritePackingCtrl"},
@@ -40,21 +40,23 @@ inline constexpr Key<Real> kInjectionTime{"InjectionTime",
                                           {"FlowCTL_WriteInjectionTime"},
                                           "the injection time, in sec",
                                           {.older = {"GetFlowCTLInjectionTime"}, .loader = "set_process_InjectionTime"}};
-inline constexpr Key<Real> kVolumeFilled{"VolumeFilled",
-                                         {"FlowCTL_ReadVolumeFilled"},
-                                         {"FlowCTL_WriteVolumeFilled"},
-                                         "how much is filled when the V/P switch-over comes, for the criteria 0 and 3",
-                                         {.older = {"GetFlowCTLVolumeFilled"}, .loader = "set_process_VolumeFilled"}};
+inline constexpr Key<Real> kVolumeFilled{
+    "VolumeFilled",
+    {"FlowCTL_ReadVolumeFilled"},
+    {"FlowCTL_WriteVolumeFilled"},
+    "how much is filled when the V/P switch-over comes, for the criteria 0 and 3",
+    {.older = {"GetFlowCTLVolumeFilled"}, .loader = "set_process_VolumeFilled", .value_reader = {"GetVPSwitch"}}};
 inline constexpr Key<Real> kRamPosition{"RamPosition",
                                         {"FlowCTL_ReadRamPosition"},
                                         {"FlowCTL_WriteRamPosition"},
                                         "the ram position at which the V/P switch-over comes, for criterion 1",
-                                        {.older = {"GetFlowCTLRamPosition"}, .loader = "set_process_RamPosition"}};
-inline constexpr Key<Real> kInjectionPressure{"InjectionPressure",
-                                              {"FlowCTL_ReadInjectionPressure"},
-                                              {"FlowCTL_WriteInjectionPressure"},
-                                              "the injection pressure at which the V/P switch-over comes, in MPa, for criterion 2",
-                                              {.older = {"GetFlowCTLInjectionPressure"}, .loader = "set_process_InjectionPressure"}};
+                                        {.older = {"GetFlowCTLRamPosition"}, .loader = "set_process_RamPosition", .value_reader = {"GetVPSwitch"}}};
+inline constexpr Key<Real> kInjectionPressure{
+    "InjectionPressure",
+    {"FlowCTL_ReadInjectionPressure"},
+    {"FlowCTL_WriteInjectionPressure"},
+    "the injection pressure at which the V/P switch-over comes, in MPa, for criterion 2",
+    {.older = {"GetFlowCTLInjectionPressure"}, .loader = "set_process_InjectionPressure", .value_reader = {"GetVPSwitch"}}};
 inline constexpr Key<Real> kCureSwitch{"CureSwitch",
                                        {"FlowCTL_ReadCureSwitch"},
                                        {"FlowCTL_WriteCureSwitch"},

@@ -17,6 +17,7 @@ struct Elsewhere {
   Members older{};               ///< Members of CPROIO_Manipulator.
   Members adapter{};             ///< Members of CQEL_ProcessAdapter.
   const char* loader = nullptr;  ///< Which function takes the value when CQELProcessData_Manipulator builds a process; null where none does.
+  Members value_reader{};        ///< Members of CQELProcessValueReader.
 };
 
 /// One key of a section as everything but its encoding sees it: the catalogue, the tool and the documents run from this.

@@ -30,7 +30,7 @@ inline constexpr Key<ControlPoint> kFlowControlPoint{
     {.older = {"GetMPreheatCoolChannelControlPoint", "SetMPreheatCoolChannelControlPoint"}}};
 inline constexpr Key<ControlPoint> kPressureControlPoint{
     "TCPP-%d",
-    {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting"},
+    {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting", "MoldPreheat_CoolChannelX_ReadControlPointSetting"},
     {},
     "a control point by pressure: a real, the coolant system, the temperature, the pressure, an integer"};
 

@@ -33,16 +33,24 @@ void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2,
   name = buffer.keep(whole.substr(begin, end - begin));
 }
 
-// Whether an insert's name was left out: nothing but blanks stands between two tabs, and a number and no more in the next
-// piece. Where a word stands there, the tabs only align the fields.
+constexpr std::size_t kInsertFields = 4;
+
+bool is_blank(const std::string& piece) { return piece.find_first_not_of(' ') == std::string::npos; }
+
+// A number and no more, blanks around it aside.
+bool is_number(const std::string& piece) {
+  const char* at = piece.c_str();
+  double number = 0;
+  return fields::scan_one(at, number) && at[std::strspn(at, " ")] == '\0';
+}
+
+// Whether an insert's name was left out: nothing but blanks stands between two tabs, and the next piece is a temperature, or
+// is left out as well before the fourth field. Where a word stands there, the tabs only align the fields.
 bool has_no_name(const std::vector<std::string>& pieces) {
-  constexpr const char* kBlanks = " ";
-  if (pieces.size() < 3 || pieces[1].find_first_not_of(kBlanks) != std::string::npos) {
+  if (pieces.size() < 3 || !is_blank(pieces[1])) {
     return false;
   }
-  const char* at = pieces[2].c_str();
-  double temperature = 0;
-  return fields::scan_one(at, temperature) && at[std::strspn(at, kBlanks)] == '\0';
+  return is_number(pieces[2]) || (pieces.size() == kInsertFields && is_blank(pieces[2]) && is_number(pieces[3]));
 }
 
 void scan_insert(const char* text, NameBuffer& buffer, int& id, char*& name, double& temperature) {
@@ -58,16 +66,15 @@ void scan_insert(const char* text, NameBuffer& buffer, int& id, char*& name, dou
   name = buffer.keep(word);
 }
 
-// The four pieces of a line that has as many, none where it has not. Pieces may be empty, a name that is followed by no
-// temperature and the identifier excepted: there a file's tabs align the fields.
-std::vector<std::string> four_pieces(const char* text) {
-  constexpr std::size_t kPieces = 4;
+// The pieces between tabs where they are an insert's fields, none where the fields are words: all four, whatever is empty; without
+// those the four that are not empty, the other tabs only aligning them; or three, where the name alone is left out.
+std::vector<std::string> insert_pieces(const char* text) {
   std::vector<std::string> pieces = pieces_of(text, '\t');
-  const bool aligned = pieces.size() != kPieces || pieces[0].empty() || (pieces[1].empty() && !has_no_name(pieces));
-  if (aligned) {
-    pieces = split(text, "\t");
+  if (pieces.size() == kInsertFields || (pieces.size() == kInsertFields - 1 && has_no_name(pieces))) {
+    return pieces;
   }
-  if (pieces.size() != kPieces) {
+  pieces = split(text, "\t");
+  if (pieces.size() != kInsertFields) {
     pieces.clear();
   }
   return pieces;
@@ -75,12 +82,17 @@ std::vector<std::string> four_pieces(const char* text) {
 
 void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& id, char*& name, double& temperature, int& fourth) {
   fields::clear(id, name, temperature, fourth);
-  const std::vector<std::string> pieces = four_pieces(text);
+  const std::vector<std::string> pieces = insert_pieces(text);
   if (!pieces.empty()) {
-    fields::scan(pieces[3].c_str(), fourth);
-    fields::scan(pieces[2].c_str(), temperature);
+    const bool has_fourth = pieces.size() == kInsertFields;
     fields::scan(pieces[0].c_str(), id);
-    name = buffer.keep(pieces[1]);
+    fields::scan(pieces[2].c_str(), temperature);
+    if (has_fourth) {
+      fields::scan(pieces[3].c_str(), fourth);
+    } else {
+      fourth = insert;
+    }
+    name = buffer.keep(has_fourth ? pieces[1] : std::string());
     return;
   }
   std::vector<std::string> words = split(text, " \t");

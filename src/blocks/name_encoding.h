@@ -49,7 +49,7 @@ struct IntegerAndQuotedName {
 };
 
 /// "%d %s %lf", written with tabs. Clears its outputs. A name with blanks yields its first word, and no temperature; an
-/// empty one between two tabs, before a number, yields an empty text.
+/// empty one between two tabs, before a number, yields an empty text, and so does one before an empty temperature and a number.
 struct InsertLine {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, double>;
@@ -66,9 +66,11 @@ struct MoldInsertLine : InsertLine {
 
 /// Identifier, name with blanks, temperature and an optional integer. Clears its outputs, the name to null.
 ///
-/// Four pieces between tabs are the four fields; the name may be empty. Otherwise words count: the last one is the fourth field where it is an
-/// integer not above the insert's own number, and the temperature where it is above; the fourth field is the insert's
-/// number then. A line whose last word is no integer gives its words as the name, and nothing else.
+/// Four pieces between single tabs are the four fields, whatever is empty: an empty name is an empty text. Three of which the second is
+/// empty and the third a number are the fields of an insert without a name; the fourth field is the insert's number then. Otherwise
+/// tabs in a row count as one, and four pieces are the four fields again. Otherwise words count: the last one is the fourth field where
+/// it is an integer not above the insert's own number, and the temperature where it is above; the fourth field is the insert's number
+/// then. A line whose last word is no integer gives its words as the name, and nothing else.
 struct InsertLineOfFour {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, double, int>;

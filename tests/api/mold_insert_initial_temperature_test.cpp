@@ -56,17 +56,74 @@ TEST(MoldInsert, FourPiecesBetweenTabs) {
   expect_line("3\tCore  Pin\t80.5\t9", 1, {3, "Core  Pin", 80.5, 9});
 }
 
-TEST(MoldInsert, NameBetweenTwoTabsMayBeEmpty) {
+TEST(MoldInsert, FourPiecesAreTheFourFieldsWhateverIsEmpty) {
   expect_line("3\t\t80\t2", 1, {3, "", 80, 2});
   expect_line("3\t \t80.5\t9", 1, {3, " ", 80.5, 9});
-  expect_line("3\t\t80", 1, {3, nullptr, 80, 1});
+  expect_line("\tCore Pin\t80\t1", 1, {0, "Core Pin", 80, 1});
+  expect_line("\t\t80\t1", 1, {0, "", 80, 1});
+  expect_line("3\t\t\t9", 1, {3, "", 0, 9});
+  expect_line("3\t\t\t2", 5, {3, "", 0, 2});
+  expect_line("3\tPin A\t\t2", 1, {3, "Pin A", 0, 2});
+  expect_line("\t\t\t9", 1, {0, "", 0, 9});
+  expect_line("3\t\tPin\t80", 1, {3, "", 0, 80});
+}
+
+TEST(MoldInsert, ThreePiecesWithAnEmptyNameLeaveOutTheFourthField) {
+  expect_line("3\t\t80", 1, {3, "", 80, 1});
+  expect_line("7\t\t1", 2, {7, "", 1, 2});
+  expect_line("7\t \t-4.5", 2, {7, "", -4.5, 2});
 }
 
 TEST(MoldInsert, TabsThatOnlyAlignTheFieldsAreNoEmptyName) {
-  expect_line("3\t\tPin\t80", 1, {3, "Pin", 80, 1});
+  expect_line("3\t\tPin 80", 1, {3, "Pin", 80, 1});
   expect_line("3\t\tPin A\t80\t2", 1, {3, "Pin A", 80, 2});
   expect_line("\t3\tPin A\t80\t2", 1, {3, "Pin A", 80, 2});
-  expect_line("\t3\tPin\t80", 1, {3, "Pin", 80, 1});
+}
+
+TEST(MoldInsert, WithAWholeTemperatureUpToItsNumberReadsBackWithoutAName) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  char none[] = "";
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  ASSERT_TRUE(writer.MoldInsertInitialTemperature_WriteMoldInsert(7, none, 1, 2));
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  int id = -1;
+  char* name = nullptr;
+  double temperature = -1;
+  int fourth = -1;
+  EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, fourth, 2));
+  EXPECT_EQ(id, 7);
+  EXPECT_STREQ(name, "");
+  EXPECT_EQ(temperature, 1);
+  EXPECT_EQ(fourth, 2);
+}
+
+TEST(MoldInsert, NameWithBlanksReadsBackWhereTheTemperatureIsAWholeNumberAboveItsNumber) {
+  const Scratch scratch;
+  const std::string path = scratch.path();
+  Writer writer;
+  char given[] = "Core  Pin A";
+  ASSERT_TRUE(writer.SetFilePath(path.c_str()));
+  const struct {
+    double temperature;
+    Insert read;
+  } rows[] = {{80, {3, "Core Pin A", 80, 4}}, {4, {3, "Core Pin", 0, 4}}, {80.5, {3, "Core Pin A", 80.5, 4}}, {2.5, {3, "Core Pin", 0, 2}}};
+  for (const auto& row : rows) {
+    ASSERT_TRUE(writer.MoldInsertInitialTemperature_WriteMoldInsert(3, given, row.temperature, 4));
+    Reader reader;
+    ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+    int id = -1;
+    char* name = nullptr;
+    double temperature = -1;
+    int fourth = -1;
+    EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, fourth, 4));
+    EXPECT_EQ(id, row.read.id) << row.temperature;
+    EXPECT_STREQ(name, row.read.name) << row.temperature;
+    EXPECT_EQ(temperature, row.read.temperature) << row.temperature;
+    EXPECT_EQ(fourth, row.read.fourth) << row.temperature;
+  }
 }
 
 TEST(MoldInsert, WithoutANameReadsBackWithoutOne) {
@@ -89,7 +146,7 @@ TEST(MoldInsert, WithoutANameReadsBackWithoutOne) {
     EXPECT_EQ(temperature, 80.5);
     EXPECT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(id, name, temperature, fourth, 1));
     EXPECT_EQ(id, 3);
-    EXPECT_EQ(name, nullptr);
+    EXPECT_STREQ(name, "");
     EXPECT_EQ(temperature, 80.5);
     EXPECT_EQ(fourth, 1);
   }
@@ -101,7 +158,8 @@ TEST(MoldInsert, OfThreeOutputsTakesAnEmptyNameOnlyBeforeANumber) {
     const char* text;
     const char* name;
     double temperature;
-  } rows[] = {{"3\t\t80\t2", "", 80}, {"3\t\tPin\t80", "Pin", 80}, {"3\t\t80 Pin\t70", "80", 0}, {"3\t\tnano\t70", "nano", 70}, {"3\t80", "80", 0}};
+  } rows[] = {{"3\t\t80\t2", "", 80}, {"3\t\tPin\t80", "Pin", 80}, {"3\t\t80 Pin\t70", "80", 0}, {"3\t\tnano\t70", "nano", 70},
+              {"3\t80", "80", 0},     {"3\t\t\t9", "", 0},         {"3\t\t\tPin", "Pin", 0}};
   for (const auto& row : rows) {
     const std::string path = scratch.file("[MoldInsertInitialTemperature]\nMoldInsert-1 = " + std::string(row.text) + "\n");
     Reader reader;

@@ -14,6 +14,21 @@ TEST_F(RawAccess, ReadStringFindsAFileThatWasReplacedByAnother) {
   EXPECT_EQ(read_string(reader, "[Flow-2]", "FillTime"), "4.5");
 }
 
+TEST_F(RawAccess, SectionMembersKeepTheFileThatWasOpenedUntilThePathIsSetAgain) {
+  const std::string path = scratch_.file("[Flow-2]\nFillTime = 2.5\n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  std::filesystem::rename(scratch_.file("[Flow-2]\nFillTime = 4.5\n", "new.pro"), path);
+  double time = 0;
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 2));
+  EXPECT_EQ(time, 2.5);
+  EXPECT_EQ(read_string(reader, "[Flow-2]", "FillTime"), "4.5");
+  EXPECT_EQ(read_value(reader, "[Flow-2]", "FillTime"), "4.5");
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 2));
+  EXPECT_EQ(time, 4.5);
+}
+
 TEST_F(RawAccess, FailsOnAFileThatIsGone) {
   const std::string path = scratch_.file(kFile);
   Reader reader;

@@ -35,6 +35,14 @@ TEST_F(RawAccess, BothReadsGiveTheSameText) {
   }
 }
 
+TEST_F(RawAccess, ReadValueFindsNoLineWithoutAnEqualsSign) {
+  const std::string path = scratch_.file("[Unit]\nTime\nTemp = oC\n");
+  Reader reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  EXPECT_EQ(read_string(reader, "[Unit]", "Time"), "");
+  EXPECT_EQ(read_value(reader, "[Unit]", "Time"), "(false)");
+}
+
 TEST_F(RawAccess, ReadStringSeesAChangeOfTheFileAtOnce) {
   const std::string path = scratch_.file(kFile);
   Reader reader;

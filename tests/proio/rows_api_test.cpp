@@ -321,6 +321,41 @@ TEST_F(Rows, MoldRecordIsReadWithANameOfSeveralWords) {
   }
 }
 
+TEST_F(Rows, MoldRowsGiveBackTheNameThatTheirFormCanHold) {
+  const struct {
+    const char* given;
+    const char* short_form;
+    const char* record;
+  } rows[] = {{"", "", "4"},
+              {"P20", "P20", "P20"},
+              {" P20 ", "P20", "P20"},
+              {"Tool Steel", "Tool", "Tool Steel"},
+              {"a b c d", "a", "a b c d"},
+              {"a  b c d e", "a  b", "a  b c d e"}};
+  for (const Table& table : kTables) {
+    for (const auto& row : rows) {
+      std::string name = row.given;
+      double number = 0;
+      char* read = nullptr;
+      EXPECT_TRUE((over_head().*table.set)(1, 1, 2, 3, name.data()));
+      EXPECT_TRUE((object_.*table.get)(1, number, number, number, read));
+      EXPECT_STREQ(read, row.short_form) << row.given;
+      QELPRO_MMM_MECHANICAL record{{1, 2, 3}, {4, 5, 6}, name.data()};
+      EXPECT_TRUE((over("[CaeHeader]\nFileVersion = 1010\n").*table.set_record)(1, record));
+      EXPECT_TRUE((object_.*table.get_record)(1, record));
+      EXPECT_STREQ(record.name, row.record) << row.given;
+    }
+  }
+}
+
+TEST_F(Rows, MoldRowsRefuseAnEndMarkInTheirName) {
+  for (const Table& table : kTables) {
+    char name[] = "Tool\x1A";
+    EXPECT_FALSE((over_head().*table.set)(1, 1, 2, 3, name));
+    EXPECT_FALSE((object_.*table.set_record)(1, {{1, 2, 3}, {4, 5, 6}, name}));
+  }
+}
+
 TEST_F(Rows, MoldRecordOfAFewItemsKeepsTheOthers) {
   QELPRO_MMM_MECHANICAL record{{1, 2, 3}, {4, 5, 6}, nullptr};
   EXPECT_TRUE(over("[CaeHeader]\nFileVersion = 1010\n[Moldbase]\n1 = 9 8\n").GetMoldbase(1, record));

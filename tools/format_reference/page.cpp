@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <functional>
+#include <initializer_list>
 #include <iterator>
 #include <map>
 #include <set>
@@ -59,14 +60,20 @@ std::string members(const qel::Members& names, const std::string& object = {}) {
   return result;
 }
 
+std::string together(std::initializer_list<std::string> parts) {
+  std::string result;
+  for (const std::string& part : parts) {
+    result += (result.empty() || part.empty() ? "" : ", ") + part;
+  }
+  return result;
+}
+
 // The adapter's members that read begin with "Get".
 std::string with_adapter(const qel::Members& own, const qel::KeyInfo& key, bool reading) {
   qel::Members adapter{};
   std::copy_if(key.elsewhere.adapter.begin(), key.elsewhere.adapter.end(), adapter.begin(),
                [reading](const char* name) { return name != nullptr && (std::string_view(name).substr(0, 3) == "Get") == reading; });
-  const std::string result = members(own);
-  const std::string more = members(adapter, "CQEL_ProcessAdapter::");
-  return result + (result.empty() || more.empty() ? "" : ", ") + more;
+  return together({members(own), members(adapter, "CQEL_ProcessAdapter::")});
 }
 
 std::string loader(const qel::KeyInfo& key) { return key.elsewhere.loader != nullptr ? code(key.elsewhere.loader) : ""; }
@@ -76,8 +83,9 @@ void print_sections(std::ostream& to) {
     to << "\n### `" << section->name << "`\n\n"
        << cell(section->subject) << "\n\n| key | value | encoding | read by | written by | older object | loader |\n|---|---|---|---|---|---|---|\n";
     for (const qel::KeyInfo* key : keys_of(*section)) {
-      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding << " | " << with_adapter(key->readers, *key, true)
-         << " | " << with_adapter(key->writers, *key, false) << " | " << members(key->elsewhere.older) << " | " << loader(*key) << " |\n";
+      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding << " | "
+         << together({with_adapter(key->readers, *key, true), members(key->elsewhere.value_reader, "CQELProcessValueReader::")}) << " | "
+         << with_adapter(key->writers, *key, false) << " | " << members(key->elsewhere.older) << " | " << loader(*key) << " |\n";
     }
   }
 }

@@ -24,7 +24,8 @@ void print_rows(std::ostream& to) {
       const qel::KeyInfo& key = *section->keys[index];
       to << section->name << '\t' << key.text << '\t' << key.encoding << '\t' << joined(key.readers) << '\t' << joined(key.writers) << '\t'
          << joined(key.elsewhere.older) << '\t' << joined(key.elsewhere.adapter) << '\t'
-         << (key.elsewhere.loader != nullptr ? key.elsewhere.loader : "") << '\t' << key.meaning << '\n';
+         << (key.elsewhere.loader != nullptr ? key.elsewhere.loader : "") << '\t' << key.meaning << '\t' << joined(key.elsewhere.value_reader)
+         << '\n';
     }
   }
 }
