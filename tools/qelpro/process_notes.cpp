@@ -50,11 +50,11 @@ std::string ranges_of(const std::vector<std::pair<int, int>>& ranges) {
 /// The lines that lookups take in one section.
 struct Entries {
   std::string name;
-  std::map<std::string_view, const TextLine*> lines;
+  std::map<std::string_view, TextLine> lines;
 
   [[nodiscard]] const TextLine* find(std::string_view key) const {
     const auto found = lines.find(key);
-    return found != lines.end() ? found->second : nullptr;
+    return found != lines.end() ? &found->second : nullptr;
   }
 };
 
@@ -64,8 +64,8 @@ class Diagnosis {
 
   std::vector<ProcessNote> run() {
     for (std::size_t index = 0; index < document_.lines_before_sections(); ++index) {
-      if (kind_of(document_.lines()[index]) == LineKind::entry) {
-        add({file_, document_.lines()[index].number, "", ""}, "dropped: the line stands before the first section");
+      if (const TextLine line = document_.line(index); kind_of(line) == LineKind::entry) {
+        add({file_, line.number, "", ""}, "dropped: the line stands before the first section");
       }
     }
     const int type = project_type();
@@ -82,7 +82,7 @@ class Diagnosis {
     inlets(type);
     for (const TextSection& section : document_.sections()) {
       if (section.repeated && taken_.contains(std::string(section.name))) {
-        add({file_, document_.lines()[section.header].number, std::string(section.name), ""}, "dropped: a section of this name came before");
+        add({file_, document_.line(section.header).number, std::string(section.name), ""}, "dropped: a section of this name came before");
       }
     }
     return std::move(notes_);
@@ -106,7 +106,7 @@ class Diagnosis {
     Entries& entries = taken_[name];
     entries.name = name;
     for (std::size_t index = section->header + 1; index < section->behind; ++index) {
-      take_line(document_.lines()[index], entries);
+      take_line(document_.line(index), entries);
     }
     return &entries;
   }
@@ -124,12 +124,12 @@ class Diagnosis {
         add(entries, &line, key, "read without a value: the line has no \"=\"");
         break;
       case LineKind::entry:
-        if (line.whole.size() != line.text.size()) {
-          add(entries, &line, key, "cut: the line is too long, or holds a NUL byte");
-        }
         break;
     }
-    if (!entries.lines.emplace(key, &line).second) {
+    if (const std::string limit = limit_of(line); !limit.empty()) {
+      add(entries, &line, key, limit);
+    }
+    if (!entries.lines.emplace(key, line).second) {
       add(entries, &line, key, "dropped: the key came before in this section");
     }
   }
@@ -229,7 +229,7 @@ class Diagnosis {
     std::map<int, const TextLine*> points;
     for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
-        points.emplace(number, at->second);
+        points.emplace(number, &at->second);
       }
     }
     int count = 0;
@@ -287,7 +287,7 @@ class Diagnosis {
     std::map<int, const TextLine*> points;
     for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
-        points.emplace(number, at->second);
+        points.emplace(number, &at->second);
       }
     }
     int expected = 1;
@@ -417,7 +417,7 @@ class Diagnosis {
         }
         const int number = printed_number(section.name.substr(prefix.size(), section.name.size() - prefix.size() - 1));
         if (number > count) {
-          add({file_, document_.lines()[section.header].number, std::string(section.name), ""},
+          add({file_, document_.line(section.header).number, std::string(section.name), ""},
               "dropped: the process has " + std::to_string(count) + (count == 1 ? " inlet" : " inlets"));
         }
       }

@@ -219,8 +219,7 @@ std::vector<std::string> between_tabs(std::string_view text) {
 // Integer, name and real. Where nothing but blanks stands between two tabs and a number behind them, the name was left out.
 Complaint insert_of_three(std::string_view text) {
   const std::vector<std::string> pieces = between_tabs(text);
-  const bool has_no_name =
-      pieces.size() >= 3 && pieces[1].find_first_not_of(' ') == std::string::npos && !read_fields(pieces[2], "f");
+  const bool has_no_name = pieces.size() >= 3 && pieces[1].find_first_not_of(' ') == std::string::npos && !read_fields(pieces[2], "f");
   return read_fields(text, has_no_name ? "df" : "dwf");
 }
 
@@ -298,8 +297,8 @@ const Row* row_of(std::string_view encoding) {
 }  // namespace
 
 bool is_checked(std::string_view encoding) {
-  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) || is_insert_of_four(encoding) || encoding == qel::ZoneCount::kName ||
-         encoding == qel::PositionalHeader::kName;
+  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) || is_insert_of_four(encoding) ||
+         encoding == qel::ZoneCount::kName || encoding == qel::PositionalHeader::kName;
 }
 
 std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number) {
