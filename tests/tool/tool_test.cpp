@@ -55,6 +55,13 @@ TEST(Tool, NamesTheWrongWordInOneLine) {
       {{"coolant", data_path("coolants.pcs"), "6", "warm"}, "\"warm\""},
       {{"coolant", data_path("coolants.pcs"), "--table", "6", "--from", "low", "--to", "2", "--step", "1"}, "low"},
       {{"coolant", data_path("coolants.pcs"), "--table", "6", "--from", "1", "--to", "2"}, "--step"},
+      {{"coolant", data_path("coolants.pcs"), "0"}, "TEMPERATURE is missing behind \"0\""},
+      {{"coolant", data_path("coolants.pcs"), "0", "1", "2"}, "\"2\" is one word too many"},
+      {{"coolant", "--table"}, "--table: ID is missing"},
+      {{"--json", "show", file}, "\"--json\" belongs behind the command"},
+      {{"--bogus"}, "\"--bogus\" is no option"},
+      {{"get", "--"}, "FILE is missing"},
+      {{"get", file, "Flow-1"}, "KEY is missing"},
       {{"show", file, ""}, "the name is empty"},
       {{"machines", data_path("machines.bank"), ""}, "the name is empty"}};
   for (const auto& [arguments, word] : rows) {
