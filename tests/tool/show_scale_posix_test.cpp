@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <string>
-#include <vector>
 
 #include "support/scratch.h"
 
@@ -23,14 +22,19 @@ std::string repeated(const std::string& front, const std::string& line, std::siz
   return contents;
 }
 
-class ShowOfShortLines : public testing::TestWithParam<std::vector<std::string>> {};
+struct ShortLines {
+  std::string front;
+  std::string line;
+  std::size_t count;
+};
+
+class ShowOfShortLines : public testing::TestWithParam<ShortLines> {};
 
 // The program itself takes some memory, whatever the file.
 TEST_P(ShowOfShortLines, NeedsMemoryOfAtMostTwentyTimesTheFile) {
-  constexpr std::size_t kLines = 300'000;
   constexpr std::size_t kProgram = std::size_t{12} * 1024 * 1024;
   const Scratch scratch;
-  const std::string contents = repeated(GetParam()[0], GetParam()[1], kLines);
+  const std::string contents = repeated(GetParam().front, GetParam().line, GetParam().count);
   const std::string file = scratch.file(contents);
   for (const char* option : {"--json", "--"}) {
     const pid_t child = ::fork();
@@ -50,8 +54,8 @@ TEST_P(ShowOfShortLines, NeedsMemoryOfAtMostTwentyTimesTheFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, ShowOfShortLines,
-                         testing::Values(std::vector<std::string>{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n", "1\n"},
-                                         std::vector<std::string>{"[A]\n", "\n"}, std::vector<std::string>{"[A]\n", "a\n"},
-                                         std::vector<std::string>{"", "[A]\n"}, std::vector<std::string>{"[A]\n", "a=\n"}));
+                         testing::Values(ShortLines{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n", "1\n", 50'000},
+                                         ShortLines{"[A]\n", "\n", 1'000'000}, ShortLines{"[A]\n", "a\n", 200'000}, ShortLines{"", "[A]\n", 150'000},
+                                         ShortLines{"[A]\n", "a=\n", 150'000}));
 
 }  // namespace
