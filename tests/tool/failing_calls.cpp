@@ -1,6 +1,7 @@
 // Preloaded into the tool: makes calls of the operating system fail.
 //
 // QELPRO_TEST_FAIL    the name of a call that always fails with EIO
+// QELPRO_TEST_SIGNAL  the name of a call in front of which the program is interrupted
 // QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
 //
 // A file whose name holds "unreadable" fails behind its first 16 KiB.
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -26,6 +28,9 @@ Function* next(const char* name) {
 }
 
 bool fails(std::string_view call) {
+  if (const char* signalled = std::getenv("QELPRO_TEST_SIGNAL"); signalled != nullptr && call == signalled) {
+    ::kill(::getpid(), SIGTERM);
+  }
   const char* name = std::getenv("QELPRO_TEST_FAIL");
   if (name == nullptr || call != name) {
     return false;

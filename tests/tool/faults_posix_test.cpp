@@ -88,6 +88,16 @@ TEST(New, LeavesNothingBehindWhenACallFails) {
   }
 }
 
+TEST(New, LeavesNothingButTheNewFileWhenItIsInterrupted) {
+  for (const std::string call : {"write", "fsync", "ftruncate", "renameat2"}) {
+    const Scratch scratch;
+    shell(kPreload + "export QELPRO_TEST_SIGNAL=" + call + "; \"$0\" new \"$1\"", {scratch.path()});
+    for (const std::string& name : names_in(scratch.path(""))) {
+      EXPECT_EQ(name, "file.pro") << call;
+    }
+  }
+}
+
 TEST(New, WorksWhereAFileCannotBeRenamedWithoutReplacing) {
   const Scratch scratch;
   EXPECT_EQ(shell(kPreload + "export QELPRO_TEST_FAIL=renameat2; \"$0\" new \"$1\"", {scratch.path()}).status, 0);

@@ -7,6 +7,7 @@
 
 #include "blocks/catalogue.h"
 #include "blocks/machine.h"
+#include "blocks/mold_temperature_bc_x.h"
 
 namespace {
 
@@ -36,7 +37,10 @@ TEST(ValueCheck, ReadsWholeWhatTheWritersWrite) {
                                                       {"[MoldThermalBoundaryType]", "Flow", "900\t(W/m2)"},
                                                       {"[GateValve-1]", "GC-1", "5\t1\t2\t3"},
                                                       {"[GateValve-1]", "GC-1", "5\t1\t4"},
-                                                      {"[CaeHeader]", "ProjectType", "1 2"}};
+                                                      {"[CaeHeader]", "ProjectType", "1 2"},
+                                                      {"[CaeHeader]", "ProjectType", "8"},
+                                                      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t\t80"},
+                                                      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t \t80\t"}};
   for (const auto& row : rows) {
     EXPECT_EQ(unread(row[0].c_str(), row[1].c_str(), row[2]), "") << testing::PrintToString(row);
   }
@@ -62,6 +66,11 @@ TEST(ValueCheck, TakesAZeroBeforeASeparatorForANumber) {
   EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "0x900", 0), std::nullopt);
   EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "1200", 0), "the separator is missing");
   EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "1200x", 0), "field 2, a number, is missing");
+}
+
+TEST(ValueCheck, TakesAPositionalHeaderLineWithoutItsLastNumber) {
+  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop", 0), std::nullopt);
+  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop\tx", 0), "field 3, a whole number, does not begin with \"x\"");
 }
 
 TEST(ValueCheck, TellsNothingOfKeysThatAreNotKnown) {

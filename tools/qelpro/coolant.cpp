@@ -73,7 +73,18 @@ void take_point(std::vector<std::string>& words, Request& request) {
     refuse(words.empty() ? "ID and TEMPERATURE are missing; or give --table"
                          : "TEMPERATURE is missing behind \"" + words.back() + "\"; or give --table");
   }
+  constexpr std::size_t kWords = 3;
+  if (words.size() > kWords) {
+    refuse("\"" + words[kWords] + "\" is one word too many");
+  }
   double temperature = 0;
+  int coolant = 0;
+  // A file's name and a number: the number is the coolant, as far as one can tell.
+  if (words.size() == 2 && !CLI::detail::lexical_cast(words.front(), coolant)) {
+    refuse(CLI::detail::lexical_cast(words.back(), coolant)
+               ? "TEMPERATURE is missing behind \"" + words.back() + "\"; or \"" + words.front() + "\" is no coolant's identifier"
+               : "\"" + words.front() + "\" is no coolant's identifier: give a whole number");
+  }
   if (!CLI::detail::lexical_cast(words.back(), temperature)) {
     refuse("\"" + words.back() + "\" is no temperature");
   }
@@ -169,7 +180,8 @@ void add_coolant(CLI::App& app, int& status) {
   command
       ->add_option("FILE ID TEMPERATURE", arguments->words,
                    "The coolant settings file (the user's own where it is left out), the coolant's identifier, the temperature")
-      ->expected(0, 3);
+      ->type_name("...")
+      ->expected(0, -1);
   command->add_option("--table", arguments->table, "The coolant whose properties are printed as a table, a row a temperature")->type_name("ID");
   command->add_option("--from", arguments->from, "The table's first temperature")->type_name("T");
   command->add_option("--to", arguments->to, "The temperature that the table does not exceed")->type_name("T");

@@ -1,5 +1,7 @@
 #include "entry_edit.h"
 
+#include <optional>
+
 #include "core/text.h"
 
 namespace text = qel::text;
@@ -14,10 +16,10 @@ std::string line_break_of(const std::string& contents) {
 
 // Where a new line at the end goes: in front of blanks and the like that trail the last line and belong to none.
 std::size_t end_of_lines(const DocumentText& document) {
-  if (document.lines().empty()) {
+  if (document.line_count() == 0) {
     return document.contents().find_last_not_of(" \x1A") + 1;
   }
-  const TextLine& last = document.lines().back();
+  const TextLine last = document.line(document.line_count() - 1);
   const bool has_line_break = document.contents()[last.end - 1] == '\n';
   return has_line_break ? last.end : last.begin + last.whole.find_last_not_of(" \x1A") + 1;
 }
@@ -36,10 +38,12 @@ std::string with_entry(const DocumentText& document, const std::string& section,
   if (own == nullptr) {
     return with_lines_at(contents, end_of_lines(document), line_break + section + line_break + text::padded_entry(key, value) + line_break);
   }
-  if (const TextLine* line = document.find(*own, key)) {
-    return contents.substr(0, line->begin) + text::padded_entry(key, value) + contents.substr(line->begin + line->whole.size());
+  if (const std::optional<TextLine> line = document.find(*own, key)) {
+    // Behind a line that is too long stands another one, without a line break between them.
+    return contents.substr(0, line->begin) + text::padded_entry(key, value) + (line->goes_on ? line_break : "") +
+           contents.substr(line->begin + line->whole.size());
   }
-  const bool is_last = own->behind == document.lines().size();
-  const std::size_t place = is_last ? end_of_lines(document) : document.lines()[own->behind].begin;
+  const bool is_last = own->behind == document.line_count();
+  const std::size_t place = is_last ? end_of_lines(document) : document.line(own->behind).begin;
   return with_lines_at(contents, place, text::plain_entry(key, value) + line_break);
 }

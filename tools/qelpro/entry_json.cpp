@@ -19,16 +19,6 @@ Json field_of(const qel::Field& field) {
       field);
 }
 
-// The longest line and a NUL byte end what the engine sees.
-std::string limit_of(const TextLine& line) {
-  if (line.whole.size() == line.text.size()) {
-    return {};
-  }
-  return line.text.size() < qel::text::kLongestLine ? "what stands behind a NUL byte is not read"
-                                                    : "line too long: of its " + std::to_string(line.whole.size()) + " characters the first " +
-                                                          std::to_string(qel::text::kLongestLine) + " are read";
-}
-
 }  // namespace
 
 Json typed_entry(const std::string& key, const TextLine& line, const std::string& text, const Reading& reading) {

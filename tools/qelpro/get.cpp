@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "commands.h"
@@ -22,11 +23,15 @@ std::string why_not_found(const DocumentText& document, const TextSection* secti
   if (section == nullptr) {
     return "not found: the file has no such section";
   }
+  if (is_positional(section->name)) {
+    return "not found: its lines have a position and no key; qelpro show prints them";
+  }
   for (std::size_t index = section->header + 1; index < section->behind; ++index) {
-    std::string_view line = document.lines()[index].text;
+    const TextLine candidate = document.line(index);
+    std::string_view line = candidate.text;
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    if (qel::text::first_token_is(line, key) && kind_of(document.lines()[index]) == LineKind::indented) {
-      return "not found: line " + std::to_string(document.lines()[index].number) + " begins with a blank and is never read";
+    if (qel::text::first_token_is(line, key) && kind_of(candidate) == LineKind::indented) {
+      return "not found: line " + std::to_string(candidate.number) + " begins with a blank and is never read";
     }
   }
   return "not found: the section has no such key";
@@ -37,14 +42,16 @@ int get(const Arguments& arguments) {
   const DocumentText document = load_document(arguments.file);
   Where where{arguments.file, 0, section_wanted, arguments.key};
   const TextSection* section = document.find(section_wanted);
-  const TextLine* line = section != nullptr ? document.find(*section, arguments.key) : nullptr;
-  if (line == nullptr) {
+  std::optional<TextLine> line;
+  if (section != nullptr && !is_positional(section->name)) {
+    line = document.find(*section, arguments.key);
+  }
+  if (!line) {
     throw Failure(kNotFound, at(where, why_not_found(document, section, arguments.key)));
   }
   where.line = line->number;
-  if (line->whole.size() != line->text.size()) {
-    complain(at(where, line->text.size() < qel::text::kLongestLine ? "a NUL byte stands in the line: the engine reads what is in front of it"
-                                                                   : "line too long: the engine reads its first 4095 characters"));
+  if (const std::string limit = limit_of(*line); !limit.empty()) {
+    complain(at(where, limit));
   }
   answer() << whole_value(*line) << '\n';
   return kDone;

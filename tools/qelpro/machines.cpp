@@ -17,6 +17,7 @@ namespace {
 struct Arguments {
   std::string bank;
   std::string maker;
+  const CLI::Option* maker_option = nullptr;  // tells an empty maker from none
   bool json = false;
 };
 
@@ -71,6 +72,10 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
 }
 
 int machines(const Arguments& arguments) {
+  const bool lists_grades = arguments.maker_option->count() != 0;
+  if (lists_grades && arguments.maker.empty()) {
+    throw Failure(kUsage, "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
+  }
   const std::string contents = platform::read_file(arguments.bank);
   CQELMachineIdentification machines;
   machines.SetMachineUserBankPath(arguments.bank.c_str());
@@ -82,7 +87,7 @@ int machines(const Arguments& arguments) {
   if (!loaded) {
     throw Failure(kFileError, at(arguments.bank, "cannot be loaded: out of memory, or changed meanwhile"));
   }
-  if (arguments.maker.empty()) {
+  if (!lists_grades) {
     list_makers(machines, arguments.json);
     return kDone;
   }
@@ -99,7 +104,7 @@ void add_machines(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("machines", "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
   command->add_option("FILE", arguments->bank, "The machine bank")->required();
-  command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
+  arguments->maker_option = command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer("Example: qelpro machines machines.bank 'Any Maker'");
   command->callback([arguments, &status] { status = machines(*arguments); });

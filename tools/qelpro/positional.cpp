@@ -1,7 +1,7 @@
 #include "positional.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <vector>
 
 #include "blocks/catalogue.h"
 #include "blocks/fields.h"
@@ -40,50 +40,80 @@ Json entry_of(const std::string& name, const TextLine& line, const qel::KeyInfo&
   return typed_entry(name, line, text, {&kind, 0, unread_part(kind, text, 0)});
 }
 
+/// Tells of settings that are missing. Conditions in a row that have none of theirs are told in one note.
+class MissingSettings {
+ public:
+  explicit MissingSettings(const std::function<void(const std::string&)>& note) : note_(note) {}
+
+  void add(std::int64_t condition, int said, std::int64_t standing) {
+    if (standing != 0) {
+      flush();
+      tell("condition " + std::to_string(condition) + " says " + std::to_string(said), standing);
+      return;
+    }
+    first_ = none_ == 0 ? condition : first_;
+    last_ = condition;
+    none_ += said;
+  }
+
+  void flush() {
+    if (none_ != 0) {
+      tell(first_ == last_ ? "condition " + std::to_string(first_) + " says " + std::to_string(none_)
+                           : "conditions " + std::to_string(first_) + " to " + std::to_string(last_) + " say " + std::to_string(none_),
+           0);
+    }
+    none_ = 0;
+  }
+
+ private:
+  void tell(const std::string& what, std::int64_t standing) {
+    note_(what + " settings, of which " + std::to_string(standing) + " stand in the section");
+  }
+
+  const std::function<void(const std::string&)>& note_;
+  std::int64_t first_ = 0;
+  std::int64_t last_ = 0;
+  std::int64_t none_ = 0;
+};
+
 }  // namespace
 
-bool is_positional(const TextSection& section) {
-  return qel::text::first_token(section.name) == qel::text::first_token(qel::text::kPositionalHeader);
-}
-
-PositionalLines positional_lines(const DocumentText& document, const TextSection& section) {
+void visit_positional_lines(const DocumentText& document, const TextSection& section, const PositionalVisitor& visitor) {
   const qel::SectionInfo& row = catalogue_row();
-  const auto line_at = [&](std::int64_t position) -> const TextLine& {
-    return document.lines()[section.header + static_cast<std::size_t>(position)];
-  };
+  const auto line_at = [&](std::int64_t position) { return document.line(section.header + static_cast<std::size_t>(position)); };
   const auto lines = static_cast<std::int64_t>(section.behind - section.header) - 1;
-  PositionalLines result;
   std::int64_t headers = 0;
-  while (headers < lines && kind_of(line_at(headers + 1)) != LineKind::blank && !is_setting_line(line_at(headers + 1).text)) {
-    ++headers;
-    const TextLine& line = line_at(headers);
-    result.entries.push_back(entry_of("line " + std::to_string(headers), line, *row.keys[0]));
+  for (; headers < lines; ++headers) {
+    const TextLine line = line_at(headers + 1);
+    if (kind_of(line) == LineKind::blank || is_setting_line(line.text)) {
+      break;
+    }
+    visitor.entry(entry_of("line " + std::to_string(headers + 1), line, *row.keys[0]));
   }
   std::vector<bool> taken(static_cast<std::size_t>(lines) + 1);
+  MissingSettings missing(visitor.note);
   std::int64_t before = headers;
   for (std::int64_t condition = 1; condition <= headers; ++condition) {
-    const std::int64_t count = count_of(line_at(condition));
+    const int count = count_of(line_at(condition));
     std::int64_t setting = 1;
     // Each line once: counts that are negative would lead back again and again.
     for (; setting <= count && before + setting >= 1 && before + setting <= lines; ++setting) {
-      const TextLine& line = line_at(before + setting);
       if (taken[static_cast<std::size_t>(before + setting)]) {
         break;
       }
       taken[static_cast<std::size_t>(before + setting)] = true;
       const std::string name = "condition " + std::to_string(condition) + ", setting " + std::to_string(setting);
-      result.entries.push_back(entry_of(name, line, *row.keys[1]));
+      visitor.entry(entry_of(name, line_at(before + setting), *row.keys[1]));
     }
     if (setting <= count) {
-      result.notes.push_back("condition " + std::to_string(condition) + " says " + std::to_string(count) + " settings, of which " +
-                             std::to_string(setting - 1) + " stand in the section");
+      missing.add(condition, count, setting - 1);
     }
     before += count;
   }
+  missing.flush();
   for (std::int64_t position = headers + 1; position <= lines; ++position) {
     if (!taken[static_cast<std::size_t>(position)] && kind_of(line_at(position)) != LineKind::blank) {
-      result.passed_over.push_back(section.header + static_cast<std::size_t>(position));
+      visitor.passed_over(section.header + static_cast<std::size_t>(position));
     }
   }
-  return result;
 }

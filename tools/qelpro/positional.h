@@ -1,19 +1,17 @@
 #pragma once
 
+#include <functional>
 #include <string>
-#include <vector>
 
 #include "document_text.h"
 #include "json_text.h"
 
-/// The section whose lines are addressed by position. Lookups find it by its first word.
-bool is_positional(const TextSection& section);
-
-struct PositionalLines {
-  std::vector<Json> entries;
-  std::vector<std::size_t> passed_over;  ///< The indexes of the lines that nobody counts as a setting.
-  std::vector<std::string> notes;
+/// Who takes the lines of a section that are addressed by position, one at a time: there may be very many.
+struct PositionalVisitor {
+  std::function<void(const Json&)> entry;
+  std::function<void(std::size_t line)> passed_over;  ///< The index of a line that nobody counts as a setting.
+  std::function<void(const std::string&)> note;
 };
 
 /// Its lines: header lines first, then as many setting lines for each condition as its header line says and the section holds.
-PositionalLines positional_lines(const DocumentText& document, const TextSection& section);
+void visit_positional_lines(const DocumentText& document, const TextSection& section, const PositionalVisitor& visitor);

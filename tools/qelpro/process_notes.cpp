@@ -50,11 +50,11 @@ std::string ranges_of(const std::vector<std::pair<int, int>>& ranges) {
 /// The lines that lookups take in one section.
 struct Entries {
   std::string name;
-  std::map<std::string_view, const TextLine*> lines;
+  std::map<std::string_view, TextLine> lines;
 
   [[nodiscard]] const TextLine* find(std::string_view key) const {
     const auto found = lines.find(key);
-    return found != lines.end() ? found->second : nullptr;
+    return found != lines.end() ? &found->second : nullptr;
   }
 };
 
@@ -64,8 +64,8 @@ class Diagnosis {
 
   std::vector<ProcessNote> run() {
     for (std::size_t index = 0; index < document_.lines_before_sections(); ++index) {
-      if (kind_of(document_.lines()[index]) == LineKind::entry) {
-        add({file_, document_.lines()[index].number, "", ""}, "dropped: the line stands before the first section");
+      if (const TextLine line = document_.line(index); kind_of(line) == LineKind::entry) {
+        add({file_, line.number, "", ""}, "dropped: the line stands before the first section");
       }
     }
     const int type = project_type();
@@ -82,7 +82,7 @@ class Diagnosis {
     inlets(type);
     for (const TextSection& section : document_.sections()) {
       if (section.repeated && taken_.contains(std::string(section.name))) {
-        add({file_, document_.lines()[section.header].number, std::string(section.name), ""}, "dropped: a section of this name came before");
+        add({file_, document_.line(section.header).number, std::string(section.name), ""}, "dropped: a section of this name came before");
       }
     }
     return std::move(notes_);
@@ -106,7 +106,7 @@ class Diagnosis {
     Entries& entries = taken_[name];
     entries.name = name;
     for (std::size_t index = section->header + 1; index < section->behind; ++index) {
-      take_line(document_.lines()[index], entries);
+      take_line(document_.line(index), entries);
     }
     return &entries;
   }
@@ -124,12 +124,12 @@ class Diagnosis {
         add(entries, &line, key, "read without a value: the line has no \"=\"");
         break;
       case LineKind::entry:
-        if (line.whole.size() != line.text.size()) {
-          add(entries, &line, key, "cut: the line is too long, or holds a NUL byte");
-        }
         break;
     }
-    if (!entries.lines.emplace(key, &line).second) {
+    if (const std::string limit = limit_of(line); !limit.empty()) {
+      add(entries, &line, key, limit);
+    }
+    if (!entries.lines.emplace(key, line).second) {
       add(entries, &line, key, "dropped: the key came before in this section");
     }
   }
@@ -229,7 +229,7 @@ class Diagnosis {
     std::map<int, const TextLine*> points;
     for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
-        points.emplace(number, at->second);
+        points.emplace(number, &at->second);
       }
     }
     int count = 0;
@@ -287,7 +287,7 @@ class Diagnosis {
     std::map<int, const TextLine*> points;
     for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
-        points.emplace(number, at->second);
+        points.emplace(number, &at->second);
       }
     }
     int expected = 1;
@@ -314,8 +314,10 @@ class Diagnosis {
     items(stage.flow, qel::loading::kFlow, given);
     if (const Entries* flow = taken(stage.flow)) {
       counted(*flow, "FRSet", "FR-");
-      counted(*flow, "IPSet", "IP-");
-      counted(*flow, "TPSet", "TP-");
+      const int injection_points = counted(*flow, "IPSet", "IP-");
+      if (counted(*flow, "TPSet", "TP-") > 0 && injection_points > 0) {
+        add(*flow, flow->find("TPSet"), "TPSet", "its points are appended to those of \"IPSet\"");
+      }
       open_list(*flow, "TimeConstFR-");
       open_list(*flow, "TimeConstIP-");
       open_list(*flow, "TimeConstPP-");
@@ -352,7 +354,11 @@ class Diagnosis {
     } else if (count != said) {
       add(*info, line, "TotalInlet", quoted(value) + " is out of range: the process has " + std::to_string(count) + " inlets");
     } else if (has_two && count != 2) {
-      add(*info, line, "TotalInlet", quoted(value) + " is not 2: of project type " + std::to_string(type) + " two inlets are loaded");
+      add(*info, line, "TotalInlet",
+          quoted(value) + " is not 2: of project type " + std::to_string(type) +
+              (count > 2    ? " two inlets are loaded"
+               : count == 1 ? " one inlet is loaded"
+                            : " no inlet is loaded"));
     } else if (count == 0) {
       add(*info, line, "TotalInlet", "no inlet is loaded");
     }
@@ -361,34 +367,64 @@ class Diagnosis {
 
   void inlets(int type) {
     const std::int64_t count = inlet_count(type);
-    if (type == kCoInjection) {
-      // Both inlets come from the sections numbered 1.
-      stage({1, "[Flow-1-Skin]", "[Pack-1-Skin]", ""});
-      return;
-    }
-    if (type == kTwoMeltEntrances) {
-      stage({1, "[Flow-EM1]", "[Pack-EM1]", ""});
-      stage({2, "[Flow-EM2]", "[Pack-EM2]", ""});
-      return;
-    }
     std::vector<std::pair<int, int>> without_section;
-    for (int number = 1; number <= count; ++number) {
-      const std::string bracket = std::to_string(number) + "]";
-      control_type(number);
-      const Stage names{number, "[Flow-" + bracket, "[Pack-" + bracket, "[Cure-" + bracket};
+    std::string flow = "[Flow-...]";
+    const auto load = [&](const Stage& names) {
       stage(names);
       if (taken(names.flow) == nullptr) {
-        if (!without_section.empty() && without_section.back().second == number - 1) {
-          without_section.back().second = number;
+        if (!without_section.empty() && without_section.back().second == names.number - 1) {
+          without_section.back().second = names.number;
         } else {
-          without_section.emplace_back(number, number);
+          without_section.emplace_back(names.number, names.number);
         }
       }
+    };
+    if (type == kCoInjection) {
+      // Both inlets come from the sections numbered 1.
+      flow = "[Flow-1-Skin]";
+      if (count > 0) {
+        load({1, flow, "[Pack-1-Skin]", ""});
+      }
+      if (!without_section.empty() && count > 1) {
+        without_section.back().second = 2;
+      }
+    } else if (type == kTwoMeltEntrances) {
+      flow = "[Flow-EM...]";
+      for (int number = 1; number <= std::min<std::int64_t>(count, 2); ++number) {
+        const std::string bracket = std::to_string(number) + "]";
+        load({number, "[Flow-EM" + bracket, "[Pack-EM" + bracket, ""});
+      }
+    } else {
+      for (int number = 1; number <= count; ++number) {
+        const std::string bracket = std::to_string(number) + "]";
+        control_type(number);
+        load({number, "[Flow-" + bracket, "[Pack-" + bracket, "[Cure-" + bracket});
+      }
     }
-    if (!without_section.empty() && document_.find("[FlowCTLInfo]") != nullptr) {
-      add({file_, 0, "[FlowCTLInfo]", "TotalInlet"}, "inlets without a section [Flow-...]: " + ranges_of(without_section));
+    const bool has_two = type == kCoInjection || type == kTwoMeltEntrances;
+    if (!without_section.empty() && (has_two || document_.find("[FlowCTLInfo]") != nullptr)) {
+      add({file_, 0, has_two ? "" : "[FlowCTLInfo]", has_two ? "" : "TotalInlet"},
+          "inlets without a section " + flow + ": " + ranges_of(without_section));
     }
-    beyond(count);
+    control_types_not_taken(type, has_two);
+    sections_not_taken(type, has_two ? 0 : count);
+  }
+
+  // Of the two spellings of a control type's key the loader takes the one with a bracket, and of two project types none.
+  void control_types_not_taken(int type, bool has_two) {
+    constexpr std::string_view kPrefix = "FlowCTL-";
+    const Entries* info = taken("[FlowCTLInfo]");
+    if (info == nullptr) {
+      return;
+    }
+    for (auto at = info->lines.lower_bound(kPrefix); at != info->lines.end() && at->first.substr(0, kPrefix.size()) == kPrefix; ++at) {
+      const std::string key(at->first);
+      if (has_two) {
+        add(*info, &at->second, key, "dropped: of project type " + std::to_string(type) + " no control type is loaded");
+      } else if (printed_number(at->first.substr(kPrefix.size())) != 0 && info->find(key + "]") == nullptr) {
+        add(*info, &at->second, key, "dropped: the process takes the control type from " + quoted(key + "]"));
+      }
+    }
   }
 
   // The loader's key has a closing bracket.
@@ -408,18 +444,20 @@ class Diagnosis {
     }
   }
 
-  // Stages of inlets that the process does not have.
-  void beyond(std::int64_t count) {
+  // Stages of inlets that the process does not have, or that are none of its project type. `count` is that of inlets with a number alone.
+  void sections_not_taken(int type, std::int64_t count) {
     for (const TextSection& section : document_.sections()) {
       for (const std::string_view prefix : {"[Flow-", "[Pack-", "[Cure-"}) {
-        if (section.name.substr(0, prefix.size()) != prefix || section.repeated) {
+        const std::string name(section.name);
+        int row_number = 0;
+        if (section.name.substr(0, prefix.size()) != prefix || section.repeated || taken_.contains(name) ||
+            qel::find_section(name.c_str(), row_number) == nullptr) {
           continue;
         }
         const int number = printed_number(section.name.substr(prefix.size(), section.name.size() - prefix.size() - 1));
-        if (number > count) {
-          add({file_, document_.lines()[section.header].number, std::string(section.name), ""},
-              "dropped: the process has " + std::to_string(count) + (count == 1 ? " inlet" : " inlets"));
-        }
+        add({file_, document_.line(section.header).number, name, ""},
+            count > 0 && number > count ? "dropped: the process has " + std::to_string(count) + (count == 1 ? " inlet" : " inlets")
+                                        : "dropped: of project type " + std::to_string(type) + " it is not loaded");
       }
     }
   }

@@ -1,4 +1,6 @@
 #include <CLI/CLI.hpp>
+#include <cstdint>
+#include <deque>
 #include <memory>
 #include <set>
 #include <string>
@@ -20,13 +22,37 @@ namespace {
 struct Arguments {
   std::string file;
   std::string section;
+  const CLI::Option* section_option = nullptr;  // tells an empty section from none
   bool json = false;
 };
+
+/// Why no lookup takes a value from a line.
+enum class Why : std::uint8_t { none, comment, no_key, blank_before, no_equals, before_sections, not_counted };
+
+const char* text_of(Why why) {
+  switch (why) {
+    case Why::comment:
+      return "a comment";
+    case Why::no_key:
+      return "no key before the \"=\"";
+    case Why::blank_before:
+      return "it begins with a blank";
+    case Why::no_equals:
+      return "no \"=\"";
+    case Why::before_sections:
+      return "it stands before the first section";
+    case Why::not_counted:
+      return "no condition counts it";
+    case Why::none:
+      break;
+  }
+  return "";
+}
 
 /// Takes a file section by section, and of each its entries and the lines that the engine passes over, in the file's order.
 class Printer {
  public:
-  Printer() = default;
+  explicit Printer(const DocumentText& document) : document_(document) {}
   Printer(const Printer&) = delete;
   Printer& operator=(const Printer&) = delete;
   virtual ~Printer() = default;
@@ -34,14 +60,21 @@ class Printer {
   /// `section` has "section", "known" and, where they apply, "subject" and "repeated".
   virtual void begin_section(const Json& section) = 0;
   virtual void entry(const Json& entry) = 0;
-  virtual void passed_over(const TextLine& line, const std::string& why) = 0;
+  virtual void passed_over(std::size_t line, Why why) = 0;
   virtual void note(const std::string& note) = 0;
   virtual void end_section() = 0;
   virtual void end() = 0;
+
+ protected:
+  [[nodiscard]] const DocumentText& document() const { return document_; }
+
+ private:
+  const DocumentText& document_;
 };
 
 class PlainPrinter : public Printer {
  public:
+  using Printer::Printer;
   void begin_section(const Json& section) override {
     if (plain_text(section["section"]).empty()) {
       answer() << "# before the first section\n";
@@ -67,8 +100,9 @@ class PlainPrinter : public Printer {
     answer() << (known ? "  # " + plain_text(entry["meaning"]) : "  # unknown key") << (entry.contains("repeated") ? ", repeated: never read" : "")
              << (entry.contains("note") ? "; line " + plain_text(entry["line"]) + ": " + plain_text(entry["note"]) : "") << '\n';
   }
-  void passed_over(const TextLine& line, const std::string& why) override {
-    answer() << "  # line " << std::to_string(line.number) << " is passed over, " << why << ": " << line.whole << '\n';
+  void passed_over(std::size_t index, Why why) override {
+    const TextLine line = document().line(index);
+    answer() << "  # line " << std::to_string(line.number) << " is passed over, " << text_of(why) << ": " << line.whole << '\n';
   }
   void note(const std::string& note) override { answer() << "  # " << note << '\n'; }
   void end_section() override {}
@@ -78,6 +112,7 @@ class PlainPrinter : public Printer {
 /// One section is complete before the next one is begun: no more of a long file is held than the lines that were passed over.
 class JsonPrinter : public Printer {
  public:
+  using Printer::Printer;
   void begin_section(const Json& section) override {
     answer() << (any_section_ ? ",\n  {" : "[\n  {");
     any_section_ = true;
@@ -90,6 +125,7 @@ class JsonPrinter : public Printer {
     answer() << '[';
     any_entry_ = false;
     passed_over_.clear();
+    whys_.clear();
     notes_.clear();
   }
   void entry(const Json& entry) override {
@@ -97,7 +133,10 @@ class JsonPrinter : public Printer {
     any_entry_ = true;
     write_json(answer(), entry, kMembers + 2);
   }
-  void passed_over(const TextLine& line, const std::string& why) override { passed_over_.push_back({&line, why}); }
+  void passed_over(std::size_t line, Why why) override {
+    passed_over_.push_back(line);
+    whys_.push_back(why);
+  }
   void note(const std::string& note) override { notes_.push_back(note); }
   void end_section() override {
     answer() << (any_entry_ ? "\n" + std::string(kMembers, ' ') + "]" : "]");
@@ -105,9 +144,10 @@ class JsonPrinter : public Printer {
       answer() << ',';
       write_member("passed over");
       answer() << '[';
-      for (const PassedOver& line : passed_over_) {
-        answer() << (&line == passed_over_.data() ? "\n" : ",\n") << std::string(kMembers + 2, ' ');
-        write_json(answer(), {{"line", line.line->number}, {"text", std::string(line.line->whole)}, {"why", line.why}}, kMembers + 2);
+      for (std::size_t index = 0; index < passed_over_.size(); ++index) {
+        const TextLine line = document().line(passed_over_[index]);
+        answer() << (index == 0 ? "\n" : ",\n") << std::string(kMembers + 2, ' ');
+        write_json(answer(), {{"line", line.number}, {"text", std::string(line.whole)}, {"why", text_of(whys_[index])}}, kMembers + 2);
       }
       answer() << '\n' << std::string(kMembers, ' ') << ']';
     }
@@ -125,52 +165,96 @@ class JsonPrinter : public Printer {
 
   static void write_member(const std::string& name) { answer() << '\n' << std::string(kMembers, ' ') << '"' << name << "\": "; }
 
-  struct PassedOver {
-    const TextLine* line;
-    std::string why;
-  };
   bool any_section_ = false;
   bool any_entry_ = false;
-  std::vector<PassedOver> passed_over_;
+  std::deque<std::size_t> passed_over_;  // the lines: a deque, which does not hold them twice while it grows
+  std::deque<Why> whys_;
   std::vector<std::string> notes_;
 };
 
-// Why no lookup takes a value from the line; empty for an entry and for a blank line.
-std::string why_passed_over(const TextLine& line) {
+// Why no lookup takes a value from the line; none for an entry and for a blank line.
+Why why_passed_over(const TextLine& line) {
   switch (kind_of(line)) {
     case LineKind::comment:
-      return "a comment";
+      return Why::comment;
     case LineKind::indented:
-      return line.text.front() == '=' ? "no key before the \"=\"" : "it begins with a blank";
+      return line.text.front() == '=' ? Why::no_key : Why::blank_before;
     case LineKind::without_equals:
-      return "no \"=\"";
+      return Why::no_equals;
     case LineKind::blank:
     case LineKind::entry:
       break;
   }
-  return {};
+  return Why::none;
 }
 
-void print_entries(const DocumentText& document, const TextSection& section, Printer& printer) {
-  int section_number = 0;
-  const qel::SectionInfo* known_section = qel::find_section(std::string(section.name).c_str(), section_number);
+/// What the catalogue knows of sections, of which many in a row may have one name.
+class KnownSections {
+ public:
+  const qel::SectionInfo* find(std::string_view name) {
+    if (!any_ || name != last_) {
+      int number = 0;
+      any_ = true;
+      last_ = name;
+      found_ = qel::find_section(std::string(is_positional(name) ? qel::text::kPositionalHeader : name).c_str(), number);
+    }
+    return found_;
+  }
+
+ private:
+  bool any_ = false;
+  std::string_view last_;
+  const qel::SectionInfo* found_ = nullptr;
+};
+
+// The keys of the lines that have no "=".
+std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& document, const TextSection& section) {
   std::set<std::string_view> keys;
   for (std::size_t index = section.header + 1; index < section.behind; ++index) {
-    const TextLine& line = document.lines()[index];
-    const std::string_view key = qel::text::first_token(line.text);
-    if (const std::string why = why_passed_over(line); !why.empty()) {
-      printer.passed_over(line, why);
-      // A lookup takes the first line of a key, and finds an empty value where that has no "=".
-      if (kind_of(line) == LineKind::without_equals) {
-        keys.insert(key);
-      }
+    const TextLine line = document.line(index);
+    if (kind_of(line) == LineKind::without_equals) {
+      keys.insert(qel::text::first_token(line.text));
+    }
+  }
+  return keys;
+}
+
+// Those of them that an entry has, too.
+std::set<std::string_view> keys_that_lines_share(const DocumentText& document, const TextSection& section) {
+  const std::set<std::string_view> without_equals = keys_of_lines_without_equals(document, section);
+  std::set<std::string_view> shared;
+  for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.behind; ++index) {
+    const TextLine line = document.line(index);
+    if (kind_of(line) == LineKind::entry && without_equals.contains(qel::text::first_token(line.text))) {
+      shared.insert(qel::text::first_token(line.text));
+    }
+  }
+  return shared;
+}
+
+void print_entries(const DocumentText& document, const TextSection& section, const qel::SectionInfo* known_section, Printer& printer) {
+  const std::set<std::string_view> shared = keys_that_lines_share(document, section);
+  std::set<std::string_view> keys;
+  for (std::size_t index = section.header + 1; index < section.behind; ++index) {
+    const TextLine line = document.line(index);
+    const LineKind kind = kind_of(line);
+    if (kind == LineKind::blank) {
       continue;
     }
-    if (kind_of(line) == LineKind::blank) {
+    const std::string_view key = qel::text::first_token(line.text);
+    // The engine reads an empty value from a line without "=". One whose key nobody else knows is a line like any other.
+    const bool has_empty_value =
+        kind == LineKind::without_equals && !keys.contains(key) && (shared.contains(key) || reading_of(known_section, key, "").key != nullptr);
+    if (kind != LineKind::entry && !has_empty_value) {
+      printer.passed_over(index, why_passed_over(line));
       continue;
     }
     const std::string text(whole_value(line));
-    Json entry = typed_entry(std::string(key), line, text, reading_of(known_section, key, text));
+    const Reading reading = reading_of(known_section, key, text);
+    Json entry = typed_entry(std::string(key), line, text, reading);
+    if (has_empty_value && limit_of(line).empty()) {
+      entry["note"] = "no \"=\": the value is empty";
+    }
     if (!keys.insert(key).second) {
       entry["repeated"] = true;
     }
@@ -178,9 +262,7 @@ void print_entries(const DocumentText& document, const TextSection& section, Pri
   }
 }
 
-void print_section(const DocumentText& document, const TextSection& section, Printer& printer) {
-  int number = 0;
-  const qel::SectionInfo* known = qel::find_section(std::string(section.name).c_str(), number);
+void print_section(const DocumentText& document, const TextSection& section, const qel::SectionInfo* known, Printer& printer) {
   Json head = {{"section", std::string(section.name)}, {"known", known != nullptr}};
   if (known != nullptr) {
     head["subject"] = known->subject;
@@ -189,23 +271,17 @@ void print_section(const DocumentText& document, const TextSection& section, Pri
     head["repeated"] = true;
   }
   printer.begin_section(head);
-  const TextLine& header = document.lines()[section.header];
+  const TextLine header = document.line(section.header);
   if (const std::string_view behind = qel::text::index_value(header.text.substr(section.name.size())); !behind.empty()) {
     printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) + "\" behind the header is not read");
   }
-  if (is_positional(section) && !section.repeated) {
-    const PositionalLines lines = positional_lines(document, section);
-    for (const Json& entry : lines.entries) {
-      printer.entry(entry);
-    }
-    for (const std::size_t line : lines.passed_over) {
-      printer.passed_over(document.lines()[line], "no condition counts it");
-    }
-    for (const std::string& note : lines.notes) {
-      printer.note(note);
-    }
+  if (is_positional(section.name) && !section.repeated) {
+    visit_positional_lines(
+        document, section,
+        {[&printer](const Json& entry) { printer.entry(entry); }, [&printer](std::size_t line) { printer.passed_over(line, Why::not_counted); },
+         [&printer](const std::string& note) { printer.note(note); }});
   } else {
-    print_entries(document, section, printer);
+    print_entries(document, section, known, printer);
   }
   printer.end_section();
 }
@@ -214,15 +290,15 @@ void print_section(const DocumentText& document, const TextSection& section, Pri
 void print_front(const DocumentText& document, Printer& printer) {
   bool any = false;
   for (std::size_t index = 0; index < document.lines_before_sections(); ++index) {
-    const TextLine& line = document.lines()[index];
-    if (kind_of(line) == LineKind::blank) {
+    const LineKind kind = kind_of(document.line(index));
+    if (kind == LineKind::blank) {
       continue;
     }
     if (!any) {
       printer.begin_section({{"section", ""}, {"known", false}});
       any = true;
     }
-    printer.passed_over(line, kind_of(line) == LineKind::comment ? "a comment" : "it stands before the first section");
+    printer.passed_over(index, kind == LineKind::comment ? Why::comment : Why::before_sections);
   }
   if (any) {
     printer.end_section();
@@ -230,19 +306,21 @@ void print_front(const DocumentText& document, Printer& printer) {
 }
 
 int show(const Arguments& arguments) {
-  const std::string wanted = arguments.section.empty() ? "" : section_name(arguments.section);
+  const std::string wanted = arguments.section_option->count() != 0 ? section_name(arguments.section) : "";
   const DocumentText document = load_document(arguments.file);
-  if (!wanted.empty() && document.find(wanted) == nullptr) {
+  const TextSection* const first = wanted.empty() ? nullptr : document.find(wanted);
+  if (!wanted.empty() && first == nullptr) {
     throw Failure(kNotFound, at({arguments.file, 0, wanted, ""}, "not found: the file has no such section"));
   }
   const std::unique_ptr<Printer> printer =
-      arguments.json ? std::unique_ptr<Printer>(std::make_unique<JsonPrinter>()) : std::make_unique<PlainPrinter>();
+      arguments.json ? std::unique_ptr<Printer>(std::make_unique<JsonPrinter>(document)) : std::make_unique<PlainPrinter>(document);
   if (wanted.empty()) {
     print_front(document, *printer);
   }
+  KnownSections known;
   for (const TextSection& section : document.sections()) {
-    if (wanted.empty() || section.name == wanted) {
-      print_section(document, section, *printer);
+    if (wanted.empty() || section.name == wanted || &section == first) {
+      print_section(document, section, known.find(section.name), *printer);
     }
   }
   printer->end();
@@ -255,7 +333,7 @@ void add_show(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("show", "Print every entry with its meaning and its typed value, and the lines that are never read");
   command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
+  arguments->section_option = command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer("Example: qelpro show Default.pro Flow-1");
   command->callback([arguments, &status] { status = show(*arguments); });

@@ -42,6 +42,12 @@ class Fields {
     return {};
   }
 
+  /// A number that is dropped, and may be missing.
+  Complaint further_integer() {
+    skip_blanks();
+    return *at_ == '\0' ? Complaint() : integer();
+  }
+
   Complaint real() {
     double value = 0;
     skip_blanks();
@@ -136,6 +142,8 @@ Complaint read_field(Fields& fields, char kind) {
   switch (kind) {
     case 'd':
       return fields.integer();
+    case 'o':
+      return fields.further_integer();
     case 'f':
       return fields.real();
     case 's':
@@ -183,11 +191,11 @@ Complaint material(std::string_view text) {
   return {};
 }
 
-// An integer, a name of one or more words, an integer.
+// An integer, a name of one or more words, an integer, which may be missing behind a name of one word.
 Complaint positional_header(std::string_view text) {
   const std::vector<std::string> words = qel::split(text, kBlanks);
   if (words.size() <= 3) {
-    return read_fields(text, "dwd");
+    return read_fields(text, words.size() == 2 ? "dw" : "dwd");
   }
   if (Complaint complaint = read_fields(words.front(), "d")) {
     return "the first word: " + *complaint;
@@ -198,14 +206,26 @@ Complaint positional_header(std::string_view text) {
   return {};
 }
 
-// Integer, name, real and integer between tabs; or words, the last of which is the integer or, above the insert's number, the real.
-Complaint insert_of_four(std::string_view text, int insert) {
+std::vector<std::string> between_tabs(std::string_view text) {
   std::vector<std::string> pieces;
   for (std::size_t begin = 0; begin <= text.size();) {
     const std::size_t end = std::min(text.find('\t', begin), text.size());
     pieces.emplace_back(text.substr(begin, end - begin));
     begin = end + 1;
   }
+  return pieces;
+}
+
+// Integer, name and real. Where nothing but blanks stands between two tabs and a number behind them, the name was left out.
+Complaint insert_of_three(std::string_view text) {
+  const std::vector<std::string> pieces = between_tabs(text);
+  const bool has_no_name = pieces.size() >= 3 && pieces[1].find_first_not_of(' ') == std::string::npos && !read_fields(pieces[2], "f");
+  return read_fields(text, has_no_name ? "df" : "dwf");
+}
+
+// Integer, name, real and integer between tabs; or words, the last of which is the integer or, above the insert's number, the real.
+Complaint insert_of_four(std::string_view text, int insert) {
+  const std::vector<std::string> pieces = between_tabs(text);
   constexpr std::size_t kPieces = 4;
   if (pieces.size() == kPieces) {
     for (const auto& [piece, kind] : {std::pair(0, "d"), std::pair(2, "f"), std::pair(3, "d")}) {
@@ -240,7 +260,7 @@ constexpr std::array kRows = {Row{qel::Text::kName, nullptr},
                               Row{qel::Integer::kName, "d"},
                               Row{qel::Real::kName, "f"},
                               Row{qel::IntegerPair::kName, "dd"},
-                              Row{qel::FirstOfIntegerPair::kName, "dd"},
+                              Row{qel::FirstOfIntegerPair::kName, "do"},
                               Row{qel::RealPair::kName, "ff"},
                               Row{qel::RealTriple::kName, "fff"},
                               Row{qel::FourRealsAndInteger::kName, "ffffd"},
@@ -254,12 +274,12 @@ constexpr std::array kRows = {Row{qel::Text::kName, nullptr},
                               Row{qel::GatePointShort::kName, "fddg"},
                               Row{qel::CoolantLine::kName, "ffffdwfd"},
                               Row{qel::IntegerAndQuotedName::kName, "dq"},
-                              Row{qel::PartInsertLine::kName, "dwf"},
-                              Row{qel::MoldInsertLine::kName, "dwf"},
                               Row{qel::ContactAngle::kName, "qf"},
                               Row{qel::PositionalSetting::kName, "deff"}};
 
 bool is_material(std::string_view encoding) { return encoding == qel::MoldbaseLine::kName || encoding == qel::MoldMetalLine::kName; }
+
+bool is_insert_of_three(std::string_view encoding) { return encoding == qel::PartInsertLine::kName || encoding == qel::MoldInsertLine::kName; }
 
 bool is_insert_of_four(std::string_view encoding) {
   return encoding == qel::PartInsertLineOfFour::kName || encoding == qel::MoldInsertLineOfFour::kName;
@@ -277,14 +297,17 @@ const Row* row_of(std::string_view encoding) {
 }  // namespace
 
 bool is_checked(std::string_view encoding) {
-  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_four(encoding) || encoding == qel::ZoneCount::kName ||
-         encoding == qel::PositionalHeader::kName;
+  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) || is_insert_of_four(encoding) ||
+         encoding == qel::ZoneCount::kName || encoding == qel::PositionalHeader::kName;
 }
 
 std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number) {
   const std::string_view encoding = key.encoding;
   if (is_material(encoding)) {
     return material(text);
+  }
+  if (is_insert_of_three(encoding)) {
+    return insert_of_three(text);
   }
   if (is_insert_of_four(encoding)) {
     return insert_of_four(text, number);

@@ -51,6 +51,8 @@ class NewFile {
   void publish();
 
  private:
+  struct Guard;
+  std::unique_ptr<Guard> guard_;  // goes last: until then signals that end the program wait
   std::string file_;
   std::string temporary_;
 };

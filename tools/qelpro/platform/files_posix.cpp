@@ -253,7 +253,11 @@ void Replacement::commit() {
   sync_folder(target_);
 }
 
-NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
+struct NewFile::Guard {
+  SignalsWait signals_wait;
+};
+
+NewFile::NewFile(const std::string& file, std::size_t room) : guard_(std::make_unique<Guard>()), file_(file) {
   constexpr mode_t kAsTheUserWants = 0666;
   struct stat status {};
   if (::lstat(file.c_str(), &status) == 0) {

@@ -108,6 +108,9 @@ void Replacement::commit() {
   temporary_.clear();
 }
 
+// A console's interruption ends the program on a thread of its own, and cannot be held back.
+struct NewFile::Guard {};
+
 NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
   if (std::error_code error; std::filesystem::exists(std::filesystem::symlink_status(file, error))) {
     throw Failure(kFileError, at(file, "exists already"));
