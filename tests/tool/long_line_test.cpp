@@ -25,11 +25,11 @@ std::string long_line(const std::string& front, const std::string& behind) {
   return front + std::string(kLongest - front.size(), 'v') + behind + "\n";
 }
 
-TEST(LongLine, HasTheValueThatTheEngineReads) {
+TEST(LongLine, IsHandedOutWholeWithAWordOnWhatTheEngineReads) {
   const Scratch scratch;
   const Outcome outcome = qelpro({"get", scratch.file("[A]\n" + long_line("x = ", "tail") + "y = 2\n"), "A", "x"});
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(outcome.out, std::string(kLongest - 4, 'v') + "\n");
+  EXPECT_EQ(outcome.out, std::string(kLongest - 4, 'v') + "tail\n");
   EXPECT_THAT(outcome.err, HasSubstr(std::string(":2: [A] x: ") + kTooLong));
 }
 

@@ -143,6 +143,12 @@ std::optional<TextLine> DocumentText::find(const TextSection& section, std::stri
   return std::nullopt;
 }
 
+std::string_view DocumentText::to_line_break(const TextLine& line) const {
+  std::string_view text = std::string_view(contents_).substr(line.begin);
+  text = text.substr(0, text.find('\n'));
+  return text.empty() || text.back() != '\r' ? text : text.substr(0, text.size() - 1);
+}
+
 std::string_view whole_value(const TextLine& line) {
   return line.text.find('=') == std::string_view::npos ? std::string_view() : text::entry_value(line.whole);
 }

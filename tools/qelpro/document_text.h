@@ -50,6 +50,9 @@ class DocumentText {
   /// How many lines stand before the first section.
   [[nodiscard]] std::size_t lines_before_sections() const { return sections_.empty() ? line_count() : sections_.front().header; }
 
+  /// The text from where the line begins to the next line break: with the lines that it goes on in, where it is too long.
+  [[nodiscard]] std::string_view to_line_break(const TextLine& line) const;
+
   /// The first section of that name, or null.
   [[nodiscard]] const TextSection* find(std::string_view section) const;
   /// The line that a lookup of the key in the section takes.

@@ -53,7 +53,8 @@ int get(const Arguments& arguments) {
   if (const std::string limit = limit_of(*line); !limit.empty()) {
     complain(at(where, limit));
   }
-  answer() << whole_value(*line) << '\n';
+  // A value that is too long is handed out whole; that the engine reads no more than its beginning was said above.
+  answer() << (line->goes_on ? qel::text::entry_value(document.to_line_break(*line)) : whole_value(*line)) << '\n';
   return kDone;
 }
 
