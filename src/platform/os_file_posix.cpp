@@ -38,6 +38,8 @@ int open_file(const char* path, int flags) {
   return fd < 0 && errno == EWOULDBLOCK && !is_something_else(path) ? open_retrying(path, flags) : fd;
 }
 
+std::uint64_t identity_of(std::uint64_t device, std::uint64_t file) { return (device << 40U) ^ file; }
+
 int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
 }  // namespace
@@ -56,12 +58,32 @@ bool OsFile::adopt(std::intptr_t handle) {
   }
   handle_ = handle;
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
-  identity_ = (std::uint64_t{status.st_dev} << 40U) ^ status.st_ino;
+  identity_ = identity_of(status.st_dev, status.st_ino);
   changes_ = ChangeCount(status.st_dev, status.st_ino);
   return true;
 }
 
-bool OsFile::open_for_reading(const char* path) { return adopt(open_file(path, O_RDONLY)); }
+// A reader needs no more of the file than what the look before the opening told: should another one have come under the path since,
+// its reads tell.
+bool OsFile::open_for_reading(const char* path) {
+  close();
+  struct stat status {};
+  if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode)) {
+    return false;
+  }
+  int fd = open_retrying(path, O_RDONLY | O_NONBLOCK);
+  if (fd < 0 && errno == EWOULDBLOCK && !is_something_else(path)) {
+    fd = open_retrying(path, O_RDONLY);
+  }
+  if (fd < 0) {
+    return false;
+  }
+  handle_ = fd;
+  size_when_opened_ = static_cast<std::int64_t>(status.st_size);
+  identity_ = identity_of(status.st_dev, status.st_ino);
+  changes_ = ChangeCount(status.st_dev, status.st_ino);
+  return true;
+}
 
 bool OsFile::open_for_reading(const wchar_t* path) { return open_for_reading(to_utf8(path).c_str()); }
 
