@@ -27,16 +27,15 @@ bool is_something_else(const char* path) {
   return ::stat(path, &status) == 0 && !S_ISREG(status.st_mode);
 }
 
-// A named pipe is not opened at all: even that would be noticed at its other end. Nor may one that takes the file's place
-// meanwhile stop the caller, so that nothing is waited for at first. A regular file then has to be waited for only while another
-// program holds a lease on it, which the system asks back.
-int open_file(const char* path, int flags) {
-  if (is_something_else(path)) {
-    return -1;
-  }
+// What takes a regular file's place meanwhile may not stop the caller, so that nothing is waited for at first. A regular file then
+// has to be waited for only while another program holds a lease on it, which the system asks back.
+int open_waiting_for_a_lease(const char* path, int flags) {
   const int fd = open_retrying(path, flags | O_NONBLOCK);
   return fd < 0 && errno == EWOULDBLOCK && !is_something_else(path) ? open_retrying(path, flags) : fd;
 }
+
+// A named pipe is not opened at all: even that would be noticed at its other end.
+int open_file(const char* path, int flags) { return is_something_else(path) ? -1 : open_waiting_for_a_lease(path, flags); }
 
 std::uint64_t identity_of(std::uint64_t device, std::uint64_t file) { return (device << 40U) ^ file; }
 
@@ -71,10 +70,7 @@ bool OsFile::open_for_reading(const char* path) {
   if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode)) {
     return false;
   }
-  int fd = open_retrying(path, O_RDONLY | O_NONBLOCK);
-  if (fd < 0 && errno == EWOULDBLOCK && !is_something_else(path)) {
-    fd = open_retrying(path, O_RDONLY);
-  }
+  const int fd = open_waiting_for_a_lease(path, O_RDONLY);
   if (fd < 0) {
     return false;
   }
