@@ -17,7 +17,7 @@ using qelpro_fuzz::fail;
 namespace {
 
 std::vector<std::string> lines_of(std::string contents) {
-  contents.erase(contents.find_last_not_of(' ') + 1);  // padding
+  contents.erase(contents.find_last_not_of(" \x1A") + 1);  // padding
   std::vector<std::string> lines;
   for (std::size_t at = 0; at < contents.size();) {
     std::size_t end = std::min(contents.find('\n', at), contents.size());

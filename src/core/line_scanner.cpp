@@ -122,11 +122,14 @@ bool LineScanner::next(Line& line) {
   }
   line.start = window_offset_ + static_cast<std::int64_t>(at_);
   line.end = line.start + static_cast<std::int64_t>(consumed);
-  const char* terminator = may_hold_nul_ ? find_byte(begin, length, '\0') : nullptr;
-  line.text = {begin, terminator != nullptr ? static_cast<std::size_t>(terminator - begin) : length};
   at_ += consumed;
+  line.text = {begin, length};
   if (line_break == nullptr && at_end_ && available() == 0) {
     line.text = text::without_end_mark(line.text);
+  }
+  const char* terminator = may_hold_nul_ ? find_byte(begin, line.text.size(), '\0') : nullptr;
+  if (terminator != nullptr) {
+    line.text = {begin, static_cast<std::size_t>(terminator - begin)};
   }
   return true;
 }

@@ -35,6 +35,15 @@ TEST_F(EndMark, IsNoPartOfAHeaderThatEndsTheFile) {
   EXPECT_EQ(bytes_of(path), "[B]\nx = 1\n[A]\ny = 2\n");
 }
 
+TEST_F(EndMark, IsLookedForBehindANulToo) {
+  using namespace std::string_literals;
+  write("[A]\x1A\0b\x1A"s);  // the line's text ends at the NUL, the file behind it
+  EXPECT_EQ(document.SetValue("[A]", "y", "2", kByKey), kDone);
+  EXPECT_EQ(bytes_of(path), "[A]\x1A\0b\n[A]\ny                    = 2\n"s);
+  read(bytes_of(path));
+  EXPECT_EQ(look(document, "[A]", "y"), "2");
+}
+
 TEST_F(EndMark, HasStoresLandInFrontOfIt) {
   write("[A]\nx = 1\n\x1A");
   EXPECT_EQ(document.SetValue("[A]", "y", "2", kByKey), kDone);
