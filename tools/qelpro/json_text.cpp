@@ -78,11 +78,11 @@ void write_json(Output& output, const Json& value, std::size_t indent) {
     output << value.dump();
     return;
   }
-  const std::string line_break = "\n" + std::string(indent + 2, ' ');
+  const std::string deeper(indent + 2, ' ');
   output << (value.is_object() ? '{' : '[');
   bool first = true;
   for (const auto& item : value.items()) {
-    output << (first ? "" : ",") << line_break;
+    output << (first ? "\n" : ",\n") << deeper;
     first = false;
     if (value.is_object()) {
       output << escaped(item.key()) << ": ";
