@@ -1,7 +1,8 @@
-// What the engine's work costs, beside the cost of reading the same bytes once: open, one read, a walk over the lines with
-// memchr, close. "limits" is the ratio of the two, both taken in this run. A store is set beside a store's own limit, too: open,
-// a scan of what stands before the line, one write of the line and all behind it, close. That ratio is "store_limits"; beside the
-// same calls without a look at the bytes that were read it is "store_calls".
+// What the engine's work costs, beside the cost of reading the same bytes once: open, one read, a
+// walk over the lines with memchr, close. "limits" is the ratio of the two, both taken in this run.
+// A store is set beside a store's own limit, too: open, a scan of what stands before the line, one
+// write of the line and all behind it, close. That ratio is "store_limits"; beside the same calls
+// without a look at the bytes that were read it is "store_calls".
 
 #include <QELG/QELG.h>
 #include <QELPROEngine/QELPROEngine.h>
@@ -26,7 +27,10 @@ using Clock = std::chrono::steady_clock;
 
 class GeneratedFile {
  public:
-  explicit GeneratedFile(int inlets) : path_((std::filesystem::temp_directory_path() / ("qelpro-bench-" + std::to_string(::getpid()))).string()) {
+  explicit GeneratedFile(int inlets)
+      : path_((std::filesystem::temp_directory_path() /
+               ("qelpro-bench-" + std::to_string(::getpid())))
+                  .string()) {
     std::ofstream(path_, std::ios::binary) << generated_file(inlets);
   }
   GeneratedFile(const GeneratedFile&) = delete;
@@ -66,7 +70,8 @@ void store_once(const char* path, std::vector<char>& buffer, std::size_t line, b
   if (scans) {
     benchmark::DoNotOptimize(count_lines(buffer.data(), before));
   }
-  const ssize_t behind = ::pwrite(file, buffer.data() + line, buffer.size() - line, static_cast<off_t>(line));
+  const ssize_t behind =
+      ::pwrite(file, buffer.data() + line, buffer.size() - line, static_cast<off_t>(line));
   if (::close(file) != 0 || static_cast<std::size_t>(before + behind) != buffer.size()) {
     std::abort();
   }
@@ -115,7 +120,9 @@ void measure(benchmark::State& state, Work work) {
 
 void limit(benchmark::State& state) {
   std::vector<char> buffer(generated_file(static_cast<int>(state.range(0))).size());
-  measure(state, [&buffer](const GeneratedFile& file) { benchmark::DoNotOptimize(walk_once(file.path(), buffer)); });
+  measure(state, [&buffer](const GeneratedFile& file) {
+    benchmark::DoNotOptimize(walk_once(file.path(), buffer));
+  });
 }
 
 void one_shot_raw_read(benchmark::State& state) {
@@ -165,8 +172,10 @@ void typed_read_in_order(benchmark::State& state) {
     int count = 0;
     double value = 0;
     for (int inlet = 1; inlet <= inlets; ++inlet) {
-      for (const auto member : {&Reader::FlowX_ReadFillingTime, &Reader::FlowX_ReadMaxFillingTime, &Reader::FlowX_ReadMeltTemperature,
-                                &Reader::FlowX_ReadMoldTemperature, &Reader::FlowX_ReadInjectPressure, &Reader::FlowX_ReadPreFill}) {
+      for (const auto member :
+           {&Reader::FlowX_ReadFillingTime, &Reader::FlowX_ReadMaxFillingTime,
+            &Reader::FlowX_ReadMeltTemperature, &Reader::FlowX_ReadMoldTemperature,
+            &Reader::FlowX_ReadInjectPressure, &Reader::FlowX_ReadPreFill}) {
         (reader.*member)(value, inlet);
       }
       reader.FlowX_ReadFRSection(count, inlet);
@@ -242,12 +251,15 @@ void object_setter(benchmark::State& state) {
 void loader(benchmark::State& state) {
   measure(state, [](const GeneratedFile& file) {
     CQELProcessData_Manipulator loader;
-    const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(file.path()));
+    const std::unique_ptr<const QELG_SimulatorProcess> process(
+        loader.GetProcessDataStructure(file.path()));
     benchmark::DoNotOptimize(process->GetNumOfInlets());
   });
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(1)->Arg(8)->Arg(64)->Arg(512)->ArgName("inlets"); }
+void sizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(1)->Arg(8)->Arg(64)->Arg(512)->ArgName("inlets");
+}
 
 BENCHMARK(limit)->Apply(sizes);
 BENCHMARK(one_shot_raw_read)->Apply(sizes);

@@ -15,7 +15,8 @@ class Text {
   void profile(const std::string& count_key, const std::string& prefix) {
     entry(count_key, std::to_string(kProfilePoints));
     for (int point = 1; point <= kProfilePoints; ++point) {
-      entry(prefix + std::to_string(point), std::to_string(point * 10) + "\t" + std::to_string(100 - point));
+      entry(prefix + std::to_string(point),
+            std::to_string(point * 10) + "\t" + std::to_string(100 - point));
     }
   }
   [[nodiscard]] const std::string& text() const { return text_; }
@@ -41,7 +42,8 @@ std::string generated_file(int inlets) {
   for (int inlet = 1; inlet <= inlets; ++inlet) {
     const std::string number = std::to_string(inlet) + "]";
     text.section("[Flow-" + number);
-    for (const char* key : {"FillTime", "MaxFillingTime", "MeltTemp", "MoldTemp", "InjectPres", "PreFill"}) {
+    for (const char* key :
+         {"FillTime", "MaxFillingTime", "MeltTemp", "MoldTemp", "InjectPres", "PreFill"}) {
       text.entry(key, "1.25");
     }
     for (const char* prefix : {"FR", "IP", "UserFR", "UserIP"}) {

@@ -1,4 +1,5 @@
-// The engine beside libraries that load a whole file: every key once in order and in random order, one raw read, one store.
+// The engine beside libraries that load a whole file: every key once in order and in random order,
+// one raw read, one store.
 
 #include <QELPROEngine/QELPROEngine.h>
 #include <benchmark/benchmark.h>
@@ -21,7 +22,9 @@ namespace {
 class GeneratedFile {
  public:
   explicit GeneratedFile(int inlets)
-      : path_((std::filesystem::temp_directory_path() / (std::string("qelpro-peers-").append(std::to_string(::getpid())))).string()) {
+      : path_((std::filesystem::temp_directory_path() /
+               (std::string("qelpro-peers-").append(std::to_string(::getpid()))))
+                  .string()) {
     std::ofstream(path_, std::ios::binary) << generated_file(inlets);
   }
   GeneratedFile(const GeneratedFile&) = delete;
@@ -49,15 +52,20 @@ struct Question {
 std::vector<Question> questions_of(int inlets) {
   std::vector<Question> all;
   for (int inlet = 1; inlet <= inlets; ++inlet) {
-    const auto ask = [&all, inlet](const char* section, const std::string& key, bool (Reader::*real)(double&, int),
-                                   bool (Reader::*integer)(int&, int), bool (Reader::*point)(double&, double&, int, int), int number) {
-      all.push_back({real, integer, point, number, inlet, std::string(section).append(std::to_string(inlet)), key});
+    const auto ask = [&all, inlet](const char* section, const std::string& key,
+                                   bool (Reader::*real)(double&, int),
+                                   bool (Reader::*integer)(int&, int),
+                                   bool (Reader::*point)(double&, double&, int, int), int number) {
+      all.push_back({real, integer, point, number, inlet,
+                     std::string(section).append(std::to_string(inlet)), key});
     };
-    const auto profile = [&ask](const char* section, const std::string& name, bool (Reader::*count)(int&, int),
+    const auto profile = [&ask](const char* section, const std::string& name,
+                                bool (Reader::*count)(int&, int),
                                 bool (Reader::*point)(double&, double&, int, int)) {
       ask(section, std::string(name).append("Set"), nullptr, count, nullptr, 0);
       for (int number = 1; number <= kProfilePoints; ++number) {
-        ask(section, std::string(name).append("-").append(std::to_string(number)), nullptr, nullptr, point, number);
+        ask(section, std::string(name).append("-").append(std::to_string(number)), nullptr, nullptr,
+            point, number);
       }
     };
     ask("Flow-", "FillTime", &Reader::FlowX_ReadFillingTime, nullptr, nullptr, 0);
@@ -102,16 +110,18 @@ void engine_every_key(benchmark::State& state) {
       double x = 0;
       double y = 0;
       int count = 0;
-      require(question.real != nullptr      ? (reader.*question.real)(x, question.inlet)
-              : question.integer != nullptr ? (reader.*question.integer)(count, question.inlet)
-                                            : (reader.*question.point)(x, y, question.number, question.inlet));
+      require(question.real != nullptr ? (reader.*question.real)(x, question.inlet)
+              : question.integer != nullptr
+                  ? (reader.*question.integer)(count, question.inlet)
+                  : (reader.*question.point)(x, y, question.number, question.inlet));
       sum += x + y + count;
     }
     benchmark::DoNotOptimize(sum);
   }
 }
 
-// What reading each key's line from the file costs whoever does it: one read of a few bytes for each.
+// What reading each key's line from the file costs whoever does it: one read of a few bytes for
+// each.
 void one_system_call_a_key(benchmark::State& state) {
   const GeneratedFile file(static_cast<int>(state.range(0)));
   const std::size_t keys = questions_of(static_cast<int>(state.range(0))).size();
@@ -119,7 +129,8 @@ void one_system_call_a_key(benchmark::State& state) {
   char line[64];
   for (auto _ : state) {
     for (std::size_t key = 0; key < keys; ++key) {
-      benchmark::DoNotOptimize(::pread(descriptor, line, sizeof line, static_cast<off_t>(key * 24)));
+      benchmark::DoNotOptimize(
+          ::pread(descriptor, line, sizeof line, static_cast<off_t>(key * 24)));
     }
   }
   ::close(descriptor);
@@ -154,7 +165,8 @@ void engine_one_read(benchmark::State& state) {
   for (auto _ : state) {
     Reader reader;
     char* value = nullptr;
-    require(reader.SetFilePath(file.path()) && reader.ReadString("[Machine]", "Diameter", value, nullptr, 0));
+    require(reader.SetFilePath(file.path()) &&
+            reader.ReadString("[Machine]", "Diameter", value, nullptr, 0));
   }
 }
 
@@ -174,7 +186,8 @@ void engine_one_store(benchmark::State& state) {
   for (auto _ : state) {
     CQELPROWriter_Manipulator writer;
     odd = !odd;
-    require(writer.SetFilePath(file.path()) && writer.PackX_WritePackTime(odd ? 1.25 : 1.25125, middle));
+    require(writer.SetFilePath(file.path()) &&
+            writer.PackX_WritePackTime(odd ? 1.25 : 1.25125, middle));
   }
 }
 
@@ -199,7 +212,8 @@ void engine_new_keys(benchmark::State& state) {
     CQELPROWriter_Manipulator writer;
     require(writer.SetFilePath(file.path()));
     for (int key = 0; key < state.range(0); ++key) {
-      require(writer.WriteString("[A]", std::string("k").append(std::to_string(key)).c_str(), "1.25"));
+      require(
+          writer.WriteString("[A]", std::string("k").append(std::to_string(key)).c_str(), "1.25"));
     }
   }
 }
@@ -217,8 +231,12 @@ void peer_new_keys(benchmark::State& state) {
   }
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(1)->Arg(8)->Arg(64)->Arg(512)->ArgName("inlets")->MinTime(0.2); }
-void counts(benchmark::internal::Benchmark* benchmark) { benchmark->Arg(500)->Arg(2000)->ArgName("keys")->MinTime(0.2); }
+void sizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(1)->Arg(8)->Arg(64)->Arg(512)->ArgName("inlets")->MinTime(0.2);
+}
+void counts(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(500)->Arg(2000)->ArgName("keys")->MinTime(0.2);
+}
 
 #define BESIDE_PEERS(work)                                                       \
   BENCHMARK(engine_##work)->Name(#work "/engine")->Apply(sizes);                 \

@@ -10,16 +10,25 @@
 
 SimpleIniPeer::SimpleIniPeer() : ini_(new CSimpleIniCaseA) {}
 SimpleIniPeer::~SimpleIniPeer() { delete static_cast<CSimpleIniCaseA*>(ini_); }
-bool SimpleIniPeer::load(const char* path) { return static_cast<CSimpleIniCaseA*>(ini_)->LoadFile(path) >= 0; }
-const char* SimpleIniPeer::get(const char* section, const char* key) { return static_cast<CSimpleIniCaseA*>(ini_)->GetValue(section, key); }
+bool SimpleIniPeer::load(const char* path) {
+  return static_cast<CSimpleIniCaseA*>(ini_)->LoadFile(path) >= 0;
+}
+const char* SimpleIniPeer::get(const char* section, const char* key) {
+  return static_cast<CSimpleIniCaseA*>(ini_)->GetValue(section, key);
+}
 void SimpleIniPeer::set(const char* section, const char* key, const char* value) {
   static_cast<CSimpleIniCaseA*>(ini_)->SetValue(section, key, value);
 }
-bool SimpleIniPeer::save(const char* path) { return static_cast<CSimpleIniCaseA*>(ini_)->SaveFile(path) >= 0; }
+bool SimpleIniPeer::save(const char* path) {
+  return static_cast<CSimpleIniCaseA*>(ini_)->SaveFile(path) >= 0;
+}
 
 GLibPeer::GLibPeer() : file_(g_key_file_new()) {}
 GLibPeer::~GLibPeer() { g_key_file_free(static_cast<GKeyFile*>(file_)); }
-bool GLibPeer::load(const char* path) { return g_key_file_load_from_file(static_cast<GKeyFile*>(file_), path, G_KEY_FILE_NONE, nullptr) != 0; }
+bool GLibPeer::load(const char* path) {
+  return g_key_file_load_from_file(static_cast<GKeyFile*>(file_), path, G_KEY_FILE_NONE, nullptr) !=
+         0;
+}
 const char* GLibPeer::get(const char* section, const char* key) {
   char* value = g_key_file_get_value(static_cast<GKeyFile*>(file_), section, key, nullptr);
   if (value == nullptr) {
@@ -32,11 +41,15 @@ const char* GLibPeer::get(const char* section, const char* key) {
 void GLibPeer::set(const char* section, const char* key, const char* value) {
   g_key_file_set_value(static_cast<GKeyFile*>(file_), section, key, value);
 }
-bool GLibPeer::save(const char* path) { return g_key_file_save_to_file(static_cast<GKeyFile*>(file_), path, nullptr) != 0; }
+bool GLibPeer::save(const char* path) {
+  return g_key_file_save_to_file(static_cast<GKeyFile*>(file_), path, nullptr) != 0;
+}
 
 namespace {
 using Tree = boost::property_tree::ptree;
-Tree::path_type path_of(const char* section, const char* key) { return {std::string(section) + '\1' + key, '\1'}; }
+Tree::path_type path_of(const char* section, const char* key) {
+  return {std::string(section) + '\1' + key, '\1'};
+}
 }  // namespace
 
 PropertyTreePeer::PropertyTreePeer() : tree_(new Tree) {}
@@ -55,7 +68,9 @@ const char* PropertyTreePeer::get(const char* section, const char* key) {
   text_ = *value;
   return text_.c_str();
 }
-void PropertyTreePeer::set(const char* section, const char* key, const char* value) { static_cast<Tree*>(tree_)->put(path_of(section, key), value); }
+void PropertyTreePeer::set(const char* section, const char* key, const char* value) {
+  static_cast<Tree*>(tree_)->put(path_of(section, key), value);
+}
 bool PropertyTreePeer::save(const char* path) try {
   boost::property_tree::write_ini(path, *static_cast<Tree*>(tree_));
   return true;

@@ -7,8 +7,8 @@
 #include "members/every_member.h"
 #include "support.h"
 
-// Any file: every reader member answers and leaves its outputs alone where it says no; the loader builds a process or none;
-// reading changes no byte.
+// Any file: every reader member answers and leaves its outputs alone where it says no; the loader
+// builds a process or none; reading changes no byte.
 
 using qelpro_fuzz::fail;
 using qelpro_test::ReaderMember;

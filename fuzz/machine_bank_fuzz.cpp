@@ -11,7 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   machines.LoadFileData();
   const char** makers = nullptr;
   int count = 0;
-  if (machines.GetAllMaker(&makers, &count) != (machines.GetMakerCount() > 0) || count != machines.GetMakerCount()) {
+  if (machines.GetAllMaker(&makers, &count) != (machines.GetMakerCount() > 0) ||
+      count != machines.GetMakerCount()) {
     qelpro_fuzz::fail("makers were miscounted");
   }
   for (int i = 0; i < count; ++i) {
@@ -21,7 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     char grade[8];
     const int grades = machines.GetGradeCount(maker);
-    if (grades < 1 || !machines.GetGrade(maker, grades - 1, grade, sizeof grade) || machines.GetGrade(maker, grades, grade, sizeof grade)) {
+    if (grades < 1 || !machines.GetGrade(maker, grades - 1, grade, sizeof grade) ||
+        machines.GetGrade(maker, grades, grade, sizeof grade)) {
       qelpro_fuzz::fail("grades were miscounted");
     }
   }

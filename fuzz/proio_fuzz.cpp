@@ -4,7 +4,8 @@
 #include "proio/accessors.h"
 #include "support.h"
 
-// Any file: every getter of the self-contained object answers; a setter is read back, and never shortens the file.
+// Any file: every getter of the self-contained object answers; a setter is read back, and never
+// shortens the file.
 
 using qelpro_fuzz::fail;
 

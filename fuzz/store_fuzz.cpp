@@ -9,8 +9,8 @@
 #include "QELPROEngine/QELPROEngine.h"
 #include "support.h"
 
-// Any file and a sequence of stores. A store that fails changes no byte; one that succeeds is read back, and changes no other
-// line.
+// Any file and a sequence of stores. A store that fails changes no byte; one that succeeds is read
+// back, and changes no other line.
 
 using qelpro_fuzz::fail;
 
@@ -51,19 +51,24 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-std::optional<std::string> read(CQELPROReader_Manipulator& reader, const std::string& section, const std::string& key) {
+std::optional<std::string> read(CQELPROReader_Manipulator& reader, const std::string& section,
+                                const std::string& key) {
   char buffer[8192];
   char* value = nullptr;
-  return reader.ReadString(section.c_str(), key.c_str(), value, buffer, sizeof buffer) ? std::optional<std::string>(value) : std::nullopt;
+  return reader.ReadString(section.c_str(), key.c_str(), value, buffer, sizeof buffer)
+             ? std::optional<std::string>(value)
+             : std::nullopt;
 }
 
-std::optional<std::string> read_by_path(const char* path, const std::string& section, const std::string& key) {
+std::optional<std::string> read_by_path(const char* path, const std::string& section,
+                                        const std::string& key) {
   CQELPROReader_Manipulator reader;
   reader.SetFilePath(path);
   return read(reader, section, key);
 }
 
-std::optional<std::string> read_by_stream(const char* path, const std::string& section, const std::string& key) {
+std::optional<std::string> read_by_stream(const char* path, const std::string& section,
+                                          const std::string& key) {
   std::FILE* stream = std::fopen(path, "r");
   std::optional<std::string> text;
   {
@@ -89,8 +94,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<Store> sequence;
   for (int i = 0; i < count; ++i) {
     Store store;
-    store.section = input.ConsumeBool() ? std::string(input.PickValueInArray(sections)) : input.ConsumeRandomLengthString(12);
-    store.key = input.ConsumeBool() ? std::string(input.PickValueInArray(keys)) : input.ConsumeRandomLengthString(12);
+    store.section = input.ConsumeBool() ? std::string(input.PickValueInArray(sections))
+                                        : input.ConsumeRandomLengthString(12);
+    store.key = input.ConsumeBool() ? std::string(input.PickValueInArray(keys))
+                                    : input.ConsumeRandomLengthString(12);
     store.value = input.ConsumeRandomLengthString(40);
     for (std::string* text : {&store.section, &store.key, &store.value}) {
       text->resize(std::strlen(text->c_str()));
@@ -106,7 +113,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   for (const Store& store : sequence) {
     const std::string before = qelpro_fuzz::bytes_of_file();
-    const bool done = writer.WriteString(store.section.c_str(), store.key.c_str(), store.value.c_str());
+    const bool done =
+        writer.WriteString(store.section.c_str(), store.key.c_str(), store.value.c_str());
     const std::string after = qelpro_fuzz::bytes_of_file();
     if (!done) {
       if (after != before) {
@@ -117,19 +125,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (after.size() < before.size()) {
       fail("a store made the file shorter");
     }
-    // Where a line that is no header begins with the section's name, or a later section holds the key, the store lands there
-    // and the plain scan of a lent stream finds it.
+    // Where a line that is no header begins with the section's name, or a later section holds the
+    // key, the store lands there and the plain scan of a lent stream finds it.
     const std::string expected = trimmed(store.value);
-    if (read_by_path(path, store.section, store.key) != expected && read_by_stream(path, store.section, store.key) != expected) {
-      fail("a store was not read back: " + store.section + " | " + store.key + " | " + store.value + "\nfile before:\n" + before + "\nfile after:\n" +
-           after);
+    if (read_by_path(path, store.section, store.key) != expected &&
+        read_by_stream(path, store.section, store.key) != expected) {
+      fail("a store was not read back: " + store.section + " | " + store.key + " | " + store.value +
+           "\nfile before:\n" + before + "\nfile after:\n" + after);
     }
     std::vector<std::string> old_lines = lines_of(before);
     std::vector<std::string> new_lines = lines_of(after);
     drop_common_ends(old_lines, new_lines);
     if (old_lines.size() > 1 || new_lines.size() > 3) {
-      fail("a store changed other lines: " + store.section + " | " + store.key + " | " + store.value + "\nfile before:\n" + before +
-           "\nfile after:\n" + after);
+      fail("a store changed other lines: " + store.section + " | " + store.key + " | " +
+           store.value + "\nfile before:\n" + before + "\nfile after:\n" + after);
     }
   }
   return 0;

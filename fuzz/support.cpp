@@ -11,7 +11,8 @@ namespace {
 struct File {
   File() {
     const char* folder = std::getenv("TMPDIR");
-    path = std::string(folder != nullptr ? folder : "/tmp") + "/qelpro_fuzz_" + std::to_string(getpid()) + ".pro";
+    path = std::string(folder != nullptr ? folder : "/tmp") + "/qelpro_fuzz_" +
+           std::to_string(getpid()) + ".pro";
   }
   File(const File&) = delete;
   File& operator=(const File&) = delete;
@@ -29,7 +30,9 @@ const std::string& path_of_file() {
 const char* file_with(std::string_view contents) {
   const char* path = path_of_file().c_str();
   std::FILE* file = std::fopen(path, "wb");
-  if (file == nullptr || std::fwrite(contents.data(), 1, contents.size(), file) != contents.size() || std::fclose(file) != 0) {
+  if (file == nullptr ||
+      std::fwrite(contents.data(), 1, contents.size(), file) != contents.size() ||
+      std::fclose(file) != 0) {
     fail("cannot write " + path_of_file());
   }
   return path;

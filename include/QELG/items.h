@@ -1,8 +1,9 @@
 #pragma once
 
-/// The items of a simulator process: what each setter stores, its getter gives back. A getter yields false, and leaves its
-/// output alone, while the item was never set. Texts are copied when they are set; a text that a getter hands out lives
-/// until the item is set again or its object goes. A null text is not stored. Values are in the units of the process file.
+/// The items of a simulator process: what each setter stores, its getter gives back. A getter
+/// yields false, and leaves its output alone, while the item was never set. Texts are copied when
+/// they are set; a text that a getter hands out lives until the item is set again or its object
+/// goes. A null text is not stored. Values are in the units of the process file.
 
 #include "QELG/export.h"
 
@@ -17,7 +18,8 @@ QELG_API bool get_process_ProjectType(const QELG_SimulatorProcess& process, unsi
 QELG_API void set_process_FlagUNF(QELG_SimulatorProcess& process, unsigned int value);
 QELG_API bool get_process_FlagUNF(const QELG_SimulatorProcess& process, unsigned int& value);
 QELG_API void set_process_FlagEncapsulationCM(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_FlagEncapsulationCM(const QELG_SimulatorProcess& process, unsigned int& value);
+QELG_API bool get_process_FlagEncapsulationCM(const QELG_SimulatorProcess& process,
+                                              unsigned int& value);
 
 // [Summary]
 QELG_API void set_process_TotalNodeEM(QELG_SimulatorProcess& process, unsigned int value);
@@ -45,9 +47,11 @@ QELG_API bool get_process_TotalGrpCCL(const QELG_SimulatorProcess& process, unsi
 QELG_API void set_process_TotalGrpCCS(QELG_SimulatorProcess& process, unsigned int value);
 QELG_API bool get_process_TotalGrpCCS(const QELG_SimulatorProcess& process, unsigned int& value);
 QELG_API void set_process_TotalOverFlowCTL(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_TotalOverFlowCTL(const QELG_SimulatorProcess& process, unsigned int& value);
+QELG_API bool get_process_TotalOverFlowCTL(const QELG_SimulatorProcess& process,
+                                           unsigned int& value);
 QELG_API void set_process_IsTransientInletConv(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_IsTransientInletConv(const QELG_SimulatorProcess& process, unsigned int& value);
+QELG_API bool get_process_IsTransientInletConv(const QELG_SimulatorProcess& process,
+                                               unsigned int& value);
 
 // [FlowCTL]
 QELG_API void set_process_FlowCtrl(QELG_SimulatorProcess& process, unsigned int value);
@@ -77,7 +81,8 @@ QELG_API bool get_process_CureEnterTime(const QELG_SimulatorProcess& process, do
 
 // Heat transfer, [MoldThermalBoundaryType]
 QELG_API void set_process_HTC_HeatTransferType(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_HTC_HeatTransferType(const QELG_SimulatorProcess& process, unsigned int& value);
+QELG_API bool get_process_HTC_HeatTransferType(const QELG_SimulatorProcess& process,
+                                               unsigned int& value);
 QELG_API void set_process_HTC_Flow(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_HTC_Flow(const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_HTC_Pack(QELG_SimulatorProcess& process, double value);
@@ -107,19 +112,26 @@ QELG_API bool get_process_machine_ShotVolume(const QELG_SimulatorProcess& proces
 QELG_API void set_process_machine_Weight(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_Weight(const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_machine_MaxMachinePres(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_MaxMachinePres(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_MaxMachinePres(const QELG_SimulatorProcess& process,
+                                                 double& value);
 QELG_API void set_process_machine_MaxFlowRate(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_MaxFlowRate(const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_machine_ClampForce(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_ClampForce(const QELG_SimulatorProcess& process, double& value);
-QELG_API void set_process_machine_BarrelCompressionCtrl(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_machine_BarrelCompressionCtrl(const QELG_SimulatorProcess& process, unsigned int& value);
+QELG_API void set_process_machine_BarrelCompressionCtrl(QELG_SimulatorProcess& process,
+                                                        unsigned int value);
+QELG_API bool get_process_machine_BarrelCompressionCtrl(const QELG_SimulatorProcess& process,
+                                                        unsigned int& value);
 QELG_API void set_process_machine_NozzleVolume(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_NozzleVolume(const QELG_SimulatorProcess& process, double& value);
-QELG_API void set_process_machine_MachineEnergyType(QELG_SimulatorProcess& process, unsigned int value);
-QELG_API bool get_process_machine_MachineEnergyType(const QELG_SimulatorProcess& process, unsigned int& value);
-QELG_API void set_process_machine_HydraulicPressureTransferFactor(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_HydraulicPressureTransferFactor(const QELG_SimulatorProcess& process, double& value);
+QELG_API void set_process_machine_MachineEnergyType(QELG_SimulatorProcess& process,
+                                                    unsigned int value);
+QELG_API bool get_process_machine_MachineEnergyType(const QELG_SimulatorProcess& process,
+                                                    unsigned int& value);
+QELG_API void set_process_machine_HydraulicPressureTransferFactor(QELG_SimulatorProcess& process,
+                                                                  double value);
+QELG_API bool get_process_machine_HydraulicPressureTransferFactor(
+    const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_machine_PITCHSIZE(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_PITCHSIZE(const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_machine_SCREWSPEED(QELG_SimulatorProcess& process, double value);
@@ -127,27 +139,40 @@ QELG_API bool get_process_machine_SCREWSPEED(const QELG_SimulatorProcess& proces
 QELG_API void set_process_machine_SCREWDIAFEED(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_SCREWDIAFEED(const QELG_SimulatorProcess& process, double& value);
 QELG_API void set_process_machine_SCREWDIATRANSITION(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_SCREWDIATRANSITION(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_SCREWDIATRANSITION(const QELG_SimulatorProcess& process,
+                                                     double& value);
 QELG_API void set_process_machine_SCREWDIAMETERING(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_SCREWDIAMETERING(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_SCREWDIAMETERING(const QELG_SimulatorProcess& process,
+                                                   double& value);
 QELG_API void set_process_machine_CHANNELDEEPFEED(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_CHANNELDEEPFEED(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_CHANNELDEEPFEED(const QELG_SimulatorProcess& process,
+                                                  double& value);
 QELG_API void set_process_machine_CHANNELDEEPMETERING(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_CHANNELDEEPMETERING(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_CHANNELDEEPMETERING(const QELG_SimulatorProcess& process,
+                                                      double& value);
 QELG_API void set_process_machine_SECTIONDEPFEED(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_SECTIONDEPFEED(const QELG_SimulatorProcess& process, double& value);
-QELG_API void set_process_machine_SECTIONDEPTRANSITION(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_SECTIONDEPTRANSITION(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_SECTIONDEPFEED(const QELG_SimulatorProcess& process,
+                                                 double& value);
+QELG_API void set_process_machine_SECTIONDEPTRANSITION(QELG_SimulatorProcess& process,
+                                                       double value);
+QELG_API bool get_process_machine_SECTIONDEPTRANSITION(const QELG_SimulatorProcess& process,
+                                                       double& value);
 QELG_API void set_process_machine_SECTIONDEPMETERING(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_SECTIONDEPMETERING(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_SECTIONDEPMETERING(const QELG_SimulatorProcess& process,
+                                                     double& value);
 QELG_API void set_process_machine_NUMBERPITCHFEED(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_NUMBERPITCHFEED(const QELG_SimulatorProcess& process, double& value);
-QELG_API void set_process_machine_NUMBERPITCHTRANSITION(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_NUMBERPITCHTRANSITION(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_NUMBERPITCHFEED(const QELG_SimulatorProcess& process,
+                                                  double& value);
+QELG_API void set_process_machine_NUMBERPITCHTRANSITION(QELG_SimulatorProcess& process,
+                                                        double value);
+QELG_API bool get_process_machine_NUMBERPITCHTRANSITION(const QELG_SimulatorProcess& process,
+                                                        double& value);
 QELG_API void set_process_machine_NUMBERPITCHMETERING(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_NUMBERPITCHMETERING(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_NUMBERPITCHMETERING(const QELG_SimulatorProcess& process,
+                                                      double& value);
 QELG_API void set_process_machine_NOZZLEDIAMETER(QELG_SimulatorProcess& process, double value);
-QELG_API bool get_process_machine_NOZZLEDIAMETER(const QELG_SimulatorProcess& process, double& value);
+QELG_API bool get_process_machine_NOZZLEDIAMETER(const QELG_SimulatorProcess& process,
+                                                 double& value);
 QELG_API void set_process_machine_NOZZLELENGTH(QELG_SimulatorProcess& process, double value);
 QELG_API bool get_process_machine_NOZZLELENGTH(const QELG_SimulatorProcess& process, double& value);
 
@@ -158,8 +183,10 @@ QELG_API bool get_process_SuckBack(const QELG_SimulatorProcess& process, double&
 // Items of one inlet.
 
 // Flow control of the inlet, [FlowCTLInfo]
-QELG_API void set_process_InletControlType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_InletControlType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API void set_process_InletControlType(QELG_SimulatorFlowPackProcess& inlet,
+                                           unsigned int value);
+QELG_API bool get_process_InletControlType(const QELG_SimulatorFlowPackProcess& inlet,
+                                           unsigned int& value);
 
 // Filling, [Flow-1]
 QELG_API void set_process_FillTime(QELG_SimulatorFlowPackProcess& inlet, double value);
@@ -171,25 +198,33 @@ QELG_API bool get_process_MoldTemp(const QELG_SimulatorFlowPackProcess& inlet, d
 QELG_API void set_process_InjectPres(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_InjectPres(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_FRDisplayType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_FRDisplayType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_FRDisplayType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_IPDisplayType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_IPDisplayType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_IPDisplayType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_FRProfileType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_FRProfileType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_FRProfileType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_IPProfileType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_IPProfileType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_IPProfileType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_MaxFR(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_MaxFR(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_MaxFillingTime(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_MaxFillingTime(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_FlowPackMode(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_FlowPackMode(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
-QELG_API void set_process_HotRunnerTemperatureDiff(QELG_SimulatorFlowPackProcess& inlet, double value);
-QELG_API bool get_process_HotRunnerTemperatureDiff(const QELG_SimulatorFlowPackProcess& inlet, double& value);
+QELG_API bool get_process_FlowPackMode(const QELG_SimulatorFlowPackProcess& inlet,
+                                       unsigned int& value);
+QELG_API void set_process_HotRunnerTemperatureDiff(QELG_SimulatorFlowPackProcess& inlet,
+                                                   double value);
+QELG_API bool get_process_HotRunnerTemperatureDiff(const QELG_SimulatorFlowPackProcess& inlet,
+                                                   double& value);
 QELG_API void set_process_Material(QELG_SimulatorFlowPackProcess& inlet, const char* value);
 QELG_API bool get_process_Material(const QELG_SimulatorFlowPackProcess& inlet, const char*& value);
 QELG_API void set_process_CoreEnterType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_CoreEnterType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_CoreEnterType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_CoreEnterSwch(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_CoreEnterSwch(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_CoreEnterTime(QELG_SimulatorFlowPackProcess& inlet, double value);
@@ -197,7 +232,8 @@ QELG_API bool get_process_CoreEnterTime(const QELG_SimulatorFlowPackProcess& inl
 QELG_API void set_process_FluidTemp(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_FluidTemp(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_FluidEnterType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_FluidEnterType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_FluidEnterType(const QELG_SimulatorFlowPackProcess& inlet,
+                                         unsigned int& value);
 QELG_API void set_process_FluidEnterSwch(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_FluidEnterSwch(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_FluidEnterTime(QELG_SimulatorFlowPackProcess& inlet, double value);
@@ -217,18 +253,23 @@ QELG_API bool get_process_PackSwch(const QELG_SimulatorFlowPackProcess& inlet, d
 QELG_API void set_process_MaxEOFRatio(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_MaxEOFRatio(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_PPDisplayType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_PPDisplayType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_PPDisplayType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_PPProfileType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_PPProfileType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_PPProfileType(const QELG_SimulatorFlowPackProcess& inlet,
+                                        unsigned int& value);
 QELG_API void set_process_MaxPressSlop(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_MaxPressSlop(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_Shutoff(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
 QELG_API bool get_process_Shutoff(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
 QELG_API void set_process_MaterialType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_MaterialType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API bool get_process_MaterialType(const QELG_SimulatorFlowPackProcess& inlet,
+                                       unsigned int& value);
 QELG_API void set_process_FluidPres(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_FluidPres(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 QELG_API void set_process_FluidMaxFR(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_FluidMaxFR(const QELG_SimulatorFlowPackProcess& inlet, double& value);
-QELG_API void set_process_FluidProfileType(QELG_SimulatorFlowPackProcess& inlet, unsigned int value);
-QELG_API bool get_process_FluidProfileType(const QELG_SimulatorFlowPackProcess& inlet, unsigned int& value);
+QELG_API void set_process_FluidProfileType(QELG_SimulatorFlowPackProcess& inlet,
+                                           unsigned int value);
+QELG_API bool get_process_FluidProfileType(const QELG_SimulatorFlowPackProcess& inlet,
+                                           unsigned int& value);

@@ -4,11 +4,13 @@
 
 struct QELMachineRecord;
 
-/// The injection molding machines of a machine bank, for pick lists: which makers it lists, and which grades each of them has.
+/// The injection molding machines of a machine bank, for pick lists: which makers it lists, and
+/// which grades each of them has.
 ///
-/// A bank is text. Behind a line with "[Header]" a line with "Version" gives its version, which must be 7007; behind a line
-/// with "Database]" each line of at least 22 fields between commas that begins with the number 1 is a machine: its second
-/// field is the maker, its third the grade. A line with "[EOF]" ends the bank.
+/// A bank is text. Behind a line with "[Header]" a line with "Version" gives its version, which
+/// must be 7007; behind a line with "Database]" each line of at least 22 fields between commas that
+/// begins with the number 1 is a machine: its second field is the maker, its third the grade. A
+/// line with "[EOF]" ends the bank.
 ///
 /// Copies share one bank. One object is used by one thread at a time.
 class QELPROENGINE_API CQELMachineIdentification {
@@ -27,26 +29,28 @@ class QELPROENGINE_API CQELMachineIdentification {
   /// Kept, and used by nothing.
   void SetIdentificationPath(const wchar_t* path);
 
-  /// Forgets the machines and reads the bank. False when no path is set, when the file cannot be opened (no machine is left
-  /// then), or when a line with "TotalNo" stands behind the header (the machines before it stay). A bank of another version
-  /// loads, and holds no machine.
+  /// Forgets the machines and reads the bank. False when no path is set, when the file cannot be
+  /// opened (no machine is left then), or when a line with "TotalNo" stands behind the header (the
+  /// machines before it stay). A bank of another version loads, and holds no machine.
   bool LoadFileData();
 
   /// How many makers the bank lists; 0 before it was loaded.
   int GetMakerCount();
-  /// The maker at a position from 0, in the order of the makers' bytes. At most `size` characters are copied: no terminator is
-  /// added when the name fills the buffer. False out of range, for a null buffer, or for a size of 0.
+  /// The maker at a position from 0, in the order of the makers' bytes. At most `size` characters
+  /// are copied: no terminator is added when the name fills the buffer. False out of range, for a
+  /// null buffer, or for a size of 0.
   bool GetMaker(int index, char* buffer, unsigned int size);
   /// How many grades a maker has, repeats included; 0 for an unknown maker, or null.
   int GetGradeCount(const char* maker);
-  /// The grade at a position from 0, in the order of the file, copied as `GetMaker` does. False for an unknown maker, too.
+  /// The grade at a position from 0, in the order of the file, copied as `GetMaker` does. False for
+  /// an unknown maker, too.
   bool GetGrade(const char* maker, int index, char* buffer, unsigned int size);
 
-  /// All makers, in order. The array and its texts belong to the object: they are valid until the next `GetAllMaker`,
-  /// `GetAllGrade` or `LoadFileData`. False when there is none.
+  /// All makers, in order. The array and its texts belong to the object: they are valid until the
+  /// next `GetAllMaker`, `GetAllGrade` or `LoadFileData`. False when there is none.
   bool GetAllMaker(const char*** makers, int* count);
-  /// All grades of a maker, in the order of the file, repeats included, valid as those of `GetAllMaker` are. False for an
-  /// unknown maker.
+  /// All grades of a maker, in the order of the file, repeats included, valid as those of
+  /// `GetAllMaker` are. False for an unknown maker.
   bool GetAllGrade(const char* maker, const char*** grades, int* count);
 
   /// Always false.

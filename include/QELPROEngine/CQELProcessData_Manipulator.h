@@ -16,10 +16,11 @@ class QELPROENGINE_API CQELProcessData_Manipulator {
 
   /// A new process object, which the caller owns and deletes; null when the file cannot be read.
   ///
-  /// The project type in [CaeHeader] says where the inlets come from: type 8 (co-injection) loads two inlets, both from
-  /// [Flow-1-Skin] and [Pack-1-Skin]; type 11 two inlets from [Flow-EM1], [Pack-EM1] and [Flow-EM2], [Pack-EM2]; any other
-  /// type as many as "TotalInlet" of [FlowCTLInfo] says (1 where it is missing), each from its [Flow-1], [Pack-1] and
-  /// [Cure-1]. Values go over as they stand, without a change of unit. What the file does not hold stays unset.
+  /// The project type in [CaeHeader] says where the inlets come from: type 8 (co-injection) loads
+  /// two inlets, both from [Flow-1-Skin] and [Pack-1-Skin]; type 11 two inlets from [Flow-EM1],
+  /// [Pack-EM1] and [Flow-EM2], [Pack-EM2]; any other type as many as "TotalInlet" of [FlowCTLInfo]
+  /// says (1 where it is missing), each from its [Flow-1], [Pack-1] and [Cure-1]. Values go over as
+  /// they stand, without a change of unit. What the file does not hold stays unset.
   const QELG_SimulatorProcess* GetProcessDataStructure(const char* path);
 
   /// Lets go of a file that is still open.

@@ -1,7 +1,7 @@
 #pragma once
 
-/// One row of the mold bases or mold metals: three thermal values, three mechanical values, and the material's name, which
-/// the record does not own.
+/// One row of the mold bases or mold metals: three thermal values, three mechanical values, and the
+/// material's name, which the record does not own.
 struct QELPRO_MMM_MECHANICAL {
   double thermal[3];
   double mechanical[3];

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Marks what the shared library exports; everything else in it is hidden. Whoever links the static library defines
-/// QELPROENGINE_STATIC, as its CMake target and pkg-config do.
+/// Marks what the shared library exports; everything else in it is hidden. Whoever links the static
+/// library defines QELPROENGINE_STATIC, as its CMake target and pkg-config do.
 #if defined(QELPROENGINE_STATIC)
 #define QELPROENGINE_API
 #elif defined(_WIN32)

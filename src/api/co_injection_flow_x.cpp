@@ -14,7 +14,8 @@ bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadFRSection(int& value, int inlet
   return read(session_, &Session::co_injection_flow_x, kFRSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadFRProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadFRProfile(double& x, double& y, int point,
+                                                           int inlet) {
   return read(session_, &Session::co_injection_flow_x, kFRPoint, at_point(point, inlet), x, y);
 }
 
@@ -22,7 +23,8 @@ bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadIPSection(int& value, int inlet
   return read(session_, &Session::co_injection_flow_x, kIPSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadIPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::FlowXSkin2nd_ReadIPProfile(double& x, double& y, int point,
+                                                           int inlet) {
   return read(session_, &Session::co_injection_flow_x, kIPPoint, at_point(point, inlet), x, y);
 }
 

@@ -42,7 +42,8 @@ bool CQELPROReader_Manipulator::CureX_ReadUserCPSection(int& value, int inlet) {
   return read(session_, &Session::cure_x, kUserCPSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::CureX_ReadUserCPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::CureX_ReadUserCPProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::cure_x, kUserCPPoint, at_point(point, inlet), x, y);
 }
 
@@ -66,7 +67,8 @@ bool CQELPROReader_Manipulator::CureX_ReadUserCTSection(int& value, int inlet) {
   return read(session_, &Session::cure_x, kUserCTSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::CureX_ReadUserCTProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::CureX_ReadUserCTProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::cure_x, kUserCTPoint, at_point(point, inlet), x, y);
 }
 

@@ -18,7 +18,8 @@ bool CQELPROReader_Manipulator::EjectCriteria_ReadTotalCriteriaNode(int& value) 
   return read(session_, &Session::eject_criteria, kTotalCriteriaNode, {}, value);
 }
 
-bool CQELPROReader_Manipulator::EjectCriteria_ReadCriteriaNode(int& node, double& value, int criterion) {
+bool CQELPROReader_Manipulator::EjectCriteria_ReadCriteriaNode(int& node, double& value,
+                                                               int criterion) {
   return read(session_, &Session::eject_criteria, kCriteriaNode, at_point(criterion), node, value);
 }
 
@@ -34,6 +35,7 @@ bool CQELPROWriter_Manipulator::EjectCriteria_WriteTotalCriteriaNode(int value) 
   return write(session_, &Session::eject_criteria, kTotalCriteriaNode, {}, value);
 }
 
-bool CQELPROWriter_Manipulator::EjectCriteria_WriteCriteriaNode(int node, double value, int criterion) {
+bool CQELPROWriter_Manipulator::EjectCriteria_WriteCriteriaNode(int node, double value,
+                                                                int criterion) {
   return write(session_, &Session::eject_criteria, kCriteriaNode, at_point(criterion), node, value);
 }

@@ -142,7 +142,8 @@ bool CQELPROReader_Manipulator::FlowX_ReadUserFRSection(int& value, int inlet) {
   return read(session_, &Session::flow_x, kUserFRSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::FlowX_ReadUserFRProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::FlowX_ReadUserFRProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::flow_x, kUserFRPoint, at_point(point, inlet), x, y);
 }
 
@@ -150,7 +151,8 @@ bool CQELPROReader_Manipulator::FlowX_ReadUserIPSection(int& value, int inlet) {
   return read(session_, &Session::flow_x, kUserIPSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::FlowX_ReadUserIPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::FlowX_ReadUserIPProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::flow_x, kUserIPPoint, at_point(point, inlet), x, y);
 }
 
@@ -158,7 +160,8 @@ bool CQELPROReader_Manipulator::FlowX_ReadUserTPSection(int& value, int inlet) {
   return read(session_, &Session::flow_x, kUserTPSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::FlowX_ReadUserTPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::FlowX_ReadUserTPProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::flow_x, kUserTPPoint, at_point(point, inlet), x, y);
 }
 

@@ -6,7 +6,8 @@
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "core/session.h"
 
-/// What every exported section member does: hand its arguments to the session's block of that section.
+/// What every exported section member does: hand its arguments to the session's block of that
+/// section.
 namespace qel {
 
 using Session = CQELPROIOBase;
@@ -33,14 +34,18 @@ bool attempt(Work work) noexcept {
 }
 
 template <class Block, class Encoding, class... Values>
-bool read(Session* session, Block Session::*block, const Key<Encoding>& key, Place place, Values&... values) {
-  return session != nullptr && attempt([&] { return is_done((session->*block).Read(key, place, values...)); });
+bool read(Session* session, Block Session::*block, const Key<Encoding>& key, Place place,
+          Values&... values) {
+  return session != nullptr &&
+         attempt([&] { return is_done((session->*block).Read(key, place, values...)); });
 }
 
 /// A null text is never written.
 template <class Block, class Encoding, class... Values>
-bool write(Session* session, Block Session::*block, const Key<Encoding>& key, Place place, Values... values) {
-  return session != nullptr && !(is_null(values) || ...) && attempt([&] { return is_done((session->*block).Write(key, place, values...)); });
+bool write(Session* session, Block Session::*block, const Key<Encoding>& key, Place place,
+           Values... values) {
+  return session != nullptr && !(is_null(values) || ...) &&
+         attempt([&] { return is_done((session->*block).Write(key, place, values...)); });
 }
 
 }  // namespace qel

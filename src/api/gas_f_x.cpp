@@ -50,7 +50,8 @@ bool CQELPROReader_Manipulator::GasFX_ReadGRProfile(double& x, double& y, int po
   return read(session_, &Session::gas_f_x, kGRPoint, at_point(point, inlet), x, y);
 }
 
-bool CQELPROReader_Manipulator::GasFX_ReadUserGRProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::GasFX_ReadUserGRProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::gas_f_x, kGRPoint, at_point(point, inlet), x, y);
 }
 
@@ -66,7 +67,8 @@ bool CQELPROReader_Manipulator::GasFX_ReadGPProfile(double& x, double& y, int po
   return read(session_, &Session::gas_f_x, kGPPoint, at_point(point, inlet), x, y);
 }
 
-bool CQELPROReader_Manipulator::GasFX_ReadUserGPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::GasFX_ReadUserGPProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::gas_f_x, kGPPoint, at_point(point, inlet), x, y);
 }
 

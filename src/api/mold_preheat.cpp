@@ -6,7 +6,9 @@
 using namespace qel;
 using namespace qel::mold_preheat;
 
-bool CQELPROReader_Manipulator::Cool_ReadMoldPreheatType(int& value) { return read(session_, &Session::mold_preheat, kMoldPreHeatType, {}, value); }
+bool CQELPROReader_Manipulator::Cool_ReadMoldPreheatType(int& value) {
+  return read(session_, &Session::mold_preheat, kMoldPreHeatType, {}, value);
+}
 
 bool CQELPROReader_Manipulator::Cool_ReadMoldPreheatTime(double& value) {
   return read(session_, &Session::mold_preheat, kMoldPreHeatTime, {}, value);

@@ -38,10 +38,12 @@ bool CQELPROWriter_Manipulator::MoldTemperatureBoundaryType_WriteHTCPack(double 
   return write(session_, &Session::mold_thermal_boundary_type, kPack, {}, value, note);
 }
 
-bool CQELPROWriter_Manipulator::MoldTemperatureBoundaryType_WriteHTCDetached(double value, char* note) {
+bool CQELPROWriter_Manipulator::MoldTemperatureBoundaryType_WriteHTCDetached(double value,
+                                                                             char* note) {
   return write(session_, &Session::mold_thermal_boundary_type, kDetached_HTC, {}, value, note);
 }
 
-bool CQELPROWriter_Manipulator::MoldTemperatureBoundaryType_WriteHTCHotRunner(double value, char* note) {
+bool CQELPROWriter_Manipulator::MoldTemperatureBoundaryType_WriteHTCHotRunner(double value,
+                                                                              char* note) {
   return write(session_, &Session::mold_thermal_boundary_type, kHotRunner_HTC, {}, value, note);
 }

@@ -14,10 +14,14 @@ bool CQELPROReader_Manipulator::OverflowX_ReadControlPoint(int& value, int overf
   return read(session_, &Session::overflow, kGCSet, in_section(overflow), value);
 }
 
-bool CQELPROReader_Manipulator::OverflowX_ReadGateSetting(double& value, int& number, int& mode, int& last, int point, int overflow) {
-  return read(session_, &Session::overflow, kGCPoint, at_point(point, overflow), value, number, mode, last);
+bool CQELPROReader_Manipulator::OverflowX_ReadGateSetting(double& value, int& number, int& mode,
+                                                          int& last, int point, int overflow) {
+  return read(session_, &Session::overflow, kGCPoint, at_point(point, overflow), value, number,
+              mode, last);
 }
 
-bool CQELPROReader_Manipulator::OverflowX_ReadGateSetting(double& value, int& number, int& mode, int point, int overflow) {
-  return read(session_, &Session::overflow, kGCPointShort, at_point(point, overflow), value, number, mode);
+bool CQELPROReader_Manipulator::OverflowX_ReadGateSetting(double& value, int& number, int& mode,
+                                                          int point, int overflow) {
+  return read(session_, &Session::overflow, kGCPointShort, at_point(point, overflow), value, number,
+              mode);
 }

@@ -32,11 +32,16 @@ inline void release(CQELPROIOBase* session) {
 
 template <class Path>
 bool open(CQELPROIOBase& session, Path path, int mode) {
-  return attempt([&] { return session.document().SetFilePath(path, mode) && session.AttachDocument(&session.document()); });
+  return attempt([&] {
+    return session.document().SetFilePath(path, mode) &&
+           session.AttachDocument(&session.document());
+  });
 }
 
 inline bool lend(CQELPROIOBase& session, std::FILE*& stream) {
-  return attempt([&] { return session.document().SetFilePtr(stream) && session.AttachDocument(&session.document()); });
+  return attempt([&] {
+    return session.document().SetFilePtr(stream) && session.AttachDocument(&session.document());
+  });
 }
 
 }  // namespace qel

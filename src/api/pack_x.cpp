@@ -46,7 +46,8 @@ bool CQELPROReader_Manipulator::PackX_ReadUserPPSection(int& value, int inlet) {
   return read(session_, &Session::pack_x, kUserPPSet, in_section(inlet), value);
 }
 
-bool CQELPROReader_Manipulator::PackX_ReadUserPPProfile(double& x, double& y, int point, int inlet) {
+bool CQELPROReader_Manipulator::PackX_ReadUserPPProfile(double& x, double& y, int point,
+                                                        int inlet) {
   return read(session_, &Session::pack_x, kUserPPPoint, at_point(point, inlet), x, y);
 }
 

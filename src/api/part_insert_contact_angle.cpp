@@ -15,13 +15,18 @@ bool CQELPROWriter_Manipulator::PartInsertContactAngle_WriteGroupCount(int value
 }
 
 bool CQELPROReader_Manipulator::PartInsertContactAngle_ReadAngle(int group, double& angle) {
-  return session_ != nullptr && attempt([&] { return is_done(session_->part_insert_contact_angle.ReadAngle(group, angle)); });
+  return session_ != nullptr && attempt([&] {
+           return is_done(session_->part_insert_contact_angle.ReadAngle(group, angle));
+         });
 }
 
 bool CQELPROReader_Manipulator::PartInsertContactAngle_ReadAngle(const char* name, double& angle) {
-  return session_ != nullptr && name != nullptr && attempt([&] { return is_done(session_->part_insert_contact_angle.ReadAngle(name, angle)); });
+  return session_ != nullptr && name != nullptr && attempt([&] {
+           return is_done(session_->part_insert_contact_angle.ReadAngle(name, angle));
+         });
 }
 
-bool CQELPROWriter_Manipulator::PartInsertContactAngle_WriteGroup(int group, const char* name, double angle) {
+bool CQELPROWriter_Manipulator::PartInsertContactAngle_WriteGroup(int group, const char* name,
+                                                                  double angle) {
   return write(session_, &Session::part_insert_contact_angle, kGroup, at_point(group), name, angle);
 }

@@ -9,7 +9,8 @@ CQELPROReader_Manipulator::CQELPROReader_Manipulator() = default;
 CQELPROReader_Manipulator::CQELPROReader_Manipulator(const CQELPROReader_Manipulator& other)
     : session_(qel::share(other.session_)), raw_reads_disabled_(other.raw_reads_disabled_) {}
 
-CQELPROReader_Manipulator& CQELPROReader_Manipulator::operator=(const CQELPROReader_Manipulator& other) {
+CQELPROReader_Manipulator& CQELPROReader_Manipulator::operator=(
+    const CQELPROReader_Manipulator& other) {
   if (this != &other) {
     CQELPROReader* previous = session_;
     session_ = qel::share(other.session_);
@@ -29,11 +30,17 @@ bool CQELPROReader_Manipulator::OpenSession() {
   return session_ != nullptr;
 }
 
-bool CQELPROReader_Manipulator::SetFilePath(const char* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading); }
+bool CQELPROReader_Manipulator::SetFilePath(const char* path) {
+  return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading);
+}
 
-bool CQELPROReader_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading); }
+bool CQELPROReader_Manipulator::SetFilePath(const wchar_t* path) {
+  return OpenSession() && qel::open(*session_, path, CQELPROIO::kReading);
+}
 
-bool CQELPROReader_Manipulator::SetFilePtr(std::FILE*& stream) { return OpenSession() && qel::lend(*session_, stream); }
+bool CQELPROReader_Manipulator::SetFilePtr(std::FILE*& stream) {
+  return OpenSession() && qel::lend(*session_, stream);
+}
 
 void CQELPROReader_Manipulator::CloseFile() {
   if (session_ != nullptr) {
@@ -49,12 +56,17 @@ bool CQELPROReader_Manipulator::GetFilePath(const char*& path) {
   return true;
 }
 
-bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
-  return raw_reads_disabled_ == 0 && session_ != nullptr &&
-         qel::attempt([&] { return qel::is_done(session_->document().ReadOnce(section, key, value, buffer, size)); });
+bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key, char*& value,
+                                           char* buffer, unsigned int size) {
+  return raw_reads_disabled_ == 0 && session_ != nullptr && qel::attempt([&] {
+           return qel::is_done(session_->document().ReadOnce(section, key, value, buffer, size));
+         });
 }
 
-bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
-  return raw_reads_disabled_ == 0 && session_ != nullptr &&
-         qel::attempt([&] { return session_->document().ScanValue(session_->document().own_path(), section, key, value, buffer, size); });
+bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value,
+                                          char* buffer, unsigned int size) {
+  return raw_reads_disabled_ == 0 && session_ != nullptr && qel::attempt([&] {
+           return session_->document().ScanValue(session_->document().own_path(), section, key,
+                                                 value, buffer, size);
+         });
 }

@@ -9,7 +9,8 @@
 
 namespace {
 
-// The text is kept and not used: the document has a copy of its own. Without memory for it, none is kept.
+// The text is kept and not used: the document has a copy of its own. Without memory for it, none is
+// kept.
 void keep(std::string& path, const std::string& other) {
   if (!qel::attempt([&] { return path = other, true; })) {
     path.clear();
@@ -20,11 +21,13 @@ void keep(std::string& path, const std::string& other) {
 
 CQELPROWriter_Manipulator::CQELPROWriter_Manipulator() = default;
 
-CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other) : session_(qel::share(other.session_)) {
+CQELPROWriter_Manipulator::CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other)
+    : session_(qel::share(other.session_)) {
   keep(path_, other.path_);
 }
 
-CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(const CQELPROWriter_Manipulator& other) {
+CQELPROWriter_Manipulator& CQELPROWriter_Manipulator::operator=(
+    const CQELPROWriter_Manipulator& other) {
   if (this != &other) {
     CQELPROWriter* previous = session_;
     session_ = qel::share(other.session_);
@@ -58,9 +61,13 @@ bool CQELPROWriter_Manipulator::SetFilePath(const char* path) {
   });
 }
 
-bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) { return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting); }
+bool CQELPROWriter_Manipulator::SetFilePath(const wchar_t* path) {
+  return OpenSession() && qel::open(*session_, path, CQELPROIO::kWriting);
+}
 
-bool CQELPROWriter_Manipulator::SetFilePtr(std::FILE*& stream) { return OpenSession() && qel::lend(*session_, stream); }
+bool CQELPROWriter_Manipulator::SetFilePtr(std::FILE*& stream) {
+  return OpenSession() && qel::lend(*session_, stream);
+}
 
 void CQELPROWriter_Manipulator::CloseFile() {
   if (session_ != nullptr) {
@@ -76,11 +83,15 @@ bool CQELPROWriter_Manipulator::GetFilePath(const char*& path) {
   return true;
 }
 
-bool CQELPROWriter_Manipulator::WriteString(const char* section, const char* key, const char* value) {
-  return session_ != nullptr && qel::attempt([&] { return qel::is_done(session_->document().WriteOnce(section, key, value)); });
+bool CQELPROWriter_Manipulator::WriteString(const char* section, const char* key,
+                                            const char* value) {
+  return session_ != nullptr && qel::attempt([&] {
+           return qel::is_done(session_->document().WriteOnce(section, key, value));
+         });
 }
 
-bool CQELPROWriter_Manipulator::WriteItems(const char* section, const char* key, const char* format, ...) {
+bool CQELPROWriter_Manipulator::WriteItems(const char* section, const char* key, const char* format,
+                                           ...) {
   if (session_ == nullptr || format == nullptr) {
     return false;
   }

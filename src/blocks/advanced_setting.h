@@ -7,21 +7,27 @@ namespace qel::advanced_setting {
 
 inline constexpr char kSection[] = "[AdvancedSetting]";
 
-inline constexpr Key<RealTriple> kOpenDirection{"OpenDirection",
-                                                {"AdvancedSetting_ReadOpenDirection"},
-                                                {"AdvancedSetting_WriteOpenDirection"},
-                                                "the direction in which the mold opens: the x, y and z of a vector",
-                                                {.older = {"GetMoldOpenDirection", "SetMoldOpenDirection"}}};
+inline constexpr Key<RealTriple> kOpenDirection{
+    "OpenDirection",
+    {"AdvancedSetting_ReadOpenDirection"},
+    {"AdvancedSetting_WriteOpenDirection"},
+    "the direction in which the mold opens: the x, y and z of a vector",
+    {.older = {"GetMoldOpenDirection", "SetMoldOpenDirection"}}};
 inline constexpr Key<Real> kClampForce{"ClampForce",
                                        {"AdvancedSetting_ReadClampForce"},
                                        {"AdvancedSetting_WriteClampForce"},
                                        "the force that holds the mold shut",
                                        {.older = {"GetMoldClampingForce", "SetMoldClampingForce"}}};
-inline constexpr Key<Real> kCycleTime{"CycleTime", {"AdvancedSetting_ReadCycleTime"}, {}, "the time from one shot to the next, in sec"};
+inline constexpr Key<Real> kCycleTime{"CycleTime",
+                                      {"AdvancedSetting_ReadCycleTime"},
+                                      {},
+                                      "the time from one shot to the next, in sec"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
 
-inline constexpr SectionInfo kInfo{kSection, "the mold's opening direction, the clamp force and the cycle time", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "the mold's opening direction, the clamp force and the cycle time", kKeys,
+    std::size(kKeys)};
 
 }  // namespace qel::advanced_setting
 

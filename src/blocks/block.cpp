@@ -9,7 +9,8 @@ using qel::Result;
 
 NumberedName::NumberedName(std::string_view pattern, int number) {
   const std::size_t percent = pattern.find('%');
-  const std::size_t letter = percent == std::string_view::npos ? percent : pattern.find('d', percent);
+  const std::size_t letter =
+      percent == std::string_view::npos ? percent : pattern.find('d', percent);
   const bool has_place = letter != std::string_view::npos;
   char* end = text_ + pattern.copy(text_, has_place ? percent : kLongestPattern);
   if (has_place) {
@@ -44,12 +45,15 @@ int CQELPROBlockIOBase::FindText(const char* key, qel::Place place, char*& text)
   return document_->LookUp({section.str(), entry.str()}, text, nullptr, 0);
 }
 
-int CQELPROBlockIOBase::StoreText(const char* key, qel::Place place, const std::string& text, std::size_t limit) {
+int CQELPROBlockIOBase::StoreText(const char* key, qel::Place place, const std::string& text,
+                                  std::size_t limit) {
   if (document_ == nullptr) {
     return to_int(Result::no_file);
   }
   if (text.size() >= limit) {
     return to_int(Result::no_open);
   }
-  return document_->SetValue(NumberedName(name_, place.section).c_str(), NumberedName(key, place.point).c_str(), text.c_str(), qel::Target::kByKey);
+  return document_->SetValue(NumberedName(name_, place.section).c_str(),
+                             NumberedName(key, place.point).c_str(), text.c_str(),
+                             qel::Target::kByKey);
 }

@@ -11,8 +11,8 @@
 
 namespace qel {
 
-/// The name of a section or a key: the number stands in the place of the pattern's "%d" or "%ld"; a text without one stays as
-/// it is.
+/// The name of a section or a key: the number stands in the place of the pattern's "%d" or "%ld"; a
+/// text without one stays as it is.
 class NumberedName {
  public:
   static constexpr std::size_t kLongestPattern = 255;
@@ -25,14 +25,15 @@ class NumberedName {
  private:
   static constexpr std::size_t kNumber = 11;
 
-  char text_[kLongestPattern + kNumber + 1];  // each reading member makes two: on the stack, without a need of memory
+  char text_[kLongestPattern + kNumber +
+             1];  // each reading member makes two: on the stack, without a need of memory
   std::size_t size_;
 };
 
 }  // namespace qel
 
-/// The base of the section blocks: one object per section kind, which names its section and reads and writes its keys
-/// through the session's document. A block keeps no values.
+/// The base of the section blocks: one object per section kind, which names its section and reads
+/// and writes its keys through the session's document. A block keeps no values.
 ///
 /// Every operation yields the document's result, or -1 while no document is attached.
 class CQELPROBlockIOBase {
@@ -53,7 +54,8 @@ class CQELPROBlockIOBase {
   /// False for null, which leaves the block as it is.
   virtual bool AttachDocument(CQELPROIO* document);
 
-  /// Looks the key up and scans its value. How much of it scans does not count: a value that was found is a success.
+  /// Looks the key up and scans its value. How much of it scans does not count: a value that was
+  /// found is a success.
   template <class Encoding, class... Values>
   int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
     char* text = nullptr;
@@ -80,7 +82,8 @@ class CQELPROBlockIOBase {
  private:
   static constexpr std::size_t kNameSize = qel::NumberedName::kLongestPattern + 1;
 
-  const char* name_;          // most blocks keep their first, so that a session is made without a copy of each
+  const char*
+      name_;  // most blocks keep their first, so that a session is made without a copy of each
   char new_name_[kNameSize];  // without a value until then
   CQELPROIO* document_ = nullptr;
 };

@@ -49,11 +49,12 @@
 namespace qel {
 namespace {
 
-// The loader also takes an inlet's stages from sections of other names. Nothing else serves those, and what it does not take is
-// no key of theirs.
+// The loader also takes an inlet's stages from sections of other names. Nothing else serves those,
+// and what it does not take is no key of theirs.
 template <const auto& stage_keys>
 struct LoaderKeys {
-  static constexpr std::size_t kCount = std::ranges::count_if(stage_keys, [](const KeyInfo* key) { return key->elsewhere.loader != nullptr; });
+  static constexpr std::size_t kCount = std::ranges::count_if(
+      stage_keys, [](const KeyInfo* key) { return key->elsewhere.loader != nullptr; });
 
   static constexpr std::array<KeyInfo, kCount> rows() {
     std::array<KeyInfo, kCount> taken{};
@@ -83,12 +84,14 @@ constexpr SectionInfo loader_section(const char* name, const char* subject) {
   return {name, subject, LoaderKeys<stage_keys>::kKeys.data(), LoaderKeys<stage_keys>::kCount};
 }
 
-constexpr SectionInfo kFlowSkin =
-    loader_section<flow_x::kKeys>("[Flow-%d-Skin]", "the filling stage of both inlets of co-injection (project type 8)");
-constexpr SectionInfo kPackSkin =
-    loader_section<pack_x::kKeys>("[Pack-%d-Skin]", "the packing stage of both inlets of co-injection (project type 8)");
-constexpr SectionInfo kFlowEM = loader_section<flow_x::kKeys>("[Flow-EM%d]", "the filling stage of a melt entrance (project type 11)");
-constexpr SectionInfo kPackEM = loader_section<pack_x::kKeys>("[Pack-EM%d]", "the packing stage of a melt entrance (project type 11)");
+constexpr SectionInfo kFlowSkin = loader_section<flow_x::kKeys>(
+    "[Flow-%d-Skin]", "the filling stage of both inlets of co-injection (project type 8)");
+constexpr SectionInfo kPackSkin = loader_section<pack_x::kKeys>(
+    "[Pack-%d-Skin]", "the packing stage of both inlets of co-injection (project type 8)");
+constexpr SectionInfo kFlowEM = loader_section<flow_x::kKeys>(
+    "[Flow-EM%d]", "the filling stage of a melt entrance (project type 11)");
+constexpr SectionInfo kPackEM = loader_section<pack_x::kKeys>(
+    "[Pack-EM%d]", "the packing stage of a melt entrance (project type 11)");
 
 constexpr const SectionInfo* kSections[] = {
     &file_header::kInfo,
@@ -146,7 +149,8 @@ bool matches(std::string_view pattern, std::string_view text, int& number) {
     return pattern == text;
   }
   const std::string_view suffix = pattern.substr(pattern.find('d', percent) + 1);
-  if (text.size() <= percent + suffix.size() || text.substr(0, percent) != pattern.substr(0, percent) ||
+  if (text.size() <= percent + suffix.size() ||
+      text.substr(0, percent) != pattern.substr(0, percent) ||
       text.substr(text.size() - suffix.size()) != suffix) {
     return false;
   }

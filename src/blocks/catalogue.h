@@ -10,8 +10,8 @@ struct Catalogue {
   const SectionInfo* const* end() const;
 };
 
-/// The section whose name this is; where the name is a pattern, its number is handed out, and otherwise 0. Null for a section
-/// that is not known.
+/// The section whose name this is; where the name is a pattern, its number is handed out, and
+/// otherwise 0. Null for a section that is not known.
 const SectionInfo* find_section(const char* name, int& number);
 
 /// The key of that text, in the same way. Of several encodings of one key it is the first.

@@ -2,7 +2,8 @@
 
 #include "blocks/encoding.h"
 
-/// Encodings of several fields. Unless they say otherwise, they clear their outputs before they scan.
+/// Encodings of several fields. Unless they say otherwise, they clear their outputs before they
+/// scan.
 namespace qel {
 
 /// "%lf %lf %lf %lf %d", written with tabs.
@@ -14,7 +15,9 @@ struct FourRealsAndInteger {
     fields::clear(f1, f2, f3, f4, f5);
     fields::scan(text, f1, f2, f3, f4, f5);
   }
-  static std::string print(double f1, double f2, double f3, double f4, int f5) { return fields::print("\t", f1, f2, f3, f4, f5); }
+  static std::string print(double f1, double f2, double f3, double f4, int f5) {
+    return fields::print("\t", f1, f2, f3, f4, f5);
+  }
 };
 
 /// "%lf %d %lf %lf %d", written with tabs: a control point of a cooling channel.
@@ -22,7 +25,8 @@ struct ControlPoint {
   static constexpr const char* kName = "control point (real, integer, real, real, integer)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, int, double, double, int>;
-  static void scan(const char* text, double& f1, int& system, double& temperature, double& flow, int& f5) {
+  static void scan(const char* text, double& f1, int& system, double& temperature, double& flow,
+                   int& f5) {
     fields::clear(f1, system, temperature, flow, f5);
     fields::scan(text, f1, system, temperature, flow, f5);
   }
@@ -40,7 +44,9 @@ struct IntegerAndThreeReals {
     fields::clear(number, f2, f3, f4);
     fields::scan(text, number, f2, f3, f4);
   }
-  static std::string print(int number, double f2, double f3, double f4) { return fields::print("\t", number, f2, f3, f4); }
+  static std::string print(int number, double f2, double f3, double f4) {
+    return fields::print("\t", number, f2, f3, f4);
+  }
 };
 
 /// "%d %lf", written with a tab. Outputs that the text does not supply keep their values.
@@ -48,11 +54,14 @@ struct IntegerAndReal {
   static constexpr const char* kName = "integer and real";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, double>;
-  static void scan(const char* text, int& number, double& value) { fields::scan(text, number, value); }
+  static void scan(const char* text, int& number, double& value) {
+    fields::scan(text, number, value);
+  }
   static std::string print(int number, double value) { return fields::print("\t", number, value); }
 };
 
-/// Two sizes with any one character between them, written "%gx%g". They are decimal: "0x900" is 0 and 900.
+/// Two sizes with any one character between them, written "%gx%g". They are decimal: "0x900" is 0
+/// and 900.
 struct SizePair {
   static constexpr const char* kName = "pair of sizes (1200x900)";
   static constexpr std::size_t kLimit = kCompoundLimit;
@@ -62,7 +71,9 @@ struct SizePair {
     fields::clear(first, second);
     fields::scan(text, fields::Decimal{first}, separator, fields::Decimal{second});
   }
-  static std::string print(double first, double second) { return fields::print("x", first, second); }
+  static std::string print(double first, double second) {
+    return fields::print("x", first, second);
+  }
 };
 
 /// Three sizes with any one character between them, written "%gx%gx%g". They are decimal.
@@ -73,12 +84,16 @@ struct SizeTriple {
   static void scan(const char* text, double& length, double& width, double& height) {
     char separator = 0;
     fields::clear(length, width, height);
-    fields::scan(text, fields::Decimal{length}, separator, fields::Decimal{width}, separator, fields::Decimal{height});
+    fields::scan(text, fields::Decimal{length}, separator, fields::Decimal{width}, separator,
+                 fields::Decimal{height});
   }
-  static std::string print(double length, double width, double height) { return fields::print("x", length, width, height); }
+  static std::string print(double length, double width, double height) {
+    return fields::print("x", length, width, height);
+  }
 };
 
-/// "%d"; a text with a "+" in it is the sum of two numbers, with any one character between them: "4+2" reads as 6.
+/// "%d"; a text with a "+" in it is the sum of two numbers, with any one character between them:
+/// "4+2" reads as 6.
 struct ZoneCount {
   static constexpr const char* kName = "integer, or a sum of two (4+2)";
   static constexpr std::size_t kLimit = kScalarLimit;
@@ -87,17 +102,20 @@ struct ZoneCount {
   static std::string print(int value) { return fields::print_one(value); }
 };
 
-/// "%lf", written "%g\t(%s)" with a note that reading passes over. A text that does not scan leaves the output alone.
+/// "%lf", written "%g\t(%s)" with a note that reading passes over. A text that does not scan leaves
+/// the output alone.
 struct RealWithNote {
   static constexpr const char* kName = "real, with a note in parentheses";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double>;
   static void scan(const char* text, double& value) { fields::scan(text, value); }
-  static std::string print(double value, const char* note) { return fields::print_one(value) + "\t(" + note + ")"; }
+  static std::string print(double value, const char* note) {
+    return fields::print_one(value) + "\t(" + note + ")";
+  }
 };
 
-/// A control point of a valve gate: a real, an integer, the mode and, for modes 2 and 3, a further integer. For modes 1
-/// and 4 the last is -1, whatever the text holds.
+/// A control point of a valve gate: a real, an integer, the mode and, for modes 2 and 3, a further
+/// integer. For modes 1 and 4 the last is -1, whatever the text holds.
 struct GatePoint {
   static constexpr const char* kName = "gate control point (real, integer, mode, integer)";
   static constexpr std::size_t kLimit = kCompoundLimit;
@@ -116,7 +134,9 @@ struct GatePointShort {
     int dropped = 0;
     GatePoint::scan(text, value, number, mode, dropped);
   }
-  static std::string print(double value, int number, int mode) { return fields::print("\t", value, number, mode); }
+  static std::string print(double value, int number, int mode) {
+    return fields::print("\t", value, number, mode);
+  }
 };
 
 }  // namespace qel

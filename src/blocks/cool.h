@@ -7,8 +7,11 @@ namespace qel::cool {
 
 inline constexpr char kSection[] = "[Cool]";
 
-inline constexpr Key<Real> kCoolTime{
-    "CoolTime", {"Cool_ReadCoolTime"}, {"Cool_WriteCoolTime"}, "the cooling time, in sec", {.older = {"GetCoolTime", "SetCoolTime"}}};
+inline constexpr Key<Real> kCoolTime{"CoolTime",
+                                     {"Cool_ReadCoolTime"},
+                                     {"Cool_WriteCoolTime"},
+                                     "the cooling time, in sec",
+                                     {.older = {"GetCoolTime", "SetCoolTime"}}};
 inline constexpr Key<Real> kOpenTime{"OpenTime",
                                      {"Cool_ReadMoldOpenTime"},
                                      {"Cool_WriteMoldOpenTime"},
@@ -29,29 +32,42 @@ inline constexpr Key<Real> kInitialMoldbaseTemperature{"InitialMoldbaseTemperatu
                                                        {"Cool_WriteInitMoldTemperature"},
                                                        "the mold base's initial temperature, in oC",
                                                        {.older = {"GetInitMoldTemperature"}}};
-inline constexpr Key<Real> kCoolantTemp{"CoolantTemp",
-                                        {"Cool_ReadCoolantTemperature"},
-                                        {"Cool_WriteCoolantTemperature"},
-                                        "the coolant temperature, in oC",
-                                        {.older = {"GetCoolantTemperature", "SetCoolantTemperature"}}};
+inline constexpr Key<Real> kCoolantTemp{
+    "CoolantTemp",
+    {"Cool_ReadCoolantTemperature"},
+    {"Cool_WriteCoolantTemperature"},
+    "the coolant temperature, in oC",
+    {.older = {"GetCoolantTemperature", "SetCoolantTemperature"}}};
 inline constexpr Key<Real> kCoolantFR{"CoolantFR",
                                       {"Cool_ReadCoolantFlowRate"},
                                       {"Cool_WriteCoolantFlowRate"},
                                       "the coolant flow rate, in cc/sec",
                                       {.older = {"GetCoolantFlowRate", "SetCoolantFlowRate"}}};
-inline constexpr Key<Integer> kCoolingType{
-    "CoolingType", {"Cool_ReadCoolingType"}, {"Cool_WriteCoolingType"}, "a code of the kind of cooling", {.older = {"GetCoolingType"}}};
+inline constexpr Key<Integer> kCoolingType{"CoolingType",
+                                           {"Cool_ReadCoolingType"},
+                                           {"Cool_WriteCoolingType"},
+                                           "a code of the kind of cooling",
+                                           {.older = {"GetCoolingType"}}};
 inline constexpr Key<Integer> kControlType{
-    "ControlType", {"Cool_ReadControlType"}, {}, "what cooling channels are controlled by: 1 pressure, otherwise flow rate"};
+    "ControlType",
+    {"Cool_ReadControlType"},
+    {},
+    "what cooling channels are controlled by: 1 pressure, otherwise flow rate"};
 
 // Only the older object serves this one.
 inline constexpr Key<Integer> kAutoSetCoolTime{
-    "AutoSetCoolTime", {}, {}, "1 where the cooling time is set automatically, else 0", {.older = {"GetAutoSetCoolTime", "SetAutoSetCoolTime"}}};
+    "AutoSetCoolTime",
+    {},
+    {},
+    "1 where the cooling time is set automatically, else 0",
+    {.older = {"GetAutoSetCoolTime", "SetAutoSetCoolTime"}}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kCoolTime,    &kOpenTime,  &kEjectTemp,   &kAirTemp,     &kInitialMoldbaseTemperature,
-                                           &kCoolantTemp, &kCoolantFR, &kCoolingType, &kControlType, &kAutoSetCoolTime};
+inline constexpr const KeyInfo* kKeys[] = {
+    &kCoolTime,    &kOpenTime,  &kEjectTemp,   &kAirTemp,     &kInitialMoldbaseTemperature,
+    &kCoolantTemp, &kCoolantFR, &kCoolingType, &kControlType, &kAutoSetCoolTime};
 
-inline constexpr SectionInfo kInfo{kSection, "cycle times, temperatures and the kind of cooling", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "cycle times, temperatures and the kind of cooling",
+                                   kKeys, std::size(kKeys)};
 
 }  // namespace qel::cool
 

@@ -12,13 +12,15 @@ inline constexpr Key<Real> kT{
     {"CoolCTL_ReadCoolantTemperature"},
     {"CoolCTL_WriteCoolantTemperature"},
     "the coolant temperature at an entrance, in oC",
-    {.older = {"GetCoolCTLTemperature", "SetCoolCTLTemperature"}, .adapter = {"SetCoolCTL_WriteCoolantTemperature", "SetCoolingChannelData"}}};
+    {.older = {"GetCoolCTLTemperature", "SetCoolCTLTemperature"},
+     .adapter = {"SetCoolCTL_WriteCoolantTemperature", "SetCoolingChannelData"}}};
 inline constexpr Key<Real> kF{
     "F-%d",
     {"CoolCTL_ReadCoolantFlowRate"},
     {"CoolCTL_WriteCoolantFlowRate"},
     "the coolant flow rate at an entrance, in cc/sec",
-    {.older = {"GetCoolCTLFlowRate", "SetCoolCTLFlowRate"}, .adapter = {"SetCoolCTL_WriteCoolantFlowRate", "SetCoolingChannelData"}}};
+    {.older = {"GetCoolCTLFlowRate", "SetCoolCTLFlowRate"},
+     .adapter = {"SetCoolCTL_WriteCoolantFlowRate", "SetCoolingChannelData"}}};
 inline constexpr Key<Real> kP{"P-%d",
                               {"CoolCTL_ReadCoolantPressure"},
                               {"CoolCTL_WroteCoolantPressure"},
@@ -29,11 +31,13 @@ inline constexpr Key<Integer> kM{
     {"CoolCTL_ReadCoolantSystem"},
     {"CoolCTL_WriteCoolantSystem"},
     "the coolant system of an entrance",
-    {.older = {"GetCoolCTLSystem", "SetCoolCTLSystem"}, .adapter = {"SetCoolCTL_WriteCoolantSystem", "SetCoolingChannelData"}}};
+    {.older = {"GetCoolCTLSystem", "SetCoolCTLSystem"},
+     .adapter = {"SetCoolCTL_WriteCoolantSystem", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kT, &kF, &kP, &kM};
 
-inline constexpr SectionInfo kInfo{kSection, "the coolant at each entrance", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the coolant at each entrance", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::cool_ctl
 

@@ -8,16 +8,20 @@ namespace qel::coolant {
 
 inline constexpr char kSection[] = "[Coolant]";
 
-inline constexpr Key<CoolantLine> kCoolant{"%d",
-                                           {"Coolant_ReadCoolant"},
-                                           {"Coolant_WriteCoolant"},
-                                           "a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)), viscosity "
-                                           "(poise), coolant system, name (one word), channel diameter, channel group",
-                                           {.older = {"GetCoolant", "SetCoolant"}, .adapter = {"SetCoolant_WriteCoolant", "SetCoolingChannelData"}}};
+inline constexpr Key<CoolantLine> kCoolant{
+    "%d",
+    {"Coolant_ReadCoolant"},
+    {"Coolant_WriteCoolant"},
+    "a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)), "
+    "viscosity "
+    "(poise), coolant system, name (one word), channel diameter, channel group",
+    {.older = {"GetCoolant", "SetCoolant"},
+     .adapter = {"SetCoolant_WriteCoolant", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolant};
 
-inline constexpr SectionInfo kInfo{kSection, "the coolants, one line each", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the coolants, one line each", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::coolant
 

@@ -13,26 +13,35 @@ inline constexpr Key<Integer> kTotalSensorNode{"TotalSensorNode",
                                                {"EjectCriteria_WriteTotalSensorNode"},
                                                "the number of sensor nodes",
                                                {.older = {"GetTotalSensorNode"}}};
-inline constexpr Key<Integer> kSensorNode{
-    "SensorNode-%d", {"EjectCriteria_ReadSensorNode"}, {"EjectCriteria_WriteSensorNode"}, "the mesh node of a sensor"};
+inline constexpr Key<Integer> kSensorNode{"SensorNode-%d",
+                                          {"EjectCriteria_ReadSensorNode"},
+                                          {"EjectCriteria_WriteSensorNode"},
+                                          "the mesh node of a sensor"};
 inline constexpr Key<Integer> kTotalCriteriaNode{"TotalCriteriaNode",
                                                  {"EjectCriteria_ReadTotalCriteriaNode"},
                                                  {"EjectCriteria_WriteTotalCriteriaNode"},
                                                  "the number of criteria nodes",
                                                  {.older = {"GetTotalCriteriaNode"}}};
-inline constexpr Key<IntegerAndReal> kCriteriaNode{"CriteriaNode-%d",
-                                                   {"EjectCriteria_ReadCriteriaNode"},
-                                                   {"EjectCriteria_WriteCriteriaNode"},
-                                                   "the mesh node of a criterion, and the criterion's value",
-                                                   {.older = {"GetCriteriaNodeSetting"}}};
+inline constexpr Key<IntegerAndReal> kCriteriaNode{
+    "CriteriaNode-%d",
+    {"EjectCriteria_ReadCriteriaNode"},
+    {"EjectCriteria_WriteCriteriaNode"},
+    "the mesh node of a criterion, and the criterion's value",
+    {.older = {"GetCriteriaNodeSetting"}}};
 
 // Only the older object serves this one.
 inline constexpr Key<IntegerAndReal> kSensorNodeOlder{
-    "SensorNode-%d", {}, {}, "the mesh node of a sensor and a real that the older object alone reads", {.older = {"GetSensorNodeSetting"}}};
+    "SensorNode-%d",
+    {},
+    {},
+    "the mesh node of a sensor and a real that the older object alone reads",
+    {.older = {"GetSensorNodeSetting"}}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode, &kCriteriaNode, &kSensorNodeOlder};
+inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode,
+                                           &kCriteriaNode, &kSensorNodeOlder};
 
-inline constexpr SectionInfo kInfo{kSection, "the sensor and criteria nodes that decide ejection", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the sensor and criteria nodes that decide ejection",
+                                   kKeys, std::size(kKeys)};
 
 }  // namespace qel::eject_criteria
 

@@ -6,20 +6,23 @@
 
 #include "blocks/fields.h"
 
-/// How the text of an entry becomes typed values and the reverse. Each encoding is one pair of functions:
+/// How the text of an entry becomes typed values and the reverse. Each encoding is one pair of
+/// functions:
 ///
-/// - `scan` sets what the text supplies, in order. What it does not supply keeps its value, or is 0 where the encoding
+/// - `scan` sets what the text supplies, in order. What it does not supply keeps its value, or is 0
+/// where the encoding
 ///   says that it clears its outputs;
 /// - `print` gives the text to store.
 ///
-/// `Values` are the types that `scan` sets. `kLimit` is the size of the text buffer that the format allows, terminator
-/// included; a longer text is not stored.
+/// `Values` are the types that `scan` sets. `kLimit` is the size of the text buffer that the format
+/// allows, terminator included; a longer text is not stored.
 namespace qel {
 
 inline constexpr std::size_t kScalarLimit = 4096;
 inline constexpr std::size_t kCompoundLimit = 256;
 
-/// Scans into all outputs together: they keep their values where there is no memory for a name among them.
+/// Scans into all outputs together: they keep their values where there is no memory for a name
+/// among them.
 template <class Encoding, class... Values>
 void scan_together(char* text, Values&... values) {
   std::tuple<Values...> scanned(values...);
@@ -90,7 +93,9 @@ struct RealTriple {
   static constexpr const char* kName = "real triple";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double>;
-  static void scan(const char* text, double& x, double& y, double& z) { fields::scan(text, x, y, z); }
+  static void scan(const char* text, double& x, double& y, double& z) {
+    fields::scan(text, x, y, z);
+  }
   static std::string print(double x, double y, double z) { return fields::print("\t", x, y, z); }
 };
 

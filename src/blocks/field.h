@@ -13,9 +13,12 @@ using Field = std::variant<std::monostate, int, double, std::string>;
 inline Field to_field(int value) { return value; }
 inline Field to_field(double value) { return value; }
 inline Field to_field(const std::string& value) { return value; }
-inline Field to_field(const char* value) { return value != nullptr ? Field(std::string(value)) : Field(); }
+inline Field to_field(const char* value) {
+  return value != nullptr ? Field(std::string(value)) : Field();
+}
 
-/// Scans a text as the encoding does, into outputs that start at 0. `number` is the number of the entry's key.
+/// Scans a text as the encoding does, into outputs that start at 0. `number` is the number of the
+/// entry's key.
 template <class Encoding>
 std::vector<Field> fields_of(const char* text, int number) {
   std::string copy(text);

@@ -5,7 +5,8 @@
 
 #include "platform/number.h"
 
-/// The parts of which encodings are made: fields scanned one after another, and printed with tabs between them.
+/// The parts of which encodings are made: fields scanned one after another, and printed with tabs
+/// between them.
 namespace qel::fields {
 
 inline bool scan_one(const char*& at, int& value) { return platform::scan_int(at, value); }
@@ -16,7 +17,9 @@ inline bool scan_one(const char*& at, char& value) { return platform::scan_char(
 struct Decimal {
   double& value;
 };
-inline bool scan_one(const char*& at, const Decimal& decimal) { return platform::scan_decimal_real(at, decimal.value); }
+inline bool scan_one(const char*& at, const Decimal& decimal) {
+  return platform::scan_decimal_real(at, decimal.value);
+}
 
 /// " %c": a character behind white space, which is skipped.
 struct Separator {};
@@ -30,7 +33,8 @@ inline bool scan_one(const char*& at, Separator& /*dropped*/) {
 
 inline bool scan_one(const char*& at, std::string& value) { return platform::scan_word(at, value); }
 
-/// Scans as one scan format does: the first field that does not scan ends it, and the rest keep their values.
+/// Scans as one scan format does: the first field that does not scan ends it, and the rest keep
+/// their values.
 template <class... Values>
 bool scan(const char* text, Values&&... values) {
   return (scan_one(text, values) && ...);

@@ -7,6 +7,7 @@
 int CQELPROBlockIOFileHeader::WriteDate() {
   const qel::platform::LocalTime now = qel::platform::local_time();
   char text[qel::kCompoundLimit];
-  std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour, now.minute, now.second);
+  std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day,
+                now.hour, now.minute, now.second);
   return Write(qel::file_header::kDate, {}, text);
 }

@@ -7,21 +7,30 @@ namespace qel::flow_ctl_info {
 
 inline constexpr char kSection[] = "[FlowCTLInfo]";
 
-inline constexpr Key<Integer> kTotalInlet{
-    "TotalInlet", {"FlowCTLInfo_ReadTotalInlet"}, {}, "the number of melt inlets", {.loader = "AppendFlowPackProcess"}};
+inline constexpr Key<Integer> kTotalInlet{"TotalInlet",
+                                          {"FlowCTLInfo_ReadTotalInlet"},
+                                          {},
+                                          "the number of melt inlets",
+                                          {.loader = "AppendFlowPackProcess"}};
 inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
-    "FlowCTL-%d", {"FlowCTLInfo_ReadFlowCTL"}, {}, "two control codes of an inlet, the second its control type"};
+    "FlowCTL-%d",
+    {"FlowCTLInfo_ReadFlowCTL"},
+    {},
+    "two control codes of an inlet, the second its control type"};
 
 // Only the loader takes these.
-inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{"FlowCTL-%d]",
-                                                           {},
-                                                           {},
-                                                           "the same two codes as the loader looks for them: the closing bracket belongs to the key",
-                                                           {.loader = "set_process_InletControlType"}};
+inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{
+    "FlowCTL-%d]",
+    {},
+    {},
+    "the same two codes as the loader looks for them: the closing bracket belongs to the key",
+    {.loader = "set_process_InletControlType"}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet, &kFlowCTLOfInletBracketed};
+inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet,
+                                           &kFlowCTLOfInletBracketed};
 
-inline constexpr SectionInfo kInfo{kSection, "how many melt inlets the run has, and what controls each", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "how many melt inlets the run has, and what controls each", kKeys, std::size(kKeys)};
 
 }  // namespace qel::flow_ctl_info
 

@@ -7,8 +7,11 @@ namespace qel::gas_f_x {
 
 inline constexpr char kSection[] = "[GasF-%d]";
 
-inline constexpr Key<Real> kGasTime{
-    "GasTime", {"GasFX_ReadGasTime"}, {"GasFX_WriteGasTime"}, "how long gas is injected, in sec", {.older = {"GetGasTime", "SetGasTime"}}};
+inline constexpr Key<Real> kGasTime{"GasTime",
+                                    {"GasFX_ReadGasTime"},
+                                    {"GasFX_WriteGasTime"},
+                                    "how long gas is injected, in sec",
+                                    {.older = {"GetGasTime", "SetGasTime"}}};
 inline constexpr Key<Real> kGasPres{"GasPres",
                                     {"GasFX_ReadGasPressure"},
                                     {"GasFX_WriteGasPressure"},
@@ -24,79 +27,93 @@ inline constexpr Key<Real> kDelayTime{"DelayTime",
                                       {"GasFX_WriteDelayTime"},
                                       "how long the injection of gas waits, in sec",
                                       {.older = {"GetGasDelayTime", "SetGasDelayTime"}}};
-inline constexpr Key<Integer> kGRDisplayType{"GRDisplayType",
-                                             {"GasFX_ReadGRDisplayType"},
-                                             {"GasFX_WriteGRDisplayType"},
-                                             "a code: how a front end shows the gas flow rate profile",
-                                             {.older = {"GetGasGRDisplayType"}}};
-inline constexpr Key<Integer> kGRProfileType{"GRProfileType",
-                                             {"GasFX_ReadGRProfileType"},
-                                             {"GasFX_WriteGRProfileType"},
-                                             "a code: in which form the gas flow rate profile was entered",
-                                             {.older = {"GetGasGRProfileType"}}};
-inline constexpr Key<Integer> kGPDisplayType{"GPDisplayType",
-                                             {"GasFX_ReadGPDisplayType"},
-                                             {"GasFX_WriteGPDisplayType"},
-                                             "a code: how a front end shows the gas pressure profile",
-                                             {.older = {"GetGasGPDisplayType"}}};
-inline constexpr Key<Integer> kGPProfileType{"GPProfileType",
-                                             {"GasFX_ReadGPProfileType"},
-                                             {"GasFX_WriteGPProfileType"},
-                                             "a code: in which form the gas pressure profile was entered",
-                                             {.older = {"GetGasGPProfileType"}}};
+inline constexpr Key<Integer> kGRDisplayType{
+    "GRDisplayType",
+    {"GasFX_ReadGRDisplayType"},
+    {"GasFX_WriteGRDisplayType"},
+    "a code: how a front end shows the gas flow rate profile",
+    {.older = {"GetGasGRDisplayType"}}};
+inline constexpr Key<Integer> kGRProfileType{
+    "GRProfileType",
+    {"GasFX_ReadGRProfileType"},
+    {"GasFX_WriteGRProfileType"},
+    "a code: in which form the gas flow rate profile was entered",
+    {.older = {"GetGasGRProfileType"}}};
+inline constexpr Key<Integer> kGPDisplayType{
+    "GPDisplayType",
+    {"GasFX_ReadGPDisplayType"},
+    {"GasFX_WriteGPDisplayType"},
+    "a code: how a front end shows the gas pressure profile",
+    {.older = {"GetGasGPDisplayType"}}};
+inline constexpr Key<Integer> kGPProfileType{
+    "GPProfileType",
+    {"GasFX_ReadGPProfileType"},
+    {"GasFX_WriteGPProfileType"},
+    "a code: in which form the gas pressure profile was entered",
+    {.older = {"GetGasGPProfileType"}}};
 inline constexpr Key<Integer> kGRSet{"GRSet",
                                      {"GasFX_ReadGRSection", "GasFX_ReadUserGRSection"},
                                      {"GasFX_WriteGRSection"},
                                      "the number of points of the gas flow rate profile",
                                      {.older = {"GetGasFRSection", "SetGasFRSection"}}};
-inline constexpr Key<RealPair> kGRPoint{"GR-%d",
-                                        {"GasFX_ReadGRProfile", "GasFX_ReadUserGRProfile"},
-                                        {"GasFX_WriteGRProfile"},
-                                        "a point of the gas flow rate profile: the time in the stage, and the flow rate",
-                                        {.older = {"GetGasFRProfile", "SetGasFRProfile"}}};
+inline constexpr Key<RealPair> kGRPoint{
+    "GR-%d",
+    {"GasFX_ReadGRProfile", "GasFX_ReadUserGRProfile"},
+    {"GasFX_WriteGRProfile"},
+    "a point of the gas flow rate profile: the time in the stage, and the flow rate",
+    {.older = {"GetGasFRProfile", "SetGasFRProfile"}}};
 inline constexpr Key<Integer> kGPSet{"GPSet",
                                      {"GasFX_ReadGPSection", "GasFX_ReadUserGPSection"},
                                      {"GasFX_WriteGPSection"},
                                      "the number of points of the gas pressure profile",
                                      {.older = {"GetGasGPSection", "SetGasGPSection"}}};
-inline constexpr Key<RealPair> kGPPoint{"GP-%d",
-                                        {"GasFX_ReadGPProfile", "GasFX_ReadUserGPProfile"},
-                                        {"GasFX_WriteGPProfile"},
-                                        "a point of the gas pressure profile: the time in the stage, and the pressure, in MPa",
-                                        {.older = {"GetGasGPProfile", "SetGasGPProfile"}}};
-inline constexpr Key<Integer> kUserGRSet{"UserGRSet",
-                                         {},
-                                         {"GasFX_WriteUserGRSection"},
-                                         "the number of points of the gas flow rate profile as the user entered it",
-                                         {.older = {"GetUserGasFRSection"}}};
-inline constexpr Key<RealPair> kUserGRPoint{"UserGR-%d",
-                                            {},
-                                            {"GasFX_WriteUserGRProfile"},
-                                            "a point of the gas flow rate profile as the user entered it: x and y",
-                                            {.older = {"GetUserGasFRProfile"}}};
-inline constexpr Key<Integer> kUserGPSet{"UserGPSet",
-                                         {},
-                                         {"GasFX_WriteUserGPSection"},
-                                         "the number of points of the gas pressure profile as the user entered it",
-                                         {.older = {"GetUserGasGPSection"}}};
+inline constexpr Key<RealPair> kGPPoint{
+    "GP-%d",
+    {"GasFX_ReadGPProfile", "GasFX_ReadUserGPProfile"},
+    {"GasFX_WriteGPProfile"},
+    "a point of the gas pressure profile: the time in the stage, and the pressure, in MPa",
+    {.older = {"GetGasGPProfile", "SetGasGPProfile"}}};
+inline constexpr Key<Integer> kUserGRSet{
+    "UserGRSet",
+    {},
+    {"GasFX_WriteUserGRSection"},
+    "the number of points of the gas flow rate profile as the user entered it",
+    {.older = {"GetUserGasFRSection"}}};
+inline constexpr Key<RealPair> kUserGRPoint{
+    "UserGR-%d",
+    {},
+    {"GasFX_WriteUserGRProfile"},
+    "a point of the gas flow rate profile as the user entered it: x and y",
+    {.older = {"GetUserGasFRProfile"}}};
+inline constexpr Key<Integer> kUserGPSet{
+    "UserGPSet",
+    {},
+    {"GasFX_WriteUserGPSection"},
+    "the number of points of the gas pressure profile as the user entered it",
+    {.older = {"GetUserGasGPSection"}}};
 inline constexpr Key<RealPair> kUSerGPPoint{"USerGP-%d",
                                             {},
                                             {"GasFX_WriteUserGPProfile"},
-                                            "a point of the gas pressure profile as the user entered it, under a key with a capital S: x and y"};
+                                            "a point of the gas pressure profile as the user "
+                                            "entered it, under a key with a capital S: x and y"};
 
 // Only the older object serves this one.
 inline constexpr Key<RealPair> kUserGPPointOlder{
     "UserGP-%d",
     {},
     {},
-    "a point of the gas pressure profile as the user entered it, as the older object looks for it: x and y",
+    "a point of the gas pressure profile as the user entered it, as the older object looks for it: "
+    "x and y",
     {.older = {"GetUserGasGPProfile"}}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kGasTime,       &kGasPres,       &kGasSwch,   &kDelayTime,   &kGRDisplayType,   &kGRProfileType,
-                                           &kGPDisplayType, &kGPProfileType, &kGRSet,     &kGRPoint,     &kGPSet,           &kGPPoint,
-                                           &kUserGRSet,     &kUserGRPoint,   &kUserGPSet, &kUSerGPPoint, &kUserGPPointOlder};
+inline constexpr const KeyInfo* kKeys[] = {
+    &kGasTime,       &kGasPres,         &kGasSwch,       &kDelayTime,   &kGRDisplayType,
+    &kGRProfileType, &kGPDisplayType,   &kGPProfileType, &kGRSet,       &kGRPoint,
+    &kGPSet,         &kGPPoint,         &kUserGRSet,     &kUserGRPoint, &kUserGPSet,
+    &kUSerGPPoint,   &kUserGPPointOlder};
 
-inline constexpr SectionInfo kInfo{kSection, "gas-assisted filling at a gas inlet", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "gas-assisted filling at a gas inlet", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::gas_f_x
 

@@ -8,17 +8,22 @@ namespace qel::gate_ctl {
 inline constexpr char kSection[] = "[GateCTL]";
 
 inline constexpr Key<Integer> kAutoShutOffValveGateEOP{
-    "AutoShutOffValveGateEOP", {"GateCTL_ReadAutoShutOffValveGateEOP"}, {}, "1 where valve gates shut at the end of packing"};
-inline constexpr Key<Real> kST{"ST-%d",
-                               {"GateCTL_ReadStartTime"},
-                               {"GateCTL_WriteStartTime"},
-                               "the start time of a gate, when it opens, in sec",
-                               {.older = {"GetValveGateStartTime", "SetValveGateStartTime"}, .adapter = {"SetGateCTL_Time"}}};
-inline constexpr Key<Real> kET{"ET-%d",
-                               {"GateCTL_ReadEndTime"},
-                               {"GateCTL_WriteEndTime"},
-                               "the end time of a gate, when it closes, in sec",
-                               {.older = {"GetValveGateEndTime", "SetValveGateEndTime"}, .adapter = {"SetGateCTL_Time"}}};
+    "AutoShutOffValveGateEOP",
+    {"GateCTL_ReadAutoShutOffValveGateEOP"},
+    {},
+    "1 where valve gates shut at the end of packing"};
+inline constexpr Key<Real> kST{
+    "ST-%d",
+    {"GateCTL_ReadStartTime"},
+    {"GateCTL_WriteStartTime"},
+    "the start time of a gate, when it opens, in sec",
+    {.older = {"GetValveGateStartTime", "SetValveGateStartTime"}, .adapter = {"SetGateCTL_Time"}}};
+inline constexpr Key<Real> kET{
+    "ET-%d",
+    {"GateCTL_ReadEndTime"},
+    {"GateCTL_WriteEndTime"},
+    "the end time of a gate, when it closes, in sec",
+    {.older = {"GetValveGateEndTime", "SetValveGateEndTime"}, .adapter = {"SetGateCTL_Time"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kAutoShutOffValveGateEOP, &kST, &kET};
 

@@ -16,10 +16,13 @@ Result load(CQELPROIO* document, Snapshot& file) {
   if (document == nullptr) {
     return Result::no_file;
   }
-  return document->own_path() != nullptr && file.load(document->own_path()) ? Result::done : Result::no_open;
+  return document->own_path() != nullptr && file.load(document->own_path()) ? Result::done
+                                                                            : Result::no_open;
 }
 
-std::string section_of(int valve) { return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).str()); }
+std::string section_of(int valve) {
+  return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).str());
+}
 
 int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
   if (const auto text = file.value(section, key.text)) {
@@ -28,12 +31,15 @@ int integer(Snapshot& file, const std::string& section, const Key<Integer>& key,
   return otherwise;
 }
 
-int identifier(Snapshot& file, int valve) { return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0); }
+int identifier(Snapshot& file, int valve) {
+  return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0);
+}
 
 std::optional<int> find_valve(Snapshot& file, int id) {
   const int total = integer(file, qel::summary::kSection, qel::summary::kTotalGateCTL, 0);
   if (id == 0) {
-    // A valve without an identifier counts, so that the search ends behind the valves that the file holds.
+    // A valve without an identifier counts, so that the search ends behind the valves that the file
+    // holds.
     for (int valve = 1; valve <= total; ++valve) {
       if (identifier(file, valve) == 0) {
         return valve;
@@ -51,7 +57,8 @@ std::optional<int> find_valve(Snapshot& file, int id) {
 
 }  // namespace
 
-int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve, Snapshot& file) {
+int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve,
+                                               Snapshot& file) {
   const int count = integer(file, section_of(valve), qel::gate_valve_x::kGCSet, 1);
   const qel::NumberedName key(qel::gate_valve_x::kGCPoint.text, point);
   const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
@@ -67,7 +74,8 @@ int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int poin
   return loaded == Result::done ? WriteGateSetting(text, point, valve, file) : to_int(loaded);
 }
 
-int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point, int id) {
+int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point,
+                                                            int id) {
   Snapshot file;
   const Result loaded = load(document(), file);
   if (loaded != Result::done) {

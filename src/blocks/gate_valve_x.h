@@ -9,23 +9,30 @@ namespace qel::gate_valve_x {
 
 inline constexpr char kSection[] = "[GateValve-%d]";
 
-inline constexpr Key<Integer> kGCId{"GCId", {"GeteValveX_ReadValveGateID"}, {"GateValveX_WriteGateValveID"}, "the identifier of the valve gate"};
+inline constexpr Key<Integer> kGCId{"GCId",
+                                    {"GeteValveX_ReadValveGateID"},
+                                    {"GateValveX_WriteGateValveID"},
+                                    "the identifier of the valve gate"};
 inline constexpr Key<Integer> kGCSet{"GCSet",
                                      {"GateValveX_ReadControlPoint"},
                                      {"GateValveX_WriteControlPoint"},
                                      "the number of control points of the valve gate",
-                                     {.older = {"GetValveGateControlNo", "SetValveGateControlNo"}, .adapter = {"SetGateValveX_ControlPoint"}}};
+                                     {.older = {"GetValveGateControlNo", "SetValveGateControlNo"},
+                                      .adapter = {"SetGateValveX_ControlPoint"}}};
 inline constexpr Key<GatePoint> kGCPoint{
     "GC-%d",
     {"GateValveX_ReadGateSetting"},
     {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an integer",
-    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch", "GetValveGateControlData", "SetValveGateControlData"},
+    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an "
+    "integer",
+    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch", "GetValveGateControlData",
+               "SetValveGateControlData"},
      .adapter = {"SetGateValveX_GateSetting"}}};
-inline constexpr Key<GatePointShort> kGCPointShort{"GC-%d",
-                                                   {"GateValveX_ReadGateSetting"},
-                                                   {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-                                                   "a control point without its last integer"};
+inline constexpr Key<GatePointShort> kGCPointShort{
+    "GC-%d",
+    {"GateValveX_ReadGateSetting"},
+    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
+    "a control point without its last integer"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
 
@@ -37,11 +44,12 @@ class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {
  public:
   CQELPROBlockIOGateValveX() : CQELPROBlockIOBase(qel::gate_valve_x::kSection) {}
 
-  /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the point's number where it is
-  /// lower; a valve without "GCSet" has one point. The document's path is looked at as it stands on disk.
+  /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the
+  /// point's number where it is lower; a valve without "GCSet" has one point. The document's path
+  /// is looked at as it stands on disk.
   int WriteGateSetting(const std::string& text, int point, int valve);
-  /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of [Summary] says there are. A
-  /// valve without "GCId" bears 0.
+  /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of
+  /// [Summary] says there are. A valve without "GCId" bears 0.
   int WriteGateSettingByValveGateID(const std::string& text, int point, int id);
 
  private:

@@ -12,27 +12,34 @@ inline constexpr Key<Integer> kInitConversionType{"InitConversionType",
                                                   {"ICPackage_WriteInitConversionType"},
                                                   "a code: how the initial conversion is given",
                                                   {.older = {"GetICInitConversionType"}}};
-inline constexpr Key<Real> kInitConversion{"InitConversion",
-                                           {"ICPackage_ReadInitPelletConversion"},
-                                           {"ICPackage_WriteInitPelletConversion"},
-                                           "how far the pellet's curing reaction has gone (its conversion) before pre-heating",
-                                           {.older = {"GetICInitConversion"}}};
+inline constexpr Key<Real> kInitConversion{
+    "InitConversion",
+    {"ICPackage_ReadInitPelletConversion"},
+    {"ICPackage_WriteInitPelletConversion"},
+    "how far the pellet's curing reaction has gone (its conversion) before pre-heating",
+    {.older = {"GetICInitConversion"}}};
 inline constexpr Key<Real> kPelletDiameter{"PelletDiameter",
                                            {"ICPackage_ReadPelletDiameter"},
                                            {"ICPackage_WritePelletDiameter"},
                                            "the diameter of the pellet",
                                            {.older = {"GetICPelletDiameter"}}};
-inline constexpr Key<Real> kPelletHeight{
-    "PelletHeight", {"ICPackage_ReadPelletHeight"}, {"ICPackage_WritePelletHeight"}, "the height of the pellet", {.older = {"GetICPelletHeight"}}};
+inline constexpr Key<Real> kPelletHeight{"PelletHeight",
+                                         {"ICPackage_ReadPelletHeight"},
+                                         {"ICPackage_WritePelletHeight"},
+                                         "the height of the pellet",
+                                         {.older = {"GetICPelletHeight"}}};
 inline constexpr Key<Real> kPreHeatingTime{"PreHeatingTime",
                                            {"ICPackage_ReadPreHeatTime"},
                                            {"ICPackage_WritePreHeatTime"},
                                            "how long the pellet is pre-heated, in sec",
                                            {.older = {"GetICPreHeatingTime"}}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitConversion, &kPelletDiameter, &kPelletHeight, &kPreHeatingTime};
+inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitConversion, &kPelletDiameter,
+                                           &kPelletHeight, &kPreHeatingTime};
 
-inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion of IC package encapsulation", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "pellet pre-heating and initial conversion of IC package encapsulation", kKeys,
+    std::size(kKeys)};
 
 }  // namespace qel::ic_package
 

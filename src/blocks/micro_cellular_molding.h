@@ -23,20 +23,24 @@ inline constexpr Key<Real> kPreInjectedVolume{"PreInjectedVolume",
                                               {"MicrocellularMolding_ReadPreInjectedVolume"},
                                               {"MicrocellularMolding_WritePreInjectedVolume"},
                                               "the volume that is injected before foaming begins"};
-inline constexpr Key<Integer> kInitialGasConcentrationType{"InitialGasConcentrationType",
-                                                           {"MicrocellularMolding_ReadInitialGasConcentrationType"},
-                                                           {"MicrocellularMolding_WriteInitialGasConcentrationType"},
-                                                           "a code: how the initial gas concentration is given"};
+inline constexpr Key<Integer> kInitialGasConcentrationType{
+    "InitialGasConcentrationType",
+    {"MicrocellularMolding_ReadInitialGasConcentrationType"},
+    {"MicrocellularMolding_WriteInitialGasConcentrationType"},
+    "a code: how the initial gas concentration is given"};
 inline constexpr Key<Real> kGasDosageAmount{"GasDosageAmount",
                                             {"MicrocellularMolding_ReadGasDosageAmount"},
                                             {"MicrocellularMolding_WriteGasDosageAmount"},
                                             "how much gas is dissolved in the melt"};
-inline constexpr Key<Real> kGasSaturationPressure{"GasSaturationPressure",
-                                                  {"MicrocellularMolding_ReadGasSaturationPressure"},
-                                                  {"MicrocellularMolding_WriteGasSaturationPressure"},
-                                                  "the saturation pressure of the gas, in MPa"};
-inline constexpr Key<Integer> kNozzleShutoff{
-    "NozzleShutoff", {"MicrocellularMolding_ReadNozzleShutoff"}, {"MicrocellularMolding_WriteNozzleShutoff"}, "a code: whether the nozzle shuts off"};
+inline constexpr Key<Real> kGasSaturationPressure{
+    "GasSaturationPressure",
+    {"MicrocellularMolding_ReadGasSaturationPressure"},
+    {"MicrocellularMolding_WriteGasSaturationPressure"},
+    "the saturation pressure of the gas, in MPa"};
+inline constexpr Key<Integer> kNozzleShutoff{"NozzleShutoff",
+                                             {"MicrocellularMolding_ReadNozzleShutoff"},
+                                             {"MicrocellularMolding_WriteNozzleShutoff"},
+                                             "a code: whether the nozzle shuts off"};
 inline constexpr Key<Integer> kAdvancedType{"AdvancedType",
                                             {"MicrocellularMolding_ReadAdvancedType"},
                                             {"MicrocellularMolding_WriteAdvancedType"},
@@ -45,15 +49,23 @@ inline constexpr Key<Real> kRamPosition{"RamPosition",
                                         {"MicrocellularMolding_ReadRamPosition"},
                                         {"MicrocellularMolding_WriteRamPosition"},
                                         "the ram position, for an advanced type that asks for one"};
-inline constexpr Key<Real> kPartWeight{"PartWeight",
-                                       {"MicrocellularMolding_ReadPartWeight"},
-                                       {"MicrocellularMolding_WritePartWeight"},
-                                       "the weight of the part, for an advanced type that asks for one"};
+inline constexpr Key<Real> kPartWeight{
+    "PartWeight",
+    {"MicrocellularMolding_ReadPartWeight"},
+    {"MicrocellularMolding_WritePartWeight"},
+    "the weight of the part, for an advanced type that asks for one"};
 
-inline constexpr const KeyInfo* kKeys[] = {
-    &kFoamDurationTime, &kStartFoamingType,      &kVolumeFilled,  &kPreInjectedVolume, &kInitialGasConcentrationType,
-    &kGasDosageAmount,  &kGasSaturationPressure, &kNozzleShutoff, &kAdvancedType,      &kRamPosition,
-    &kPartWeight};
+inline constexpr const KeyInfo* kKeys[] = {&kFoamDurationTime,
+                                           &kStartFoamingType,
+                                           &kVolumeFilled,
+                                           &kPreInjectedVolume,
+                                           &kInitialGasConcentrationType,
+                                           &kGasDosageAmount,
+                                           &kGasSaturationPressure,
+                                           &kNozzleShutoff,
+                                           &kAdvancedType,
+                                           &kRamPosition,
+                                           &kPartWeight};
 
 inline constexpr SectionInfo kInfo{kSection, "foaming and gas dosage", kKeys, std::size(kKeys)};
 
@@ -61,5 +73,6 @@ inline constexpr SectionInfo kInfo{kSection, "foaming and gas dosage", kKeys, st
 
 class CQELPROBlockIOMicroCellularMolding : public CQELPROBlockIOBase {
  public:
-  CQELPROBlockIOMicroCellularMolding() : CQELPROBlockIOBase(qel::micro_cellular_molding::kSection) {}
+  CQELPROBlockIOMicroCellularMolding()
+      : CQELPROBlockIOBase(qel::micro_cellular_molding::kSection) {}
 };

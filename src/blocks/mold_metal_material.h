@@ -8,15 +8,17 @@ namespace qel::mold_metal_material {
 
 inline constexpr char kSection[] = "[MoldMetalMaterial]";
 
-inline constexpr Key<MoldMetalLine> kMaterial{"%d",
-                                              {"MoldMetalMaterial_ReadMaterial"},
-                                              {"MoldMetalMaterial_WriteMaterial"},
-                                              "a mold metal: three thermal values, its name, which may hold blanks, three mechanical values",
-                                              {.older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
+inline constexpr Key<MoldMetalLine> kMaterial{
+    "%d",
+    {"MoldMetalMaterial_ReadMaterial"},
+    {"MoldMetalMaterial_WriteMaterial"},
+    "a mold metal: three thermal values, its name, which may hold blanks, three mechanical values",
+    {.older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
 
-inline constexpr SectionInfo kInfo{kSection, "the mold metals, one material line each", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the mold metals, one material line each", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::mold_metal_material
 

@@ -28,11 +28,15 @@ int CQELPROBlockIOMoldTemperatureBCX::WriteBC(int first, const char* name, int s
     return to_int(Result::no_file);
   }
   const std::string text = qel::PositionalHeader::print(first, name, second);
-  return text.size() < qel::kCompoundLimit ? document()->SetValue(this->name(), "", text.c_str(), line) : to_int(Result::no_open);
+  return text.size() < qel::kCompoundLimit
+             ? document()->SetValue(this->name(), "", text.c_str(), line)
+             : to_int(Result::no_open);
 }
 
-// The setting lines of a condition stand behind those of the conditions before it, whose header lines say how many each has.
-int CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int condition, int offset, int& position) {
+// The setting lines of a condition stand behind those of the conditions before it, whose header
+// lines say how many each has.
+int CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int condition, int offset,
+                                                   int& position) {
   if (setting < 1 || condition < 1) {
     return to_int(Result::no_open);
   }
@@ -57,21 +61,24 @@ int CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int condition, i
   return to_int(Result::done);
 }
 
-int CQELPROBlockIOMoldTemperatureBCX::ReadBCSetting(double& a, double& b, int setting, int condition, int offset) {
+int CQELPROBlockIOMoldTemperatureBCX::ReadBCSetting(double& a, double& b, int setting,
+                                                    int condition, int offset) {
   int position = 0;
   const int result = FindPosition(setting, condition, offset, position);
   if (result != to_int(Result::done)) {
     return result;
   }
   std::string line;
-  const int found = document()->VisitLines(name(), position, [&line](const char* text) { line = text; });
+  const int found =
+      document()->VisitLines(name(), position, [&line](const char* text) { line = text; });
   if (found == to_int(Result::done)) {
     qel::PositionalSetting::scan(line.c_str(), a, b);
   }
   return found;
 }
 
-int CQELPROBlockIOMoldTemperatureBCX::WriteBCSetting(double a, double b, int setting, int condition, int offset) {
+int CQELPROBlockIOMoldTemperatureBCX::WriteBCSetting(double a, double b, int setting, int condition,
+                                                     int offset) {
   int position = 0;
   const int result = FindPosition(setting, condition, offset, position);
   if (result != to_int(Result::done)) {

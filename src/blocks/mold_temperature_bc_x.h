@@ -8,50 +8,64 @@ namespace qel::mold_temperature_bc_x {
 
 inline constexpr char kSection[] = "[MoldTemperatureBC-%d]";
 
-/// The section whose lines are addressed by position, "[SURFACE ELEMENT BOUNDARY CONDITION NAME]": lookups find it by its
-/// first token.
+/// The section whose lines are addressed by position, "[SURFACE ELEMENT BOUNDARY CONDITION NAME]":
+/// lookups find it by its first token.
 inline constexpr char kPositionalSection[] = "[SURFACE";
 
-inline constexpr Key<Text> kBCName{"BCName", {"MoldTemperatureBCX_ReadName"}, {"MoldTemperatureBCX_WriteName"}, "the name of the boundary condition"};
-inline constexpr Key<Integer> kBCDisplayType{"BCDisplayType",
-                                             {"MoldTemperatureBCX_ReadDisplayType"},
-                                             {"MoldTemperatureBCX_WriteDisplayType"},
-                                             "a code: how a front end shows the boundary condition"};
-inline constexpr Key<Integer> kBCNodeCount{
-    "BCNodeCount", {"MoldTemperatureBCX_ReadNodeCount"}, {"MoldTemperatureBCX_WriteNodeCount"}, "the number of mesh nodes of the boundary condition"};
-inline constexpr Key<RealPair> kBCPoint{"BC-%d",
-                                        {"MoldTemperatureBCX_ReadBCProfile"},
-                                        {"MoldTemperatureBCX_WriteBCProfile"},
-                                        "a point of the boundary condition's profile: the time, and the temperature, in oC"};
+inline constexpr Key<Text> kBCName{"BCName",
+                                   {"MoldTemperatureBCX_ReadName"},
+                                   {"MoldTemperatureBCX_WriteName"},
+                                   "the name of the boundary condition"};
+inline constexpr Key<Integer> kBCDisplayType{
+    "BCDisplayType",
+    {"MoldTemperatureBCX_ReadDisplayType"},
+    {"MoldTemperatureBCX_WriteDisplayType"},
+    "a code: how a front end shows the boundary condition"};
+inline constexpr Key<Integer> kBCNodeCount{"BCNodeCount",
+                                           {"MoldTemperatureBCX_ReadNodeCount"},
+                                           {"MoldTemperatureBCX_WriteNodeCount"},
+                                           "the number of mesh nodes of the boundary condition"};
+inline constexpr Key<RealPair> kBCPoint{
+    "BC-%d",
+    {"MoldTemperatureBCX_ReadBCProfile"},
+    {"MoldTemperatureBCX_WriteBCProfile"},
+    "a point of the boundary condition's profile: the time, and the temperature, in oC"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condition", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condition", kKeys,
+                                   std::size(kKeys)};
 
-inline constexpr Key<PositionalHeader> kHeaderLine{"header line",
-                                                   {"MoldTemperatureBCX_ReadBC"},
-                                                   {"MoldTemperatureBCX_WriteBC"},
-                                                   "one for each boundary condition: the number of its setting lines, its name, and an integer",
-                                                   {.older = {"GetBCCountName", "SetBCCountName", "GetBCSetting"}}};
-inline constexpr Key<PositionalSetting> kSettingLine{"setting line",
-                                                     {"MoldTemperatureBCX_ReadBCSetting"},
-                                                     {"MoldTemperatureBCX_WriteBCSetting"},
-                                                     "behind all header lines, one condition after the other: a number, \"=\", and two reals",
-                                                     {.older = {"GetBCProfile", "SetBCProfile"}}};
+inline constexpr Key<PositionalHeader> kHeaderLine{
+    "header line",
+    {"MoldTemperatureBCX_ReadBC"},
+    {"MoldTemperatureBCX_WriteBC"},
+    "one for each boundary condition: the number of its setting lines, its name, and an integer",
+    {.older = {"GetBCCountName", "SetBCCountName", "GetBCSetting"}}};
+inline constexpr Key<PositionalSetting> kSettingLine{
+    "setting line",
+    {"MoldTemperatureBCX_ReadBCSetting"},
+    {"MoldTemperatureBCX_WriteBCSetting"},
+    "behind all header lines, one condition after the other: a number, \"=\", and two reals",
+    {.older = {"GetBCProfile", "SetBCProfile"}}};
 
 inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
 
-inline constexpr SectionInfo kPositionalInfo{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
-                                             "mold temperature boundary conditions, in lines addressed by position", kLines, std::size(kLines)};
+inline constexpr SectionInfo kPositionalInfo{
+    "[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
+    "mold temperature boundary conditions, in lines addressed by position", kLines,
+    std::size(kLines)};
 
 }  // namespace qel::mold_temperature_bc_x
 
-/// Serves both forms in which the file keeps mold temperature boundary conditions. It is constructed with the name of the
-/// positional section; the first member of the numbered section renames it for the rest of the session, and the positional
-/// members find nothing from then on. Callers do their positional work first, or in a session of its own.
+/// Serves both forms in which the file keeps mold temperature boundary conditions. It is
+/// constructed with the name of the positional section; the first member of the numbered section
+/// renames it for the rest of the session, and the positional members find nothing from then on.
+/// Callers do their positional work first, or in a session of its own.
 class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
  public:
-  CQELPROBlockIOMoldTemperatureBCX() : CQELPROBlockIOBase(qel::mold_temperature_bc_x::kPositionalSection) {}
+  CQELPROBlockIOMoldTemperatureBCX()
+      : CQELPROBlockIOBase(qel::mold_temperature_bc_x::kPositionalSection) {}
 
   /// Keys of the numbered section.
   template <class Encoding, class... Values>
@@ -65,14 +79,16 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
     return Write(key, place, values...);
   }
 
-  /// Header line number `line` of the positional section: how many setting lines the condition has, its name, an integer.
-  /// It is found as the document finds a line by its index; a line is written into the section, or becomes its last one.
+  /// Header line number `line` of the positional section: how many setting lines the condition has,
+  /// its name, an integer. It is found as the document finds a line by its index; a line is written
+  /// into the section, or becomes its last one.
   int ReadBC(int& first, char*& name, int& second, int line);
   int WriteBC(int first, const char* name, int second, int line);
 
-  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset` header lines. The header
-  /// lines of the conditions before it, and a line that is read, stand before the next section's header, or are not there. A
-  /// line that is written behind the section's last one becomes its last.
+  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset`
+  /// header lines. The header lines of the conditions before it, and a line that is read, stand
+  /// before the next section's header, or are not there. A line that is written behind the
+  /// section's last one becomes its last.
   int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
   int WriteBCSetting(double a, double b, int setting, int condition, int offset);
 

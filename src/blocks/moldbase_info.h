@@ -8,14 +8,16 @@ namespace qel::moldbase_info {
 
 inline constexpr char kSection[] = "[MoldbaseInfo]";
 
-inline constexpr Key<IntegerAndQuotedName> kMoldbase{"MB-%d",
-                                                     {"MoldbaseInfo_ReadMoldbaseInfo"},
-                                                     {"MoldbaseInfo_WriteMoldbaseInfo"},
-                                                     "a mold base: an integer and its name, which stands in double quotes"};
+inline constexpr Key<IntegerAndQuotedName> kMoldbase{
+    "MB-%d",
+    {"MoldbaseInfo_ReadMoldbaseInfo"},
+    {"MoldbaseInfo_WriteMoldbaseInfo"},
+    "a mold base: an integer and its name, which stands in double quotes"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 
-inline constexpr SectionInfo kInfo{kSection, "numbered mold bases with their names", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "numbered mold bases with their names", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::moldbase_info
 

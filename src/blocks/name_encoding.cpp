@@ -10,7 +10,8 @@ namespace qel {
 namespace {
 
 // The tokens in front of and behind the name, and the stretch of the text that is the name.
-void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7) {
+void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2, double& f3,
+                   char*& name, double& f5, double& f6, double& f7) {
   fields::clear(f1, f2, f3, name, f5, f6, f7);
   const std::vector<std::string> words = split(text, " \t\n");
   const std::size_t count = words.size();
@@ -35,7 +36,9 @@ void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2,
 
 constexpr std::size_t kInsertFields = 4;
 
-bool is_blank(const std::string& piece) { return piece.find_first_not_of(' ') == std::string::npos; }
+bool is_blank(const std::string& piece) {
+  return piece.find_first_not_of(' ') == std::string::npos;
+}
 
 // A number and no more, blanks around it aside.
 bool is_number(const std::string& piece) {
@@ -44,13 +47,15 @@ bool is_number(const std::string& piece) {
   return fields::scan_one(at, number) && at[std::strspn(at, " ")] == '\0';
 }
 
-// Whether an insert's name was left out: nothing but blanks stands between two tabs, and the next piece is a temperature, or
-// is left out as well before the fourth field. Where a word stands there, the tabs only align the fields.
+// Whether an insert's name was left out: nothing but blanks stands between two tabs, and the next
+// piece is a temperature, or is left out as well before the fourth field. Where a word stands
+// there, the tabs only align the fields.
 bool has_no_name(const std::vector<std::string>& pieces) {
   if (pieces.size() < 3 || !is_blank(pieces[1])) {
     return false;
   }
-  return is_number(pieces[2]) || (pieces.size() == kInsertFields && is_blank(pieces[2]) && is_number(pieces[3]));
+  return is_number(pieces[2]) ||
+         (pieces.size() == kInsertFields && is_blank(pieces[2]) && is_number(pieces[3]));
 }
 
 void scan_insert(const char* text, NameBuffer& buffer, int& id, char*& name, double& temperature) {
@@ -66,11 +71,13 @@ void scan_insert(const char* text, NameBuffer& buffer, int& id, char*& name, dou
   name = buffer.keep(word);
 }
 
-// The pieces between tabs where they are an insert's fields, none where the fields are words: all four, whatever is empty; without
-// those the four that are not empty, the other tabs only aligning them; or three, where the name alone is left out.
+// The pieces between tabs where they are an insert's fields, none where the fields are words: all
+// four, whatever is empty; without those the four that are not empty, the other tabs only aligning
+// them; or three, where the name alone is left out.
 std::vector<std::string> insert_pieces(const char* text) {
   std::vector<std::string> pieces = pieces_of(text, '\t');
-  if (pieces.size() == kInsertFields || (pieces.size() == kInsertFields - 1 && has_no_name(pieces))) {
+  if (pieces.size() == kInsertFields ||
+      (pieces.size() == kInsertFields - 1 && has_no_name(pieces))) {
     return pieces;
   }
   pieces = split(text, "\t");
@@ -80,7 +87,8 @@ std::vector<std::string> insert_pieces(const char* text) {
   return pieces;
 }
 
-void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& id, char*& name, double& temperature, int& fourth) {
+void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& id, char*& name,
+                         double& temperature, int& fourth) {
   fields::clear(id, name, temperature, fourth);
   const std::vector<std::string> pieces = insert_pieces(text);
   if (!pieces.empty()) {
@@ -118,7 +126,8 @@ void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& 
 
 }  // namespace
 
-void CoolantLine::scan(const char* text, double& p1, double& p2, double& p3, double& p4, int& system, char*& name, double& f7, int& f8) {
+void CoolantLine::scan(const char* text, double& p1, double& p2, double& p3, double& p4,
+                       int& system, char*& name, double& f7, int& f8) {
   thread_local NameBuffer buffer;
   fields::clear(p1, p2, p3, p4, system, name, f7, f8);
   std::string word;
@@ -128,12 +137,14 @@ void CoolantLine::scan(const char* text, double& p1, double& p2, double& p3, dou
   }
 }
 
-void MoldbaseLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7) {
+void MoldbaseLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name,
+                        double& f5, double& f6, double& f7) {
   thread_local NameBuffer buffer;
   scan_material(text, buffer, f1, f2, f3, name, f5, f6, f7);
 }
 
-void MoldMetalLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7) {
+void MoldMetalLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name,
+                         double& f5, double& f6, double& f7) {
   thread_local NameBuffer buffer;
   scan_material(text, buffer, f1, f2, f3, name, f5, f6, f7);
 }
@@ -145,7 +156,8 @@ void IntegerAndQuotedName::scan(const char* text, int& number, char*& name) {
   const std::string_view whole(text);
   const std::size_t first = whole.find('"');
   const std::size_t last = whole.rfind('"');
-  name = buffer.keep(first == last ? std::string_view{} : whole.substr(first + 1, last - first - 1));
+  name =
+      buffer.keep(first == last ? std::string_view{} : whole.substr(first + 1, last - first - 1));
 }
 
 void PartInsertLine::scan(const char* text, int& id, char*& name, double& temperature) {
@@ -158,12 +170,14 @@ void MoldInsertLine::scan(const char* text, int& id, char*& name, double& temper
   scan_insert(text, buffer, id, name, temperature);
 }
 
-void PartInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name, double& temperature, int& fourth) {
+void PartInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name,
+                                double& temperature, int& fourth) {
   thread_local NameBuffer buffer;
   scan_insert_of_four(text, buffer, insert, id, name, temperature, fourth);
 }
 
-void MoldInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name, double& temperature, int& fourth) {
+void MoldInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name,
+                                double& temperature, int& fourth) {
   thread_local NameBuffer buffer;
   scan_insert_of_four(text, buffer, insert, id, name, temperature, fourth);
 }

@@ -17,8 +17,8 @@ bool is_number(std::string_view key, int& number) {
   return parsed.ec == std::errc() && parsed.ptr == end && key.front() >= '1' && key.front() <= '9';
 }
 
-// What lookups of the groups 1, 2, 3, ... come to, without a scan for each: of every number the first line counts, in whatever
-// order the numbers stand.
+// What lookups of the groups 1, 2, 3, ... come to, without a scan for each: of every number the
+// first line counts, in whatever order the numbers stand.
 class GroupSearch {
  public:
   GroupSearch(const std::string& wanted, int count) : wanted_(wanted), count_(count) {}
@@ -47,7 +47,8 @@ class GroupSearch {
   };
 
   bool pass_those_in_order() {
-    for (auto group = waiting_.begin(); group != waiting_.end() && group->first == next_; group = waiting_.erase(group)) {
+    for (auto group = waiting_.begin(); group != waiting_.end() && group->first == next_;
+         group = waiting_.erase(group)) {
       if (group->second.is_wanted) {
         angle_ = group->second.angle;
         return false;
@@ -63,7 +64,8 @@ class GroupSearch {
   const std::string& wanted_;
   int count_;
   int next_ = 1;
-  std::map<int, Group> waiting_;  // groups from the next one on; ordered, so that no choice of numbers is slow
+  std::map<int, Group>
+      waiting_;  // groups from the next one on; ordered, so that no choice of numbers is slow
   std::optional<double> angle_;
 };
 
@@ -90,10 +92,12 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& an
   if (count < 1) {
     return to_int(Result::absent);
   }
-  return document() != nullptr && document()->scans_plainly() ? FindInOneScan(wanted, count, angle) : FindByLookups(wanted, count, angle);
+  return document() != nullptr && document()->scans_plainly() ? FindInOneScan(wanted, count, angle)
+                                                              : FindByLookups(wanted, count, angle);
 }
 
-int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wanted, int count, double& angle) {
+int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wanted, int count,
+                                                        double& angle) {
   std::string group_name;
   double group_angle = 0;
   for (int group = 1; group <= count; ++group) {
@@ -112,9 +116,13 @@ int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wante
   return to_int(Result::absent);
 }
 
-int CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted, int count, double& angle) {
+int CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted, int count,
+                                                        double& angle) {
   GroupSearch search(wanted, count);
-  const int result = document()->VisitEntries(name(), [&search](std::string_view key, std::string_view value) { return search.goes_on(key, value); });
+  const int result =
+      document()->VisitEntries(name(), [&search](std::string_view key, std::string_view value) {
+        return search.goes_on(key, value);
+      });
   if (search.angle()) {
     angle = *search.angle();
     return to_int(Result::done);

@@ -8,27 +8,33 @@ namespace qel::part_insert_contact_angle {
 
 inline constexpr char kSection[] = "[PartInsertContactAngle]";
 
-inline constexpr Key<Integer> kGroupCount{
-    "GroupCount", {"PartInsertContactAngle_ReadGroupCount"}, {"PartInsertContactAngle_WriteGroupCount"}, "the number of groups of part inserts"};
-inline constexpr Key<ContactAngle> kGroup{"%d",
-                                          {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
-                                          {"PartInsertContactAngle_WriteGroup"},
-                                          "a group of part inserts: its name in double quotes, and its contact angle"};
+inline constexpr Key<Integer> kGroupCount{"GroupCount",
+                                          {"PartInsertContactAngle_ReadGroupCount"},
+                                          {"PartInsertContactAngle_WriteGroupCount"},
+                                          "the number of groups of part inserts"};
+inline constexpr Key<ContactAngle> kGroup{
+    "%d",
+    {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
+    {"PartInsertContactAngle_WriteGroup"},
+    "a group of part inserts: its name in double quotes, and its contact angle"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
 
-inline constexpr SectionInfo kInfo{kSection, "the contact angle of each part insert group", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the contact angle of each part insert group", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::part_insert_contact_angle
 
 class CQELPROBlockIOPartInsertContactAngle : public CQELPROBlockIOBase {
  public:
-  CQELPROBlockIOPartInsertContactAngle() : CQELPROBlockIOBase(qel::part_insert_contact_angle::kSection) {}
+  CQELPROBlockIOPartInsertContactAngle()
+      : CQELPROBlockIOBase(qel::part_insert_contact_angle::kSection) {}
 
   /// Fails for a line without two double quotes.
   int ReadAngle(int group, double& angle);
-  /// The first group whose name is exactly this one, among the groups that "GroupCount" says there are. A group that is
-  /// missing, or has no quoted name, ends the search. The name may stand in a buffer of a lookup's.
+  /// The first group whose name is exactly this one, among the groups that "GroupCount" says there
+  /// are. A group that is missing, or has no quoted name, ends the search. The name may stand in a
+  /// buffer of a lookup's.
   int ReadAngle(const char* name, double& angle);
 
  private:

@@ -8,29 +8,34 @@ namespace qel::part_insert_initial_temperature {
 
 inline constexpr char kSection[] = "[PartInsertInitialTemperature]";
 
-inline constexpr Key<Integer> kTotalPartInsert{"TotalPartInsert",
-                                               {"PartInsertInitialTemperature_ReadTotalPartInsert"},
-                                               {"PartInsertInitialTemperature_WriteTotalPartInsert"},
-                                               "the number of part inserts",
-                                               {.older = {"GetTotalPartInsert"}}};
-inline constexpr Key<PartInsertLine> kPartInsert{"PartInsert-%d",
-                                                 {"PartInsertInitialTemperature_ReadPartInsert"},
-                                                 {"PartInsertInitialTemperature_WritePartInsert"},
-                                                 "a part insert: its identifier, its name, its initial temperature, in oC",
-                                                 {.older = {"GetPartInsertSetting"}}};
+inline constexpr Key<Integer> kTotalPartInsert{
+    "TotalPartInsert",
+    {"PartInsertInitialTemperature_ReadTotalPartInsert"},
+    {"PartInsertInitialTemperature_WriteTotalPartInsert"},
+    "the number of part inserts",
+    {.older = {"GetTotalPartInsert"}}};
+inline constexpr Key<PartInsertLine> kPartInsert{
+    "PartInsert-%d",
+    {"PartInsertInitialTemperature_ReadPartInsert"},
+    {"PartInsertInitialTemperature_WritePartInsert"},
+    "a part insert: its identifier, its name, its initial temperature, in oC",
+    {.older = {"GetPartInsertSetting"}}};
 inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
     "PartInsert-%d",
     {"PartInsertInitialTemperature_ReadPartInsert"},
     {},
-    "a part insert: its identifier, its name, which may hold blanks, its initial temperature, in oC, and an integer"};
+    "a part insert: its identifier, its name, which may hold blanks, its initial temperature, in "
+    "oC, and an integer"};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
 
-inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each part insert", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each part insert", kKeys,
+                                   std::size(kKeys)};
 
 }  // namespace qel::part_insert_initial_temperature
 
 class CQELPROBlockIOPartInsertInitialTemperature : public CQELPROBlockIOBase {
  public:
-  CQELPROBlockIOPartInsertInitialTemperature() : CQELPROBlockIOBase(qel::part_insert_initial_temperature::kSection) {}
+  CQELPROBlockIOPartInsertInitialTemperature()
+      : CQELPROBlockIOBase(qel::part_insert_initial_temperature::kSection) {}
 };

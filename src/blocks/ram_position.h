@@ -2,7 +2,8 @@
 
 #include "blocks/block.h"
 
-/// [RamPosition]: profiles over the stroke of the ram, and the switch-over from velocity to pressure control (V/P) by ram position.
+/// [RamPosition]: profiles over the stroke of the ram, and the switch-over from velocity to
+/// pressure control (V/P) by ram position.
 namespace qel::ram_position {
 
 inline constexpr char kSection[] = "[RamPosition]";
@@ -22,21 +23,24 @@ inline constexpr Key<Real> kVPswitchRam{"VPswitchRam",
                                         {"RamPosition_WriteVPSwitchRamPosition"},
                                         "the ram position at which the V/P switch-over comes",
                                         {.older = {"GetVPSwitchPosition", "SetVPSwitchPosition"}}};
-inline constexpr Key<Real> kSuckBack{"SuckBack",
-                                     {"RamPosition_ReadSuckBack"},
-                                     {"RamPosition_WriteSuckBack"},
-                                     "how far the screw is pulled back after plastication, to relieve the melt (suck-back)",
-                                     {.loader = "set_process_SuckBack"}};
-inline constexpr Key<Integer> kRP_FRSet{"RP_FRSet",
-                                        {"RamPosition_ReadRamFRSection"},
-                                        {"RamPosition_WriteRamFRSection"},
-                                        "the number of points of the flow rate profile",
-                                        {.older = {"GetRamFRSection", "SetRamFRSection"}, .loader = "GetFlowRateRamPosition_mod"}};
-inline constexpr Key<RealPair> kRP_FRPoint{"RP_FR-%d",
-                                           {"RamPosition_ReadRamFRProfile"},
-                                           {"RamPosition_WriteRamFRProfile"},
-                                           "a point of the flow rate profile: the ram position, and the flow rate, in cc/sec",
-                                           {.older = {"GetRamFRProfile", "SetRamFRProfile"}}};
+inline constexpr Key<Real> kSuckBack{
+    "SuckBack",
+    {"RamPosition_ReadSuckBack"},
+    {"RamPosition_WriteSuckBack"},
+    "how far the screw is pulled back after plastication, to relieve the melt (suck-back)",
+    {.loader = "set_process_SuckBack"}};
+inline constexpr Key<Integer> kRP_FRSet{
+    "RP_FRSet",
+    {"RamPosition_ReadRamFRSection"},
+    {"RamPosition_WriteRamFRSection"},
+    "the number of points of the flow rate profile",
+    {.older = {"GetRamFRSection", "SetRamFRSection"}, .loader = "GetFlowRateRamPosition_mod"}};
+inline constexpr Key<RealPair> kRP_FRPoint{
+    "RP_FR-%d",
+    {"RamPosition_ReadRamFRProfile"},
+    {"RamPosition_WriteRamFRProfile"},
+    "a point of the flow rate profile: the ram position, and the flow rate, in cc/sec",
+    {.older = {"GetRamFRProfile", "SetRamFRProfile"}}};
 inline constexpr Key<Real> kRP_FRSingle{"RP_FR-%d",
                                         {"RamPosition_ReadRamFRProfile"},
                                         {"RamPosition_WriteRamFRProfile"},
@@ -46,23 +50,27 @@ inline constexpr Key<Integer> kRP_IPSet{"RP_IPSet",
                                         {"RamPosition_ReadRamIPSection"},
                                         {"RamPosition_WriteRamIPSection"},
                                         "the number of points of the injection pressure profile",
-                                        {.older = {"GetRamIPSection", "SetRamIPSection"}, .loader = "GetInjectionPressureRamPosition_mod"}};
-inline constexpr Key<RealPair> kRP_IPPoint{"RP_IP-%d",
-                                           {"RamPosition_ReadRamIPProfile"},
-                                           {"RamPosition_WriteRamIPProfile"},
-                                           "a point of the injection pressure profile: the ram position, and the pressure, in MPa",
-                                           {.older = {"GetRamIPProfile", "SetRamIPProfile"}}};
+                                        {.older = {"GetRamIPSection", "SetRamIPSection"},
+                                         .loader = "GetInjectionPressureRamPosition_mod"}};
+inline constexpr Key<RealPair> kRP_IPPoint{
+    "RP_IP-%d",
+    {"RamPosition_ReadRamIPProfile"},
+    {"RamPosition_WriteRamIPProfile"},
+    "a point of the injection pressure profile: the ram position, and the pressure, in MPa",
+    {.older = {"GetRamIPProfile", "SetRamIPProfile"}}};
 inline constexpr Key<Real> kRP_IPSingle{"RP_IP-%d",
                                         {"RamPosition_ReadRamIPProfile"},
                                         {"RamPosition_WriteRamIPProfile"},
                                         "the ram position of an injection pressure point alone",
                                         {.loader = "GetInjectionPressureRamPosition_mod"}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kRamDir,     &kIsVPswitch,  &kVPswitchRam, &kSuckBack,   &kRP_FRSet,
-                                           &kRP_FRPoint, &kRP_FRSingle, &kRP_IPSet,    &kRP_IPPoint, &kRP_IPSingle};
+inline constexpr const KeyInfo* kKeys[] = {&kRamDir,     &kIsVPswitch, &kVPswitchRam, &kSuckBack,
+                                           &kRP_FRSet,   &kRP_FRPoint, &kRP_FRSingle, &kRP_IPSet,
+                                           &kRP_IPPoint, &kRP_IPSingle};
 
 inline constexpr SectionInfo kInfo{kSection,
-                                   "profiles over the stroke of the ram, and the switch-over from velocity to pressure control (V/P) by ram position",
+                                   "profiles over the stroke of the ram, and the switch-over from "
+                                   "velocity to pressure control (V/P) by ram position",
                                    kKeys, std::size(kKeys)};
 
 }  // namespace qel::ram_position

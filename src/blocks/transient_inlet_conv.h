@@ -2,7 +2,8 @@
 
 #include "blocks/block.h"
 
-/// [TransientInletConv]: pellet pre-heating and initial conversion, where the conversion at the inlet changes with time.
+/// [TransientInletConv]: pellet pre-heating and initial conversion, where the conversion at the
+/// inlet changes with time.
 namespace qel::transient_inlet_conv {
 
 inline constexpr char kSection[] = "[TransientInletConv]";
@@ -11,11 +12,12 @@ inline constexpr Key<Integer> kInitConversionType{"InitConversionType",
                                                   {"TransientInletConv_ReadInitConversionType"},
                                                   {"TransientInletConv_WriteInitConversionType"},
                                                   "a code: how the initial conversion is given"};
-inline constexpr Key<Real> kInitPelletConv{"InitPelletConv",
-                                           {"TransientInletConv_ReadInitPelletConversion"},
-                                           {"TransientInletConv_WriteInitPelletConversion"},
-                                           "how far the pellet's curing reaction has gone (its conversion) before pre-heating",
-                                           {.older = {"GetInitPelletConv", "SetInitPelletConv"}}};
+inline constexpr Key<Real> kInitPelletConv{
+    "InitPelletConv",
+    {"TransientInletConv_ReadInitPelletConversion"},
+    {"TransientInletConv_WriteInitPelletConversion"},
+    "how far the pellet's curing reaction has gone (its conversion) before pre-heating",
+    {.older = {"GetInitPelletConv", "SetInitPelletConv"}}};
 inline constexpr Key<Real> kPelletDiameter{"PelletDiameter",
                                            {"TransientInletConv_ReadPelletDiameter"},
                                            {"TransientInletConv_WritePelletDiameter"},
@@ -32,10 +34,13 @@ inline constexpr Key<Real> kPreHeatTime{"PreHeatTime",
                                         "how long the pellet is pre-heated, in sec",
                                         {.older = {"GetPreHeatTime", "SetPreHeatTime"}}};
 
-inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitPelletConv, &kPelletDiameter, &kPelletHeight, &kPreHeatTime};
+inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitPelletConv, &kPelletDiameter,
+                                           &kPelletHeight, &kPreHeatTime};
 
-inline constexpr SectionInfo kInfo{kSection, "pellet pre-heating and initial conversion, where the conversion at the inlet changes with time", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection,
+                                   "pellet pre-heating and initial conversion, where the "
+                                   "conversion at the inlet changes with time",
+                                   kKeys, std::size(kKeys)};
 
 }  // namespace qel::transient_inlet_conv
 

@@ -13,11 +13,12 @@ inline constexpr Key<Integer> kCoolantNo{"CoolantNo",
                                          {"VarCoolCTL_WriteCoolantCount"},
                                          "the number of entries of variable cooling",
                                          {.older = {"GetTotalCoolantNo", "SetTotalCoolantNo"}}};
-inline constexpr Key<FourRealsAndInteger> kCoolant{"Coolant-%d",
-                                                   {"VarCoolCTL_ReadCoolant"},
-                                                   {"VarCoolCTL_WriteCoolant"},
-                                                   "an entry of variable cooling: four reals and an integer",
-                                                   {.older = {"GetCoolant", "SetCoolant"}}};
+inline constexpr Key<FourRealsAndInteger> kCoolant{
+    "Coolant-%d",
+    {"VarCoolCTL_ReadCoolant"},
+    {"VarCoolCTL_WriteCoolant"},
+    "an entry of variable cooling: four reals and an integer",
+    {.older = {"GetCoolant", "SetCoolant"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolantNo, &kCoolant};
 

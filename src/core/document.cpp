@@ -39,18 +39,24 @@ Result deliver(std::string_view text, char*& value, char* buffer, std::size_t si
   return Result::done;
 }
 
-Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target, char*& value, char* buffer, std::size_t size) {
+Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target,
+               char*& value, char* buffer, std::size_t size) {
   if (lines.failed()) {
     return Result::no_open;
   }
-  // A line on the file's first byte counts as not found; only a lookup by index that resumes at a header gets there.
+  // A line on the file's first byte counts as not found; only a lookup by index that resumes at a
+  // header gets there.
   if (!line || line->start == 0) {
     return Result::absent;
   }
-  return deliver(target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text), value, buffer, size);
+  return deliver(
+      target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text),
+      value, buffer, size);
 }
 
-bool open_or_create(OsFile& file, const char* path) { return file.open_for_update(path) || file.create(path); }
+bool open_or_create(OsFile& file, const char* path) {
+  return file.open_for_update(path) || file.create(path);
+}
 
 // Runs a store on a file that was opened for it, and counts a failing close as a failing store.
 template <class Work>
@@ -60,7 +66,9 @@ Result store_into(OsFile& file, Work work) {
   return file.close() ? result : Result::no_open;
 }
 
-std::string_view view(const char* text) { return text != nullptr ? std::string_view(text) : std::string_view(); }
+std::string_view view(const char* text) {
+  return text != nullptr ? std::string_view(text) : std::string_view();
+}
 
 }  // namespace
 
@@ -86,10 +94,15 @@ void CQELPROIO::release_held() {
   file_.close();
 }
 
-// Whether the path is the one that was read last: its offsets are looked at again, as in one session.
-bool CQELPROIO::is_read_again(const char* path) const { return path_ != nullptr && path_copy_ == path; }
+// Whether the path is the one that was read last: its offsets are looked at again, as in one
+// session.
+bool CQELPROIO::is_read_again(const char* path) const {
+  return path_ != nullptr && path_copy_ == path;
+}
 
-bool CQELPROIO::is_read_again(const wchar_t* path) const { return wide_path_ != nullptr && wide_path_copy_ == path; }
+bool CQELPROIO::is_read_again(const wchar_t* path) const {
+  return wide_path_ != nullptr && wide_path_copy_ == path;
+}
 
 void CQELPROIO::forget_lent() {
   if (lent_ != nullptr) {
@@ -115,7 +128,8 @@ bool CQELPROIO::open(const Character* path, int mode) {
   if (path == nullptr) {
     return false;
   }
-  std::basic_string<Character> copy(path);  // before anything is changed: there may be no memory for it
+  std::basic_string<Character> copy(
+      path);  // before anything is changed: there may be no memory for it
   if (mode == kWriting) {
     OsFile file;
     if constexpr (std::is_same_v<Character, char>) {
@@ -130,7 +144,8 @@ bool CQELPROIO::open(const Character* path, int mode) {
     }
     forget_lent();
     remember(path, copy);
-    // A file that the document itself opened stays in use; one that was closed gives way to the path.
+    // A file that the document itself opened stays in use; one that was closed gives way to the
+    // path.
     attached_ = holds_file();
     indexed_ = indexed_ && attached_;
     return true;
@@ -187,14 +202,18 @@ bool CQELPROIO::GetFilePtr(std::FILE*& stream) {
 void CQELPROIO::CloseFile() { release_held(); }
 
 bool CQELPROIO::open_path(OsFile& file) const {
-  return wide_path_ != nullptr ? file.open_for_reading(wide_path_copy_.c_str()) : file.open_for_reading(path_copy_.c_str());
+  return wide_path_ != nullptr ? file.open_for_reading(wide_path_copy_.c_str())
+                               : file.open_for_reading(path_copy_.c_str());
 }
 
 bool CQELPROIO::open_path_for_update(OsFile& file) const {
-  return wide_path_ != nullptr ? file.open_for_update(wide_path_copy_.c_str()) : open_or_create(file, path_copy_.c_str());
+  return wide_path_ != nullptr ? file.open_for_update(wide_path_copy_.c_str())
+                               : open_or_create(file, path_copy_.c_str());
 }
 
-int CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) { return GetValue(section, key, value, nullptr, 0, index); }
+int CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) {
+  return GetValue(section, key, value, nullptr, 0, index);
+}
 
 // The held file, or the path's, which `own` opens.
 Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
@@ -209,7 +228,8 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
   return open_path(own) ? Result::done : Result::no_open;
 }
 
-int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index) {
+int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer,
+                        unsigned int size, int index) {
   return LookUp({view(section), view(key), index}, value, buffer, size);
 }
 
@@ -235,7 +255,8 @@ int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned
   return to_int(deliver(*lines, line, target, value, buffer, size));
 }
 
-int CQELPROIO::VisitLines(const char* section, int count, const std::function<void(const char*)>& visit) {
+int CQELPROIO::VisitLines(const char* section, int count,
+                          const std::function<void(const char*)>& visit) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
@@ -256,7 +277,9 @@ int CQELPROIO::VisitLines(const char* section, int count, const std::function<vo
   return to_int(Result::done);
 }
 
-int CQELPROIO::VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit) {
+int CQELPROIO::VisitEntries(
+    const char* section,
+    const std::function<bool(std::string_view key, std::string_view value)>& visit) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
@@ -276,7 +299,8 @@ int CQELPROIO::VisitEntries(const char* section, const std::function<bool(std::s
   return to_int(lines.failed() ? Result::no_open : Result::done);
 }
 
-int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
+int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer,
+                        unsigned int size) {
   const Target target{view(section), view(key)};
   if (path_ != nullptr) {
     OsFile file;
@@ -314,7 +338,8 @@ int CQELPROIO::SetValue(const char* section, const char* key, const char* value,
   }
   // A new key of an existing section needs the narrow path.
   const bool may_insert = path_ != nullptr;
-  const Result result = store_into(file, [&](Store& store) { return store.set(entry, may_insert); });
+  const Result result =
+      store_into(file, [&](Store& store) { return store.set(entry, may_insert); });
   return to_int(result == Result::absent ? Result::no_open : result);
 }
 
@@ -337,7 +362,8 @@ int CQELPROIO::WriteOnce(const char* section, const char* key, const char* value
   return to_int(result == Result::absent ? Result::no_open : result);
 }
 
-int CQELPROIO::InsertValue(const char* path, const char* section, const char* key, const char* value) {
+int CQELPROIO::InsertValue(const char* path, const char* section, const char* key,
+                           const char* value) {
   const Entry entry{{view(section), view(key)}, view(value)};
   OsFile file;
   if (path == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path)) {
@@ -349,13 +375,15 @@ int CQELPROIO::InsertValue(const char* path, const char* section, const char* ke
 int CQELPROIO::ReplaceValue(const char* section, const char* key, const char* value) {
   const Entry entry{{view(section), view(key)}, view(value)};
   OsFile file;
-  if (path_ == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path_copy_.c_str())) {
+  if (path_ == nullptr || value == nullptr || is_refused(entry) ||
+      !file.open_for_update(path_copy_.c_str())) {
     return to_int(Result::no_open);
   }
   return to_int(store_into(file, [&](Store& store) { return store.replace(entry); }));
 }
 
-bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer, unsigned int size) {
+bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value,
+                          char* buffer, unsigned int size) {
   OsFile file;
   if (path == nullptr || section == nullptr || key == nullptr || !file.open_for_reading(path)) {
     return false;

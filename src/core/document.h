@@ -15,8 +15,9 @@
 
 /// The document over one process file.
 ///
-/// It keeps no contents: every lookup reads the file and every store changes it before it returns. Results are 1 done,
-/// 0 the file cannot be opened (or a store was refused), -1 no file, -2 section, key or line not there.
+/// It keeps no contents: every lookup reads the file and every store changes it before it returns.
+/// Results are 1 done, 0 the file cannot be opened (or a store was refused), -1 no file, -2
+/// section, key or line not there.
 class CQELPROIO {
  public:
   CQELPROIO() = default;
@@ -27,9 +28,9 @@ class CQELPROIO {
   static constexpr int kReading = 0;
   static constexpr int kWriting = 1;
 
-  /// Reading (any mode but 1) holds the file open and keeps an index of offsets that later files do not clear.
-  /// Writing holds nothing: every store opens the path again. A wide path never creates a file. A lent stream is forgotten and
-  /// stays open.
+  /// Reading (any mode but 1) holds the file open and keeps an index of offsets that later files do
+  /// not clear. Writing holds nothing: every store opens the path again. A wide path never creates
+  /// a file. A lent stream is forgotten and stays open.
   virtual bool SetFilePath(const wchar_t* path, int mode);
   virtual bool SetFilePath(const char* path, int mode);
 
@@ -37,44 +38,54 @@ class CQELPROIO {
   virtual bool SetFilePtr(std::FILE*& stream);
   virtual bool GetFilePtr(std::FILE*& stream);
 
-  /// Closes the held stream, whoever opened it. Lookups and stores answer -1 from then on, until the next open.
+  /// Closes the held stream, whoever opened it. Lookups and stores answer -1 from then on, until
+  /// the next open.
   virtual void CloseFile();
 
-  /// The value of a key (index below 0) or the index-th line of a section, in a buffer that the thread's next lookup
-  /// overwrites. Only a result of 1 touches the pointer.
+  /// The value of a key (index below 0) or the index-th line of a section, in a buffer that the
+  /// thread's next lookup overwrites. Only a result of 1 touches the pointer.
   virtual int GetValue(const char* section, const char* key, char*& value, int index);
 
-  /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the buffer alone.
-  int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size, int index);
+  /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the
+  /// buffer alone.
+  int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size,
+               int index);
 
   /// The same of a target. A null buffer is the thread's own.
   int LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
 
-  /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the document's mode is. -2 when
-  /// there are fewer: the section ends at the next header.
+  /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the
+  /// document's mode is. -2 when there are fewer: the section ends at the next header.
   int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
 
-  /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one through the index.
+  /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one
+  /// through the index.
   [[nodiscard]] bool scans_plainly() const { return !indexed_; }
-  /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token and the value, until it
-  /// yields false.
-  int VisitEntries(const char* section, const std::function<bool(std::string_view key, std::string_view value)>& visit);
+  /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token
+  /// and the value, until it yields false.
+  int VisitEntries(const char* section,
+                   const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
   int SetValue(const char* section, const char* key, const char* value, int index);
   int InsertValue(const char* path, const char* section, const char* key, const char* value);
   int ReplaceValue(const char* section, const char* key, const char* value);
 
-  /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes on into later sections.
-  /// False, too, for a value that does not fit the buffer, whose size is not looked at where it is 0.
-  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer, unsigned int size = 0);
+  /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes
+  /// on into later sections. False, too, for a value that does not fit the buffer, whose size is
+  /// not looked at where it is 0.
+  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer,
+                 unsigned int size = 0);
 
   /// The caller's own pointer, or null when the file was given by a wide path or a stream.
   [[nodiscard]] const char* narrow_path() const { return path_; }
   /// The document's own copy of the narrow path, or null where `narrow_path` is null.
-  [[nodiscard]] const char* own_path() const { return path_ != nullptr ? path_copy_.c_str() : nullptr; }
+  [[nodiscard]] const char* own_path() const {
+    return path_ != nullptr ? path_copy_.c_str() : nullptr;
+  }
 
-  /// A lookup by key that neither uses nor extends the index of offsets, over the path or the held stream.
+  /// A lookup by key that neither uses nor extends the index of offsets, over the path or the held
+  /// stream.
   int ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size);
   /// A store by path, or into the held stream where there is none.
   int WriteOnce(const char* section, const char* key, const char* value);
@@ -99,11 +110,12 @@ class CQELPROIO {
   std::string path_copy_;
   std::wstring wide_path_copy_;
   qel::SectionIndex index_;
-  std::uint64_t read_identity_ = 0;                  // of the file that was opened for reading last
-  std::uint32_t seen_changes_ = 0;                   // what this program had written to the file when the index was last right
+  std::uint64_t read_identity_ = 0;  // of the file that was opened for reading last
+  std::uint32_t seen_changes_ =
+      0;  // what this program had written to the file when the index was last right
   qel::platform::OsFile file_;                       // opened by this document for reading
   std::unique_ptr<qel::platform::LentStream> lent_;  // lent by the caller
-  std::FILE* stream_ = nullptr;                      // the lent stream, or one handed out over `file_`
+  std::FILE* stream_ = nullptr;  // the lent stream, or one handed out over `file_`
   bool attached_ = false;
   bool indexed_ = false;
 };

@@ -20,7 +20,8 @@ void FileImage::cover(Covered& covered, char* at, std::string_view text) {
   std::memcpy(at, text.data(), text.size());
 }
 
-std::string_view FileImage::compose(std::string_view before, std::size_t from, std::size_t to, std::string_view behind) {
+std::string_view FileImage::compose(std::string_view before, std::size_t from, std::size_t to,
+                                    std::string_view behind) {
   cover(before_, begin_ + from - before.size(), before);
   cover(behind_, begin_ + to, behind);
   return {before_.at, before.size() + (to - from) + behind.size()};

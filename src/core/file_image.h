@@ -10,21 +10,23 @@
 
 namespace qel {
 
-/// A whole file in memory, with room around it: an entry of another length is put in front of what stands behind it, which
-/// need not be moved to be written in one piece.
+/// A whole file in memory, with room around it: an entry of another length is put in front of what
+/// stands behind it, which need not be moved to be written in one piece.
 class FileImage {
  public:
   /// How long the texts may be that are put around a part of the file.
   static constexpr std::size_t kRoom = std::size_t{16} * 1024;
 
-  /// The file's bytes, of which there are `size`, as `size_in_memory` tells it. False when they cannot be read.
+  /// The file's bytes, of which there are `size`, as `size_in_memory` tells it. False when they
+  /// cannot be read.
   bool load(platform::RandomAccess& file, std::int64_t size);
 
   [[nodiscard]] std::string_view bytes() const { return {begin_, size_}; }
 
-  /// The bytes of the file from `from` to `to` with a text in front of them and another behind them, in one piece. They stand
-  /// over other bytes of the image until `restore`.
-  std::string_view compose(std::string_view before, std::size_t from, std::size_t to, std::string_view behind);
+  /// The bytes of the file from `from` to `to` with a text in front of them and another behind
+  /// them, in one piece. They stand over other bytes of the image until `restore`.
+  std::string_view compose(std::string_view before, std::size_t from, std::size_t to,
+                           std::string_view behind);
   void restore();
 
  private:

@@ -11,7 +11,9 @@ namespace {
 // The longest line with a line break of two bytes, which counts as one character.
 constexpr std::size_t kLongestInBytes = text::kLongestLine + 1;
 
-const char* find_byte(const char* begin, std::size_t count, char byte) { return static_cast<const char*>(std::memchr(begin, byte, count)); }
+const char* find_byte(const char* begin, std::size_t count, char byte) {
+  return static_cast<const char*>(std::memchr(begin, byte, count));
+}
 
 }  // namespace
 
@@ -23,13 +25,18 @@ LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::s
   window_ = block();
   while (from == 0 && length_ < text::kByteOrderMark.size() && read_more()) {
   }
-  if (from == 0 && std::string_view(window_, length_).substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
+  if (from == 0 && std::string_view(window_, length_).substr(0, text::kByteOrderMark.size()) ==
+                       text::kByteOrderMark) {
     at_ = text::kByteOrderMark.size();
   }
 }
 
 LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_hold_nul)
-    : window_(contents.data()), length_(contents.size()), at_(static_cast<std::size_t>(from)), at_end_(true), may_hold_nul_(may_hold_nul) {
+    : window_(contents.data()),
+      length_(contents.size()),
+      at_(static_cast<std::size_t>(from)),
+      at_end_(true),
+      may_hold_nul_(may_hold_nul) {
   if (from == 0 && contents.substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
     at_ = text::kByteOrderMark.size();
   }
@@ -55,7 +62,8 @@ bool LineScanner::read_more() {
   length_ = kept;
   const std::size_t room = capacity_ - length_;
   char* const behind = block() + length_;
-  const std::int64_t got = file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), behind, room);
+  const std::int64_t got =
+      file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), behind, room);
   failed_ = got < 0;
   const std::size_t added = failed_ ? 0 : static_cast<std::size_t>(got);
   at_end_ = added < room;
@@ -85,7 +93,8 @@ bool LineScanner::is_padding(std::size_t begin) {
     if (got <= 0) {
       return true;
     }
-    const std::size_t found = std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(text::kPadding);
+    const std::size_t found =
+        std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(text::kPadding);
     if (found != std::string_view::npos) {
       first_text_behind_ = at + static_cast<std::int64_t>(found);
       return false;
@@ -95,7 +104,9 @@ bool LineScanner::is_padding(std::size_t begin) {
 }
 
 bool LineScanner::next(Line& line) {
-  const auto find_break = [this] { return find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n'); };
+  const auto find_break = [this] {
+    return find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
+  };
   const char* line_break = find_break();
   while (line_break == nullptr && available() < kLongestInBytes && read_more()) {
     line_break = find_break();
@@ -104,7 +115,8 @@ bool LineScanner::next(Line& line) {
     return false;
   }
   const char* begin = window_ + at_;
-  std::size_t length = line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : text::kLongestLine;
+  std::size_t length =
+      line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : text::kLongestLine;
   if (line_break != nullptr && length > 0 && begin[length - 1] == '\r') {
     --length;
   }
@@ -115,7 +127,8 @@ bool LineScanner::next(Line& line) {
     inside_long_line_ = false;
   } else {
     consumed = length = std::min(available(), text::kLongestLine);
-    if (!inside_long_line_ && text::kPadding.find(*begin) != std::string_view::npos && is_padding(at_)) {
+    if (!inside_long_line_ && text::kPadding.find(*begin) != std::string_view::npos &&
+        is_padding(at_)) {
       return false;
     }
     inside_long_line_ = true;
@@ -147,12 +160,14 @@ bool LineScanner::next_starting_with(char first, Line& line) {
   while (available() != 0 || read_more()) {
     const char* begin = window_ + at_;
     const char* hit = find_byte(begin, available(), first);
-    const std::string_view before(begin, hit != nullptr ? static_cast<std::size_t>(hit - begin) : available());
+    const std::string_view before(
+        begin, hit != nullptr ? static_cast<std::size_t>(hit - begin) : available());
     if (hit == begin) {
       return next(line);
     }
-    // The position stands at the start of a line: go on to the start of the last line before the hit.
-    // Most often there is one nearby at either end; where there is none, the faster search tells.
+    // The position stands at the start of a line: go on to the start of the last line before the
+    // hit. Most often there is one nearby at either end; where there is none, the faster search
+    // tells.
     const bool has_break = find_byte(before.data(), before.size(), '\n') != nullptr;
     const std::size_t last_break = has_break ? before.rfind('\n') : std::string_view::npos;
     if (last_break != std::string_view::npos) {
@@ -162,10 +177,12 @@ bool LineScanner::next_starting_with(char first, Line& line) {
         return next(line);
       }
     }
-    // The hit is inside that line, or behind what the window holds of it; parts of a long line count as lines.
+    // The hit is inside that line, or behind what the window holds of it; parts of a long line
+    // count as lines.
     const bool in_pieces = hit == nullptr && last_break == std::string_view::npos;
     while (in_pieces && available() > kLongestInBytes) {
-      // None of the pieces begins with the byte, and none needs more of the file: one look at the window was enough for them.
+      // None of the pieces begins with the byte, and none needs more of the file: one look at the
+      // window was enough for them.
       if (!next(line)) {
         return false;
       }
@@ -178,7 +195,9 @@ bool LineScanner::next_starting_with(char first, Line& line) {
 }
 
 std::size_t length_without_padding(std::string_view contents) {
-  return contents.find('\n') == std::string_view::npos ? text::without_end_mark(contents).size() : text::trim_end(contents, text::kPadding).size();
+  return contents.find('\n') == std::string_view::npos
+             ? text::without_end_mark(contents).size()
+             : text::trim_end(contents, text::kPadding).size();
 }
 
 }  // namespace qel

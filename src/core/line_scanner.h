@@ -11,22 +11,26 @@ namespace qel {
 struct Line {
   std::int64_t start = 0;
   std::int64_t end = 0;   ///< The offset behind the line and its line break.
-  std::string_view text;  ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+  std::string_view text;  ///< Without its line break, up to the first NUL byte; valid until the
+                          ///< scanner moves on.
   bool is_piece = false;  ///< Begins inside a line that is too long, and comes in pieces.
 };
 
 /// Walks over the lines of a file.
 ///
-/// - A line ends at "\n" or "\r\n". One that is longer than `text::kLongestLine` comes as several lines.
+/// - A line ends at "\n" or "\r\n". One that is longer than `text::kLongestLine` comes as several
+/// lines.
 /// - A byte order mark at the start of the file belongs to no line.
-/// - Blanks behind the last line break are padding that an earlier store left, and no line; so is an end mark there. One that ends
+/// - Blanks behind the last line break are padding that an earlier store left, and no line; so is
+/// an end mark there. One that ends
 ///   the last line belongs to no text.
 class LineScanner {
  public:
-  /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects to read.
+  /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects
+  /// to read.
   LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock);
-  /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line begins. A caller that
-  /// knows that they hold no NUL byte saves a search of each line.
+  /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line
+  /// begins. A caller that knows that they hold no NUL byte saves a search of each line.
   explicit LineScanner(std::string_view contents, std::int64_t from = 0, bool may_hold_nul = true);
   LineScanner(const LineScanner&) = delete;
   LineScanner& operator=(const LineScanner&) = delete;
@@ -34,7 +38,8 @@ class LineScanner {
   /// The next line; false at the end of the file, or when it cannot be read.
   bool next(Line& line);
 
-  /// The next line whose first byte is `first`. Much faster than asking `next` for each line between.
+  /// The next line whose first byte is `first`. Much faster than asking `next` for each line
+  /// between.
   bool next_starting_with(char first, Line& line);
 
   /// Goes on at an offset further on, if it lies in what is in memory already.
@@ -63,13 +68,15 @@ class LineScanner {
   bool failed_ = false;
   bool inside_long_line_ = false;
   bool may_hold_nul_ = false;
-  std::int64_t first_text_behind_ = 0;  // up to here, blanks without a line break are known not to be padding
-  std::unique_ptr<char[]> buffer_;      // null while a few lines are all that is expected
+  std::int64_t first_text_behind_ =
+      0;  // up to here, blanks without a line break are known not to be padding
+  std::unique_ptr<char[]> buffer_;  // null while a few lines are all that is expected
   char few_[kFew];
 };
 
-/// The length of the contents without the padding that an earlier store left at their end: behind the last line break,
-/// or behind the text of a last line that has none, where blanks belong to no value either.
+/// The length of the contents without the padding that an earlier store left at their end: behind
+/// the last line break, or behind the text of a last line that has none, where blanks belong to no
+/// value either.
 std::size_t length_without_padding(std::string_view contents);
 
 }  // namespace qel

@@ -5,8 +5,10 @@
 namespace qel {
 namespace {
 
-// Goes on to the section's header; `learnt` is its place in the index, which takes every header on the way.
-bool find_header(LineScanner& lines, std::string_view section, SectionIndex* index, SectionIndex::Section** learnt) {
+// Goes on to the section's header; `learnt` is its place in the index, which takes every header on
+// the way.
+bool find_header(LineScanner& lines, std::string_view section, SectionIndex* index,
+                 SectionIndex::Section** learnt) {
   Line line;
   while (lines.next_starting_with('[', line)) {
     if (!text::is_header(line.text)) {
@@ -35,7 +37,8 @@ struct IndexedTarget {
 // Enters a line that was passed into the index, once.
 void learn(const IndexedTarget& at, const Target& target, const Line& line) {
   const std::string_view token = text::first_token(line.text);
-  if (token.empty() || (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
+  if (token.empty() ||
+      (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
     return;
   }
   at.section.passed = at.index.mark(line, token);
@@ -43,12 +46,15 @@ void learn(const IndexedTarget& at, const Target& target, const Line& line) {
   if (target.by_key() && token == target.key) {
     at.index.learn_entry(at.name, line, token);
   } else if (text::is_findable(token)) {
-    at.index.learn_entry(at.index.line_name(SectionIndex::Purpose::passed, target.section, token), line, token);
+    at.index.learn_entry(at.index.line_name(SectionIndex::Purpose::passed, target.section, token),
+                         line, token);
   }
 }
 
-// From the line behind the header on; or, when `header_comes_first`, from the header, which then counts as line 1.
-std::optional<Line> find_inside(LineScanner& lines, const Target& target, const IndexedTarget* indexed, bool header_comes_first) {
+// From the line behind the header on; or, when `header_comes_first`, from the header, which then
+// counts as line 1.
+std::optional<Line> find_inside(LineScanner& lines, const Target& target,
+                                const IndexedTarget* indexed, bool header_comes_first) {
   Line line;
   for (int position = 1; lines.next(line); ++position, header_comes_first = false) {
     // An offset of an earlier file may lie inside a line.
@@ -75,11 +81,12 @@ std::optional<Line> find_inside(LineScanner& lines, const Target& target, const 
 constexpr std::size_t kOneLine = 256;
 constexpr std::size_t kOneSection = 4096;
 
-// A lookup in one reading session. Each step that takes something learnt of the present file looks whether it still stands there,
-// and sets `changed` where it does not.
+// A lookup in one reading session. Each step that takes something learnt of the present file looks
+// whether it still stands there, and sets `changed` where it does not.
 class IndexedLookup {
  public:
-  IndexedLookup(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines)
+  IndexedLookup(platform::RandomAccess& file, const Target& target, SectionIndex& index,
+                std::optional<LineScanner>& lines)
       : file_(file),
         target_(target),
         index_(index),
@@ -93,7 +100,9 @@ class IndexedLookup {
   using Place = SectionIndex::Place;
   using Section = SectionIndex::Section;
 
-  [[nodiscard]] bool is_present(std::uint32_t file) const { return index_.is_of_present_file(file); }
+  [[nodiscard]] bool is_present(std::uint32_t file) const {
+    return index_.is_of_present_file(file);
+  }
   void begin_at(const Place& place, std::size_t expected);
   bool next_at(const Place& place, Line& line);
   bool find_header_again(const Place& header, std::size_t expected, Line& line);
@@ -116,7 +125,8 @@ class IndexedLookup {
   bool changed_ = false;
 };
 
-// Whether a line's beginning shows by the line break in front of it. A piece of a long line has none, nor has the file's first line.
+// Whether a line's beginning shows by the line break in front of it. A piece of a long line has
+// none, nor has the file's first line.
 bool has_break_before(const SectionIndex::Place& place) {
   return !place.is_piece && place.offset > static_cast<std::int64_t>(text::kByteOrderMark.size());
 }
@@ -128,16 +138,18 @@ void IndexedLookup::begin_at(const Place& place, std::size_t expected) {
 
 // The line at the place, to which `lines_` has come; false where no line begins there any more.
 bool IndexedLookup::next_at(const Place& place, Line& line) {
-  return (!has_break_before(place) || (lines_->next(line) && line.end == place.offset)) && lines_->next(line);
+  return (!has_break_before(place) || (lines_->next(line) && line.end == place.offset)) &&
+         lines_->next(line);
 }
 
 bool IndexedLookup::find_header_again(const Place& header, std::size_t expected, Line& line) {
   begin_at(header, expected);
-  return next_at(header, line) && text::is_header(line.text) && text::first_token(line.text) == target_.section;
+  return next_at(header, line) && text::is_header(line.text) &&
+         text::first_token(line.text) == target_.section;
 }
 
-// The line at a place in the section. In the present file, nothing where the section's header or the line does not stand where it
-// stood. One read serves for both where they are near each other.
+// The line at a place in the section. In the present file, nothing where the section's header or
+// the line does not stand where it stood. One read serves for both where they are near each other.
 std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& place) {
   Line line;
   if (!is_present(place.file)) {
@@ -145,7 +157,8 @@ std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& 
     return lines_->next(line) ? std::optional(line) : std::nullopt;
   }
   bool is_there = false;
-  if (section != nullptr && is_present(section->header.file) && section->header.offset < place.offset) {
+  if (section != nullptr && is_present(section->header.file) &&
+      section->header.offset < place.offset) {
     const std::int64_t distance = place.offset - section->header.offset;
     const std::size_t both = static_cast<std::size_t>(distance) + kOneLine;
     if (!find_header_again(section->header, both <= LineScanner::kFew ? both : kOneLine, line)) {
@@ -161,12 +174,15 @@ std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& 
 
 std::optional<Line> IndexedLookup::find_known_entry(const Place& place) {
   const std::optional<Line> line = find_in(index_.section(target_.section), place);
-  return !is_present(place.file) || (line && text::first_token_is(line->text, target_.key)) ? line : note_change();
+  return !is_present(place.file) || (line && text::first_token_is(line->text, target_.key))
+             ? line
+             : note_change();
 }
 
 std::optional<Line> IndexedLookup::find_known_position(const LineMark& mark) {
   const std::optional<Line> line = find_in(index_.section(target_.section), mark.place());
-  return !is_present(mark.place().file) || (line && mark.matches(line->text)) ? line : note_change();
+  return !is_present(mark.place().file) || (line && mark.matches(line->text)) ? line
+                                                                              : note_change();
 }
 
 // Goes on where the last lookup in the section stopped.
@@ -264,10 +280,13 @@ std::optional<Line> find_plainly(LineScanner& lines, const Target& target) {
 }
 
 std::optional<Line> find_in_section(LineScanner& lines, const Target& target) {
-  return find_header(lines, target.section, nullptr, nullptr) ? find_inside(lines, target, nullptr, false) : std::nullopt;
+  return find_header(lines, target.section, nullptr, nullptr)
+             ? find_inside(lines, target, nullptr, false)
+             : std::nullopt;
 }
 
-std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines) {
+std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target,
+                                 SectionIndex& index, std::optional<LineScanner>& lines) {
   IndexedLookup lookup(file, target, index, lines);
   std::optional<Line> line = lookup.find();
   if (lookup.changed()) {

@@ -9,7 +9,8 @@
 
 namespace qel {
 
-/// What is looked for: the entry of a key, or the line at a position (1 is the first line behind the header).
+/// What is looked for: the entry of a key, or the line at a position (1 is the first line behind
+/// the header).
 struct Target {
   std::string_view section;
   std::string_view key;
@@ -19,22 +20,26 @@ struct Target {
   [[nodiscard]] bool by_key() const { return index < 0; }
 };
 
-/// The plain scan: a key is searched for from the section's first header to the end of the file, later sections included.
+/// The plain scan: a key is searched for from the section's first header to the end of the file,
+/// later sections included.
 std::optional<Line> find_plainly(LineScanner& lines, const Target& target);
 
 /// The first header of the section.
 bool find_plain_header(LineScanner& lines, std::string_view section, Line& header);
 
-/// Whether the line at a position (counted from 1 behind the header) is the one the plain scan looks for.
+/// Whether the line at a position (counted from 1 behind the header) is the one the plain scan
+/// looks for.
 bool is_target(const Target& target, const Line& line, int position);
 
-/// The indexed scan, as one-shot raw reads use it: the section ends at the next header line. The section index is not
-/// consulted, and left as it is.
+/// The indexed scan, as one-shot raw reads use it: the section ends at the next header line. The
+/// section index is not consulted, and left as it is.
 std::optional<Line> find_in_section(LineScanner& lines, const Target& target);
 
-/// The indexed lookup of a reading session. A line or header that is known is taken from where it was seen, if it still stands
-/// there; where it does not, the file was changed, and all that was learnt is forgotten. What was learnt of an earlier file is
-/// taken as it is. The line's text is only valid while `lines` lives.
-std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target, SectionIndex& index, std::optional<LineScanner>& lines);
+/// The indexed lookup of a reading session. A line or header that is known is taken from where it
+/// was seen, if it still stands there; where it does not, the file was changed, and all that was
+/// learnt is forgotten. What was learnt of an earlier file is taken as it is. The line's text is
+/// only valid while `lines` lives.
+std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target,
+                                 SectionIndex& index, std::optional<LineScanner>& lines);
 
 }  // namespace qel

@@ -5,8 +5,8 @@
 
 namespace qel {
 
-/// A hash of a name under a key that each run of the program draws anew: whoever writes a file cannot know which of its names
-/// share a hash, and so cannot make a table of them slow.
+/// A hash of a name under a key that each run of the program draws anew: whoever writes a file
+/// cannot know which of its names share a hash, and so cannot make a table of them slow.
 std::uint64_t name_hash(std::string_view name);
 
 }  // namespace qel

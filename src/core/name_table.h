@@ -11,7 +11,8 @@
 
 namespace qel {
 
-/// A name with its hash, so that asking for it and entering it costs one hash. The text outlives the name.
+/// A name with its hash, so that asking for it and entering it costs one hash. The text outlives
+/// the name.
 struct HashedName {
   explicit HashedName(std::string_view name) : text(name), hash(name_hash(name)) {}
   std::string_view text;
@@ -56,7 +57,8 @@ class NameTable {
   [[nodiscard]] std::size_t size() const { return entries_.size(); }
   [[nodiscard]] Value& value(std::size_t position) { return entries_[position].value; }
   [[nodiscard]] std::string_view name(std::size_t position) const {
-    return std::string_view(names_).substr(entries_[position].name_at, entries_[position].name_size);
+    return std::string_view(names_).substr(entries_[position].name_at,
+                                           entries_[position].name_size);
   }
 
   void clear() {
@@ -77,7 +79,8 @@ class NameTable {
   [[nodiscard]] std::size_t slot_of(const HashedName& wanted) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = static_cast<std::size_t>(wanted.hash) & mask;
-    while (slots_[slot] != 0 && (entries_[slots_[slot] - 1].hash != wanted.hash || name(slots_[slot] - 1) != wanted.text)) {
+    while (slots_[slot] != 0 && (entries_[slots_[slot] - 1].hash != wanted.hash ||
+                                 name(slots_[slot] - 1) != wanted.text)) {
       slot = (slot + 1) & mask;
     }
     return slot;
@@ -99,7 +102,8 @@ class NameTable {
 
   std::string names_;  // one behind the other
   std::vector<Entry> entries_;
-  std::vector<std::uint32_t> slots_;  // 0, or 1 + an entry's position; a power of two of them, at most half taken
+  std::vector<std::uint32_t>
+      slots_;  // 0, or 1 + an entry's position; a power of two of them, at most half taken
 };
 
 }  // namespace qel

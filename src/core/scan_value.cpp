@@ -6,7 +6,8 @@
 
 namespace qel {
 
-std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::string_view section, std::string_view key, std::string& contents) {
+std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::string_view section,
+                                           std::string_view key, std::string& contents) {
   constexpr std::string_view kStripped = " \t\f\v\n\r";
   const std::int64_t size = file.size_in_memory();
   if (size < 0) {
@@ -26,7 +27,8 @@ std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::st
       continue;
     }
     const std::size_t equals = line.find('=');
-    if (equals != std::string_view::npos && text::trim_end(line.substr(0, equals), kStripped) == key) {
+    if (equals != std::string_view::npos &&
+        text::trim_end(line.substr(0, equals), kStripped) == key) {
       std::string_view value = text::trim_end(line.substr(equals + 1), kStripped);
       value.remove_prefix(std::min(value.find_first_not_of(' '), value.size()));
       return value;

@@ -7,7 +7,8 @@
 namespace qel {
 
 LineMark::LineMark(const Line& line, std::string_view first_token, std::uint32_t file)
-    : place_{line.start, file, line.is_piece}, token_size_(static_cast<std::uint32_t>(first_token.size())) {
+    : place_{line.start, file, line.is_piece},
+      token_size_(static_cast<std::uint32_t>(first_token.size())) {
   first_token.copy(token_, sizeof token_);
 }
 
@@ -32,7 +33,8 @@ SectionIndex::Section* SectionIndex::section(std::string_view name) {
   return &sections_.value(last_section_);
 }
 
-HashedName SectionIndex::line_name(Purpose purpose, std::string_view section, std::string_view key) {
+HashedName SectionIndex::line_name(Purpose purpose, std::string_view section,
+                                   std::string_view key) {
   // Neither part holds a line break, so that no two lines share a name.
   std::string& name = names_[static_cast<std::size_t>(purpose)];
   name.assign(section).push_back('\n');
@@ -45,13 +47,15 @@ void SectionIndex::note_furthest(const Line& line, std::string_view first_token)
   }
 }
 
-void SectionIndex::learn_entry(const HashedName& name, const Line& line, std::string_view first_token) {
+void SectionIndex::learn_entry(const HashedName& name, const Line& line,
+                               std::string_view first_token) {
   if (entries_.insert(name, {line.start, file_, line.is_piece}).is_new) {
     note_furthest(line, first_token);
   }
 }
 
-void SectionIndex::learn_position(const HashedName& name, const Line& line, std::string_view first_token) {
+void SectionIndex::learn_position(const HashedName& name, const Line& line,
+                                  std::string_view first_token) {
   positions_.insert(name, mark(line, first_token));
   note_furthest(line, first_token);
 }

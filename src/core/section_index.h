@@ -16,7 +16,8 @@ struct SeenAt {
   bool is_piece = false;   ///< It begins inside a line that is too long.
 };
 
-/// A line that a session has seen: where it began, and how, so that a later look tells whether it still does.
+/// A line that a session has seen: where it began, and how, so that a later look tells whether it
+/// still does.
 class LineMark {
  public:
   LineMark() = default;
@@ -25,7 +26,8 @@ class LineMark {
   [[nodiscard]] bool is_set() const { return place_.file != 0; }
   [[nodiscard]] const SeenAt& place() const { return place_; }
 
-  /// Whether a line begins with the first token that the marked one had, as far as the mark remembers it.
+  /// Whether a line begins with the first token that the marked one had, as far as the mark
+  /// remembers it.
   [[nodiscard]] bool matches(std::string_view line) const;
 
  private:
@@ -34,8 +36,9 @@ class LineMark {
   char token_[20];  // its first characters: enough to tell the keys of a section apart
 };
 
-/// Where the headers and entries that a reading session has passed begin. It only grows, but for `forget`. What was learnt of an
-/// earlier file of the session stays; its file number tells it from the present one's.
+/// Where the headers and entries that a reading session has passed begin. It only grows, but for
+/// `forget`. What was learnt of an earlier file of the session stays; its file number tells it from
+/// the present one's.
 class SectionIndex {
  public:
   SectionIndex() = default;
@@ -46,23 +49,25 @@ class SectionIndex {
 
   struct Section {
     Place header;
-    LineMark passed;  ///< The last entry line of the present file that was learnt; what stands before it is known.
+    LineMark passed;  ///< The last entry line of the present file that was learnt; what stands
+                      ///< before it is known.
   };
 
-  /// The section of this name; valid until the next `learn_section`. It is entered where it is new, which a lookup that meets its
-  /// header does.
+  /// The section of this name; valid until the next `learn_section`. It is entered where it is new,
+  /// which a lookup that meets its header does.
   Section& learn_section(std::string_view name, const Line& header);
   /// Null for a section that has not been passed.
   [[nodiscard]] Section* section(std::string_view name);
 
-  /// The one name under which a line is looked up: its section's and its key's, as they are spelled in the file. Valid until the
-  /// next call with the same purpose.
+  /// The one name under which a line is looked up: its section's and its key's, as they are spelled
+  /// in the file. Valid until the next call with the same purpose.
   enum class Purpose { looked_for, passed };
   HashedName line_name(Purpose purpose, std::string_view section, std::string_view key);
 
   /// Enters the line of a key, the first time that the key is met.
   void learn_entry(const HashedName& name, const Line& line, std::string_view first_token);
-  /// Notes the line that a lookup by position found, the first time: later ones under the same name find it again.
+  /// Notes the line that a lookup by position found, the first time: later ones under the same name
+  /// find it again.
   void learn_position(const HashedName& name, const Line& line, std::string_view first_token);
   /// Null for a line that has not been passed; valid until the next `learn_entry`.
   [[nodiscard]] const Place* entry(const HashedName& name) { return entries_.find(name); }
@@ -73,7 +78,9 @@ class SectionIndex {
 
   [[nodiscard]] bool is_of_present_file(std::uint32_t file) const { return file == file_; }
   /// A mark of the present file for a line.
-  [[nodiscard]] LineMark mark(const Line& line, std::string_view first_token) const { return {line, first_token, file_}; }
+  [[nodiscard]] LineMark mark(const Line& line, std::string_view first_token) const {
+    return {line, first_token, file_};
+  }
 
   /// Another file is read from now on. The offsets stay.
   void begin_file() { ++file_; }

@@ -44,7 +44,8 @@
 #include "blocks/var_cool_ctl.h"
 #include "core/document.h"
 
-/// What stands behind one exported reader or writer: one block of each section kind, and the document that they share.
+/// What stands behind one exported reader or writer: one block of each section kind, and the
+/// document that they share.
 class CQELPROIOBase {
  public:
   CQELPROIOBase();
@@ -52,7 +53,8 @@ class CQELPROIOBase {
   CQELPROIOBase& operator=(const CQELPROIOBase&) = delete;
   virtual ~CQELPROIOBase() = default;
 
-  /// Attaches the document to every block, whatever each answers; true when all of them took it. Null changes nothing.
+  /// Attaches the document to every block, whatever each answers; true when all of them took it.
+  /// Null changes nothing.
   bool AttachDocument(CQELPROIO* document);
 
   [[nodiscard]] CQELPROIO& document() { return *document_; }

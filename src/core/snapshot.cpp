@@ -21,7 +21,8 @@ std::optional<int> printed_number(std::string_view text) {
 }
 
 std::optional<int> number_behind(std::string_view text, std::string_view prefix) {
-  return text.substr(0, prefix.size()) == prefix ? printed_number(text.substr(prefix.size())) : std::nullopt;
+  return text.substr(0, prefix.size()) == prefix ? printed_number(text.substr(prefix.size()))
+                                                 : std::nullopt;
 }
 
 // The first characters of a key as a number that orders as they do.
@@ -92,9 +93,10 @@ bool Snapshot::sort_entries_of(std::string_view section) {
 
 std::vector<Snapshot::Sorted>::const_iterator Snapshot::first_from(std::string_view key) const {
   const std::uint64_t front = front_of(key);
-  return std::lower_bound(sorted_.begin(), sorted_.end(), key, [this, front](const Sorted& a, std::string_view b) {
-    return a.front != front ? a.front < front : entries_[a.entry].key < b;
-  });
+  return std::lower_bound(sorted_.begin(), sorted_.end(), key,
+                          [this, front](const Sorted& a, std::string_view b) {
+                            return a.front != front ? a.front < front : entries_[a.entry].key < b;
+                          });
 }
 
 std::optional<std::string_view> Snapshot::value(std::string_view section, std::string_view key) {
@@ -126,7 +128,8 @@ std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most)
   return result;
 }
 
-const std::vector<Snapshot::Numbered>& Snapshot::numbered(std::string_view section, std::string_view prefix, int most) {
+const std::vector<Snapshot::Numbered>& Snapshot::numbered(std::string_view section,
+                                                          std::string_view prefix, int most) {
   numbered_.clear();
   if (!sort_entries_of(section)) {
     return numbered_;
@@ -142,7 +145,8 @@ const std::vector<Snapshot::Numbered>& Snapshot::numbered(std::string_view secti
       numbered_.push_back({*number, text::entry_value(entry.line)});
     }
   }
-  std::sort(numbered_.begin(), numbered_.end(), [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
+  std::sort(numbered_.begin(), numbered_.end(),
+            [](const Numbered& a, const Numbered& b) { return a.number < b.number; });
   return numbered_;
 }
 

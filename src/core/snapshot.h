@@ -10,7 +10,8 @@
 
 namespace qel {
 
-/// A file's contents at one moment, for work that asks for very many keys of it. Its answers are those of one-shot raw reads.
+/// A file's contents at one moment, for work that asks for very many keys of it. Its answers are
+/// those of one-shot raw reads.
 class Snapshot {
  public:
   Snapshot() = default;
@@ -23,21 +24,24 @@ class Snapshot {
   /// False when the file cannot be read.
   bool load(const char* path);
 
-  /// The entries of the section that was asked for last, here or below, are kept in order, so that all keys of one section
-  /// cost about one pass over it.
+  /// The entries of the section that was asked for last, here or below, are kept in order, so that
+  /// all keys of one section cost about one pass over it.
   [[nodiscard]] bool has_section(std::string_view section) { return sort_entries_of(section); }
-  [[nodiscard]] std::optional<std::string_view> value(std::string_view section, std::string_view key);
+  [[nodiscard]] std::optional<std::string_view> value(std::string_view section,
+                                                      std::string_view key);
 
   struct Numbered {
     int number;
     std::string_view value;
   };
-  /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the place of "%d", ascending.
+  /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the
+  /// place of "%d", ascending.
   [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
 
-  /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in ascending order; valid until the
-  /// next call.
-  [[nodiscard]] const std::vector<Numbered>& numbered(std::string_view section, std::string_view prefix, int most);
+  /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in
+  /// ascending order; valid until the next call.
+  [[nodiscard]] const std::vector<Numbered>& numbered(std::string_view section,
+                                                      std::string_view prefix, int most);
 
  private:
   struct Entry {

@@ -8,9 +8,13 @@
 namespace qel {
 namespace {
 
-bool has_line_break(std::string_view text) { return text.find_first_of("\r\n") != std::string_view::npos; }
+bool has_line_break(std::string_view text) {
+  return text.find_first_of("\r\n") != std::string_view::npos;
+}
 
-std::string_view without_trailing_break(std::string_view value) { return text::trim_end(value, "\r\n"); }
+std::string_view without_trailing_break(std::string_view value) {
+  return text::trim_end(value, "\r\n");
+}
 
 // The longest line that may be written; its line break counts as one character.
 bool fits(std::string_view line) { return line.size() + 1 <= text::kLongestLine; }
@@ -20,14 +24,18 @@ std::string line_of(const Entry& entry) {
   return entry.target.by_key() ? text::padded_entry(entry.target.key, value) : std::string(value);
 }
 
-std::string inserted_line_of(const Entry& entry) { return text::plain_entry(entry.target.key, without_trailing_break(entry.value)); }
+std::string inserted_line_of(const Entry& entry) {
+  return text::plain_entry(entry.target.key, without_trailing_break(entry.value));
+}
 
-// Whether the line holds a value under the key, indented or not; what stands between the two is "=" or a carriage return.
+// Whether the line holds a value under the key, indented or not; what stands between the two is "="
+// or a carriage return.
 bool assigns(std::string_view line, std::string_view key) {
   constexpr std::string_view kSeparators = "=\r\n";
   line.remove_prefix(std::min(line.find_first_not_of(kSeparators), line.size()));
   const std::size_t end = line.find_first_of(kSeparators);
-  return end != std::string_view::npos && line.find_first_not_of(kSeparators, end) != std::string_view::npos &&
+  return end != std::string_view::npos &&
+         line.find_first_not_of(kSeparators, end) != std::string_view::npos &&
          text::trim_blanks(line.substr(0, end)) == key;
 }
 
@@ -35,7 +43,9 @@ bool assigns(std::string_view line, std::string_view key) {
 
 bool is_refused(const Entry& entry) {
   const Target& target = entry.target;
-  const auto holds_end_mark = [](std::string_view text) { return text.find(text::kEndMark) != std::string_view::npos; };
+  const auto holds_end_mark = [](std::string_view text) {
+    return text.find(text::kEndMark) != std::string_view::npos;
+  };
   if (holds_end_mark(target.section) || holds_end_mark(target.key) || holds_end_mark(entry.value)) {
     return true;  // some programs would take it for the end of the file
   }
@@ -43,12 +53,14 @@ bool is_refused(const Entry& entry) {
     return true;
   }
   if (target.by_key()) {
-    return !text::is_section_name(target.section) || !text::is_key(target.key) || !fits(inserted_line_of(entry));
+    return !text::is_section_name(target.section) || !text::is_key(target.key) ||
+           !fits(inserted_line_of(entry));
   }
-  // A positional section is asked for by the first token of its header, which may be an open bracket and a word. A line that reads
-  // as a header would end the section it stands in.
+  // A positional section is asked for by the first token of its header, which may be an open
+  // bracket and a word. A line that reads as a header would end the section it stands in.
   const std::string line = line_of(entry);
-  return target.index == 0 || !text::is_findable(target.section) || target.section.front() != '[' || !fits(line) || text::is_header(line);
+  return target.index == 0 || !text::is_findable(target.section) || target.section.front() != '[' ||
+         !fits(line) || text::is_header(line);
 }
 
 bool Store::load() {
@@ -65,7 +77,8 @@ bool Store::load() {
   return true;
 }
 
-// Puts bytes over the file's from an offset on, growing it where they reach further; all of them, or none.
+// Puts bytes over the file's from an offset on, growing it where they reach further; all of them,
+// or none.
 bool Store::overwrite(std::size_t at, std::string_view bytes) {
   const auto offset = static_cast<std::int64_t>(at);
   const auto old_size = static_cast<std::int64_t>(image_.bytes().size());
@@ -92,7 +105,8 @@ Result Store::splice(std::size_t at, std::size_t old_end, std::string_view text)
   const std::size_t contents_size = contents_.size();
   std::string behind;
   if (shortens_) {
-    behind = (old_end < contents_size ? contents_ : text).back() == '\n' ? std::string_view() : line_break_;
+    behind = (old_end < contents_size ? contents_ : text).back() == '\n' ? std::string_view()
+                                                                         : line_break_;
   } else if (text.size() < old_end - at) {
     // The file keeps its length. The blanks of earlier padding are there already.
     behind.assign(old_end - at - text.size(), ' ');
@@ -160,7 +174,9 @@ Result Store::set(const Entry& entry, bool may_insert) {
   return may_insert ? insert_into_section(entry) : Result::absent;
 }
 
-Result Store::insert(const Entry& entry) { return load() ? insert_into_section(entry) : Result::no_open; }
+Result Store::insert(const Entry& entry) {
+  return load() ? insert_into_section(entry) : Result::no_open;
+}
 
 Result Store::insert_into_section(const Entry& entry) {
   const Target& target = entry.target;

@@ -5,7 +5,8 @@ namespace {
 
 bool ends_token(char c) { return c == ' ' || c == '\t' || c == '='; }
 
-// These walk byte by byte: names and blanks are short, and a search for one of several characters costs a call for each byte.
+// These walk byte by byte: names and blanks are short, and a search for one of several characters
+// costs a call for each byte.
 std::string_view without_leading_blanks(std::string_view text) {
   std::size_t blanks = 0;
   while (blanks < text.size() && text[blanks] == ' ') {
@@ -16,7 +17,8 @@ std::string_view without_leading_blanks(std::string_view text) {
 
 std::string_view without_trailing(std::string_view text) {
   std::size_t length = text.size();
-  while (length > 0 && (text[length - 1] == ' ' || text[length - 1] == '\t' || text[length - 1] == '\n')) {
+  while (length > 0 &&
+         (text[length - 1] == ' ' || text[length - 1] == '\t' || text[length - 1] == '\n')) {
     --length;
   }
   return text.substr(0, length);
@@ -33,22 +35,26 @@ std::string_view first_token(std::string_view line) {
 }
 
 bool first_token_is(std::string_view line, std::string_view token) {
-  return !token.empty() && line.substr(0, token.size()) == token && (line.size() == token.size() || ends_token(line[token.size()])) &&
-         is_findable(token);
+  return !token.empty() && line.substr(0, token.size()) == token &&
+         (line.size() == token.size() || ends_token(line[token.size()])) && is_findable(token);
 }
 
 std::string_view entry_value(std::string_view line) {
   const std::size_t equals = line.find('=');
-  return equals == std::string_view::npos ? std::string_view{} : index_value(line.substr(equals + 1));
+  return equals == std::string_view::npos ? std::string_view{}
+                                          : index_value(line.substr(equals + 1));
 }
 
-std::string_view index_value(std::string_view line) { return without_trailing(without_leading_blanks(line)); }
+std::string_view index_value(std::string_view line) {
+  return without_trailing(without_leading_blanks(line));
+}
 
 bool is_header(std::string_view line) {
   if (line.empty() || line.front() != '[') {
     return false;
   }
-  if (const std::string_view trimmed = without_trailing(line); trimmed.size() > 1 && trimmed.back() == ']') {
+  if (const std::string_view trimmed = without_trailing(line);
+      trimmed.size() > 1 && trimmed.back() == ']') {
     return true;
   }
   // The brackets may hold blanks; a "=" inside them ends the first token before they close.
@@ -65,7 +71,9 @@ bool is_header_of(std::string_view line, std::string_view section) {
   return first_token_is(line, section) && (section.front() != '[' || is_header(line));
 }
 
-std::string_view trim_blanks(std::string_view text) { return trim_end(without_leading_blanks(text), " "); }
+std::string_view trim_blanks(std::string_view text) {
+  return trim_end(without_leading_blanks(text), " ");
+}
 
 std::string_view trim_end(std::string_view text, std::string_view characters) {
   const std::size_t last = text.find_last_not_of(characters);
@@ -77,9 +85,13 @@ std::string_view without_end_mark(std::string_view last_line) {
   return last_line.find(kEndMark, text.size()) != std::string_view::npos ? text : last_line;
 }
 
-bool is_findable(std::string_view name) { return !name.empty() && name.find_first_of(" \t=\r\n") == std::string_view::npos; }
+bool is_findable(std::string_view name) {
+  return !name.empty() && name.find_first_of(" \t=\r\n") == std::string_view::npos;
+}
 
-bool is_section_name(std::string_view name) { return is_findable(name) && name.size() > 1 && name.front() == '[' && name.back() == ']'; }
+bool is_section_name(std::string_view name) {
+  return is_findable(name) && name.size() > 1 && name.front() == '[' && name.back() == ']';
+}
 
 bool is_key(std::string_view name) { return is_findable(name) && name.front() != '['; }
 
@@ -92,6 +104,8 @@ std::string padded_entry(std::string_view key, std::string_view value) {
   return line.append(" = ").append(value);
 }
 
-std::string plain_entry(std::string_view key, std::string_view value) { return std::string(key).append(" = ").append(value); }
+std::string plain_entry(std::string_view key, std::string_view value) {
+  return std::string(key).append(" = ").append(value);
+}
 
 }  // namespace qel::text

@@ -6,7 +6,8 @@
 /// The text rules of a process file. A line is given without its line break.
 namespace qel::text {
 
-/// The longest line, its line break counted as one character. A longer one is seen as several lines.
+/// The longest line, its line break counted as one character. A longer one is seen as several
+/// lines.
 inline constexpr std::size_t kLongestLine = 4095;
 
 /// What an editor may put at a file's very start; it belongs to no line.
@@ -15,7 +16,8 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// A positional section is always created with this header; lookups find it by its first token.
 inline constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
 
-/// The text up to the first blank, tab or "=". A line that begins with a blank has an empty first token.
+/// The text up to the first blank, tab or "=". A line that begins with a blank has an empty first
+/// token.
 std::string_view first_token(std::string_view line);
 
 /// Whether the first token of the line is exactly this non-empty text.
@@ -28,12 +30,12 @@ std::string_view entry_value(std::string_view line);
 /// The whole line, trimmed as a value is.
 std::string_view index_value(std::string_view line);
 
-/// Whether a section begins at the line: it reads "[...]" once what trails it is removed, or words stand behind its "[...]".
-/// A "=" behind the brackets makes it the entry of an odd key.
+/// Whether a section begins at the line: it reads "[...]" once what trails it is removed, or words
+/// stand behind its "[...]". A "=" behind the brackets makes it the entry of an odd key.
 bool is_header(std::string_view line);
 
-/// Whether the line is the header of the section of this name. A name that does not begin with a bracket, under which nothing
-/// is ever stored, is found at any line that begins with it.
+/// Whether the line is the header of the section of this name. A name that does not begin with a
+/// bracket, under which nothing is ever stored, is found at any line that begins with it.
 bool is_header_of(std::string_view line, std::string_view section);
 
 std::string_view trim_blanks(std::string_view text);
@@ -42,7 +44,8 @@ std::string_view trim_end(std::string_view text, std::string_view characters);
 /// Programs whose text mode knows an end mark stop reading at it.
 inline constexpr char kEndMark = '\x1A';
 
-/// What blanks and end marks at a file's very end are made of: no content, and room for the next store.
+/// What blanks and end marks at a file's very end are made of: no content, and room for the next
+/// store.
 inline constexpr std::string_view kPadding = " \x1A";
 
 /// The last line of a file, which has no line break, without an end mark and the blanks around it.
@@ -51,8 +54,8 @@ std::string_view without_end_mark(std::string_view last_line);
 /// Whether all of a name is first token, so that a line of it can be found.
 bool is_findable(std::string_view name);
 
-/// Whether a name reads as a section's, or as a key's, once it is written: a section's stands in brackets, and a key begins
-/// with none.
+/// Whether a name reads as a section's, or as a key's, once it is written: a section's stands in
+/// brackets, and a key begins with none.
 bool is_section_name(std::string_view name);
 bool is_key(std::string_view name);
 

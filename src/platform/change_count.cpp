@@ -10,9 +10,12 @@ std::array<std::atomic<std::uint32_t>, kCounters> counters;
 
 }  // namespace
 
-ChangeCount::ChangeCount(std::uint64_t device, std::uint64_t file) : counter_(&counters[(file + 31 * device) % kCounters]) {}
+ChangeCount::ChangeCount(std::uint64_t device, std::uint64_t file)
+    : counter_(&counters[(file + 31 * device) % kCounters]) {}
 
-std::uint32_t ChangeCount::value() const { return counter_ != nullptr ? counter_->load(std::memory_order_acquire) : 0; }
+std::uint32_t ChangeCount::value() const {
+  return counter_ != nullptr ? counter_->load(std::memory_order_acquire) : 0;
+}
 
 void ChangeCount::add() {
   if (counter_ != nullptr) {

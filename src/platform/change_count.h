@@ -6,8 +6,9 @@
 
 namespace qel::platform {
 
-/// Counts what this program writes, by file: a reader that learnt where lines stand sees that a writer beside it may have moved
-/// them. Files share counters, so that now and then a count moves although its file did not change.
+/// Counts what this program writes, by file: a reader that learnt where lines stand sees that a
+/// writer beside it may have moved them. Files share counters, so that now and then a count moves
+/// although its file did not change.
 class ChangeCount {
  public:
   ChangeCount() = default;

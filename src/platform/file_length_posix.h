@@ -19,16 +19,21 @@ int uninterrupted(Call call) {
   return result;
 }
 
-/// Whether the process may write a file up to there. A write past its limit on file sizes would end it with a signal.
+/// Whether the process may write a file up to there. A write past its limit on file sizes would end
+/// it with a signal.
 inline bool is_within_limit(std::int64_t end) {
   rlimit limit{};
-  return ::getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY || static_cast<rlim_t>(end) <= limit.rlim_cur;
+  return ::getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY ||
+         static_cast<rlim_t>(end) <= limit.rlim_cur;
 }
 
-/// Sets room aside for a file to grow from a length to another, which it does not take yet. A file system that cannot do that is
-/// asked for room by the write itself, which puts the old bytes back when it fails.
+/// Sets room aside for a file to grow from a length to another, which it does not take yet. A file
+/// system that cannot do that is asked for room by the write itself, which puts the old bytes back
+/// when it fails.
 inline bool set_room_aside(int fd, std::int64_t from, std::int64_t to) {
-  return uninterrupted([=] { return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, from, to - from); }) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+  return uninterrupted([=] { return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, from, to - from); }) ==
+             0 ||
+         errno == EOPNOTSUPP || errno == ENOSYS;
 }
 
 inline bool set_length(int fd, std::int64_t length) {

@@ -40,7 +40,8 @@ std::optional<std::string> format(const char* format, std::va_list arguments) {
   const CNumbers numbers;
   std::va_list again;
   va_copy(again, arguments);
-  const int length = std::vsnprintf(nullptr, 0, format, again);  // NOLINT(clang-analyzer-valist.Uninitialized): va_copy sets it
+  const int length = std::vsnprintf(
+      nullptr, 0, format, again);  // NOLINT(clang-analyzer-valist.Uninitialized): va_copy sets it
   va_end(again);
   if (length < 0) {
     return std::nullopt;

@@ -64,10 +64,11 @@ bool set_aside(HANDLE handle, std::int64_t size) {
   if (::SetFileInformationByHandle(handle, FileAllocationInfo, &room, sizeof room) != 0) {
     return true;
   }
-  // A file system that cannot set room aside is asked for it by the write itself, which puts the old bytes back
-  // when it fails.
+  // A file system that cannot set room aside is asked for it by the write itself, which puts the
+  // old bytes back when it fails.
   const DWORD error = ::GetLastError();
-  return error != ERROR_DISK_FULL && error != ERROR_HANDLE_DISK_FULL && error != ERROR_ACCESS_DENIED;
+  return error != ERROR_DISK_FULL && error != ERROR_HANDLE_DISK_FULL &&
+         error != ERROR_ACCESS_DENIED;
 }
 
 bool set_size(HANDLE handle, std::int64_t size) {

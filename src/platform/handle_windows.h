@@ -9,7 +9,9 @@
 namespace qel::platform {
 
 inline HANDLE to_handle(std::intptr_t number) { return reinterpret_cast<HANDLE>(number); }
-inline std::intptr_t handle_number(HANDLE handle) { return reinterpret_cast<std::intptr_t>(handle); }
+inline std::intptr_t handle_number(HANDLE handle) {
+  return reinterpret_cast<std::intptr_t>(handle);
+}
 
 /// Whether it has contents at offsets: a device, a pipe or a console has none.
 bool is_disk_file(HANDLE handle);

@@ -8,8 +8,8 @@
 
 namespace qel::platform {
 
-/// A stream that the caller opened and keeps. Its position afterwards is unspecified; what was written is flushed.
-/// A stream over a device or a pipe can neither be read nor measured.
+/// A stream that the caller opened and keeps. Its position afterwards is unspecified; what was
+/// written is flushed. A stream over a device or a pipe can neither be read nor measured.
 class LentStream final : public RandomAccess {
  public:
   explicit LentStream(std::FILE* stream);

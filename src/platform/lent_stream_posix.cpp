@@ -7,7 +7,8 @@
 
 namespace qel::platform {
 
-// A device may go on without end, and a pipe has no offsets. A stream over memory has no descriptor.
+// A device may go on without end, and a pipe has no offsets. A stream over memory has no
+// descriptor.
 LentStream::LentStream(std::FILE* stream) : stream_(stream) {
   const int fd = ::fileno(stream);
   struct stat status {};
@@ -42,7 +43,8 @@ std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t coun
 bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
   std::clearerr(stream_);
-  return ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) == 0 && std::fwrite(from, 1, count, stream_) == count && flush();
+  return ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) == 0 &&
+         std::fwrite(from, 1, count, stream_) == count && flush();
 }
 
 bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {

@@ -4,7 +4,8 @@
 
 #include "platform/handle_windows.h"
 
-// The bytes are read and written below the stream, which may have been opened in text mode and would translate them.
+// The bytes are read and written below the stream, which may have been opened in text mode and
+// would translate them.
 
 namespace qel::platform {
 namespace {
@@ -22,17 +23,22 @@ bool synchronize(std::FILE* stream) {
 
 }  // namespace
 
-LentStream::LentStream(std::FILE* stream) : stream_(stream), has_contents_(is_disk_file(handle_of(stream))), changes_(0, 0) {}
+LentStream::LentStream(std::FILE* stream)
+    : stream_(stream), has_contents_(is_disk_file(handle_of(stream))), changes_(0, 0) {}
 
-std::int64_t LentStream::size() { return has_contents_ && synchronize(stream_) ? size_of(handle_of(stream_)) : -1; }
+std::int64_t LentStream::size() {
+  return has_contents_ && synchronize(stream_) ? size_of(handle_of(stream_)) : -1;
+}
 
 std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
-  return has_contents_ && synchronize(stream_) ? read_from(handle_of(stream_), offset, to, count) : -1;
+  return has_contents_ && synchronize(stream_) ? read_from(handle_of(stream_), offset, to, count)
+                                               : -1;
 }
 
 bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
-  return has_contents_ && synchronize(stream_) && write_to(handle_of(stream_), offset, from, count) && flush();
+  return has_contents_ && synchronize(stream_) &&
+         write_to(handle_of(stream_), offset, from, count) && flush();
 }
 
 bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {

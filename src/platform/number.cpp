@@ -128,7 +128,8 @@ bool scan_real(const char*& at, Radix radix, double& value) {
   }
   double result = 0;
   if (take_word(p, "inf")) {
-    // "inf" may go on to "infinity" only: a scan that has begun the longer word does not fall back to the shorter one.
+    // "inf" may go on to "infinity" only: a scan that has begun the longer word does not fall back
+    // to the shorter one.
     if (lower(*p) == 'i' && !take_word(p, "inity")) {
       return false;
     }
@@ -187,7 +188,9 @@ bool scan_int(const char*& at, int& value) {
 
 bool scan_real(const char*& at, double& value) { return scan_real(at, Radix::any, value); }
 
-bool scan_decimal_real(const char*& at, double& value) { return scan_real(at, Radix::decimal, value); }
+bool scan_decimal_real(const char*& at, double& value) {
+  return scan_real(at, Radix::decimal, value);
+}
 
 bool scan_char(const char*& at, char& value) {
   if (*at == '\0') {
@@ -230,7 +233,8 @@ std::string print_real(double value) {
   constexpr int kSignificantDigits = 6;
   constexpr std::size_t kExponentDigits = 3;
   std::array<char, 32> buffer{};
-  const auto printed = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, kSignificantDigits);
+  const auto printed = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                     std::chars_format::general, kSignificantDigits);
   std::string text(buffer.data(), printed.ptr);
   const std::size_t e = text.find('e');
   if (e != std::string::npos) {

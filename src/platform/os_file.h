@@ -8,8 +8,8 @@
 
 namespace qel::platform {
 
-/// A regular file that this library opened itself. Anything else under the path (a directory, a pipe,
-/// a device) counts as a file that cannot be opened. Bytes are never translated.
+/// A regular file that this library opened itself. Anything else under the path (a directory, a
+/// pipe, a device) counts as a file that cannot be opened. Bytes are never translated.
 class OsFile final : public RandomAccess {
  public:
   OsFile() = default;
@@ -30,7 +30,8 @@ class OsFile final : public RandomAccess {
   std::int64_t size() override;
   /// The length that the file had when it was opened: known without asking again.
   [[nodiscard]] std::int64_t size_when_opened() const { return size_when_opened_; }
-  /// Tells this file from others, where the operating system says so without being asked again; 0 elsewhere.
+  /// Tells this file from others, where the operating system says so without being asked again; 0
+  /// elsewhere.
   [[nodiscard]] std::uint64_t identity() const { return identity_; }
   /// Moves with everything that this program writes to the file, through whatever object.
   [[nodiscard]] std::uint32_t change_count() const { return changes_.value(); }
@@ -40,7 +41,8 @@ class OsFile final : public RandomAccess {
   bool truncate(std::int64_t size) override;
   bool flush() override { return true; }
 
-  /// A stream over the same file with a position of its own, for a caller that asks for one. The caller closes it.
+  /// A stream over the same file with a position of its own, for a caller that asks for one. The
+  /// caller closes it.
   std::FILE* duplicate_as_stream();
 
  private:

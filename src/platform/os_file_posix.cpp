@@ -27,17 +27,23 @@ bool is_something_else(const char* path) {
   return ::stat(path, &status) == 0 && !S_ISREG(status.st_mode);
 }
 
-// What takes a regular file's place meanwhile may not stop the caller, so that nothing is waited for at first. A regular file then
-// has to be waited for only while another program holds a lease on it, which the system asks back.
+// What takes a regular file's place meanwhile may not stop the caller, so that nothing is waited
+// for at first. A regular file then has to be waited for only while another program holds a lease
+// on it, which the system asks back.
 int open_waiting_for_a_lease(const char* path, int flags) {
   const int fd = open_retrying(path, flags | O_NONBLOCK);
-  return fd < 0 && errno == EWOULDBLOCK && !is_something_else(path) ? open_retrying(path, flags) : fd;
+  return fd < 0 && errno == EWOULDBLOCK && !is_something_else(path) ? open_retrying(path, flags)
+                                                                    : fd;
 }
 
 // A named pipe is not opened at all: even that would be noticed at its other end.
-int open_file(const char* path, int flags) { return is_something_else(path) ? -1 : open_waiting_for_a_lease(path, flags); }
+int open_file(const char* path, int flags) {
+  return is_something_else(path) ? -1 : open_waiting_for_a_lease(path, flags);
+}
 
-std::uint64_t identity_of(std::uint64_t device, std::uint64_t file) { return (device << 40U) ^ file; }
+std::uint64_t identity_of(std::uint64_t device, std::uint64_t file) {
+  return (device << 40U) ^ file;
+}
 
 int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
@@ -62,8 +68,8 @@ bool OsFile::adopt(std::intptr_t handle) {
   return true;
 }
 
-// A reader needs no more of the file than what the look before the opening told: should another one have come under the path since,
-// its reads tell.
+// A reader needs no more of the file than what the look before the opening told: should another one
+// have come under the path since, its reads tell.
 bool OsFile::open_for_reading(const char* path) {
   close();
   struct stat status {};
@@ -81,7 +87,9 @@ bool OsFile::open_for_reading(const char* path) {
   return true;
 }
 
-bool OsFile::open_for_reading(const wchar_t* path) { return open_for_reading(to_utf8(path).c_str()); }
+bool OsFile::open_for_reading(const wchar_t* path) {
+  return open_for_reading(to_utf8(path).c_str());
+}
 
 bool OsFile::open_for_update(const char* path) { return adopt(open_file(path, O_RDWR)); }
 
@@ -100,13 +108,15 @@ bool OsFile::close() {
 
 std::int64_t OsFile::size() {
   struct stat status {};
-  return ::fstat(descriptor(handle_), &status) == 0 ? static_cast<std::int64_t>(status.st_size) : -1;
+  return ::fstat(descriptor(handle_), &status) == 0 ? static_cast<std::int64_t>(status.st_size)
+                                                    : -1;
 }
 
 std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) {
   std::size_t done = 0;
   while (done < count) {
-    const ssize_t got = ::pread(descriptor(handle_), to + done, count - done, static_cast<off_t>(offset) + static_cast<off_t>(done));
+    const ssize_t got = ::pread(descriptor(handle_), to + done, count - done,
+                                static_cast<off_t>(offset) + static_cast<off_t>(done));
     if (got < 0) {
       if (errno == EINTR) {
         continue;
@@ -125,7 +135,8 @@ bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) 
   const CountedChange change(changes_);
   std::size_t done = 0;
   while (done < count) {
-    const ssize_t put = ::pwrite(descriptor(handle_), from + done, count - done, static_cast<off_t>(offset) + static_cast<off_t>(done));
+    const ssize_t put = ::pwrite(descriptor(handle_), from + done, count - done,
+                                 static_cast<off_t>(offset) + static_cast<off_t>(done));
     if (put < 0 && errno == EINTR) {
       continue;
     }

@@ -19,11 +19,13 @@ constexpr DWORD kReading = GENERIC_READ;
 constexpr DWORD kUpdating = GENERIC_READ | GENERIC_WRITE;
 
 std::intptr_t open_existing(const char* path, DWORD access) {
-  return handle_number(::CreateFileA(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return handle_number(
+      ::CreateFileA(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 std::intptr_t open_existing(const wchar_t* path, DWORD access) {
-  return handle_number(::CreateFileW(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return handle_number(
+      ::CreateFileW(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 }  // namespace
@@ -54,7 +56,8 @@ bool OsFile::open_for_update(const char* path) { return adopt(open_existing(path
 bool OsFile::open_for_update(const wchar_t* path) { return adopt(open_existing(path, kUpdating)); }
 
 bool OsFile::create(const char* path) {
-  return adopt(handle_number(::CreateFileA(path, kUpdating, kShared, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
+  return adopt(handle_number(::CreateFileA(path, kUpdating, kShared, nullptr, OPEN_ALWAYS,
+                                           FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
 bool OsFile::close() {
@@ -68,14 +71,18 @@ bool OsFile::close() {
 
 std::int64_t OsFile::size() { return size_of(to_handle(handle_)); }
 
-std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) { return read_from(to_handle(handle_), offset, to, count); }
+std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) {
+  return read_from(to_handle(handle_), offset, to, count);
+}
 
 bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
   return write_to(to_handle(handle_), offset, from, count);
 }
 
-bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) { return end <= old_size || set_aside(to_handle(handle_), end); }
+bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) {
+  return end <= old_size || set_aside(to_handle(handle_), end);
+}
 
 bool OsFile::truncate(std::int64_t size) {
   const CountedChange change(changes_);
@@ -88,7 +95,8 @@ std::FILE* OsFile::duplicate_as_stream() {
   if (own == INVALID_HANDLE_VALUE) {
     return nullptr;
   }
-  const int descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(own), _O_RDONLY | _O_TEXT | _O_NOINHERIT);
+  const int descriptor =
+      ::_open_osfhandle(reinterpret_cast<std::intptr_t>(own), _O_RDONLY | _O_TEXT | _O_NOINHERIT);
   if (descriptor < 0) {
     ::CloseHandle(own);
     return nullptr;

@@ -17,9 +17,12 @@ class RandomAccess {
   /// The length in bytes, or -1 when it cannot be told.
   virtual std::int64_t size() = 0;
 
-  /// The length of a file that is to be held in memory whole; -1 also for one of more than 2 GiB, which no process file has.
+  /// The length of a file that is to be held in memory whole; -1 also for one of more than 2 GiB,
+  /// which no process file has.
   std::int64_t size_in_memory() { return in_memory(size()); }
-  static std::int64_t in_memory(std::int64_t size) { return size <= std::numeric_limits<std::int32_t>::max() ? size : -1; }
+  static std::int64_t in_memory(std::int64_t size) {
+    return size <= std::numeric_limits<std::int32_t>::max() ? size : -1;
+  }
 
   /// Reads up to `count` bytes; fewer only at the end of the file. -1 on failure.
   virtual std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) = 0;
@@ -27,8 +30,8 @@ class RandomAccess {
   /// Writes all of `count` bytes, or fails.
   virtual bool write_at(std::int64_t offset, const char* from, std::size_t count) = 0;
 
-  /// Makes sure that the file, which is `old_size` long, can be written up to `end`, before any old byte is touched.
-  /// The length that `size` tells stays `old_size`.
+  /// Makes sure that the file, which is `old_size` long, can be written up to `end`, before any old
+  /// byte is touched. The length that `size` tells stays `old_size`.
   virtual bool secure_growth(std::int64_t old_size, std::int64_t end) = 0;
 
   virtual bool truncate(std::int64_t size) = 0;

@@ -8,7 +8,9 @@ namespace {
 constexpr char32_t kReplacement = 0xFFFD;
 
 void append(std::string& to, char32_t c) {
-  const auto byte = [&to](char32_t value) { to.push_back(static_cast<char>(static_cast<unsigned char>(value))); };
+  const auto byte = [&to](char32_t value) {
+    to.push_back(static_cast<char>(static_cast<unsigned char>(value)));
+  };
   if (c < 0x80) {
     byte(c);
   } else if (c < 0x800) {
@@ -34,7 +36,8 @@ bool is_low_surrogate(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
 std::string to_utf8(const wchar_t* text) {
   std::string result;
   for (; *text != L'\0'; ++text) {
-    // wchar_t holds UTF-16 units on one platform and whole characters on the other; pairs occur on the first only.
+    // wchar_t holds UTF-16 units on one platform and whole characters on the other; pairs occur on
+    // the first only.
     auto c = static_cast<char32_t>(*text);
     if (is_high_surrogate(c) && is_low_surrogate(static_cast<char32_t>(text[1]))) {
       ++text;

@@ -14,13 +14,16 @@ struct WriterOfAPath : CQELPROWriter_Manipulator {
 };
 using SharedWriter = qel::Shared<WriterOfAPath>;
 
-SharedWriter* shared(CQELPROWriter_Manipulator* writer) { return static_cast<SharedWriter*>(writer); }
+SharedWriter* shared(CQELPROWriter_Manipulator* writer) {
+  return static_cast<SharedWriter*>(writer);
+}
 
 }  // namespace
 
 CQEL_ProcessAdapter::CQEL_ProcessAdapter() = default;
 
-CQEL_ProcessAdapter::CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other) : writer_(qel::share(shared(other.writer_))), path_(other.path_) {}
+CQEL_ProcessAdapter::CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other)
+    : writer_(qel::share(shared(other.writer_))), path_(other.path_) {}
 
 CQEL_ProcessAdapter& CQEL_ProcessAdapter::operator=(const CQEL_ProcessAdapter& other) {
   if (this != &other) {
@@ -81,7 +84,8 @@ bool CQEL_ProcessAdapter::SetGateValveX_ControlPoint(int count, int valve) {
   return true;
 }
 
-bool CQEL_ProcessAdapter::SetGateValveX_GateSetting(double value, bool flag, int mode, int point, int valve) {
+bool CQEL_ProcessAdapter::SetGateValveX_GateSetting(double value, bool flag, int mode, int point,
+                                                    int valve) {
   if (writer_ == nullptr) {
     return false;
   }
@@ -89,8 +93,10 @@ bool CQEL_ProcessAdapter::SetGateValveX_GateSetting(double value, bool flag, int
   return true;
 }
 
-bool CQEL_ProcessAdapter::SetGateValveX_GateSetting(double value, bool flag, int mode, int last, int point, int valve) {
-  return writer_ != nullptr && writer_->GateValveX_WriteGateSetting(value, flag ? 1 : 0, mode, last, point, valve);
+bool CQEL_ProcessAdapter::SetGateValveX_GateSetting(double value, bool flag, int mode, int last,
+                                                    int point, int valve) {
+  return writer_ != nullptr &&
+         writer_->GateValveX_WriteGateSetting(value, flag ? 1 : 0, mode, last, point, valve);
 }
 
 bool CQEL_ProcessAdapter::SetCoolCTL_WriteCoolantTemperature(double value, int entrance) {
@@ -106,12 +112,15 @@ bool CQEL_ProcessAdapter::SetCoolCTL_WriteCoolantSystem(int value, int entrance)
 }
 
 bool CQEL_ProcessAdapter::SetCoolCTL_WroteCoolantPressure(int value, int entrance) {
-  return writer_ != nullptr && writer_->CoolCTL_WroteCoolantPressure(static_cast<double>(value), entrance);
+  return writer_ != nullptr &&
+         writer_->CoolCTL_WroteCoolantPressure(static_cast<double>(value), entrance);
 }
 
-bool CQEL_ProcessAdapter::SetCoolant_WriteCoolant(double p1, double p2, double p3, double p4, int system, char* name, double f7, int f8,
+bool CQEL_ProcessAdapter::SetCoolant_WriteCoolant(double p1, double p2, double p3, double p4,
+                                                  int system, char* name, double f7, int f8,
                                                   int coolant) {
-  return writer_ != nullptr && writer_->Coolant_WriteCoolant(p1, p2, p3, p4, system, name, f7, f8, coolant);
+  return writer_ != nullptr &&
+         writer_->Coolant_WriteCoolant(p1, p2, p3, p4, system, name, f7, f8, coolant);
 }
 
 bool CQEL_ProcessAdapter::SetCoolChannelX_WriteDiameter(double value, int channel) {
@@ -126,19 +135,27 @@ bool CQEL_ProcessAdapter::SetCoolChannelX_WriteTimeSection(int value, int channe
   return writer_ != nullptr && writer_->CoolChannelX_WriteTimeSection(value, channel);
 }
 
-bool CQEL_ProcessAdapter::SetCoolChannelX_WriteControlPointSetting(double f1, int system, double temperature, double flow, int f5, int point,
-                                                                   int channel) {
-  return writer_ != nullptr && writer_->CoolChannelX_WriteControlPointSetting(f1, system, temperature, flow, f5, point, channel);
+bool CQEL_ProcessAdapter::SetCoolChannelX_WriteControlPointSetting(double f1, int system,
+                                                                   double temperature, double flow,
+                                                                   int f5, int point, int channel) {
+  return writer_ != nullptr && writer_->CoolChannelX_WriteControlPointSetting(
+                                   f1, system, temperature, flow, f5, point, channel);
 }
 
-bool CQEL_ProcessAdapter::SetCoolChannelX_WritePressureControlPointSetting(double f1, int system, double temperature, double pressure, int f5,
+bool CQEL_ProcessAdapter::SetCoolChannelX_WritePressureControlPointSetting(double f1, int system,
+                                                                           double temperature,
+                                                                           double pressure, int f5,
                                                                            int point, int channel) {
-  return writer_ != nullptr && writer_->CoolChannelX_WritePressureControlPointSetting(f1, system, temperature, pressure, f5, point, channel);
+  return writer_ != nullptr && writer_->CoolChannelX_WritePressureControlPointSetting(
+                                   f1, system, temperature, pressure, f5, point, channel);
 }
 
-bool CQEL_ProcessAdapter::SetCoolingChannelData(int channel, int group, double diameter, int time_set, double temperature, double flow_rate,
-                                                int system, double pressure, double point_time, int point_flag, double prop1, double prop2,
-                                                double prop3, double prop4, char* name, int use_pressure) {
+bool CQEL_ProcessAdapter::SetCoolingChannelData(int channel, int group, double diameter,
+                                                int time_set, double temperature, double flow_rate,
+                                                int system, double pressure, double point_time,
+                                                int point_flag, double prop1, double prop2,
+                                                double prop3, double prop4, char* name,
+                                                int use_pressure) {
   if (writer_ == nullptr) {
     return false;
   }
@@ -151,14 +168,17 @@ bool CQEL_ProcessAdapter::SetCoolingChannelData(int channel, int group, double d
   writer_->CoolChannelX_WriteGroupID(group, channel);
   writer_->CoolChannelX_WriteTimeSection(time_set, channel);
   if (use_pressure != 0) {
-    writer_->CoolChannelX_WritePressureControlPointSetting(point_time, system, temperature, pressure, point_flag, kFirstPoint, channel);
+    writer_->CoolChannelX_WritePressureControlPointSetting(
+        point_time, system, temperature, pressure, point_flag, kFirstPoint, channel);
   } else {
-    writer_->CoolChannelX_WriteControlPointSetting(point_time, system, temperature, flow_rate, point_flag, kFirstPoint, channel);
+    writer_->CoolChannelX_WriteControlPointSetting(point_time, system, temperature, flow_rate,
+                                                   point_flag, kFirstPoint, channel);
   }
   return true;
 }
 
-void CQEL_ProcessAdapter::GetMaterialDefaultValue(int kind, double& p1, double& p2, double& p3, double& p4) {
+void CQEL_ProcessAdapter::GetMaterialDefaultValue(int kind, double& p1, double& p2, double& p3,
+                                                  double& p4) {
   p1 = p2 = p4 = 0;  // the third is left alone for a kind that is not known
   switch (kind) {
     case 0:

@@ -29,7 +29,9 @@ struct LoadingReader : CQELPROReader_Manipulator {
   bool Open(const char* path) { return SetFilePath(path) && file.load(path); }
 };
 
-LoadingReader* loading(CQELPROReader_Manipulator* reader) { return static_cast<LoadingReader*>(reader); }
+LoadingReader* loading(CQELPROReader_Manipulator* reader) {
+  return static_cast<LoadingReader*>(reader);
+}
 
 Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader)->file; }
 
@@ -46,13 +48,16 @@ struct Convert {
   Target& target;
   const char* text;
 
-  void operator()(void (*set)(Target&, unsigned int)) const { set(target, static_cast<unsigned int>(to_int(text))); }
+  void operator()(void (*set)(Target&, unsigned int)) const {
+    set(target, static_cast<unsigned int>(to_int(text)));
+  }
   void operator()(void (*set)(Target&, double)) const { set(target, to_real(text)); }
   void operator()(void (*set)(Target&, const char*)) const { set(target, text); }
 };
 
 template <class Target, std::size_t count>
-void load_items(Snapshot& file, const char* section, const Item<Target> (&items)[count], Target& target) {
+void load_items(Snapshot& file, const char* section, const Item<Target> (&items)[count],
+                Target& target) {
   const std::string_view name = section;
   if (!file.has_section(name)) {
     return;
@@ -64,21 +69,24 @@ void load_items(Snapshot& file, const char* section, const Item<Target> (&items)
   }
 }
 
-// Hands the texts of a counted list to `append`, in order. Numbers that the section lacks are passed over; the count costs
-// no more than what the section holds.
+// Hands the texts of a counted list to `append`, in order. Numbers that the section lacks are
+// passed over; the count costs no more than what the section holds.
 template <class Append>
-void load_list(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, Append append) {
+void load_list(Snapshot& file, const char* section, std::string_view count_key,
+               std::string_view prefix, Append append) {
   const auto count = file.value(section, count_key);
   if (!count) {
     return;
   }
   std::string text;
-  for (const Snapshot::Numbered& entry : file.numbered(section, prefix, to_int(std::string(*count).c_str()))) {
+  for (const Snapshot::Numbered& entry :
+       file.numbered(section, prefix, to_int(std::string(*count).c_str()))) {
     append(text.assign(entry.value));
   }
 }
 
-void load_profile(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, QELG_Profile& profile) {
+void load_profile(Snapshot& file, const char* section, std::string_view count_key,
+                  std::string_view prefix, QELG_Profile& profile) {
   load_list(file, section, count_key, prefix, [&profile](const std::string& text) {
     QELG_2dPoint point;
     const char* at = text.c_str();
@@ -89,14 +97,18 @@ void load_profile(Snapshot& file, const char* section, std::string_view count_ke
   });
 }
 
-void load_array(Snapshot& file, const char* section, std::string_view count_key, std::string_view prefix, QELG_Array<double>& array) {
-  load_list(file, section, count_key, prefix, [&array](const std::string& text) { append_to(array, to_real(text.c_str())); });
+void load_array(Snapshot& file, const char* section, std::string_view count_key,
+                std::string_view prefix, QELG_Array<double>& array) {
+  load_list(file, section, count_key, prefix,
+            [&array](const std::string& text) { append_to(array, to_real(text.c_str())); });
 }
 
 // A list without a count ends before the first number that is missing.
-void load_open_list(Snapshot& file, const char* section, std::string_view prefix, QELG_Array<double>& array) {
+void load_open_list(Snapshot& file, const char* section, std::string_view prefix,
+                    QELG_Array<double>& array) {
   int expected = 1;
-  for (const Snapshot::Numbered& entry : file.numbered(section, prefix, std::numeric_limits<int>::max())) {
+  for (const Snapshot::Numbered& entry :
+       file.numbered(section, prefix, std::numeric_limits<int>::max())) {
     if (entry.number != expected++) {
       return;
     }
@@ -130,9 +142,11 @@ unsigned int project_type(const QELG_SimulatorProcess& process) {
 CQELProcessData_Manipulator::CQELProcessData_Manipulator() = default;
 
 // The reader lives no longer than a load: copies have none to share.
-CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) = default;
+CQELProcessData_Manipulator::CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other) =
+    default;
 
-CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(const CQELProcessData_Manipulator& other) = default;
+CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(
+    const CQELProcessData_Manipulator& other) = default;
 
 CQELProcessData_Manipulator::~CQELProcessData_Manipulator() { Dispose(); }
 
@@ -141,7 +155,8 @@ void CQELProcessData_Manipulator::Dispose() {
   reader_ = nullptr;
 }
 
-const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(const char* path) {
+const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
+    const char* path) {
   Dispose();
   try {
     reader_ = new LoadingReader;
@@ -199,7 +214,8 @@ void CQELProcessData_Manipulator::LoadInlets(QELG_SimulatorProcess& process) {
       load(2, "[Flow-EM2]", "[Pack-EM2]");
       break;
     default:
-      // Section by section, as the file hands them out; the stages of an inlet do not touch its control type.
+      // Section by section, as the file hands them out; the stages of an inlet do not touch its
+      // control type.
       for (unsigned int number = 1; number - 1 < process.GetNumOfInlets(); ++number) {
         LoadFlowCTLInfo(*process.GetFlowPackOfInlet_mod(number - 1), static_cast<int>(number));
       }
@@ -228,7 +244,8 @@ void CQELProcessData_Manipulator::LoadFlowCTL(QELG_SimulatorProcess& process) {
 }
 
 void CQELProcessData_Manipulator::MoldThermalBoundaryType(QELG_SimulatorProcess& process) {
-  load_items(file_of(reader_), "[MoldThermalBoundaryType]", qel::loading::kMoldThermalBoundaryType, process);
+  load_items(file_of(reader_), "[MoldThermalBoundaryType]", qel::loading::kMoldThermalBoundaryType,
+             process);
 }
 
 void CQELProcessData_Manipulator::LoadMachine(QELG_SimulatorProcess& process) {
@@ -238,13 +255,18 @@ void CQELProcessData_Manipulator::LoadMachine(QELG_SimulatorProcess& process) {
 void CQELProcessData_Manipulator::LoadRamposition(QELG_SimulatorProcess& process) {
   constexpr const char* kSection = "[RamPosition]";
   load_items(file_of(reader_), kSection, qel::loading::kRamPosition, process);
-  load_array(file_of(reader_), kSection, "RP_FRSet", "RP_FR-", *process.GetFlowRateRamPosition_mod());
-  load_array(file_of(reader_), kSection, "RP_IPSet", "RP_IP-", *process.GetInjectionPressureRamPosition_mod());
+  load_array(file_of(reader_), kSection, "RP_FRSet", "RP_FR-",
+             *process.GetFlowRateRamPosition_mod());
+  load_array(file_of(reader_), kSection, "RP_IPSet", "RP_IP-",
+             *process.GetInjectionPressureRamPosition_mod());
 }
 
-void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess& inlet, int number) {
-  // The closing bracket belongs to the key: the loader looks for it, unlike FlowCTLInfo_ReadFlowCTL.
-  if (const auto value = file_of(reader_).value("[FlowCTLInfo]", "FlowCTL-" + std::to_string(number) + "]")) {
+void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess& inlet,
+                                                  int number) {
+  // The closing bracket belongs to the key: the loader looks for it, unlike
+  // FlowCTLInfo_ReadFlowCTL.
+  if (const auto value =
+          file_of(reader_).value("[FlowCTLInfo]", "FlowCTL-" + std::to_string(number) + "]")) {
     set_process_InletControlType(inlet, static_cast<unsigned int>(scan_pair(*value).second));
   }
 }

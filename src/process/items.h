@@ -14,14 +14,17 @@
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
 
-/// Which key of the process file goes to which setter of the simulator's process object. The setter's type says how the
-/// text is converted. Where several keys of one table feed one setter, the last one that is there wins.
+/// Which key of the process file goes to which setter of the simulator's process object. The
+/// setter's type says how the text is converted. Where several keys of one table feed one setter,
+/// the last one that is there wins.
 namespace qel::loading {
 
 template <class Target>
 struct Item {
   std::string_view key;
-  std::variant<void (*)(Target&, unsigned int), void (*)(Target&, double), void (*)(Target&, const char*)> set;
+  std::variant<void (*)(Target&, unsigned int), void (*)(Target&, double),
+               void (*)(Target&, const char*)>
+      set;
 };
 
 // [CaeHeader], beside "ProjectType"
@@ -32,13 +35,20 @@ inline constexpr Item<QELG_SimulatorProcess> kCaeHeader[] = {
 
 // [Summary]
 inline constexpr Item<QELG_SimulatorProcess> kSummary[] = {
-    {summary::kTotalNodeEM.text, set_process_TotalNodeEM},           {summary::kTotalNodeEC.text, set_process_TotalNodeEC},
-    {summary::kTotalGateCTL.text, set_process_TotalGateCTL},         {summary::kTotalNodeMB.text, set_process_TotalNodeMB},
-    {summary::kTotalNodeBC.text, set_process_TotalNodeBC},           {summary::kTotalNodeMMM.text, set_process_TotalNodeMMM},
-    {summary::kSymVolRatio.text, set_process_SymVolRatio},           {summary::kTotalNodeHR.text, set_process_TotalNodeHR},
-    {summary::kTotalSTLNodeEC.text, set_process_TotalSTLNodeEC},     {summary::kTotalSTLNodeHR.text, set_process_TotalSTLNodeHR},
-    {summary::kTotalGrpCCL.text, set_process_TotalGrpCCL},           {summary::kTotalGrpCCS.text, set_process_TotalGrpCCS},
-    {summary::kTotalOverFlowCTL.text, set_process_TotalOverFlowCTL}, {summary::kIsTransientInletConv.text, set_process_IsTransientInletConv},
+    {summary::kTotalNodeEM.text, set_process_TotalNodeEM},
+    {summary::kTotalNodeEC.text, set_process_TotalNodeEC},
+    {summary::kTotalGateCTL.text, set_process_TotalGateCTL},
+    {summary::kTotalNodeMB.text, set_process_TotalNodeMB},
+    {summary::kTotalNodeBC.text, set_process_TotalNodeBC},
+    {summary::kTotalNodeMMM.text, set_process_TotalNodeMMM},
+    {summary::kSymVolRatio.text, set_process_SymVolRatio},
+    {summary::kTotalNodeHR.text, set_process_TotalNodeHR},
+    {summary::kTotalSTLNodeEC.text, set_process_TotalSTLNodeEC},
+    {summary::kTotalSTLNodeHR.text, set_process_TotalSTLNodeHR},
+    {summary::kTotalGrpCCL.text, set_process_TotalGrpCCL},
+    {summary::kTotalGrpCCS.text, set_process_TotalGrpCCS},
+    {summary::kTotalOverFlowCTL.text, set_process_TotalOverFlowCTL},
+    {summary::kIsTransientInletConv.text, set_process_IsTransientInletConv},
 };
 
 // [FlowCTL]
@@ -83,7 +93,8 @@ inline constexpr Item<QELG_SimulatorProcess> kMachine[] = {
     {machine::kBarrelCompressionCtrl.text, set_process_machine_BarrelCompressionCtrl},
     {machine::kNozzleVolume.text, set_process_machine_NozzleVolume},
     {machine::kMachineEnergyType.text, set_process_machine_MachineEnergyType},
-    {machine::kHydraulicPressureTransferFactor.text, set_process_machine_HydraulicPressureTransferFactor},
+    {machine::kHydraulicPressureTransferFactor.text,
+     set_process_machine_HydraulicPressureTransferFactor},
     {machine::kPITCHSIZE.text, set_process_machine_PITCHSIZE},
     {machine::kSCREWSPEED.text, set_process_machine_SCREWSPEED},
     {machine::kSCREWDIAFEED.text, set_process_machine_SCREWDIAFEED},
@@ -138,18 +149,27 @@ inline constexpr Item<QELG_SimulatorFlowPackProcess> kFlow[] = {
 
 // A packing section
 inline constexpr Item<QELG_SimulatorFlowPackProcess> kPack[] = {
-    {pack_x::kPackTime.text, set_process_PackTime},           {pack_x::kPackPres.text, set_process_PackPres},
-    {pack_x::kPackSwch.text, set_process_PackSwch},           {pack_x::kMaxEOFRatio.text, set_process_MaxEOFRatio},
-    {pack_x::kPPDisplayType.text, set_process_PPDisplayType}, {pack_x::kPPProfileType.text, set_process_PPProfileType},
-    {pack_x::kMaxPressSlop.text, set_process_MaxPressSlop},   {pack_x::kShutoff.text, set_process_Shutoff},
-    {pack_x::kMaterialType.text, set_process_MaterialType},   {pack_x::kFluidPres.text, set_process_FluidPres},
-    {pack_x::kFluidMaxFR.text, set_process_FluidMaxFR},       {pack_x::kFluidProfileType.text, set_process_FluidProfileType},
+    {pack_x::kPackTime.text, set_process_PackTime},
+    {pack_x::kPackPres.text, set_process_PackPres},
+    {pack_x::kPackSwch.text, set_process_PackSwch},
+    {pack_x::kMaxEOFRatio.text, set_process_MaxEOFRatio},
+    {pack_x::kPPDisplayType.text, set_process_PPDisplayType},
+    {pack_x::kPPProfileType.text, set_process_PPProfileType},
+    {pack_x::kMaxPressSlop.text, set_process_MaxPressSlop},
+    {pack_x::kShutoff.text, set_process_Shutoff},
+    {pack_x::kMaterialType.text, set_process_MaterialType},
+    {pack_x::kFluidPres.text, set_process_FluidPres},
+    {pack_x::kFluidMaxFR.text, set_process_FluidMaxFR},
+    {pack_x::kFluidProfileType.text, set_process_FluidProfileType},
 };
 
-// A curing section; it feeds the setters of packing, and its profile type stands under the key of packing.
+// A curing section; it feeds the setters of packing, and its profile type stands under the key of
+// packing.
 inline constexpr Item<QELG_SimulatorFlowPackProcess> kCure[] = {
-    {cure_x::kCureTime.text, set_process_PackTime},           {cure_x::kCurePres.text, set_process_PackPres},
-    {cure_x::kCureSwch.text, set_process_PackSwch},           {cure_x::kCPDisplayType.text, set_process_PPDisplayType},
+    {cure_x::kCureTime.text, set_process_PackTime},
+    {cure_x::kCurePres.text, set_process_PackPres},
+    {cure_x::kCureSwch.text, set_process_PackSwch},
+    {cure_x::kCPDisplayType.text, set_process_PPDisplayType},
     {cure_x::kPPProfileType.text, set_process_PPProfileType},
 };
 

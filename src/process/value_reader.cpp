@@ -3,10 +3,12 @@
 
 CQELProcessValueReader::CQELProcessValueReader() = default;
 CQELProcessValueReader::CQELProcessValueReader(const CQELProcessValueReader& /*other*/) = default;
-CQELProcessValueReader& CQELProcessValueReader::operator=(const CQELProcessValueReader& /*other*/) = default;
+CQELProcessValueReader& CQELProcessValueReader::operator=(const CQELProcessValueReader& /*other*/) =
+    default;
 
-bool CQELProcessValueReader::GetVPSwitch(CQELPROReader_Manipulator* reader, int c1, int c2, int c3, int c4, int c5, int c6, int c7, int& first,
-                                         int& second, double& value) {
+bool CQELProcessValueReader::GetVPSwitch(CQELPROReader_Manipulator* reader, int c1, int c2, int c3,
+                                         int c4, int c5, int c6, int c7, int& first, int& second,
+                                         double& value) {
   int mode = 0;
   if (reader == nullptr || !reader->FlowCTL_ReadVPSwitchCtrl(mode)) {
     return false;

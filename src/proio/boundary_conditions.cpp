@@ -51,7 +51,9 @@ Place place_of(Source& source, std::int64_t contents_end, int condition, int poi
   return place;
 }
 
-int as_index(long long line) { return static_cast<int>(std::min<long long>(line, std::numeric_limits<int>::max())); }
+int as_index(long long line) {
+  return static_cast<int>(std::min<long long>(line, std::numeric_limits<int>::max()));
+}
 
 }  // namespace
 
@@ -63,7 +65,8 @@ bool CPROIO_Manipulator::WriteBC(long long line, const char* text) {
   return line >= 1 && IsOK(Write(boundary_condition::kSection, "", text, true, as_index(line)));
 }
 
-// A line of up to three words has a name of one word; a longer one has a name of several, and a type.
+// A line of up to three words has a name of one word; a longer one has a name of several, and a
+// type.
 bool CPROIO_Manipulator::GetBC(const char* text, int& count, char*& name, int& type) {
   if (text == nullptr) {
     return false;
@@ -102,10 +105,12 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
     if (path_ == nullptr || !file.open_for_reading(path_)) {
       return false;
     }
-    const Place place = place_of<platform::RandomAccess>(file, length_without_padding(file), bc, point);
+    const Place place =
+        place_of<platform::RandomAccess>(file, length_without_padding(file), bc, point);
     Buffer text;
     if (!place.readable || !place.named || place.line < 1 ||
-        read(file, {boundary_condition::kSection, {}, as_index(place.line)}, text) != Code::success) {
+        read(file, {boundary_condition::kSection, {}, as_index(place.line)}, text) !=
+            Code::success) {
       return false;
     }
     int number = 0;
@@ -116,8 +121,8 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
   });
 }
 
-// The place is read from the same contents that the line goes into: a place that rests on a failed read would be that of another
-// line. A file that cannot be written is not reported, as ever.
+// The place is read from the same contents that the line goes into: a place that rests on a failed
+// read would be that of another line. A file that cannot be written is not reported, as ever.
 bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
   return attempt([&] {
     if (path_ == nullptr) {
@@ -137,7 +142,8 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     if (place.line < 1) {
       return false;
     }
-    if (store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) && file.close()) {
+    if (store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) &&
+        file.close()) {
       SetFileDate();  // the point stands in the file, with a stamp or without
     }
     return true;

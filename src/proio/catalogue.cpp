@@ -67,7 +67,10 @@ char* format(const std::string_view (&patterns)[Count], int number, int kind, Bu
   constexpr std::string_view kNumber = "%d";
   const std::string_view pattern = patterns[kind - 1];
   const std::size_t at = pattern.find(kNumber);
-  return to.assign(pattern.substr(0, at)).append(platform::print_int(number)).append(pattern.substr(at + kNumber.size())).text();
+  return to.assign(pattern.substr(0, at))
+      .append(platform::print_int(number))
+      .append(pattern.substr(at + kNumber.size()))
+      .text();
 }
 
 }  // namespace

@@ -39,7 +39,8 @@ bool Contents::replace(std::size_t begin, std::size_t end, std::string lines) {
 bool Contents::overwrite(std::size_t at, std::string_view bytes) {
   const auto offset = static_cast<std::int64_t>(at);
   const auto old_size = static_cast<std::int64_t>(whole_.size());
-  const std::int64_t new_size = std::max(old_size, offset + static_cast<std::int64_t>(bytes.size()));
+  const std::int64_t new_size =
+      std::max(old_size, offset + static_cast<std::int64_t>(bytes.size()));
   if (!file_.secure_growth(old_size, new_size)) {
     return false;
   }

@@ -8,7 +8,8 @@
 
 namespace qel::proio {
 
-/// A file's bytes, and what is to become of them. What is changed goes into the file at once; these bytes stay what they were.
+/// A file's bytes, and what is to become of them. What is changed goes into the file at once; these
+/// bytes stay what they were.
 class Contents {
  public:
   explicit Contents(platform::RandomAccess& file) : file_(file) {}
@@ -20,8 +21,9 @@ class Contents {
   /// The file's own, or the platform's where the file has none yet.
   [[nodiscard]] std::string_view line_break() const { return line_break_; }
 
-  /// Puts whole lines in the place of text()[begin, end); all of the bytes, or none. The file keeps its length at least: blanks
-  /// fill it up behind the last line break, where those of earlier stores are already.
+  /// Puts whole lines in the place of text()[begin, end); all of the bytes, or none. The file keeps
+  /// its length at least: blanks fill it up behind the last line break, where those of earlier
+  /// stores are already.
   bool replace(std::size_t begin, std::size_t end, std::string lines);
 
  private:

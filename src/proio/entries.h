@@ -2,7 +2,8 @@
 
 #include "proio/entry.h"
 
-/// Every entry that the object reads or writes, by section. The accessors name the rows and spell no key again.
+/// Every entry that the object reads or writes, by section. The accessors name the rows and spell
+/// no key again.
 namespace qel::proio {
 
 /// [FileHeader]

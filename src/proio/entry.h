@@ -9,7 +9,8 @@ using Manipulator = CPROIO_Manipulator;
 /// A section name or a key: a text as it stands, or one of the kinds that hold a number.
 template <class Kind>
 struct Name {
-  constexpr Name(const char* name) : text(name) {}  // NOLINT(google-explicit-constructor): the rows of the table stay readable
+  constexpr Name(const char* name)
+      : text(name) {}  // NOLINT(google-explicit-constructor): the rows of the table stay readable
   constexpr Name(Kind numbered) : kind(numbered) {}
 
   const char* text = nullptr;  ///< Null for a numbered kind.
@@ -26,7 +27,9 @@ struct Entry {
   /// The entry in the section of this number.
   [[nodiscard]] constexpr Entry in(int number) const { return {section, key, number, key_number}; }
   /// The entry whose key has this number.
-  [[nodiscard]] constexpr Entry at(int number) const { return {section, key, section_number, number}; }
+  [[nodiscard]] constexpr Entry at(int number) const {
+    return {section, key, section_number, number};
+  }
 };
 
 }  // namespace qel::proio

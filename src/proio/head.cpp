@@ -26,8 +26,12 @@ bool CPROIO_Manipulator::GetFileVersion(int& value) { return Get(cae_header::kFi
 bool CPROIO_Manipulator::SetFileVersion(int value) { return Set(cae_header::kFileVersion, value); }
 bool CPROIO_Manipulator::GetFileType(int& value) { return Get(cae_header::kFileType, value); }
 bool CPROIO_Manipulator::SetFileType(int value) { return Set(cae_header::kFileType, value); }
-bool CPROIO_Manipulator::GetSmartSetting(int& value) { return Get(cae_header::kSmartSetting, value); }
-bool CPROIO_Manipulator::SetSmartSetting(int value) { return Set(cae_header::kSmartSetting, value); }
+bool CPROIO_Manipulator::GetSmartSetting(int& value) {
+  return Get(cae_header::kSmartSetting, value);
+}
+bool CPROIO_Manipulator::SetSmartSetting(int value) {
+  return Set(cae_header::kSmartSetting, value);
+}
 
 // [Unit]
 
@@ -35,6 +39,8 @@ bool CPROIO_Manipulator::SetUnitTime() { return Set(unit::kTime, "sec       Time
 bool CPROIO_Manipulator::SetUnitTemperature() { return Set(unit::kTemp, "oC        Temperature"); }
 bool CPROIO_Manipulator::SetUnitPressure() { return Set(unit::kPres, "MPa       Pressure"); }
 bool CPROIO_Manipulator::SetUnitFlowRate() { return Set(unit::kFR, "cc/sec    FlowRate"); }
-bool CPROIO_Manipulator::SetUnitInjectPressure() { return Set(unit::kIP, "MPa       InjectPressure"); }
+bool CPROIO_Manipulator::SetUnitInjectPressure() {
+  return Set(unit::kIP, "MPa       InjectPressure");
+}
 bool CPROIO_Manipulator::SetUnitPackPressure() { return Set(unit::kPP, "MPa       PackPressure"); }
 bool CPROIO_Manipulator::SetUnitVolume() { return Set(unit::kVolum, "cc        Volume"); }

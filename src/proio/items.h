@@ -20,8 +20,8 @@ struct Symbol {
   char& character;
 };
 
-/// Each takes the next item of a text and goes on behind it, as a scan format does; where the text holds none, the item
-/// keeps its value.
+/// Each takes the next item of a text and goes on behind it, as a scan format does; where the text
+/// holds none, the item keeps its value.
 bool scan_item(const char*& at, int& item);
 bool scan_item(const char*& at, double& item);
 bool scan_item(const char*& at, const Word& item);

@@ -14,7 +14,9 @@ CPROIO_Manipulator::CPROIO_Manipulator(const CPROIO_Manipulator& other) = defaul
 CPROIO_Manipulator& CPROIO_Manipulator::operator=(const CPROIO_Manipulator& other) = default;
 CPROIO_Manipulator::~CPROIO_Manipulator() = default;
 
-void CPROIO_Manipulator::SetFilePath(char* path) { path_ = path; }  // NOLINT(readability-non-const-parameter): the constant one looks at the file
+void CPROIO_Manipulator::SetFilePath(char* path) {
+  path_ = path;
+}  // NOLINT(readability-non-const-parameter): the constant one looks at the file
 
 bool CPROIO_Manipulator::SetFilePath(const char* path) {
   const bool can_be_read = path != nullptr && attempt([path] {
@@ -38,6 +40,8 @@ bool CPROIO_Manipulator::Test() { return true; }
 bool CPROIO_Manipulator::SetFileDate() {
   const platform::LocalTime now = platform::local_time();
   std::array<char, 128> text{};
-  std::snprintf(text.data(), text.size(), "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour, now.minute, now.second);
-  return IsOK(Write(SectionOf(file_header::kDate), KeyOf(file_header::kDate), text.data(), false, kByKey));
+  std::snprintf(text.data(), text.size(), "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month,
+                now.day, now.hour, now.minute, now.second);
+  return IsOK(
+      Write(SectionOf(file_header::kDate), KeyOf(file_header::kDate), text.data(), false, kByKey));
 }

@@ -14,7 +14,8 @@ constexpr std::string_view kPadding = " \x1A";
 
 // What stands in front of the first end mark of the padding.
 std::string_view without_end_marks(std::string_view contents) {
-  if (contents.empty() || kPadding.find(contents.back()) == std::string_view::npos || contents.find(kEndMark) == std::string_view::npos) {
+  if (contents.empty() || kPadding.find(contents.back()) == std::string_view::npos ||
+      contents.find(kEndMark) == std::string_view::npos) {
     return contents;
   }
   return contents.substr(0, contents.find(kEndMark, contents.find_last_not_of(kPadding) + 1));
@@ -28,7 +29,9 @@ LineScanner::LineScanner(platform::RandomAccess& file) : file_(&file) {
 }
 
 LineScanner::LineScanner(std::string_view contents)
-    : window_(without_end_marks(contents)), at_end_(true), may_hold_nul_(contents.find('\0') != std::string_view::npos) {
+    : window_(without_end_marks(contents)),
+      at_end_(true),
+      may_hold_nul_(contents.find('\0') != std::string_view::npos) {
   skip_byte_order_mark();
 }
 
@@ -43,12 +46,15 @@ void LineScanner::skip_byte_order_mark() {
   }
 }
 
-// Keeps what is left of the window and reads on behind it. What cannot be read counts as the end of the file.
+// Keeps what is left of the window and reads on behind it. What cannot be read counts as the end of
+// the file.
 void LineScanner::fill() {
   const std::size_t kept = window_.size();
-  std::copy(window_.begin(), window_.end(), buffer_.begin());  // towards the front, where the ranges may overlap
+  std::copy(window_.begin(), window_.end(),
+            buffer_.begin());  // towards the front, where the ranges may overlap
   const std::size_t room = buffer_.size() - kept;
-  const std::int64_t got = file_->read_at(offset_ + static_cast<std::int64_t>(kept), buffer_.data() + kept, room);
+  const std::int64_t got =
+      file_->read_at(offset_ + static_cast<std::int64_t>(kept), buffer_.data() + kept, room);
   const auto added = static_cast<std::size_t>(std::max<std::int64_t>(got, 0));
   window_ = {buffer_.data(), kept + added};
   may_hold_nul_ = may_hold_nul_ || window_.substr(kept).find('\0') != std::string_view::npos;
@@ -107,7 +113,8 @@ std::int64_t length_without_padding(platform::RandomAccess& file) {
   std::int64_t without_marks = file.size();
   std::array<char, 4096> block;
   for (std::int64_t end = without_marks; end > 0;) {
-    const std::int64_t begin = std::max<std::int64_t>(end - static_cast<std::int64_t>(block.size()), 0);
+    const std::int64_t begin =
+        std::max<std::int64_t>(end - static_cast<std::int64_t>(block.size()), 0);
     const auto length = static_cast<std::size_t>(end - begin);
     if (file.read_at(begin, block.data(), length) != end - begin) {
       return -1;

@@ -12,9 +12,11 @@ namespace qel::proio {
 struct Line {
   std::int64_t start = 0;
   std::int64_t end = 0;    ///< The offset behind the line and its line break.
-  std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the scanner moves on.
+  std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the
+                           ///< scanner moves on.
   bool begins = true;      ///< Whether a line begins here, and no long one goes on.
-  bool has_break = false;  ///< Whether the line break belongs to the text: the line ended, and no NUL byte cut it.
+  bool has_break = false;  ///< Whether the line break belongs to the text: the line ended, and no
+                           ///< NUL byte cut it.
 };
 
 /// Walks over the lines of a file.
@@ -22,7 +24,8 @@ struct Line {
 /// - A line ends at "\n" or "\r\n", which both count as one character.
 /// - A line of more than 127 characters comes as several.
 /// - A byte order mark at the start of the file belongs to no line.
-/// - Nor does an end mark at its very end, which other programs' text mode takes for the end of the file, with the padding behind it.
+/// - Nor does an end mark at its very end, which other programs' text mode takes for the end of the
+/// file, with the padding behind it.
 class LineScanner {
  public:
   static constexpr std::size_t kLongestLine = 127;
@@ -34,8 +37,8 @@ class LineScanner {
   /// The next line; false at the end of the file, or when it cannot be read.
   bool next(Line& line);
 
-  /// Passes lines that do not hold the text, some or all: as far as a look at what is in memory tells. The text holds no line
-  /// break.
+  /// Passes lines that do not hold the text, some or all: as far as a look at what is in memory
+  /// tells. The text holds no line break.
   void pass_lines_without(std::string_view text);
 
   /// Whether the file ended because it could not be read on.
@@ -56,11 +59,12 @@ class LineScanner {
   bool inside_long_line_ = false;
 };
 
-/// Ends a file for other programs' text mode. At the very end, the padding apart, it is padding; anywhere else it is text.
+/// Ends a file for other programs' text mode. At the very end, the padding apart, it is padding;
+/// anywhere else it is text.
 inline constexpr char kEndMark = '\x1A';
 
-/// The length of the contents without what is padding: the blanks that earlier stores left behind the last line break, an end mark
-/// and what blanks surround it.
+/// The length of the contents without what is padding: the blanks that earlier stores left behind
+/// the last line break, an end mark and what blanks surround it.
 std::size_t length_without_padding(std::string_view contents);
 
 /// The same for a file, of which no more than its end is read; -1 when it cannot be read.

@@ -6,7 +6,8 @@
 namespace qel::proio {
 namespace {
 
-// A new positional section always gets this header, whatever section was asked for; it is found by its first word.
+// A new positional section always gets this header, whatever section was asked for; it is found by
+// its first word.
 constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
 constexpr std::string_view kPositionalSection = "[SURFACE";
 
@@ -49,8 +50,8 @@ std::string header_of(const Target& target, std::string_view line_break) {
   return bytes.append(target.by_key() ? target.section : kPositionalHeader).append(line_break);
 }
 
-// Where the section ends: at the next header, or with the text. Without the empty lines in front of that header, where those
-// are not to belong to it; what goes on a long line is none.
+// Where the section ends: at the next header, or with the text. Without the empty lines in front of
+// that header, where those are not to belong to it; what goes on a long line is none.
 std::size_t end_of_section(std::string_view text, std::string_view section, bool with_empty_lines) {
   LineScanner lines(text);
   std::size_t first_empty = text.size();
@@ -71,10 +72,12 @@ std::size_t end_of_section(std::string_view text, std::string_view section, bool
 
 bool ends_in_positional_section(std::string_view text) {
   LineScanner lines(text);
-  return seek_section(lines, kPositionalSection) && end_of_section(text, kPositionalSection, true) == text.size();
+  return seek_section(lines, kPositionalSection) &&
+         end_of_section(text, kPositionalSection, true) == text.size();
 }
 
-// The line goes over one that is there, all of it. A text with line breaks is found where it stands already.
+// The line goes over one that is there, all of it. A text with line breaks is found where it stands
+// already.
 bool store_over(Contents& contents, const Line& old, std::string line) {
   const std::string_view text = contents.text();
   const auto begin = static_cast<std::size_t>(old.start);
@@ -110,7 +113,8 @@ bool store_new(Contents& contents, const Target& target, std::string line) {
 }  // namespace
 
 bool is_match(std::string_view line, std::string_view name) {
-  if (line.substr(0, name.size()) != name || name.find_first_of(kWordEnd) != std::string_view::npos) {
+  if (line.substr(0, name.size()) != name ||
+      name.find_first_of(kWordEnd) != std::string_view::npos) {
     return false;
   }
   return line.size() == name.size() || kWordEnd.find(line[name.size()]) != std::string_view::npos;
@@ -184,7 +188,8 @@ Code read(LineScanner& lines, const Target& target, Buffer& value, std::int64_t 
 Code read(platform::RandomAccess& file, const Target& target, Buffer& value) {
   LineScanner lines(file);
   // Padding has no leading word, so that it matters to positions alone.
-  return target.by_key() ? read(lines, target, value) : read(lines, target, value, length_without_padding(file));
+  return target.by_key() ? read(lines, target, value)
+                         : read(lines, target, value, length_without_padding(file));
 }
 
 bool store(Contents& contents, const Target& target, std::string_view value) {
@@ -196,7 +201,8 @@ bool store(Contents& contents, const Target& target, std::string_view value) {
     return contents.replace(text.size(), text.size(), std::move(new_line));
   }
   Line line;
-  return seek_line(lines, target, line) ? store_over(contents, line, std::move(new_line)) : store_new(contents, target, std::move(new_line));
+  return seek_line(lines, target, line) ? store_over(contents, line, std::move(new_line))
+                                        : store_new(contents, target, std::move(new_line));
 }
 
 }  // namespace qel::proio

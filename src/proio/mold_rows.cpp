@@ -14,7 +14,8 @@ constexpr double kOlderMechanical[] = {2e12, 0.3, 0.00012};
 
 }  // namespace
 
-// A row of up to seven words has a name of one word; a longer one has a name of several, and all six numbers.
+// A row of up to seven words has a name of one word; a longer one has a name of several, and all
+// six numbers.
 bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& record) {
   if (text == nullptr) {
     return false;
@@ -27,7 +28,8 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
   const Words words(text);
   if (words.count() <= 2 * kNumbersOnEachSide + 1) {
     char* parsed = nullptr;
-    scan_items(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0], mechanical[1], mechanical[2]);
+    scan_items(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0],
+               mechanical[1], mechanical[2]);
     return true;
   }
   const std::size_t behind_name = words.count() - kNumbersOnEachSide;
@@ -39,7 +41,8 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
   return true;
 }
 
-bool CPROIO_Manipulator::GetMoldRow(const Entry& row, double& first, double& second, double& third, char*& name) {
+bool CPROIO_Manipulator::GetMoldRow(const Entry& row, double& first, double& second, double& third,
+                                    char*& name) {
   char* text = nullptr;
   if (!Get(row, text)) {
     return false;
@@ -53,35 +56,45 @@ bool CPROIO_Manipulator::GetMoldRow(const Entry& row, double& first, double& sec
   return parsed;
 }
 
-// Mechanical value 2 stands in the place of thermal value 3, and again in its own: existing files have this layout.
+// Mechanical value 2 stands in the place of thermal value 3, and again in its own: existing files
+// have this layout.
 bool CPROIO_Manipulator::SetMoldRow(const Entry& row, const QELPRO_MMM_MECHANICAL& record) {
   const double* mechanical = record.mechanical;
-  return Set(row, record.thermal[0], record.thermal[1], mechanical[1], record.name, mechanical[0], mechanical[1], mechanical[2]);
+  return Set(row, record.thermal[0], record.thermal[1], mechanical[1], record.name, mechanical[0],
+             mechanical[1], mechanical[2]);
 }
 
 // [Moldbase]
 
-bool CPROIO_Manipulator::GetMoldbase(int row, double& first, double& second, double& third, char*& name) {
+bool CPROIO_Manipulator::GetMoldbase(int row, double& first, double& second, double& third,
+                                     char*& name) {
   return GetMoldRow(moldbase::kRow.at(row), first, second, third, name);
 }
-bool CPROIO_Manipulator::SetMoldbase(int row, double first, double second, double third, char* name) {
+bool CPROIO_Manipulator::SetMoldbase(int row, double first, double second, double third,
+                                     char* name) {
   return Set(moldbase::kRow.at(row), first, second, third, name);
 }
 bool CPROIO_Manipulator::GetMoldbase(int row, QELPRO_MMM_MECHANICAL& record) {
   char* text = nullptr;
-  return checkIsThisPROFileSupport(kGatedVersion) && Get(moldbase::kRow.at(row), text) && GetMoldMetal(text, record);
+  return checkIsThisPROFileSupport(kGatedVersion) && Get(moldbase::kRow.at(row), text) &&
+         GetMoldMetal(text, record);
 }
-bool CPROIO_Manipulator::SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& record) { return SetMoldRow(moldbase::kRow.at(row), record); }
+bool CPROIO_Manipulator::SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& record) {
+  return SetMoldRow(moldbase::kRow.at(row), record);
+}
 
 // [MoldMetalMaterial]
 
-bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, double& first, double& second, double& third, char*& name) {
+bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, double& first, double& second, double& third,
+                                              char*& name) {
   return GetMoldRow(mold_metal::kRow.at(row), first, second, third, name);
 }
-bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, double first, double second, double third, char* name) {
+bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, double first, double second, double third,
+                                              char* name) {
   return Set(mold_metal::kRow.at(row), first, second, third, name);
 }
-// Unlike the mold bases', the rows of older files are read all the same, and their mechanical values replaced.
+// Unlike the mold bases', the rows of older files are read all the same, and their mechanical
+// values replaced.
 bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, QELPRO_MMM_MECHANICAL& record) {
   char* text = nullptr;
   if (!Get(mold_metal::kRow.at(row), text)) {
@@ -94,4 +107,6 @@ bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, QELPRO_MMM_MECHANICAL& re
   std::copy(std::begin(kOlderMechanical), std::end(kOlderMechanical), record.mechanical);
   return false;
 }
-bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, const QELPRO_MMM_MECHANICAL& record) { return SetMoldRow(mold_metal::kRow.at(row), record); }
+bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, const QELPRO_MMM_MECHANICAL& record) {
+  return SetMoldRow(mold_metal::kRow.at(row), record);
+}

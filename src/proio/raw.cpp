@@ -14,22 +14,30 @@ namespace {
 int to_int(Code code) { return static_cast<int>(code); }
 
 // An end mark in a text would be the end of the file for others.
-bool is_storable(const char* value) { return value != nullptr && std::strchr(value, kEndMark) == nullptr; }
+bool is_storable(const char* value) {
+  return value != nullptr && std::strchr(value, kEndMark) == nullptr;
+}
 
 bool store_into(const char* path, const Target& target, const char* value) {
   platform::OsFile file;
   Contents contents(file);
-  return (file.open_for_update(path) || file.create(path)) && contents.load() && store(contents, target, value) && file.close();
+  return (file.open_for_update(path) || file.create(path)) && contents.load() &&
+         store(contents, target, value) && file.close();
 }
 
 }  // namespace
 
-char* CPROIO_Manipulator::GetBlock(int number, BLOCK kind) { return block_name(number, kind, scratch().section); }
+char* CPROIO_Manipulator::GetBlock(int number, BLOCK kind) {
+  return block_name(number, kind, scratch().section);
+}
 
-char* CPROIO_Manipulator::GetKey(int number, KEY kind) { return key_name(number, kind, scratch().key); }
+char* CPROIO_Manipulator::GetKey(int number, KEY kind) {
+  return key_name(number, kind, scratch().key);
+}
 
 const char* CPROIO_Manipulator::SectionOf(const Entry& entry) {
-  return entry.section.text != nullptr ? entry.section.text : GetBlock(entry.section_number, entry.section.kind);
+  return entry.section.text != nullptr ? entry.section.text
+                                       : GetBlock(entry.section_number, entry.section.kind);
 }
 
 const char* CPROIO_Manipulator::KeyOf(const Entry& entry) {
@@ -53,15 +61,18 @@ int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value,
   return to_int(code);
 }
 
-// A file that cannot be written is not reported: the callers of old take every write for done. Memory that is missing is, unless
-// the value stands in the file already and the stamp alone is missed.
-int CPROIO_Manipulator::Write(const char* section, const char* key, const char* value, bool stampDate, int index) {
-  const bool taken = is_storable(value) && attempt([&] {
-                       if (path_ != nullptr && store_into(path_, {section, key, index}, value) && stampDate) {
-                         SetFileDate();
-                       }
-                       return path_ != nullptr;
-                     });
+// A file that cannot be written is not reported: the callers of old take every write for done.
+// Memory that is missing is, unless the value stands in the file already and the stamp alone is
+// missed.
+int CPROIO_Manipulator::Write(const char* section, const char* key, const char* value,
+                              bool stampDate, int index) {
+  const bool taken =
+      is_storable(value) && attempt([&] {
+        if (path_ != nullptr && store_into(path_, {section, key, index}, value) && stampDate) {
+          SetFileDate();
+        }
+        return path_ != nullptr;
+      });
   return to_int(taken ? Code::success : Code::refused);
 }
 

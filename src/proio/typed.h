@@ -52,5 +52,8 @@ bool CPROIO_Manipulator::Set(const qel::proio::Entry& entry, Items... items) {
   if ((qel::proio::is_null(items) || ...)) {
     return false;
   }
-  return attempt([&] { return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::proio::print_items(items...).c_str(), true, kByKey)); });
+  return attempt([&] {
+    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::proio::print_items(items...).c_str(),
+                      true, kByKey));
+  });
 }

@@ -6,7 +6,8 @@
 
 namespace qel::proio {
 
-/// A row cut at blanks, tabs and line feeds. A row stands in a line, which has 127 characters at most.
+/// A row cut at blanks, tabs and line feeds. A row stands in a line, which has 127 characters at
+/// most.
 class Words {
  public:
   explicit Words(std::string_view text);

@@ -54,4 +54,6 @@ bool QELG_Profile::AppendDataPoint(QELG_2dPoint point) { return points_.AppendDa
 
 unsigned int QELG_Profile::GetNumOfDataPoints() const { return points_.GetNumOfDataPoints(); }
 
-bool QELG_Profile::GetDataPoint(unsigned int index, QELG_2dPoint& point) const { return points_.GetDataPoint(index, point); }
+bool QELG_Profile::GetDataPoint(unsigned int index, QELG_2dPoint& point) const {
+  return points_.GetDataPoint(index, point);
+}

@@ -57,10 +57,14 @@ bool get(const std::optional<std::string>& item, const char*& value) {
 
 #define QELG_ITEM(object, type, name)                                                 \
   void set_process_##name(object& target, type value) { target.data().name = value; } \
-  bool get_process_##name(const object& source, type& value) { return get(source.data().name, value); }
+  bool get_process_##name(const object& source, type& value) {                        \
+    return get(source.data().name, value);                                            \
+  }
 #define QELG_TEXT_ITEM(object, name)                                                             \
   void set_process_##name(object& target, const char* value) { set(target.data().name, value); } \
-  bool get_process_##name(const object& source, const char*& value) { return get(source.data().name, value); }
+  bool get_process_##name(const object& source, const char*& value) {                            \
+    return get(source.data().name, value);                                                       \
+  }
 
 #define QELG_INTEGER(name) QELG_ITEM(QELG_SimulatorProcess, unsigned int, name)
 #define QELG_REAL(name) QELG_ITEM(QELG_SimulatorProcess, double, name)
@@ -80,22 +84,46 @@ QELG_SimulatorFlowPackProcess::QELG_SimulatorFlowPackProcess() : data_(std::make
 QELG_SimulatorFlowPackProcess::~QELG_SimulatorFlowPackProcess() = default;
 
 QELG_Profile* QELG_SimulatorFlowPackProcess::GetFlowRateProfile_mod() { return &data_->flow_rate; }
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile_mod() { return &data_->injection_pressure; }
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile_mod() { return &data_->packing_pressure; }
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile_mod() { return &data_->fluid_pressure; }
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFlowRateProfile() const { return &data_->flow_rate; }
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile() const { return &data_->injection_pressure; }
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile() const { return &data_->packing_pressure; }
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile() const { return &data_->fluid_pressure; }
+QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile_mod() {
+  return &data_->injection_pressure;
+}
+QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile_mod() {
+  return &data_->packing_pressure;
+}
+QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile_mod() {
+  return &data_->fluid_pressure;
+}
+const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFlowRateProfile() const {
+  return &data_->flow_rate;
+}
+const QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile() const {
+  return &data_->injection_pressure;
+}
+const QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile() const {
+  return &data_->packing_pressure;
+}
+const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile() const {
+  return &data_->fluid_pressure;
+}
 
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants_mod() { return &data_->flow_rate_time_constants; }
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetInjectionPressureTimeConstants_mod() { return &data_->injection_pressure_time_constants; }
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants_mod() { return &data_->packing_pressure_time_constants; }
-const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants() const { return &data_->flow_rate_time_constants; }
+QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants_mod() {
+  return &data_->flow_rate_time_constants;
+}
+QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetInjectionPressureTimeConstants_mod() {
+  return &data_->injection_pressure_time_constants;
+}
+QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants_mod() {
+  return &data_->packing_pressure_time_constants;
+}
+const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants() const {
+  return &data_->flow_rate_time_constants;
+}
 const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetInjectionPressureTimeConstants() const {
   return &data_->injection_pressure_time_constants;
 }
-const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants() const { return &data_->packing_pressure_time_constants; }
+const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants() const {
+  return &data_->packing_pressure_time_constants;
+}
 
 QELG_SimulatorProcess::QELG_SimulatorProcess() : data_(std::make_unique<Data>()) {}
 
@@ -114,17 +142,28 @@ QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::AppendFlowPackProcess() {
   return data_->inlets.back().get();
 }
 
-unsigned int QELG_SimulatorProcess::GetNumOfInlets() const { return static_cast<unsigned int>(data_->inlets.size()); }
+unsigned int QELG_SimulatorProcess::GetNumOfInlets() const {
+  return static_cast<unsigned int>(data_->inlets.size());
+}
 
 QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet_mod(unsigned int inlet) {
   return inlet < data_->inlets.size() ? data_->inlets[inlet].get() : nullptr;
 }
 
-const QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet(unsigned int inlet) const {
+const QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet(
+    unsigned int inlet) const {
   return inlet < data_->inlets.size() ? data_->inlets[inlet].get() : nullptr;
 }
 
-QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition_mod() { return &data_->flow_rate_ram_position; }
-QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition_mod() { return &data_->injection_pressure_ram_position; }
-const QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition() const { return &data_->flow_rate_ram_position; }
-const QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition() const { return &data_->injection_pressure_ram_position; }
+QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition_mod() {
+  return &data_->flow_rate_ram_position;
+}
+QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition_mod() {
+  return &data_->injection_pressure_ram_position;
+}
+const QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition() const {
+  return &data_->flow_rate_ram_position;
+}
+const QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition() const {
+  return &data_->injection_pressure_ram_position;
+}

@@ -23,7 +23,8 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
   std::int64_t end = size;
   bool marked = false;
   for (char last[64]; end > 0;) {
-    const std::int64_t begin = std::max<std::int64_t>(end - static_cast<std::int64_t>(sizeof last), 0);
+    const std::int64_t begin =
+        std::max<std::int64_t>(end - static_cast<std::int64_t>(sizeof last), 0);
     const std::string_view piece(last, static_cast<std::size_t>(end - begin));
     if (file.read_at(begin, last, piece.size()) != end - begin) {
       break;
@@ -43,14 +44,17 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
 
 }  // namespace
 
-BoundedLines::BoundedLines(platform::RandomAccess& file) : file_(&file), block_(new char[kBlock]), end_(end_of_contents(file)) {
+BoundedLines::BoundedLines(platform::RandomAccess& file)
+    : file_(&file), block_(new char[kBlock]), end_(end_of_contents(file)) {
   char start[kByteOrderMark.size()];
-  if (file.read_at(0, start, sizeof start) == sizeof start && std::string_view(start, sizeof start) == kByteOrderMark) {
+  if (file.read_at(0, start, sizeof start) == sizeof start &&
+      std::string_view(start, sizeof start) == kByteOrderMark) {
     offset_ = static_cast<std::int64_t>(kByteOrderMark.size());
   }
 }
 
-BoundedLines::BoundedLines(std::string_view contents) : window_(contents.substr(0, end_of_contents(contents))) {
+BoundedLines::BoundedLines(std::string_view contents)
+    : window_(contents.substr(0, end_of_contents(contents))) {
   if (window_.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
     window_.remove_prefix(kByteOrderMark.size());
   }

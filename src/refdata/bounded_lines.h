@@ -12,9 +12,10 @@ namespace qel::refdata {
 
 /// Walks over the lines of a reference data file.
 ///
-/// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted as one, comes in pieces.
-/// What stands behind a NUL byte of a line is not seen. A byte order mark at the start of the file belongs to no line, and
-/// neither does a 0x1A at its very end with the blanks around it: other programs' text mode ends there.
+/// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted
+/// as one, comes in pieces. What stands behind a NUL byte of a line is not seen. A byte order mark
+/// at the start of the file belongs to no line, and neither does a 0x1A at its very end with the
+/// blanks around it: other programs' text mode ends there.
 class BoundedLines {
  public:
   /// The file outlives the lines.
@@ -22,7 +23,8 @@ class BoundedLines {
   /// Over the contents of a whole file, which outlive the lines.
   explicit BoundedLines(std::string_view contents);
 
-  /// The next line without its line break; false, and an empty line, at the end of the file or when it cannot be read.
+  /// The next line without its line break; false, and an empty line, at the end of the file or when
+  /// it cannot be read.
   bool next(std::string& line);
 
   static constexpr std::size_t kLongestLine = 1023;

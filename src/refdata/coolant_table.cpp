@@ -12,7 +12,9 @@ namespace {
 
 constexpr std::string_view kSection = "[Coolant-";
 
-bool contains(std::string_view line, std::string_view text) { return line.find(text) != std::string_view::npos; }
+bool contains(std::string_view line, std::string_view text) {
+  return line.find(text) != std::string_view::npos;
+}
 
 // A section without a number, such as "[Coolant-Water]", is none of a coolant's.
 bool has_number(const char* text, int& number) { return platform::scan_int(text, number); }
@@ -72,7 +74,9 @@ std::array<double, kProperties> Coolant::properties_at(double argument) const {
   };
   std::array<double, kProperties> result{};
   for (std::size_t property = 0; property < kProperties; ++property) {
-    result[property] = row_count == 1 ? column(1 + property)(0) : interpolate(column(0), column(1 + property), row_count, argument);
+    result[property] = row_count == 1
+                           ? column(1 + property)(0)
+                           : interpolate(column(0), column(1 + property), row_count, argument);
   }
   return result;
 }
@@ -85,7 +89,8 @@ std::vector<Coolant> read_coolants(platform::RandomAccess& file) {
     if (!line.empty() && line.front() == '[') {
       const std::size_t name = line.find(kSection);
       int number = 0;
-      in_section = name != std::string::npos && has_number(line.c_str() + name + kSection.size(), number);
+      in_section =
+          name != std::string::npos && has_number(line.c_str() + name + kSection.size(), number);
       if (in_section) {
         coolants.emplace_back().number = number;
       }

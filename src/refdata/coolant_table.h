@@ -12,7 +12,8 @@ namespace qel::refdata {
 
 inline constexpr std::size_t kProperties = 4;
 
-/// One coolant's rows. Only the rows that the file gives are kept; the others, up to the count, are all 0.
+/// One coolant's rows. Only the rows that the file gives are kept; the others, up to the count, are
+/// all 0.
 struct Coolant {
   using Row = std::array<double, 1 + kProperties>;  ///< The argument, then the properties.
 

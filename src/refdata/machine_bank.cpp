@@ -9,7 +9,9 @@
 namespace qel::refdata {
 namespace {
 
-bool contains(const std::string& line, std::string_view text) { return line.find(text) != std::string::npos; }
+bool contains(const std::string& line, std::string_view text) {
+  return line.find(text) != std::string::npos;
+}
 
 // The fields between commas; consecutive commas count as one.
 std::vector<std::string> fields_of(const std::string& line) {
@@ -76,7 +78,8 @@ BankReport read(BoundedLines lines, int& version, Makers& makers) {
     if (report.has_data) {
       const char* at = line.c_str();
       platform::scan_int(at, flag);
-      const std::vector<std::string> fields = flag == kMachine ? fields_of(line) : std::vector<std::string>();
+      const std::vector<std::string> fields =
+          flag == kMachine ? fields_of(line) : std::vector<std::string>();
       if (!is_machine(fields)) {
         continue;
       }
@@ -94,7 +97,9 @@ BankReport read(BoundedLines lines, int& version, Makers& makers) {
 
 }  // namespace
 
-bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) { return !read(BoundedLines(file), version, makers).has_total; }
+bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) {
+  return !read(BoundedLines(file), version, makers).has_total;
+}
 
 BankReport examine_machine_bank(std::string_view contents) {
   int version = 0;

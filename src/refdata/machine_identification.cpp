@@ -57,7 +57,8 @@ Record* make_record() {
 
 // An object that found no memory for its record makes it here.
 template <class Character>
-void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*path, const Character* text) {
+void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*path,
+              const Character* text) {
   if (record == nullptr) {
     record = make_record();
   }
@@ -95,7 +96,8 @@ const std::vector<std::string>* grades_of(const QELMachineRecord* record, const 
 }
 
 template <class Texts, class TextOf>
-bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, const char*** list, int* count) {
+bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, const char*** list,
+              int* count) {
   if (texts.empty() || list == nullptr || count == nullptr) {
     return false;
   }
@@ -118,9 +120,11 @@ bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, cons
 
 CQELMachineIdentification::CQELMachineIdentification() : record_(make_record()) {}
 
-CQELMachineIdentification::CQELMachineIdentification(const CQELMachineIdentification& other) : record_(qel::share(record_of(other.record_))) {}
+CQELMachineIdentification::CQELMachineIdentification(const CQELMachineIdentification& other)
+    : record_(qel::share(record_of(other.record_))) {}
 
-CQELMachineIdentification& CQELMachineIdentification::operator=(const CQELMachineIdentification& other) {
+CQELMachineIdentification& CQELMachineIdentification::operator=(
+    const CQELMachineIdentification& other) {
   if (this != &other) {
     QELMachineRecord* previous = record_;
     record_ = qel::share(record_of(other.record_));
@@ -131,10 +135,18 @@ CQELMachineIdentification& CQELMachineIdentification::operator=(const CQELMachin
 
 CQELMachineIdentification::~CQELMachineIdentification() { qel::release(record_of(record_)); }
 
-void CQELMachineIdentification::SetMachineUserBankPath(const char* path) { set_path(record_, &QELMachineRecord::user_bank, path); }
-void CQELMachineIdentification::SetMachineUserBankPath(const wchar_t* path) { set_path(record_, &QELMachineRecord::user_bank, path); }
-void CQELMachineIdentification::SetIdentificationPath(const char* path) { set_path(record_, &QELMachineRecord::identification, path); }
-void CQELMachineIdentification::SetIdentificationPath(const wchar_t* path) { set_path(record_, &QELMachineRecord::identification, path); }
+void CQELMachineIdentification::SetMachineUserBankPath(const char* path) {
+  set_path(record_, &QELMachineRecord::user_bank, path);
+}
+void CQELMachineIdentification::SetMachineUserBankPath(const wchar_t* path) {
+  set_path(record_, &QELMachineRecord::user_bank, path);
+}
+void CQELMachineIdentification::SetIdentificationPath(const char* path) {
+  set_path(record_, &QELMachineRecord::identification, path);
+}
+void CQELMachineIdentification::SetIdentificationPath(const wchar_t* path) {
+  set_path(record_, &QELMachineRecord::identification, path);
+}
 
 bool CQELMachineIdentification::LoadFileData() {
   if (record_ == nullptr) {
@@ -145,7 +157,8 @@ bool CQELMachineIdentification::LoadFileData() {
   record_->handed_out.clear();
   try {
     qel::platform::OsFile file;
-    const bool loaded = record_->user_bank.open(file) && qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+    const bool loaded = record_->user_bank.open(file) &&
+                        qel::refdata::read_machine_bank(file, record_->version, record_->makers);
     record_->makers_in_order = in_order(record_->makers);
     return loaded;
   } catch (...) {
@@ -154,7 +167,9 @@ bool CQELMachineIdentification::LoadFileData() {
   }
 }
 
-int CQELMachineIdentification::GetMakerCount() { return record_ != nullptr ? static_cast<int>(record_->makers_in_order.size()) : 0; }
+int CQELMachineIdentification::GetMakerCount() {
+  return record_ != nullptr ? static_cast<int>(record_->makers_in_order.size()) : 0;
+}
 
 bool CQELMachineIdentification::GetMaker(int index, char* buffer, unsigned int size) {
   if (index < 0 || index >= GetMakerCount() || buffer == nullptr || size == 0) {
@@ -168,7 +183,8 @@ int CQELMachineIdentification::GetGradeCount(const char* maker) {
   return grades != nullptr ? static_cast<int>(grades->size()) : 0;
 }
 
-bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buffer, unsigned int size) {
+bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buffer,
+                                         unsigned int size) {
   if (index < 0 || index >= GetGradeCount(maker) || buffer == nullptr || size == 0) {
     return false;
   }
@@ -178,17 +194,25 @@ bool CQELMachineIdentification::GetGrade(const char* maker, int index, char* buf
 bool CQELMachineIdentification::GetAllMaker(const char*** makers, int* count) {
   return record_ != nullptr &&
          hand_out(
-             *record_, record_->makers_in_order, [](const std::string* maker) -> const std::string& { return *maker; }, makers, count);
+             *record_, record_->makers_in_order,
+             [](const std::string* maker) -> const std::string& { return *maker; }, makers, count);
 }
 
 bool CQELMachineIdentification::GetAllGrade(const char* maker, const char*** grades, int* count) {
   const std::vector<std::string>* found = grades_of(record_, maker);
-  return found != nullptr && hand_out(
-                                 *record_, *found, [](const std::string& grade) -> const std::string& { return grade; }, grades, count);
+  return found != nullptr &&
+         hand_out(
+             *record_, *found, [](const std::string& grade) -> const std::string& { return grade; },
+             grades, count);
 }
 
-bool CQELMachineIdentification::HasMachineIdentification(const char* /*maker*/, const char* /*grade*/, const char* /*third*/) { return false; }
+bool CQELMachineIdentification::HasMachineIdentification(const char* /*maker*/,
+                                                         const char* /*grade*/,
+                                                         const char* /*third*/) {
+  return false;
+}
 
-bool CQELMachineIdentification::GetALLIdentity(const char* /*first*/, const char* /*second*/, const char*** /*texts*/, int* /*count*/) {
+bool CQELMachineIdentification::GetALLIdentity(const char* /*first*/, const char* /*second*/,
+                                               const char*** /*texts*/, int* /*count*/) {
   return false;
 }

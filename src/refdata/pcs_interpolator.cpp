@@ -19,14 +19,16 @@ using Tables = qel::Shared<QELCoolantTables>;
 
 Tables* tables_of(QELCoolantTables* tables) { return static_cast<Tables*>(tables); }
 
-// The number in the file of a coolant that a program knows by its identifier; false for one that has none.
+// The number in the file of a coolant that a program knows by its identifier; false for one that
+// has none.
 bool number_of(int identifier, int& number) {
   constexpr int kFirstRefused = 3;
   constexpr int kFirstUserCoolant = 6;
   if (identifier >= kFirstRefused && identifier < kFirstUserCoolant) {
     return false;
   }
-  number = identifier < kFirstRefused ? identifier : identifier - (kFirstUserCoolant - kFirstRefused);
+  number =
+      identifier < kFirstRefused ? identifier : identifier - (kFirstUserCoolant - kFirstRefused);
   return true;
 }
 
@@ -34,7 +36,8 @@ bool number_of(int identifier, int& number) {
 
 CQELPCSInterpolator::CQELPCSInterpolator() = default;
 
-CQELPCSInterpolator::CQELPCSInterpolator(const CQELPCSInterpolator& other) : tables_(qel::share(tables_of(other.tables_))) {}
+CQELPCSInterpolator::CQELPCSInterpolator(const CQELPCSInterpolator& other)
+    : tables_(qel::share(tables_of(other.tables_))) {}
 
 CQELPCSInterpolator& CQELPCSInterpolator::operator=(const CQELPCSInterpolator& other) {
   if (this != &other) {
@@ -61,13 +64,15 @@ bool CQELPCSInterpolator::LoadDataFromFile(const char* path) try {
   return false;
 }
 
-bool CQELPCSInterpolator::InterpolateCoolantProperties(int coolant, double argument, double& p1, double& p2, double& p3, double& p4) {
+bool CQELPCSInterpolator::InterpolateCoolantProperties(int coolant, double argument, double& p1,
+                                                       double& p2, double& p3, double& p4) {
   int number = 0;
   if (tables_ == nullptr || !number_of(coolant, number)) {
     return false;
   }
   const auto& coolants = tables_->coolants;
-  const auto found = std::find_if(coolants.begin(), coolants.end(), [number](const auto& record) { return record.number == number; });
+  const auto found = std::find_if(coolants.begin(), coolants.end(),
+                                  [number](const auto& record) { return record.number == number; });
   if (found == coolants.end() || !found->valid) {
     return false;
   }

@@ -35,7 +35,8 @@ std::string user_coolant_file() {
 void make_folder_for_save(const char* path) {
   std::string folder = folder_of_settings();
   const std::string_view file = path;
-  if (folder.empty() || file.substr(0, folder.size()) != folder || file.find(platform::kPathSeparator, folder.size()) != std::string_view::npos) {
+  if (folder.empty() || file.substr(0, folder.size()) != folder ||
+      file.find(platform::kPathSeparator, folder.size()) != std::string_view::npos) {
     return;
   }
   folder.pop_back();

@@ -8,17 +8,21 @@
 namespace qelpro_test {
 namespace {
 
-INSTANTIATE_TEST_SUITE_P(AdvancedSetting, SectionReader,
-                         testing::Values(reads(READER(AdvancedSetting_ReadOpenDirection), "[AdvancedSetting]", "OpenDirection", "222.5\t-444\t0.125",
-                                               222.5, -444.0, 0.125),
-                                         reads(READER(AdvancedSetting_ReadClampForce), "[AdvancedSetting]", "ClampForce", "336.25", 336.25)),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    AdvancedSetting, SectionReader,
+    testing::Values(reads(READER(AdvancedSetting_ReadOpenDirection), "[AdvancedSetting]",
+                          "OpenDirection", "222.5\t-444\t0.125", 222.5, -444.0, 0.125),
+                    reads(READER(AdvancedSetting_ReadClampForce), "[AdvancedSetting]", "ClampForce",
+                          "336.25", 336.25)),
+    name_of_row);
 
-INSTANTIATE_TEST_SUITE_P(AdvancedSetting, SectionWriter,
-                         testing::Values(writes(WRITER(AdvancedSetting_WriteOpenDirection), "[AdvancedSetting]", "OpenDirection",
-                                                "223.5\t-446\t0.125", 223.5, -446.0, 0.125),
-                                         writes(WRITER(AdvancedSetting_WriteClampForce), "[AdvancedSetting]", "ClampForce", "337.75", 337.75)),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    AdvancedSetting, SectionWriter,
+    testing::Values(writes(WRITER(AdvancedSetting_WriteOpenDirection), "[AdvancedSetting]",
+                           "OpenDirection", "223.5\t-446\t0.125", 223.5, -446.0, 0.125),
+                    writes(WRITER(AdvancedSetting_WriteClampForce), "[AdvancedSetting]",
+                           "ClampForce", "337.75", 337.75)),
+    name_of_row);
 
 TEST(CycleTime, IsTheNumberThatTheTextBeginsWith) {
   const Scratch scratch;
@@ -27,7 +31,8 @@ TEST(CycleTime, IsTheNumberThatTheTextBeginsWith) {
     double time;
   } rows[] = {{"32.5", 32.5}, {"  4e1 sec", 40}, {"unknown", 0}, {"", 0}};
   for (const auto& row : rows) {
-    const std::string path = scratch.file("[AdvancedSetting]\nCycleTime = " + std::string(row.text) + "\n[Other]\nCycleTime = 9\n");
+    const std::string path = scratch.file(
+        "[AdvancedSetting]\nCycleTime = " + std::string(row.text) + "\n[Other]\nCycleTime = 9\n");
     Reader reader;
     ASSERT_TRUE(reader.SetFilePath(path.c_str()));
     double time = -1;

@@ -10,13 +10,15 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(Coolant, SectionReader,
-                         testing::Values(reads(READER(Coolant_ReadCoolant), "[Coolant]", "9", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
+                         testing::Values(reads(READER(Coolant_ReadCoolant), "[Coolant]", "9",
+                                               "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
                                                4.0, 5, "Water", 0.01, 2, 9)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(Coolant, SectionWriter,
-                         testing::Values(writes(WRITER(Coolant_WriteCoolant), "[Coolant]", "3", "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0, 0.25,
-                                                4.0, 5, "Water", 0.01, 2, 3)),
+                         testing::Values(writes(WRITER(Coolant_WriteCoolant), "[Coolant]", "3",
+                                                "1.5\t2\t0.25\t4\t5\tWater\t0.01\t2", 1.5, 2.0,
+                                                0.25, 4.0, 5, "Water", 0.01, 2, 3)),
                          name_of_row);
 
 struct Fields {
@@ -28,7 +30,9 @@ struct Fields {
   char* name = nullptr;
   double f7 = -1;
   int f8 = -1;
-  bool read(Reader& reader, int coolant) { return reader.Coolant_ReadCoolant(f1, f2, f3, f4, f5, name, f7, f8, coolant); }
+  bool read(Reader& reader, int coolant) {
+    return reader.Coolant_ReadCoolant(f1, f2, f3, f4, f5, name, f7, f8, coolant);
+  }
 };
 
 TEST(Coolant, ComesBackAsItWasWritten) {
@@ -38,7 +42,8 @@ TEST(Coolant, ComesBackAsItWasWritten) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   char water[] = "Water";
   EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, water, 0.01, 2, 1));
-  EXPECT_EQ(bytes_of(path), native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tWater\t0.01\t2") + "\n"));
+  EXPECT_EQ(bytes_of(path),
+            native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tWater\t0.01\t2") + "\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   Fields fields;
@@ -63,7 +68,9 @@ TEST(Coolant, NameIsWrittenAsItIsGivenAlsoWhereItDoesNotReadBack) {
   char none[] = "";
   EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, hot_water, 0.01, 2, 1));
   EXPECT_TRUE(writer.Coolant_WriteCoolant(1, 2, 3, 4, 5, none, 0.01, 2, 2));
-  EXPECT_EQ(bytes_of(path), native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tHot Water\t0.01\t2") + "\n2 = 1\t2\t3\t4\t5\t\t0.01\t2\n"));
+  EXPECT_EQ(bytes_of(path),
+            native("\n[Coolant]\n" + padded("1", "1\t2\t3\t4\t5\tHot Water\t0.01\t2") +
+                   "\n2 = 1\t2\t3\t4\t5\t\t0.01\t2\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   Fields fields;

@@ -38,10 +38,13 @@ const WriterMember* counterpart(const ReaderMember& reader) {
   return nullptr;
 }
 
-// Whether an overload of the member reads more of the same entry, which writing back what this one read would lose.
+// Whether an overload of the member reads more of the same entry, which writing back what this one
+// read would lose.
 bool reads_less_than_another(const ReaderMember& member) {
-  return std::any_of(reader_members().begin(), reader_members().end(),
-                     [&member](const ReaderMember& other) { return other.name == member.name && other.arguments.size() > member.arguments.size(); });
+  return std::any_of(
+      reader_members().begin(), reader_members().end(), [&member](const ReaderMember& other) {
+        return other.name == member.name && other.arguments.size() > member.arguments.size();
+      });
 }
 
 struct Answer {
@@ -70,7 +73,8 @@ std::vector<Answer> answers(const std::string& path) {
 std::string text_of(const Answer& answer) {
   std::string text = answer.member->name;
   for (const Value& value : answer.values) {
-    text += std::visit([](const auto& plain) { return " " + testing::PrintToString(plain); }, value);
+    text +=
+        std::visit([](const auto& plain) { return " " + testing::PrintToString(plain); }, value);
   }
   return text;
 }
@@ -118,7 +122,8 @@ TEST_P(ProcessFile, GivesEveryValueToAFileMadeOfTheWritersAlone) {
     for (std::size_t i = 0; i < again.values.size(); ++i) {
       if (is_output(again.member->arguments[i])) {
         again.values[i] = Value();
-        std::visit([&](const auto& of) { again.values[i] = std::decay_t<decltype(of)>(); }, answer.values[i]);
+        std::visit([&](const auto& of) { again.values[i] = std::decay_t<decltype(of)>(); },
+                   answer.values[i]);
       }
     }
     EXPECT_TRUE(answer.member->read(reader, again.values)) << text_of(answer);
@@ -126,9 +131,12 @@ TEST_P(ProcessFile, GivesEveryValueToAFileMadeOfTheWritersAlone) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Data, ProcessFile, testing::Values("injection_two_inlets.pro", "transfer_molding_curing.pro", "co_injection_type_8.pro"));
+INSTANTIATE_TEST_SUITE_P(Data, ProcessFile,
+                         testing::Values("injection_two_inlets.pro", "transfer_molding_curing.pro",
+                                         "co_injection_type_8.pro"));
 
-// Files that no front end writes. Every member answers, soon, and leaves its outputs alone where it says no.
+// Files that no front end writes. Every member answers, soon, and leaves its outputs alone where it
+// says no.
 struct Hostile {
   const char* kind;
   std::string contents;
@@ -142,10 +150,14 @@ class HostileFile : public testing::TestWithParam<Hostile> {
 };
 
 std::string every_count_huge() {
-  std::string text = "[Summary]\nTotalGateCTL = 2000000000\nTotalNodeEC = 2147483647\n[FlowCTLInfo]\nTotalInlet = -1\n";
-  for (const char* section : {"[Flow-1]", "[Pack-1]", "[Cure-1]", "[Coolant]", "[Cool]", "[GateValve-1]", "[GasF-1]"}) {
-    text +=
-        std::string(section) + "\nFRSet = 2147483647\nIPSet = -2147483648\nPPSet = 2147483647\nCPSet = 99999999999999999999\nGCSet = 2000000000\n";
+  std::string text =
+      "[Summary]\nTotalGateCTL = 2000000000\nTotalNodeEC = 2147483647\n[FlowCTLInfo]\nTotalInlet = "
+      "-1\n";
+  for (const char* section :
+       {"[Flow-1]", "[Pack-1]", "[Cure-1]", "[Coolant]", "[Cool]", "[GateValve-1]", "[GasF-1]"}) {
+    text += std::string(section) +
+            "\nFRSet = 2147483647\nIPSet = -2147483648\nPPSet = 2147483647\nCPSet = "
+            "99999999999999999999\nGCSet = 2000000000\n";
   }
   return text;
 }
@@ -155,7 +167,8 @@ TEST_P(HostileFile, IsAnsweredByEveryReaderMember) {
   CQELPROReader_Manipulator reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   for (const ReaderMember& member : reader_members()) {
-    for (const std::vector<int>& numbers : {std::vector<int>{1}, {2147483647}, {-2147483647 - 1}, {0, 1}}) {
+    for (const std::vector<int>& numbers :
+         {std::vector<int>{1}, {2147483647}, {-2147483647 - 1}, {0, 1}}) {
       const std::vector<Value> before = values_for(member, numbers, "Group-1");
       std::vector<Value> values = before;
       if (!member.read(reader, values)) {
@@ -173,7 +186,9 @@ TEST_P(HostileFile, IsWrittenByEveryWriterMemberOrLeftAlone) {
     const std::string before = bytes_of(path);
     std::vector<Value> values;
     for (const char letter : member.arguments) {
-      values.push_back(letter == 'i' ? Value(1) : letter == 'd' ? Value(1.5) : Value(std::string("word")));
+      values.push_back(letter == 'i'   ? Value(1)
+                       : letter == 'd' ? Value(1.5)
+                                       : Value(std::string("word")));
     }
     if (!member.write(writer, values)) {
       EXPECT_EQ(bytes_of(path), before) << member.name;
@@ -183,24 +198,30 @@ TEST_P(HostileFile, IsWrittenByEveryWriterMemberOrLeftAlone) {
 
 std::string with_nul_bytes() {
   using namespace std::string_literals;
-  return "[Flow-1]\0\nFillTime = 1\0\n\0\0\0\n[Summary]\n\0TotalNodeEM = 1\n"s + std::string(5000, '\0') + "\n[Pack-1]\nPackTime\0 = 2\n"s;
+  return "[Flow-1]\0\nFillTime = 1\0\n\0\0\0\n[Summary]\n\0TotalNodeEM = 1\n"s +
+         std::string(5000, '\0') + "\n[Pack-1]\nPackTime\0 = 2\n"s;
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, HostileFile,
-                         testing::Values(Hostile{"Empty", std::string()}, Hostile{"OneLineBreak", std::string("\n")},
-                                         Hostile{"OnlyBlanks", std::string(300, ' ')}, Hostile{"NulBytes", with_nul_bytes()},
-                                         Hostile{"OneLongLine", std::string(100000, 'x')},
-                                         Hostile{"LongHeader", "[" + std::string(9000, 'h') + "]\nx = 1\n"},
-                                         Hostile{"LongEntry", "[Flow-1]\nFillTime = " + std::string(9000, '1') + "\n[Pack-1]\nPackTime = 2\n"},
-                                         Hostile{"Brackets", std::string("[\n]\n[]\n[[]]\n[Flow-1\n[Flow-1]]\n[ Flow-1 ]\n")},
-                                         Hostile{"Equals", std::string("=\n==\n= = =\n[Flow-1]\n=\nFillTime\nFillTime==\nFillTime = = 1\n")},
-                                         Hostile{"CarriageReturns", std::string("\r\r\r\n[Flow-1]\r\r\nFillTime = 1\r\r\n\r")},
-                                         Hostile{"HalfAByteOrderMark", std::string("\xEF\xBB[Flow-1]\nFillTime = 1\n")},
-                                         Hostile{"HighBytes", std::string(700, '\xFF') + "\n[Flow-1]\nFillTime = \xFF\xFE\n"},
-                                         Hostile{"HugeCounts", every_count_huge()}),
-                         [](const auto& row) { return row.param.kind; });
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, HostileFile,
+    testing::Values(
+        Hostile{"Empty", std::string()}, Hostile{"OneLineBreak", std::string("\n")},
+        Hostile{"OnlyBlanks", std::string(300, ' ')}, Hostile{"NulBytes", with_nul_bytes()},
+        Hostile{"OneLongLine", std::string(100000, 'x')},
+        Hostile{"LongHeader", "[" + std::string(9000, 'h') + "]\nx = 1\n"},
+        Hostile{"LongEntry",
+                "[Flow-1]\nFillTime = " + std::string(9000, '1') + "\n[Pack-1]\nPackTime = 2\n"},
+        Hostile{"Brackets", std::string("[\n]\n[]\n[[]]\n[Flow-1\n[Flow-1]]\n[ Flow-1 ]\n")},
+        Hostile{"Equals",
+                std::string("=\n==\n= = =\n[Flow-1]\n=\nFillTime\nFillTime==\nFillTime = = 1\n")},
+        Hostile{"CarriageReturns", std::string("\r\r\r\n[Flow-1]\r\r\nFillTime = 1\r\r\n\r")},
+        Hostile{"HalfAByteOrderMark", std::string("\xEF\xBB[Flow-1]\nFillTime = 1\n")},
+        Hostile{"HighBytes", std::string(700, '\xFF') + "\n[Flow-1]\nFillTime = \xFF\xFE\n"},
+        Hostile{"HugeCounts", every_count_huge()}),
+    [](const auto& row) { return row.param.kind; });
 
-// The counts that the summary of the tests prints; the table in members_are_tested.sh says which member has which test.
+// The counts that the summary of the tests prints; the table in members_are_tested.sh says which
+// member has which test.
 TEST(EveryMember, IsCounted) {
   RecordProperty("reader_members", static_cast<int>(reader_members().size()));
   RecordProperty("writer_members", static_cast<int>(writer_members().size()));

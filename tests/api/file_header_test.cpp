@@ -14,21 +14,30 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(FileHeader, SectionReader,
-                         testing::Values(reads(READER(FileHeader_ReadName), "[FileHeader]", "Name", "housing_lid.pro", "housing_lid.pro"),
-                                         reads(READER(FileHeader_ReadType), "[FileHeader]", "Type", "PRO", "PRO"),
-                                         reads(READER(FileHeader_ReadCreateBy), "[FileHeader]", "CreateBy", "Front Desk 9.1", "Front Desk 9.1"),
-                                         reads(READER(FileHeader_ReadRemark), "[FileHeader]", "Remark", "a = b, twice", "a = b, twice"),
-                                         reads(READER(FileHeader_ReadDate), "[FileHeader]", "Date", "2026/11/15 09:05:07", "2026/11/15 09:05:07")),
+                         testing::Values(reads(READER(FileHeader_ReadName), "[FileHeader]", "Name",
+                                               "housing_lid.pro", "housing_lid.pro"),
+                                         reads(READER(FileHeader_ReadType), "[FileHeader]", "Type",
+                                               "PRO", "PRO"),
+                                         reads(READER(FileHeader_ReadCreateBy), "[FileHeader]",
+                                               "CreateBy", "Front Desk 9.1", "Front Desk 9.1"),
+                                         reads(READER(FileHeader_ReadRemark), "[FileHeader]",
+                                               "Remark", "a = b, twice", "a = b, twice"),
+                                         reads(READER(FileHeader_ReadDate), "[FileHeader]", "Date",
+                                               "2026/11/15 09:05:07", "2026/11/15 09:05:07")),
                          name_of_row);
 
-INSTANTIATE_TEST_SUITE_P(FileHeader, SectionWriter,
-                         testing::Values(writes(WRITER(FileHeader_WriteName), "[FileHeader]", "Name", "housing_lid.pro", "housing_lid.pro"),
-                                         writes(WRITER(FileHeader_WriteType), "[FileHeader]", "Type", "PRO", "PRO"),
-                                         writes(WRITER(FileHeader_WriteCreateBy), "[FileHeader]", "CreateBy", "Front Desk 9.1", "Front Desk 9.1"),
-                                         writes(WRITER(FileHeader_WriteRemark), "[FileHeader]", "Remark", "a = b, twice", "a = b, twice"),
-                                         writes("FileHeader_WriteDate", Taking<char*>::of(&Writer::FileHeader_WriteDate), "[FileHeader]", "Date",
-                                                "2026/11/15 09:05:07", "2026/11/15 09:05:07")),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    FileHeader, SectionWriter,
+    testing::Values(writes(WRITER(FileHeader_WriteName), "[FileHeader]", "Name", "housing_lid.pro",
+                           "housing_lid.pro"),
+                    writes(WRITER(FileHeader_WriteType), "[FileHeader]", "Type", "PRO", "PRO"),
+                    writes(WRITER(FileHeader_WriteCreateBy), "[FileHeader]", "CreateBy",
+                           "Front Desk 9.1", "Front Desk 9.1"),
+                    writes(WRITER(FileHeader_WriteRemark), "[FileHeader]", "Remark", "a = b, twice",
+                           "a = b, twice"),
+                    writes("FileHeader_WriteDate", Taking<char*>::of(&Writer::FileHeader_WriteDate),
+                           "[FileHeader]", "Date", "2026/11/15 09:05:07", "2026/11/15 09:05:07")),
+    name_of_row);
 
 TEST(FileHeaderDate, IsWrittenAsAnEntryOfItsSection) {
   const Scratch scratch;
@@ -36,17 +45,21 @@ TEST(FileHeaderDate, IsWrittenAsAnEntryOfItsSection) {
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.FileHeader_WriteDate());
-  EXPECT_TRUE(std::regex_match(bytes_of(path), std::regex(native("\n\\[FileHeader\\]\nDate                 = .{19}\n")))) << bytes_of(path);
+  EXPECT_TRUE(std::regex_match(
+      bytes_of(path), std::regex(native("\n\\[FileHeader\\]\nDate                 = .{19}\n"))))
+      << bytes_of(path);
 }
 
 TEST(FileHeaderDate, StampedTwiceIsOneEntry) {
   const Scratch scratch;
-  const std::string path = scratch.file("[FileHeader]\nDate                 = 1999/12/31 23:59:59\nName                 = a.pro\n");
+  const std::string path = scratch.file(
+      "[FileHeader]\nDate                 = 1999/12/31 23:59:59\nName                 = a.pro\n");
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.FileHeader_WriteDate());
   ASSERT_TRUE(writer.FileHeader_WriteDate());
-  const std::regex layout("\\[FileHeader\\]\nDate                 = 20.{17}\nName                 = a\\.pro\n");
+  const std::regex layout(
+      "\\[FileHeader\\]\nDate                 = 20.{17}\nName                 = a\\.pro\n");
   EXPECT_TRUE(std::regex_match(bytes_of(path), layout)) << bytes_of(path);
 }
 
@@ -74,7 +87,8 @@ TEST(FileHeaderType, IsApartFromTheTypeOfTheCaeHeader) {
   char analysis[] = "Injection";
   ASSERT_TRUE(writer.FileHeader_WriteType(file_type));
   ASSERT_TRUE(writer.CaeHeader_WriteType(analysis));
-  EXPECT_EQ(bytes_of(path), native("\n[FileHeader]\nType                 = PRO\n\n[CaeHeader]\nType                 = Injection\n"));
+  EXPECT_EQ(bytes_of(path), native("\n[FileHeader]\nType                 = "
+                                   "PRO\n\n[CaeHeader]\nType                 = Injection\n"));
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   char* text = nullptr;

@@ -9,15 +9,22 @@
 namespace qelpro_test {
 namespace {
 
-INSTANTIATE_TEST_SUITE_P(FlowCTLInfo, SectionReader,
-                         testing::Values(reads(READER(FlowCTLInfo_ReadTotalInlet), "[FlowCTLInfo]", "TotalInlet", "2", 2),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-1", "1 3", 1, 3, 1)),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-2", "-4\t5", -4, 5, 2)),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-3", "1", 1, 0, 3)),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-4", "6.5 7", 6, 0, 4)),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-0", "8 9", 8, 9, 0)),
-                                         zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL--1", "8 9", 8, 9, -1))),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    FlowCTLInfo, SectionReader,
+    testing::Values(
+        reads(READER(FlowCTLInfo_ReadTotalInlet), "[FlowCTLInfo]", "TotalInlet", "2", 2),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-1", "1 3", 1, 3,
+                      1)),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-2", "-4\t5", -4, 5,
+                      2)),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-3", "1", 1, 0, 3)),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-4", "6.5 7", 6, 0,
+                      4)),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL-0", "8 9", 8, 9,
+                      0)),
+        zeroing(reads(READER(FlowCTLInfo_ReadFlowCTL), "[FlowCTLInfo]", "FlowCTL--1", "8 9", 8, 9,
+                      -1))),
+    name_of_row);
 
 TEST(FlowCTLInfo, KeyWithABracketIsNotTheInletsKey) {
   const Scratch scratch;

@@ -225,7 +225,8 @@ TEST(Reader, AnswersFalseOnceItsFileIsClosed) {
 TEST(Reader, ReadsTheSecondOfTwoFilesOfOneLayout) {
   const Scratch scratch;
   const std::string first = scratch.file(kFile, "first.pro");
-  const std::string second = scratch.file("[FileHeader]\nName = mold.pro\n[Summary]\nTotalNdivz = 9\n", "second.pro");
+  const std::string second =
+      scratch.file("[FileHeader]\nName = mold.pro\n[Summary]\nTotalNdivz = 9\n", "second.pro");
   CQELPROReader_Manipulator reader;
   int total = 0;
   ASSERT_TRUE(reader.SetFilePath(first.c_str()));
@@ -254,7 +255,8 @@ TEST(Writer, LeavesTheFileCompleteAfterEveryWrite) {
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(6));
   EXPECT_EQ(bytes_of(path), native("\n[Summary]\nTotalNdivz           = 6\n"));
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(8));
-  EXPECT_EQ(bytes_of(path), native("\n[Summary]\nTotalNdivz           = 8\n")) << "one entry, with the second value";
+  EXPECT_EQ(bytes_of(path), native("\n[Summary]\nTotalNdivz           = 8\n"))
+      << "one entry, with the second value";
 }
 
 TEST(Writer, OpensACopyOfAPathThatItsCallerReleased) {
@@ -267,7 +269,8 @@ TEST(Writer, OpensACopyOfAPathThatItsCallerReleased) {
   }
   EXPECT_TRUE(writer.Summary_WriteTotalLayer(6));
   EXPECT_TRUE(writer.WriteString("[Summary]", "SkinRatio", "0.5"));
-  EXPECT_EQ(bytes_of(scratch.path()), native("\n[Summary]\nTotalNdivz           = 6\nSkinRatio = 0.5\n"));
+  EXPECT_EQ(bytes_of(scratch.path()),
+            native("\n[Summary]\nTotalNdivz           = 6\nSkinRatio = 0.5\n"));
 }
 
 TEST(ReservedObjects, AreMadeCopiedAndAssigned) {
@@ -284,8 +287,10 @@ TEST(ReservedObjects, AreMadeCopiedAndAssigned) {
 }
 
 TEST(Objects, KeepTheirSize) {
-  EXPECT_EQ(sizeof(CQELPROReader_Manipulator), 3 * sizeof(void*)) << "table of virtuals, session, flag";
-  EXPECT_EQ(sizeof(CQELPROWriter_Manipulator), 2 * sizeof(void*) + sizeof(std::string)) << "table of virtuals, session, path";
+  EXPECT_EQ(sizeof(CQELPROReader_Manipulator), 3 * sizeof(void*))
+      << "table of virtuals, session, flag";
+  EXPECT_EQ(sizeof(CQELPROWriter_Manipulator), 2 * sizeof(void*) + sizeof(std::string))
+      << "table of virtuals, session, path";
 }
 
 TEST(Version, IsTheLibrarysNumber) { EXPECT_EQ(GetPRODLLVersion(), 9103); }
@@ -320,8 +325,10 @@ TYPED_TEST(Lifecycle, LeavesALentStreamToItsCallerWhenItIsGivenAPath) {
 
 TEST(Writer, GoesOnWithItsFileWhereAnotherCannotBeOpened) {
   const Scratch scratch;
-  const std::string path = scratch.file("[Summary]\nTotalGateCTL = 1\n[GateValve-1]\nGCId = 7\nGCSet = 5\n");
-  // A gate writer counts in the file at the writer's path and stores through its document: both are the file that is open.
+  const std::string path =
+      scratch.file("[Summary]\nTotalGateCTL = 1\n[GateValve-1]\nGCId = 7\nGCSet = 5\n");
+  // A gate writer counts in the file at the writer's path and stores through its document: both are
+  // the file that is open.
   CQELPROWriter_Manipulator writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_FALSE(writer.SetFilePath(scratch.path("no/such/folder.pro").c_str()));

@@ -9,13 +9,17 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(MoldMetalMaterial, SectionReader,
-                         testing::Values(reads(READER(MoldMetalMaterial_ReadMaterial), "[MoldMetalMaterial]", "8", "7.8\t0.46\t29.5\tP20\t1\t2\t3.25",
-                                               7.8, 0.46, 29.5, "P20", 1.0, 2.0, 3.25, 8)),
+                         testing::Values(reads(READER(MoldMetalMaterial_ReadMaterial),
+                                               "[MoldMetalMaterial]", "8",
+                                               "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5,
+                                               "P20", 1.0, 2.0, 3.25, 8)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(MoldMetalMaterial, SectionWriter,
-                         testing::Values(writes(WRITER(MoldMetalMaterial_WriteMaterial), "[MoldMetalMaterial]", "9",
-                                                "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5, "P20", 1.0, 2.0, 3.25, 9)),
+                         testing::Values(writes(WRITER(MoldMetalMaterial_WriteMaterial),
+                                                "[MoldMetalMaterial]", "9",
+                                                "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5,
+                                                "P20", 1.0, 2.0, 3.25, 9)),
                          name_of_row);
 
 struct Row {
@@ -34,11 +38,14 @@ Row row_of(const std::string& text) {
   Reader reader;
   Row row;
   EXPECT_TRUE(reader.SetFilePath(path.c_str()));
-  EXPECT_TRUE(reader.MoldMetalMaterial_ReadMaterial(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1)) << text;
+  EXPECT_TRUE(
+      reader.MoldMetalMaterial_ReadMaterial(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1))
+      << text;
   return row;
 }
 
-void expect(const Row& row, double a, double b, double c, const char* name, double d, double e, double f) {
+void expect(const Row& row, double a, double b, double c, const char* name, double d, double e,
+            double f) {
   EXPECT_EQ(row.a, a);
   EXPECT_EQ(row.b, b);
   EXPECT_EQ(row.c, c);
@@ -48,11 +55,17 @@ void expect(const Row& row, double a, double b, double c, const char* name, doub
   EXPECT_EQ(row.f, f);
 }
 
-TEST(MoldMetalMaterial, NameMayHoldBlanks) { expect(row_of("7.8 0.46 29 Tool Steel P20 1 2 3"), 7.8, 0.46, 29, "Tool Steel P20", 1, 2, 3); }
+TEST(MoldMetalMaterial, NameMayHoldBlanks) {
+  expect(row_of("7.8 0.46 29 Tool Steel P20 1 2 3"), 7.8, 0.46, 29, "Tool Steel P20", 1, 2, 3);
+}
 
-TEST(MoldMetalMaterial, NameOfTwoWords) { expect(row_of("7.8 0.46 29 Tool Steel 1 2 3"), 7.8, 0.46, 29, "Tool Steel", 1, 2, 3); }
+TEST(MoldMetalMaterial, NameOfTwoWords) {
+  expect(row_of("7.8 0.46 29 Tool Steel 1 2 3"), 7.8, 0.46, 29, "Tool Steel", 1, 2, 3);
+}
 
-TEST(MoldMetalMaterial, NameOfOneWord) { expect(row_of("7.8 0.46 29 P20 1 2 3"), 7.8, 0.46, 29, "P20", 1, 2, 3); }
+TEST(MoldMetalMaterial, NameOfOneWord) {
+  expect(row_of("7.8 0.46 29 P20 1 2 3"), 7.8, 0.46, 29, "P20", 1, 2, 3);
+}
 
 TEST(MoldMetalMaterial, NumbersThatTheLineLacksAreZero) {
   expect(row_of("7.8 0.46 29 P20 1 2"), 7.8, 0.46, 29, "P20", 1, 2, 0);
@@ -61,7 +74,8 @@ TEST(MoldMetalMaterial, NumbersThatTheLineLacksAreZero) {
 }
 
 TEST(MoldMetalMaterial, BlanksInsideANameStayAsTheyAre) {
-  expect(row_of("7.8\t0.46\t29\tTool  Steel\tP20\t1\t2\t3"), 7.8, 0.46, 29, "Tool  Steel\tP20", 1, 2, 3);
+  expect(row_of("7.8\t0.46\t29\tTool  Steel\tP20\t1\t2\t3"), 7.8, 0.46, 29, "Tool  Steel\tP20", 1,
+         2, 3);
 }
 
 TEST(MoldMetalMaterial, NameBeginsWhereItsFirstWordFirstOccurs) {
@@ -85,7 +99,8 @@ TEST(MoldMetalMaterial, NameOfAnyLengthUpToTheBufferComesBack) {
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   Row row;
-  EXPECT_TRUE(reader.MoldMetalMaterial_ReadMaterial(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1));
+  EXPECT_TRUE(
+      reader.MoldMetalMaterial_ReadMaterial(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1));
   EXPECT_EQ(row.name, name);
   EXPECT_EQ(row.f, 6);
   name += "n";

@@ -9,11 +9,17 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(MoldPreheat, SectionReader,
-                         testing::Values(reads(READER(Cool_ReadMoldPreheatType), "[MoldPreheat]", "MoldPreHeatType", "268", 268),
-                                         reads(READER(Cool_ReadMoldPreheatTime), "[MoldPreheat]", "MoldPreHeatTime", "402.25", 402.25),
-                                         reads(READER(Cool_ReadMoldPreheatTemperature), "[MoldPreheat]", "MoldPreHeatTemperature", "403.75", 403.75),
-                                         reads(READER(Cool_ReadMaxMoldPreHeatTime), "[MoldPreheat]", "MaxMoldPreHeatTime", "405.25", 405.25),
-                                         reads(READER(Cool_ReadMoldPreheat_ControlType), "[MoldPreheat]", "ControlType", "272", 272)),
+                         testing::Values(reads(READER(Cool_ReadMoldPreheatType), "[MoldPreheat]",
+                                               "MoldPreHeatType", "268", 268),
+                                         reads(READER(Cool_ReadMoldPreheatTime), "[MoldPreheat]",
+                                               "MoldPreHeatTime", "402.25", 402.25),
+                                         reads(READER(Cool_ReadMoldPreheatTemperature),
+                                               "[MoldPreheat]", "MoldPreHeatTemperature", "403.75",
+                                               403.75),
+                                         reads(READER(Cool_ReadMaxMoldPreHeatTime), "[MoldPreheat]",
+                                               "MaxMoldPreHeatTime", "405.25", 405.25),
+                                         reads(READER(Cool_ReadMoldPreheat_ControlType),
+                                               "[MoldPreheat]", "ControlType", "272", 272)),
                          name_of_row);
 
 }  // namespace

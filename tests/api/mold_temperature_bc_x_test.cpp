@@ -13,18 +13,26 @@ namespace {
 
 INSTANTIATE_TEST_SUITE_P(
     MoldTemperatureBCX, SectionReader,
-    testing::Values(reads(READER(MoldTemperatureBCX_ReadName), "[MoldTemperatureBC-3]", "BCName", "any text 131", "any text 131", 3),
-                    reads(READER(MoldTemperatureBCX_ReadDisplayType), "[MoldTemperatureBC-4]", "BCDisplayType", "133", 133, 4),
-                    reads(READER(MoldTemperatureBCX_ReadNodeCount), "[MoldTemperatureBC-5]", "BCNodeCount", "134", 134, 5),
-                    reads(READER(MoldTemperatureBCX_ReadBCProfile), "[MoldTemperatureBC-6]", "BC-4", "134.5\t1340", 134.5, 1340.0, 4, 6)),
+    testing::Values(reads(READER(MoldTemperatureBCX_ReadName), "[MoldTemperatureBC-3]", "BCName",
+                          "any text 131", "any text 131", 3),
+                    reads(READER(MoldTemperatureBCX_ReadDisplayType), "[MoldTemperatureBC-4]",
+                          "BCDisplayType", "133", 133, 4),
+                    reads(READER(MoldTemperatureBCX_ReadNodeCount), "[MoldTemperatureBC-5]",
+                          "BCNodeCount", "134", 134, 5),
+                    reads(READER(MoldTemperatureBCX_ReadBCProfile), "[MoldTemperatureBC-6]", "BC-4",
+                          "134.5\t1340", 134.5, 1340.0, 4, 6)),
     name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(
     MoldTemperatureBCX, SectionWriter,
-    testing::Values(writes(WRITER(MoldTemperatureBCX_WriteName), "[MoldTemperatureBC-2]", "BCName", "any text 135", "any text 135", 2),
-                    writes(WRITER(MoldTemperatureBCX_WriteDisplayType), "[MoldTemperatureBC-3]", "BCDisplayType", "137", 137, 3),
-                    writes(WRITER(MoldTemperatureBCX_WriteNodeCount), "[MoldTemperatureBC-4]", "BCNodeCount", "138", 138, 4),
-                    writes(WRITER(MoldTemperatureBCX_WriteBCProfile), "[MoldTemperatureBC-5]", "BC-8", "138.5\t1380", 138.5, 1380.0, 8, 5)),
+    testing::Values(writes(WRITER(MoldTemperatureBCX_WriteName), "[MoldTemperatureBC-2]", "BCName",
+                           "any text 135", "any text 135", 2),
+                    writes(WRITER(MoldTemperatureBCX_WriteDisplayType), "[MoldTemperatureBC-3]",
+                           "BCDisplayType", "137", 137, 3),
+                    writes(WRITER(MoldTemperatureBCX_WriteNodeCount), "[MoldTemperatureBC-4]",
+                           "BCNodeCount", "138", 138, 4),
+                    writes(WRITER(MoldTemperatureBCX_WriteBCProfile), "[MoldTemperatureBC-5]",
+                           "BC-8", "138.5\t1380", 138.5, 1380.0, 8, 5)),
     name_of_row);
 
 constexpr const char* kHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n";
@@ -91,7 +99,8 @@ TEST(BoundaryConditionHeader, SecondLookupOfOneReaderGivesTheFirstLineAgain) {
 
 TEST(BoundaryConditionHeader, EveryLineIsReadThroughALentStream) {
   const Scratch scratch;
-  const std::string path = scratch.file(std::string("[A]\n") + kHeader + "1 One 1\n2 Two 2\n3 Three 3\n");
+  const std::string path =
+      scratch.file(std::string("[A]\n") + kHeader + "1 One 1\n2 Two 2\n3 Three 3\n");
   std::FILE* stream = std::fopen(path.c_str(), "r");
   ASSERT_NE(stream, nullptr);
   {
@@ -115,9 +124,11 @@ TEST(BoundaryConditionHeader, LinesAreWrittenOneBelowTheOther) {
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(3, top, 0, 1));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(2, side, 1, 2));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBCSetting(40, 60, 1, 1, 2));
-  EXPECT_EQ(bytes_of(path), native("\n" + (kHeader + std::string("3\tTop Side\t0\n2\tSide\t1\n1 = 40\t60\n"))));
+  EXPECT_EQ(bytes_of(path),
+            native("\n" + (kHeader + std::string("3\tTop Side\t0\n2\tSide\t1\n1 = 40\t60\n"))));
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(4, side, 5, 1));
-  EXPECT_EQ(bytes_of(path), native("\n" + (kHeader + std::string("4\tSide\t5\n2\tSide\t1\n1 = 40\t60\n    "))));
+  EXPECT_EQ(bytes_of(path),
+            native("\n" + (kHeader + std::string("4\tSide\t5\n2\tSide\t1\n1 = 40\t60\n    "))));
 }
 
 TEST(BoundaryConditionHeader, IsNotWrittenBelowLineOne) {
@@ -133,7 +144,8 @@ TEST(BoundaryConditionHeader, IsNotWrittenBelowLineOne) {
 }
 
 std::string settings() {
-  return std::string("[A]\nx = 1\n") + kHeader + "3\tTop\t0\n2\tSide\t0\n1 = 10\t11\n1 = 20\t21\n1 = 30\t31\n2 = 40\t41\n2 = 50\t51\n";
+  return std::string("[A]\nx = 1\n") + kHeader +
+         "3\tTop\t0\n2\tSide\t0\n1 = 10\t11\n1 = 20\t21\n1 = 30\t31\n2 = 40\t41\n2 = 50\t51\n";
 }
 
 TEST(BoundaryConditionSetting, LiesBehindTheHeadersAndTheSettingsBefore) {
@@ -222,7 +234,8 @@ TEST(BoundaryConditionSetting, TakesAnyCharacterForTheEqualsSign) {
 
 // A section of two conditions with no settings of the second, and another section behind it.
 std::string settings_before_another_section() {
-  return std::string("[A]\nx = 1\n") + kHeader + "1\tTop\t0\n1\tSide\t0\n1 = 10\t11\n[Cool]\n7 = 8 9\n2 = 40\t41\n";
+  return std::string("[A]\nx = 1\n") + kHeader +
+         "1\tTop\t0\n1\tSide\t0\n1 = 10\t11\n[Cool]\n7 = 8 9\n2 = 40\t41\n";
 }
 
 // Over the path and over a lent stream.
@@ -236,7 +249,8 @@ void expect_no_setting(const std::string& path, int p, int q, int r) {
     for (Reader* each : {&reader, &lent}) {
       double a = -1;
       double b = -1;
-      EXPECT_FALSE(each->MoldTemperatureBCX_ReadBCSetting(a, b, p, q, r)) << p << ' ' << q << ' ' << r;
+      EXPECT_FALSE(each->MoldTemperatureBCX_ReadBCSetting(a, b, p, q, r))
+          << p << ' ' << q << ' ' << r;
       EXPECT_EQ(a, -1);
       EXPECT_EQ(b, -1);
     }
@@ -286,7 +300,8 @@ TEST(BoundaryConditionSetting, EndsAtAHeaderWithWordsBehindItToo) {
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   double a = -1;
   double b = -1;
-  EXPECT_TRUE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 2, 2, 2)) << "no header, but a line like any other";
+  EXPECT_TRUE(reader.MoldTemperatureBCX_ReadBCSetting(a, b, 2, 2, 2))
+      << "no header, but a line like any other";
   EXPECT_EQ(a, 8);
 }
 
@@ -358,7 +373,8 @@ TEST(BoundaryConditionBlock, PositionalMembersFailWhereNoFileCouldBeOpened) {
 
 TEST(BoundaryConditionSetting, OfNumbersBeyondAllLinesIsNotThere) {
   const Scratch scratch;
-  const std::string contents = std::string("[A]\n") + kHeader + "2147483647\tTop\t0\n2147483647\tSide\t0\n";
+  const std::string contents =
+      std::string("[A]\n") + kHeader + "2147483647\tTop\t0\n2147483647\tSide\t0\n";
   const std::string path = scratch.file(contents);
   Reader reader;
   Writer writer;

@@ -9,11 +9,15 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(MoldbaseInfo, SectionReader,
-                         testing::Values(reads(READER(MoldbaseInfo_ReadMoldbaseInfo), "[MoldbaseInfo]", "MB-3", "3\t\"Base A\"", 3, "Base A", 3)),
+                         testing::Values(reads(READER(MoldbaseInfo_ReadMoldbaseInfo),
+                                               "[MoldbaseInfo]", "MB-3", "3\t\"Base A\"", 3,
+                                               "Base A", 3)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(MoldbaseInfo, SectionWriter,
-                         testing::Values(writes(WRITER(MoldbaseInfo_WriteMoldbaseInfo), "[MoldbaseInfo]", "MB-4", "3\t\"Base A\"", 3, "Base A", 4)),
+                         testing::Values(writes(WRITER(MoldbaseInfo_WriteMoldbaseInfo),
+                                                "[MoldbaseInfo]", "MB-4", "3\t\"Base A\"", 3,
+                                                "Base A", 4)),
                          name_of_row);
 
 TEST(MoldbaseInfo, NameStandsBetweenTheFirstAndTheLastQuote) {
@@ -22,7 +26,8 @@ TEST(MoldbaseInfo, NameStandsBetweenTheFirstAndTheLastQuote) {
     const char* text;
     int number;
     const char* name;
-  } rows[] = {{"3\t\"Base A\"", 3, "Base A"}, {"4 \"a \"b\" c\" tail", 4, "a \"b\" c"}, {"5 \"\"", 5, ""}};
+  } rows[] = {
+      {"3\t\"Base A\"", 3, "Base A"}, {"4 \"a \"b\" c\" tail", 4, "a \"b\" c"}, {"5 \"\"", 5, ""}};
   for (const auto& row : rows) {
     const std::string path = scratch.file("[MoldbaseInfo]\nMB-1 = " + std::string(row.text) + "\n");
     Reader reader;

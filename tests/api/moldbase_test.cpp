@@ -11,13 +11,15 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(Moldbase, SectionReader,
-                         testing::Values(reads(READER(Moldbase_ReadMoldbase), "[Moldbase]", "6", "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5,
+                         testing::Values(reads(READER(Moldbase_ReadMoldbase), "[Moldbase]", "6",
+                                               "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5,
                                                "P20", 1.0, 2.0, 3.25, 6)),
                          name_of_row);
 
 INSTANTIATE_TEST_SUITE_P(Moldbase, SectionWriter,
-                         testing::Values(writes(WRITER(Moldbase_WriteMoldbase), "[Moldbase]", "7", "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46,
-                                                29.5, "P20", 1.0, 2.0, 3.25, 7)),
+                         testing::Values(writes(WRITER(Moldbase_WriteMoldbase), "[Moldbase]", "7",
+                                                "7.8\t0.46\t29.5\tP20\t1\t2\t3.25", 7.8, 0.46, 29.5,
+                                                "P20", 1.0, 2.0, 3.25, 7)),
                          name_of_row);
 
 struct Row {
@@ -36,11 +38,13 @@ Row row_of(const std::string& text) {
   Reader reader;
   Row row;
   EXPECT_TRUE(reader.SetFilePath(path.c_str()));
-  EXPECT_TRUE(reader.Moldbase_ReadMoldbase(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1)) << text;
+  EXPECT_TRUE(reader.Moldbase_ReadMoldbase(row.a, row.b, row.c, row.name, row.d, row.e, row.f, 1))
+      << text;
   return row;
 }
 
-void expect(const Row& row, double a, double b, double c, const char* name, double d, double e, double f) {
+void expect(const Row& row, double a, double b, double c, const char* name, double d, double e,
+            double f) {
   EXPECT_EQ(row.a, a);
   EXPECT_EQ(row.b, b);
   EXPECT_EQ(row.c, c);
@@ -50,11 +54,17 @@ void expect(const Row& row, double a, double b, double c, const char* name, doub
   EXPECT_EQ(row.f, f);
 }
 
-TEST(Moldbase, NameMayHoldBlanks) { expect(row_of("7.8 0.46 29 Tool Steel P20 1 2 3"), 7.8, 0.46, 29, "Tool Steel P20", 1, 2, 3); }
+TEST(Moldbase, NameMayHoldBlanks) {
+  expect(row_of("7.8 0.46 29 Tool Steel P20 1 2 3"), 7.8, 0.46, 29, "Tool Steel P20", 1, 2, 3);
+}
 
-TEST(Moldbase, NameOfTwoWords) { expect(row_of("7.8 0.46 29 Tool Steel 1 2 3"), 7.8, 0.46, 29, "Tool Steel", 1, 2, 3); }
+TEST(Moldbase, NameOfTwoWords) {
+  expect(row_of("7.8 0.46 29 Tool Steel 1 2 3"), 7.8, 0.46, 29, "Tool Steel", 1, 2, 3);
+}
 
-TEST(Moldbase, NameOfOneWord) { expect(row_of("7.8 0.46 29 P20 1 2 3"), 7.8, 0.46, 29, "P20", 1, 2, 3); }
+TEST(Moldbase, NameOfOneWord) {
+  expect(row_of("7.8 0.46 29 P20 1 2 3"), 7.8, 0.46, 29, "P20", 1, 2, 3);
+}
 
 TEST(Moldbase, NumbersThatTheLineLacksAreZero) {
   expect(row_of("7.8 0.46 29 P20 1 2"), 7.8, 0.46, 29, "P20", 1, 2, 0);
@@ -63,7 +73,8 @@ TEST(Moldbase, NumbersThatTheLineLacksAreZero) {
 }
 
 TEST(Moldbase, BlanksInsideANameStayAsTheyAre) {
-  expect(row_of("7.8\t0.46\t29\tTool  Steel\tP20\t1\t2\t3"), 7.8, 0.46, 29, "Tool  Steel\tP20", 1, 2, 3);
+  expect(row_of("7.8\t0.46\t29\tTool  Steel\tP20\t1\t2\t3"), 7.8, 0.46, 29, "Tool  Steel\tP20", 1,
+         2, 3);
 }
 
 TEST(Moldbase, NameBeginsWhereItsFirstWordFirstOccurs) {
@@ -91,8 +102,10 @@ TEST(Moldbase, EmptyNameIsWrittenAsItIsGivenAndDoesNotReadBack) {
 TEST(Names, OutliveTheReadsOfOtherKinds) {
   const Scratch scratch;
   const std::string path = scratch.file(
-      "[Moldbase]\n1 = 1 2 3 Base 4 5 6\n[MoldMetalMaterial]\n1 = 1 2 3 Metal 4 5 6\n[MoldbaseInfo]\nMB-1 = 1 \"Info\"\n"
-      "[Coolant]\n1 = 1 2 3 4 5 Water 6 7\n[PartInsertInitialTemperature]\nPartInsert-1 = 1\tPart\t80\t1\n"
+      "[Moldbase]\n1 = 1 2 3 Base 4 5 6\n[MoldMetalMaterial]\n1 = 1 2 3 Metal 4 5 "
+      "6\n[MoldbaseInfo]\nMB-1 = 1 \"Info\"\n"
+      "[Coolant]\n1 = 1 2 3 4 5 Water 6 7\n[PartInsertInitialTemperature]\nPartInsert-1 = "
+      "1\tPart\t80\t1\n"
       "[MoldInsertInitialTemperature]\nMoldInsert-1 = 1\tMold\t80\t1\n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
@@ -111,9 +124,11 @@ TEST(Names, OutliveTheReadsOfOtherKinds) {
   ASSERT_TRUE(reader.MoldbaseInfo_ReadMoldbaseInfo(i[0], info, 1));
   ASSERT_TRUE(reader.Coolant_ReadCoolant(d[0], d[1], d[2], d[3], i[0], coolant, d[4], i[1], 1));
   ASSERT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(i[0], part, d[0], 1));
-  ASSERT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(i[0], part_of_four, d[0], i[1], 1));
+  ASSERT_TRUE(
+      reader.PartInsertInitialTemperature_ReadPartInsert(i[0], part_of_four, d[0], i[1], 1));
   ASSERT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(i[0], mold, d[0], 1));
-  ASSERT_TRUE(reader.MoldInsertInitialTemperature_ReadMoldInsert(i[0], mold_of_four, d[0], i[1], 1));
+  ASSERT_TRUE(
+      reader.MoldInsertInitialTemperature_ReadMoldInsert(i[0], mold_of_four, d[0], i[1], 1));
   EXPECT_STREQ(base, "Base");
   EXPECT_STREQ(metal, "Metal");
   EXPECT_STREQ(info, "Info");
@@ -122,7 +137,8 @@ TEST(Names, OutliveTheReadsOfOtherKinds) {
   EXPECT_STREQ(part_of_four, "Part");
   EXPECT_STREQ(mold, "Mold");
   EXPECT_STREQ(mold_of_four, "Mold");
-  const std::set<const char*> buffers = {base, metal, info, coolant, part, part_of_four, mold, mold_of_four};
+  const std::set<const char*> buffers = {base, metal,        info, coolant,
+                                         part, part_of_four, mold, mold_of_four};
   EXPECT_EQ(buffers.size(), 8U);
 }
 

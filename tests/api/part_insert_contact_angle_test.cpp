@@ -16,14 +16,18 @@ namespace qelpro_test {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(PartInsertContactAngle, SectionReader,
-                         testing::Values(reads(READER(PartInsertContactAngle_ReadGroupCount), "[PartInsertContactAngle]", "GroupCount", "130", 130)),
+                         testing::Values(reads(READER(PartInsertContactAngle_ReadGroupCount),
+                                               "[PartInsertContactAngle]", "GroupCount", "130",
+                                               130)),
                          name_of_row);
 
-INSTANTIATE_TEST_SUITE_P(PartInsertContactAngle, SectionWriter,
-                         testing::Values(writes(WRITER(PartInsertContactAngle_WriteGroupCount), "[PartInsertContactAngle]", "GroupCount", "131", 131),
-                                         writes(WRITER(PartInsertContactAngle_WriteGroup), "[PartInsertContactAngle]", "2", "\"Rib A\"\t40.5", 2,
-                                                "Rib A", 40.5)),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    PartInsertContactAngle, SectionWriter,
+    testing::Values(writes(WRITER(PartInsertContactAngle_WriteGroupCount),
+                           "[PartInsertContactAngle]", "GroupCount", "131", 131),
+                    writes(WRITER(PartInsertContactAngle_WriteGroup), "[PartInsertContactAngle]",
+                           "2", "\"Rib A\"\t40.5", 2, "Rib A", 40.5)),
+    name_of_row);
 
 class ContactAngle : public testing::Test {
  protected:
@@ -74,7 +78,8 @@ TEST_F(ContactAngle, IsFoundByNameUpToTheCount) {
   Writer writer;
   path_ = scratch_.path();
   ASSERT_TRUE(writer.SetFilePath(path_.c_str()));
-  ASSERT_TRUE(writer.PartInsertContactAngle_WriteGroupCount(1) && writer.PartInsertContactAngle_WriteGroup(1, "Boss", 30) &&
+  ASSERT_TRUE(writer.PartInsertContactAngle_WriteGroupCount(1) &&
+              writer.PartInsertContactAngle_WriteGroup(1, "Boss", 30) &&
               writer.PartInsertContactAngle_WriteGroup(2, "Rib", 40));
   ASSERT_TRUE(reader_.SetFilePath(path_.c_str()));
   EXPECT_EQ(by_name("Rib"), -1);
@@ -146,13 +151,16 @@ TEST_F(ContactAngle, IsFoundByANameThatAnotherReadHandedOut) {
 std::optional<double> by_lookups(Reader& reader, const std::string& name) {
   const auto value = [&reader](const std::string& key) -> std::optional<std::string> {
     char* text = nullptr;
-    return reader.ReadString("[PartInsertContactAngle]", key.c_str(), text, nullptr, 0) ? std::optional<std::string>(text) : std::nullopt;
+    return reader.ReadString("[PartInsertContactAngle]", key.c_str(), text, nullptr, 0)
+               ? std::optional<std::string>(text)
+               : std::nullopt;
   };
   const int count = std::atoi(value("GroupCount").value_or("0").c_str());
   for (int group = 1; group <= count; ++group) {
     const std::optional<std::string> text = value(std::to_string(group));
     const std::size_t open = text ? text->find('"') : std::string::npos;
-    const std::size_t close = open != std::string::npos ? text->find('"', open + 1) : std::string::npos;
+    const std::size_t close =
+        open != std::string::npos ? text->find('"', open + 1) : std::string::npos;
     if (close == std::string::npos) {
       return std::nullopt;
     }
@@ -172,7 +180,8 @@ TEST_F(ContactAngle, IsFoundByNameAsByOneLookupAfterAnother) {
     for (int line = below(9); line > 0; --line) {
       const std::string name(1, static_cast<char>('A' + below(4)));
       const char* const keys[] = {"", "0", "+", " "};
-      lines.push_back((below(8) == 0 ? keys[below(4)] : "") + std::to_string(1 + below(6)) + (below(9) == 0 ? " = A 5" : " = \"" + name + "\" ") +
+      lines.push_back((below(8) == 0 ? keys[below(4)] : "") + std::to_string(1 + below(6)) +
+                      (below(9) == 0 ? " = A 5" : " = \"" + name + "\" ") +
                       std::to_string(10 + below(80)));
     }
     std::shuffle(lines.begin(), lines.end(), random);
@@ -194,7 +203,9 @@ TEST_F(ContactAngle, IsFoundByNameAsByOneLookupAfterAnother) {
         for (Reader* reader : {&lent, &held}) {
           double angle = -1;
           const std::optional<double> expected = by_lookups(*reader, name);
-          EXPECT_EQ(reader->PartInsertContactAngle_ReadAngle(name, angle), expected.has_value()) << name << " in\n" << contents;
+          EXPECT_EQ(reader->PartInsertContactAngle_ReadAngle(name, angle), expected.has_value())
+              << name << " in\n"
+              << contents;
           EXPECT_EQ(angle, expected.value_or(-1)) << name << " in\n" << contents;
           found += expected ? 1 : 0;
         }
@@ -221,7 +232,8 @@ TEST_F(ContactAngle, SearchForAnAbsentNameReadsALentStreamOnce) {
     double angle = -1;
     EXPECT_FALSE(lent.PartInsertContactAngle_ReadAngle("Absent", angle));
     EXPECT_FALSE(reader_.PartInsertContactAngle_ReadAngle("Absent", angle));
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8)) << "a scan for each group takes minutes";
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8))
+        << "a scan for each group takes minutes";
     EXPECT_TRUE(lent.PartInsertContactAngle_ReadAngle("Group 29999", angle));
   }
   std::fclose(stream);

@@ -10,21 +10,28 @@ namespace {
 
 INSTANTIATE_TEST_SUITE_P(
     PartInsert, SectionReader,
-    testing::Values(reads(READER(PartInsertInitialTemperature_ReadTotalPartInsert), "[PartInsertInitialTemperature]", "TotalPartInsert", "120", 120),
-                    reads("PartInsertInitialTemperature_ReadPartInsert",
-                          Taking<int&, char*&, double&, int>::of(&CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
-                          "[PartInsertInitialTemperature]", "PartInsert-4", "3\tPin\t80.5", 3, "Pin", 80.5, 4),
-                    reads("PartInsertInitialTemperature_ReadPartInsert",
-                          Taking<int&, char*&, double&, int&, int>::of(&CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
-                          "[PartInsertInitialTemperature]", "PartInsert-5", "3\tCore Pin A\t80.5\t2", 3, "Core Pin A", 80.5, 2, 5)),
+    testing::Values(
+        reads(READER(PartInsertInitialTemperature_ReadTotalPartInsert),
+              "[PartInsertInitialTemperature]", "TotalPartInsert", "120", 120),
+        reads("PartInsertInitialTemperature_ReadPartInsert",
+              Taking<int&, char*&, double&, int>::of(
+                  &CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
+              "[PartInsertInitialTemperature]", "PartInsert-4", "3\tPin\t80.5", 3, "Pin", 80.5, 4),
+        reads("PartInsertInitialTemperature_ReadPartInsert",
+              Taking<int&, char*&, double&, int&, int>::of(
+                  &CQELPROReader_Manipulator::PartInsertInitialTemperature_ReadPartInsert),
+              "[PartInsertInitialTemperature]", "PartInsert-5", "3\tCore Pin A\t80.5\t2", 3,
+              "Core Pin A", 80.5, 2, 5)),
     name_of_row);
 
-INSTANTIATE_TEST_SUITE_P(PartInsert, SectionWriter,
-                         testing::Values(writes(WRITER(PartInsertInitialTemperature_WriteTotalPartInsert), "[PartInsertInitialTemperature]",
-                                                "TotalPartInsert", "123", 123),
-                                         writes(WRITER(PartInsertInitialTemperature_WritePartInsert), "[PartInsertInitialTemperature]",
-                                                "PartInsert-7", "3\tCore Pin A\t80.5", 3, "Core Pin A", 80.5, 7)),
-                         name_of_row);
+INSTANTIATE_TEST_SUITE_P(
+    PartInsert, SectionWriter,
+    testing::Values(writes(WRITER(PartInsertInitialTemperature_WriteTotalPartInsert),
+                           "[PartInsertInitialTemperature]", "TotalPartInsert", "123", 123),
+                    writes(WRITER(PartInsertInitialTemperature_WritePartInsert),
+                           "[PartInsertInitialTemperature]", "PartInsert-7", "3\tCore Pin A\t80.5",
+                           3, "Core Pin A", 80.5, 7)),
+    name_of_row);
 
 struct Insert {
   int id;
@@ -36,7 +43,8 @@ struct Insert {
 // What the four-output reader makes of the line of an insert.
 void expect_line(const std::string& text, int number, const Insert& expected) {
   const Scratch scratch;
-  const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-" + std::to_string(number) + " = " + text + "\n");
+  const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-" +
+                                        std::to_string(number) + " = " + text + "\n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   char before[] = "before";
@@ -44,7 +52,9 @@ void expect_line(const std::string& text, int number, const Insert& expected) {
   char* name = before;
   double temperature = -1;
   int fourth = -1;
-  EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, number)) << text;
+  EXPECT_TRUE(
+      reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, number))
+      << text;
   EXPECT_EQ(id, expected.id) << text;
   EXPECT_STREQ(name, expected.name) << text;
   EXPECT_EQ(temperature, expected.temperature) << text;
@@ -109,7 +119,10 @@ TEST(PartInsert, NameWithBlanksReadsBackWhereTheTemperatureIsAWholeNumberAboveIt
   const struct {
     double temperature;
     Insert read;
-  } rows[] = {{80, {3, "Core Pin A", 80, 4}}, {4, {3, "Core Pin", 0, 4}}, {80.5, {3, "Core Pin A", 80.5, 4}}, {2.5, {3, "Core Pin", 0, 2}}};
+  } rows[] = {{80, {3, "Core Pin A", 80, 4}},
+              {4, {3, "Core Pin", 0, 4}},
+              {80.5, {3, "Core Pin A", 80.5, 4}},
+              {2.5, {3, "Core Pin", 0, 2}}};
   for (const auto& row : rows) {
     ASSERT_TRUE(writer.PartInsertInitialTemperature_WritePartInsert(3, given, row.temperature, 4));
     Reader reader;
@@ -118,7 +131,8 @@ TEST(PartInsert, NameWithBlanksReadsBackWhereTheTemperatureIsAWholeNumberAboveIt
     char* name = nullptr;
     double temperature = -1;
     int fourth = -1;
-    EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, 4));
+    EXPECT_TRUE(
+        reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, 4));
     EXPECT_EQ(id, row.read.id) << row.temperature;
     EXPECT_STREQ(name, row.read.name) << row.temperature;
     EXPECT_EQ(temperature, row.read.temperature) << row.temperature;
@@ -144,7 +158,8 @@ TEST(PartInsert, WithoutANameReadsBackWithoutOne) {
     EXPECT_EQ(id, 3);
     EXPECT_STREQ(name, "");
     EXPECT_EQ(temperature, 80.5);
-    EXPECT_TRUE(reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, 1));
+    EXPECT_TRUE(
+        reader.PartInsertInitialTemperature_ReadPartInsert(id, name, temperature, fourth, 1));
     EXPECT_EQ(id, 3);
     EXPECT_STREQ(name, "");
     EXPECT_EQ(temperature, 80.5);
@@ -158,10 +173,13 @@ TEST(PartInsert, OfThreeOutputsTakesAnEmptyNameOnlyBeforeANumber) {
     const char* text;
     const char* name;
     double temperature;
-  } rows[] = {{"3\t\t80\t2", "", 80}, {"3\t\tPin\t80", "Pin", 80}, {"3\t\t80 Pin\t70", "80", 0}, {"3\t\tnano\t70", "nano", 70},
-              {"3\t80", "80", 0},     {"3\t\t\t9", "", 0},         {"3\t\t\tPin", "Pin", 0}};
+  } rows[] = {{"3\t\t80\t2", "", 80},       {"3\t\tPin\t80", "Pin", 80},
+              {"3\t\t80 Pin\t70", "80", 0}, {"3\t\tnano\t70", "nano", 70},
+              {"3\t80", "80", 0},           {"3\t\t\t9", "", 0},
+              {"3\t\t\tPin", "Pin", 0}};
   for (const auto& row : rows) {
-    const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-1 = " + std::string(row.text) + "\n");
+    const std::string path = scratch.file(
+        "[PartInsertInitialTemperature]\nPartInsert-1 = " + std::string(row.text) + "\n");
     Reader reader;
     ASSERT_TRUE(reader.SetFilePath(path.c_str()));
     int id = -1;
@@ -185,11 +203,14 @@ TEST(PartInsert, LastWordUpToTheInsertNumberIsTheFourthField) {
 }
 
 TEST(PartInsert, WholeTemperatureUpToTheInsertNumberIsTakenForTheFourthField) {
-  // "5" is the temperature, and reads as the fourth field of insert 7; no number is left for the temperature.
+  // "5" is the temperature, and reads as the fourth field of insert 7; no number is left for the
+  // temperature.
   expect_line("3 40 Pin 5", 7, {3, "40", 0, 5});
 }
 
-TEST(PartInsert, LastWordThatIsNoNumberLeavesAllWordsToTheName) { expect_line("3 Pin hot", 1, {0, "3 Pin hot", 0, 0}); }
+TEST(PartInsert, LastWordThatIsNoNumberLeavesAllWordsToTheName) {
+  expect_line("3 Pin hot", 1, {0, "3 Pin hot", 0, 0});
+}
 
 TEST(PartInsert, LineWithoutWordsHasNoName) {
   expect_line("", 1, {0, nullptr, 0, 0});
@@ -198,7 +219,8 @@ TEST(PartInsert, LineWithoutWordsHasNoName) {
 
 TEST(PartInsert, ThreeOutputsTakeTheFirstWordForTheName) {
   const Scratch scratch;
-  const std::string path = scratch.file("[PartInsertInitialTemperature]\nPartInsert-1 = 3\tCore Pin A\t80\nPartInsert-2 = \n");
+  const std::string path = scratch.file(
+      "[PartInsertInitialTemperature]\nPartInsert-1 = 3\tCore Pin A\t80\nPartInsert-2 = \n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   int id = -1;

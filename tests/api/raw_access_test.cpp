@@ -26,7 +26,8 @@ TEST_F(RawAccess, BothReadsGiveTheSameText) {
     const char* key;
     const char* text;
   } rows[] = {
-      {"[FileHeader]", "Name", "a mold.pro"}, {"[Flow-1]", "FillTime", "1.5"},     {"[Flow-2]", "FillTime", "2.5"}, {"[Flow-1]", "Empty", ""},
+      {"[FileHeader]", "Name", "a mold.pro"}, {"[Flow-1]", "FillTime", "1.5"},
+      {"[Flow-2]", "FillTime", "2.5"},        {"[Flow-1]", "Empty", ""},
       {"[Flow-1]", "Missing", "(false)"},     {"[Flow-3]", "FillTime", "(false)"},
   };
   for (const auto& row : rows) {
@@ -141,7 +142,8 @@ TEST_F(RawAccess, WritesItemsAsTheirFormatSays) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(writer.WriteItems("[A]", "Pair", "%g\t%d", 1.25, 7));
   EXPECT_TRUE(writer.WriteItems("[A]", "Text", "%s, %5.2f|%03d|%%", "two words", 3.14159, 7));
-  EXPECT_EQ(bytes_of(path), native("\n[A]\nPair                 = 1.25\t7\nText = two words,  3.14|007|%\n"));
+  EXPECT_EQ(bytes_of(path),
+            native("\n[A]\nPair                 = 1.25\t7\nText = two words,  3.14|007|%\n"));
 }
 
 TEST_F(RawAccess, WritesItemsOfAnyLengthUpToALine) {
@@ -198,7 +200,8 @@ TEST_F(RawAccess, SectionMembersWriteTheSameNumbersInAHostOfAnotherLocale) {
   Writer writer;
   Reader reader;
   const bool opened = writer.SetFilePath(path.c_str());
-  const bool written = writer.FlowX_WriteFillingTime(1.5, 1) && writer.WriteItems("[Flow-1]", "Pair", "%g %g", 0.25, 7.5);
+  const bool written = writer.FlowX_WriteFillingTime(1.5, 1) &&
+                       writer.WriteItems("[Flow-1]", "Pair", "%g %g", 0.25, 7.5);
   double time = 0;
   const bool read = reader.SetFilePath(path.c_str()) && reader.FlowX_ReadFillingTime(time, 1);
   EXPECT_TRUE(opened && written && read);
@@ -219,7 +222,8 @@ TEST_F(RawAccess, WritesNothingPastTheBufferOfAReadValue) {
   EXPECT_TRUE(reader.ReadValue("[A]", "y", value, buffer.data(), 6));
   EXPECT_STREQ(value, "12345");
   std::string large(5001, '#');
-  EXPECT_TRUE(reader.ReadValue("[A]", "x", value, large.data(), 0)) << "no size is looked at where it is 0";
+  EXPECT_TRUE(reader.ReadValue("[A]", "x", value, large.data(), 0))
+      << "no size is looked at where it is 0";
   EXPECT_EQ(value, longer);
 }
 

@@ -41,7 +41,9 @@ TEST_F(ReadingSession, FindsTheSameBoundaryConditionAgain) {
 }
 
 TEST_F(ReadingSession, ReadsWhatStandsInTheFileAfterAStoreOfTheSameProgram) {
-  open("[Flow-1]\nMaterial = a\nFillTime = 1\nMeltTemp = 200\n[Flow-2]\nFillTime = 2\nMeltTemp = 300\n");
+  open(
+      "[Flow-1]\nMaterial = a\nFillTime = 1\nMeltTemp = 200\n[Flow-2]\nFillTime = 2\nMeltTemp = "
+      "300\n");
   double time = 0;
   double melt = 0;
   ASSERT_TRUE(reader_.FlowX_ReadFillingTime(time, 1));

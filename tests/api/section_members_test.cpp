@@ -20,14 +20,17 @@ using Given = WriterRow::Given;
 
 // Entries that a careless search would take for the key's.
 std::string lookalikes(const ReaderRow& row) {
-  return padded(row.key + "0", row.text) + "\n " + padded(row.key, row.text) + "\nx" + padded(row.key, row.text) + "\n";
+  return padded(row.key + "0", row.text) + "\n " + padded(row.key, row.text) + "\nx" +
+         padded(row.key, row.text) + "\n";
 }
 
 TEST_P(SectionReader, ReadsTheEntryOfItsSection) {
   const ReaderRow& row = GetParam();
   const Scratch scratch;
-  const std::string path = scratch.file("[Before]\n" + padded(row.key, "81") + "\n" + row.section + "\n" + lookalikes(row) +
-                                        padded(row.key, row.text) + "\n" + padded(row.key, "82") + "\n[Behind]\n" + padded(row.key, "83") + "\n");
+  const std::string path =
+      scratch.file("[Before]\n" + padded(row.key, "81") + "\n" + row.section + "\n" +
+                   lookalikes(row) + padded(row.key, row.text) + "\n" + padded(row.key, "82") +
+                   "\n[Behind]\n" + padded(row.key, "83") + "\n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   EXPECT_TRUE(row.call(reader, Outcome::read));
@@ -37,7 +40,8 @@ TEST_P(SectionReader, ReadsTheEntryOfItsSection) {
 TEST_P(SectionReader, ReadsThroughALentStream) {
   const ReaderRow& row = GetParam();
   const Scratch scratch;
-  const std::string path = scratch.file("\n" + row.section + "\n" + row.key + "=" + row.text + "\n");
+  const std::string path =
+      scratch.file("\n" + row.section + "\n" + row.key + "=" + row.text + "\n");
   std::FILE* stream = std::fopen(path.c_str(), "r");
   ASSERT_NE(stream, nullptr);
   {
@@ -51,7 +55,8 @@ TEST_P(SectionReader, ReadsThroughALentStream) {
 TEST_P(SectionReader, YieldsFalseWithoutTheKeyAndLeavesTheOutputsAlone) {
   const ReaderRow& row = GetParam();
   const Scratch scratch;
-  const std::string path = scratch.file(row.section + "\n" + lookalikes(row) + "[Behind]\n" + padded(row.key, row.text) + "\n");
+  const std::string path = scratch.file(row.section + "\n" + lookalikes(row) + "[Behind]\n" +
+                                        padded(row.key, row.text) + "\n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   EXPECT_FALSE(row.call(reader, Outcome::untouched));
@@ -60,7 +65,8 @@ TEST_P(SectionReader, YieldsFalseWithoutTheKeyAndLeavesTheOutputsAlone) {
 TEST_P(SectionReader, YieldsFalseWithoutTheSectionAndLeavesTheOutputsAlone) {
   const ReaderRow& row = GetParam();
   const Scratch scratch;
-  const std::string path = scratch.file(padded(row.key, row.text) + "\n[Other]\n" + padded(row.key, row.text) + "\n");
+  const std::string path =
+      scratch.file(padded(row.key, row.text) + "\n[Other]\n" + padded(row.key, row.text) + "\n");
   Reader reader;
   ASSERT_TRUE(reader.SetFilePath(path.c_str()));
   EXPECT_FALSE(row.call(reader, Outcome::untouched));
@@ -145,14 +151,17 @@ TEST_P(SectionWriter, ReplacesItsEntryWhereItStands) {
   const Scratch scratch;
   const std::string before = row.section + "\n" + padded(row.key + "0", "81") + "\n";
   const std::string behind = "Other                = 82\n[Behind]\n" + padded(row.key, "83") + "\n";
-  const std::string old_line = row.key + "=a value that is longer than the new one will be, by far, so that the file would shrink\n";
+  const std::string old_line =
+      row.key +
+      "=a value that is longer than the new one will be, by far, so that the file would shrink\n";
   const std::string new_line = padded(row.key, row.text) + "\n";
   ASSERT_GT(old_line.size(), new_line.size());
   const std::string path = scratch.file(before + old_line + behind);
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(row.call(writer, Given::values));
-  const std::string written = before + new_line + behind + std::string(old_line.size() - new_line.size(), ' ');
+  const std::string written =
+      before + new_line + behind + std::string(old_line.size() - new_line.size(), ' ');
   EXPECT_EQ(bytes_of(path), written);
   EXPECT_TRUE(row.call(writer, Given::values));
   EXPECT_EQ(bytes_of(path), written) << "the same value again";
@@ -198,7 +207,8 @@ TEST_P(SectionWriter, RefusesOnlyTextsThatCouldNotBeReadBackAndKeepsTheFile) {
     Writer writer;
     ASSERT_TRUE(writer.SetFilePath(path.c_str()));
     EXPECT_EQ(row.call(writer, given), !row.takes_text);
-    EXPECT_EQ(bytes_of(path), row.takes_text ? before : row.section + "\n" + padded(row.key, row.text) + "\n");
+    EXPECT_EQ(bytes_of(path),
+              row.takes_text ? before : row.section + "\n" + padded(row.key, row.text) + "\n");
   }
 }
 

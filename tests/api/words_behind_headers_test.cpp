@@ -1,6 +1,7 @@
 #include "support/raw_access.h"
 
-// A header with words behind it is a header for readers and writers alike, so that no store lands where nobody finds it.
+// A header with words behind it is a header for readers and writers alike, so that no store lands
+// where nobody finds it.
 
 namespace qelpro_test {
 namespace {
@@ -34,16 +35,19 @@ TEST_F(WordsBehindHeaders, HaveAStoreFoundByANewReader) {
 TEST_F(WordsBehindHeaders, KeepTheKeysOfTwoInletsApart) {
   Writer& writer = writing("[Flow-1] # a\nMeltTemp = 1\n[Flow-2] # b\nMeltTemp = 2\n");
   EXPECT_TRUE(writer.FlowX_WriteFillingTime(5, 1));
-  EXPECT_EQ(bytes_of(path_), "[Flow-1] # a\nMeltTemp = 1\nFillTime = 5\n[Flow-2] # b\nMeltTemp = 2\n");
+  EXPECT_EQ(bytes_of(path_),
+            "[Flow-1] # a\nMeltTemp = 1\nFillTime = 5\n[Flow-2] # b\nMeltTemp = 2\n");
   EXPECT_TRUE(writer.FlowX_WriteMeltTemperature(6, 2));
   EXPECT_EQ(filling_time(1), 5);
   EXPECT_EQ(filling_time(2), -1);
 }
 
 TEST_F(WordsBehindHeaders, BoundThePositionalSection) {
-  Writer& writer = writing("[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n[Cool] note\nCoolTime = 5\n");
+  Writer& writer =
+      writing("[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n[Cool] note\nCoolTime = 5\n");
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(1, name_, 0, 2));
-  EXPECT_EQ(bytes_of(path_), "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tB\t0\n[Cool] note\nCoolTime = 5\n");
+  EXPECT_EQ(bytes_of(path_),
+            "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tB\t0\n[Cool] note\nCoolTime = 5\n");
 }
 
 TEST_F(WordsBehindHeaders, MayFollowThePositionalSectionsOwnBrackets) {

@@ -130,8 +130,12 @@ struct Attached {
   Block block;
 };
 
-Attached reading(const char* section, const std::string& path) { return {section, path, CQELPROIO::kReading}; }
-Attached writing(const char* section, const std::string& path) { return {section, path, CQELPROIO::kWriting}; }
+Attached reading(const char* section, const std::string& path) {
+  return {section, path, CQELPROIO::kReading};
+}
+Attached writing(const char* section, const std::string& path) {
+  return {section, path, CQELPROIO::kWriting};
+}
 
 TEST(Block, PassesOnWhatTheDocumentYields) {
   const Scratch scratch;
@@ -159,8 +163,9 @@ TEST(Block, YieldsNoOpenWhenTheFileIsGone) {
 
 TEST(Block, PutsTheNumberIntoItsName) {
   const Scratch scratch;
-  const std::string path =
-      scratch.file("[Flow-1]\nFRSet = 1\n[Flow-2]\nFRSet = 2\n[Flow-0]\nFRSet = 10\n[Flow--1]\nFRSet = -1\n[Flow-2-Skin2nd]\nFRSet = 22\n");
+  const std::string path = scratch.file(
+      "[Flow-1]\nFRSet = 1\n[Flow-2]\nFRSet = 2\n[Flow-0]\nFRSet = 10\n[Flow--1]\nFRSet = "
+      "-1\n[Flow-2-Skin2nd]\nFRSet = 22\n");
   Attached flow = reading("[Flow-%ld]", path);
   Attached skin = reading("[Flow-%ld-Skin2nd]", path);
   const auto count_of = [](Attached& attached, int number) {
@@ -174,12 +179,15 @@ TEST(Block, PutsTheNumberIntoItsName) {
   EXPECT_EQ(count_of(flow, -1), -1);
   EXPECT_EQ(count_of(skin, 2), 22);
   int count = 77;
-  EXPECT_EQ(skin.block.Read(kCount, in_section(1), count), kAbsent) << "the plain filling section does not stand in";
+  EXPECT_EQ(skin.block.Read(kCount, in_section(1), count), kAbsent)
+      << "the plain filling section does not stand in";
 }
 
 TEST(Block, PutsThePointNumberIntoTheKey) {
   const Scratch scratch;
-  Attached cure = reading("[Cure-%d]", scratch.file("[Cure-1]\nFR-3 = 1 1\n[Cure-2]\nFR-2 = 2 2\nFR-3 = 3 30\nFR-30 = 4 4\n"));
+  Attached cure = reading(
+      "[Cure-%d]",
+      scratch.file("[Cure-1]\nFR-3 = 1 1\n[Cure-2]\nFR-2 = 2 2\nFR-3 = 3 30\nFR-30 = 4 4\n"));
   double x = 0;
   double y = 0;
   EXPECT_EQ(cure.block.Read(kPoint, at_point(3, 2), x, y), kDone);
@@ -205,15 +213,16 @@ TEST(Block, WritesEveryEncoding) {
   EXPECT_EQ(over.block.Write(kPoint, at_point(2, 2), 0.5, 30.0), kDone);
   EXPECT_EQ(over.block.Write(kDirection, in_section(2), 0.0, -1.0, 1e-7), kDone);
   EXPECT_EQ(over.block.Write(kNote, in_section(2), "two words"), kDone);
-  EXPECT_EQ(bytes_of(path),
-            native("\n[Flow-2]\nFRSet                = -5\nFillTime = 0.1\nFR-2 = 0.5\t30\nOpenDirection = 0\t-1\t1e-007\nNote = two words\n"));
+  EXPECT_EQ(bytes_of(path), native("\n[Flow-2]\nFRSet                = -5\nFillTime = 0.1\nFR-2 = "
+                                   "0.5\t30\nOpenDirection = 0\t-1\t1e-007\nNote = two words\n"));
 }
 
 TEST(Block, ReadsEveryEncoding) {
   const Scratch scratch;
   Attached over =
       reading("[Flow-%ld]",
-              scratch.file("[Flow-2]\nFRSet = 3\nFillTime = 1.5 sec\nFR-2 = 0.5 30\nOpenDirection = 0 -1 0.5\nNote = two words \nFlowCTL-4 = 1\n"));
+              scratch.file("[Flow-2]\nFRSet = 3\nFillTime = 1.5 sec\nFR-2 = 0.5 30\nOpenDirection "
+                           "= 0 -1 0.5\nNote = two words \nFlowCTL-4 = 1\n"));
   int count = 0;
   double x = 0;
   double y = 0;
@@ -240,7 +249,9 @@ TEST(Block, ReadsEveryEncoding) {
 
 TEST(Block, ValueThatDoesNotScanIsAFoundOne) {
   const Scratch scratch;
-  Attached over = reading("[Flow-%ld]", scratch.file("[Flow-1]\nFRSet = many\nFillTime =\nFR-1 = 5 x\nFR-2 = x\nFlowCTL-1 = x\nOpenDirection\n"));
+  Attached over =
+      reading("[Flow-%ld]", scratch.file("[Flow-1]\nFRSet = many\nFillTime =\nFR-1 = 5 x\nFR-2 = "
+                                         "x\nFlowCTL-1 = x\nOpenDirection\n"));
   int count = 7;
   int second = 9;
   double x = 8;
@@ -256,7 +267,8 @@ TEST(Block, ValueThatDoesNotScanIsAFoundOne) {
   EXPECT_EQ(over.block.Read(kPoint, at_point(1, 1), x, y), kDone);
   EXPECT_EQ(x, 5) << "partly set";
   EXPECT_EQ(y, 9);
-  EXPECT_EQ(over.block.Read(kDirection, in_section(1), x, y, z), kDone) << "without a \"=\" the value is empty";
+  EXPECT_EQ(over.block.Read(kDirection, in_section(1), x, y, z), kDone)
+      << "without a \"=\" the value is empty";
   EXPECT_EQ(z, 10);
   EXPECT_EQ(over.block.Read(kCodes, at_point(1, 1), count, second), kDone);
   EXPECT_EQ(count, 0);
@@ -271,11 +283,13 @@ TEST(Block, CountAndPointsAreIndependent) {
     EXPECT_EQ(over.block.Write(kCount, in_section(1), 0), kDone);
     EXPECT_EQ(over.block.Write(kPoint, at_point(7, 1), 7.0, 70.0), kDone);
   }
-  EXPECT_EQ(bytes_of(path), "[Flow-1]\nFRSet                = 0\nFR-1 = 1 10\nFR-2 = 2 20\nFR-7 = 7\t70\n");
+  EXPECT_EQ(bytes_of(path),
+            "[Flow-1]\nFRSet                = 0\nFR-1 = 1 10\nFR-2 = 2 20\nFR-7 = 7\t70\n");
   Attached over = reading("[Flow-%ld]", path);
   double x = 0;
   double y = 0;
-  EXPECT_EQ(over.block.Read(kPoint, at_point(2, 1), x, y), kDone) << "points behind the count are read when asked for";
+  EXPECT_EQ(over.block.Read(kPoint, at_point(2, 1), x, y), kDone)
+      << "points behind the count are read when asked for";
   EXPECT_EQ(x, 2);
 }
 
@@ -307,7 +321,8 @@ TEST(Block, WritesATextUpToTheLongestLine) {
 
 TEST(Block, ScansLongValuesOfPointsWithoutHarm) {
   const Scratch scratch;
-  Attached over = reading("[Flow-%ld]", scratch.file("[Flow-1]\nFR-1 = 1" + std::string(3000, ' ') + "2" + std::string(900, 'x') + "\n"));
+  Attached over = reading("[Flow-%ld]", scratch.file("[Flow-1]\nFR-1 = 1" + std::string(3000, ' ') +
+                                                     "2" + std::string(900, 'x') + "\n"));
   double x = 0;
   double y = 0;
   EXPECT_EQ(over.block.Read(kPoint, at_point(1, 1), x, y), kDone);

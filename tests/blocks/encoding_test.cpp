@@ -167,7 +167,9 @@ TEST(RealTripleEncoding, KeepsWhatIsMissing) {
   EXPECT_EQ(z, 9);
 }
 
-TEST(RealTripleEncoding, PrintsTabsBetween) { EXPECT_EQ(RealTriple::print(0, -0.5, 1e-5), "0\t-0.5\t1e-005"); }
+TEST(RealTripleEncoding, PrintsTabsBetween) {
+  EXPECT_EQ(RealTriple::print(0, -0.5, 1e-5), "0\t-0.5\t1e-005");
+}
 
 TEST(Encodings, DoNotDependOnTheLocale) {
   const qelpro_test::CommaLocale comma;

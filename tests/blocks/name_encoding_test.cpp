@@ -8,7 +8,8 @@ namespace {
 
 using namespace qel;
 
-// The fields of a line in one text, so that a failure shows them all; "none" stands for a null name.
+// The fields of a line in one text, so that a failure shows them all; "none" stands for a null
+// name.
 template <class Line>
 std::string fields_of_four(const char* text, int insert) {
   int id = -7;

@@ -11,7 +11,8 @@ TEST_F(Document, ReadsTheFileThatStandsUnderThePathNowWhereItIsOpenedAgain) {
   EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
   put_bytes(scratch.path("next.pro"), "[Flow-1]\nMeltTemp = 5\nFillTime = 3\n");
   std::filesystem::rename(scratch.path("next.pro"), path);
-  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1") << "the session holds the file that it opened";
+  EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1")
+      << "the session holds the file that it opened";
   ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
   EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "3");
   EXPECT_EQ(look(document, "[Flow-1]", "MeltTemp"), "5");

@@ -17,7 +17,9 @@ class ChangedFile : public Document {
 };
 
 TEST_F(ChangedFile, IsReadAsItStandsNowWhereItsLinesMoved) {
-  read("[Material]\nMaterial = a\n[Flow-1]\nFillTime = 1\nMeltTemp = 2\n[Flow-2]\nFillTime = 3\nMeltTemp = 4\n");
+  read(
+      "[Material]\nMaterial = a\n[Flow-1]\nFillTime = 1\nMeltTemp = 2\n[Flow-2]\nFillTime = "
+      "3\nMeltTemp = 4\n");
   EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
   EXPECT_EQ(look(document, "[Flow-1]", "MeltTemp"), "2");
   EXPECT_EQ(look(document, "[Flow-2]", "MeltTemp"), "4");
@@ -66,8 +68,10 @@ TEST_F(ChangedFile, AgreesWithAFreshSessionAtAnyMoment) {
       ASSERT_TRUE(fresh.SetFilePath(path.c_str(), CQELPROIO::kReading));
       const std::string wanted_section = section();
       const std::string wanted_key = key();
-      ASSERT_EQ(look(reading, wanted_section.c_str(), wanted_key.c_str()), look(fresh, wanted_section.c_str(), wanted_key.c_str()))
-          << "trial " << trial << ", step " << step << ", " << wanted_section << ' ' << wanted_key << " in\n"
+      ASSERT_EQ(look(reading, wanted_section.c_str(), wanted_key.c_str()),
+                look(fresh, wanted_section.c_str(), wanted_key.c_str()))
+          << "trial " << trial << ", step " << step << ", " << wanted_section << ' ' << wanted_key
+          << " in\n"
           << bytes_of(path);
     }
   }
@@ -80,7 +84,9 @@ TEST_F(ChangedFile, IsReadRightWhereAnotherSectionsLineCameToStandWhereALineStoo
   EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "2");
   EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
   // Longer by just what one section takes.
-  put_bytes(path, "[Project]\nMaterial             = abc1234567890123456789012\n[Flow-1]\nFillTime = 1\n[Flow-2]\nFillTime = 2\n");
+  put_bytes(path,
+            "[Project]\nMaterial             = abc1234567890123456789012\n[Flow-1]\nFillTime = "
+            "1\n[Flow-2]\nFillTime = 2\n");
   EXPECT_EQ(look(document, "[Flow-2]", "FillTime"), "2");
   EXPECT_EQ(look(document, "[Flow-1]", "FillTime"), "1");
 }

@@ -21,7 +21,8 @@ inline constexpr int kByKey = -1;
 inline std::wstring widened(const std::string& path) { return {path.begin(), path.end()}; }
 
 // What a lookup came to: the value, or its result as a number.
-inline std::string look(CQELPROIO& document, const char* section, const char* key, int index = kByKey) {
+inline std::string look(CQELPROIO& document, const char* section, const char* key,
+                        int index = kByKey) {
   char untouched[] = "untouched";
   char* value = untouched;
   const int result = document.GetValue(section, key, value, index);
@@ -38,7 +39,8 @@ inline std::string look_once(CQELPROIO& document, const char* section, const cha
   return result == kDone ? value : std::to_string(result);
 }
 
-inline std::string scan(CQELPROIO& document, const char* path, const char* section, const char* key) {
+inline std::string scan(CQELPROIO& document, const char* path, const char* section,
+                        const char* key) {
   char* value = nullptr;
   return document.ScanValue(path, section, key, value, nullptr) ? value : "(nothing)";
 }

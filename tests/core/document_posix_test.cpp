@@ -12,7 +12,8 @@ namespace {
 TEST_F(Document, CannotOpenWhatIsNoRegularFile) {
   const std::string fifo = scratch.path("fifo");
   ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
-  for (const std::string& odd : {scratch.path(""), fifo, std::string("/dev/zero"), std::string("/dev/null"), std::string("")}) {
+  for (const std::string& odd : {scratch.path(""), fifo, std::string("/dev/zero"),
+                                 std::string("/dev/null"), std::string("")}) {
     for (const int mode : {CQELPROIO::kReading, CQELPROIO::kWriting}) {
       EXPECT_FALSE(document.SetFilePath(odd.c_str(), mode)) << odd;
       EXPECT_FALSE(document.SetFilePath(widened(odd).c_str(), mode)) << odd;
@@ -33,8 +34,10 @@ TEST_F(Document, NeitherReadsNorWritesWhatItMayNot) {
   EXPECT_TRUE(in_child({.unprivileged = true}, [&] {
     CQELPROIO reading;
     CQELPROIO writing;
-    return !reading.SetFilePath(locked.c_str(), CQELPROIO::kReading) && !writing.SetFilePath(read_only.c_str(), CQELPROIO::kWriting) &&
-           writing.InsertValue(read_only.c_str(), "[A]", "y", "1") == kNoOpen && reading.SetFilePath(read_only.c_str(), CQELPROIO::kReading) &&
+    return !reading.SetFilePath(locked.c_str(), CQELPROIO::kReading) &&
+           !writing.SetFilePath(read_only.c_str(), CQELPROIO::kWriting) &&
+           writing.InsertValue(read_only.c_str(), "[A]", "y", "1") == kNoOpen &&
+           reading.SetFilePath(read_only.c_str(), CQELPROIO::kReading) &&
            look(reading, "[A]", "x") == "1";
   }));
   EXPECT_EQ(bytes_of(read_only), "[A]\nx = 1\n");
@@ -60,7 +63,8 @@ TEST_F(Document, StoresIntoAStreamOverMemoryNoMoreThanItHolds) {
   EXPECT_EQ(document.SetValue("[A]", "x", "3", kByKey), kDone);
   const std::string stored(memory, sizeof memory);
   EXPECT_EQ(stored.substr(0, 35), "[A]\nx                    = 3\ny = 2\n");
-  EXPECT_EQ(document.SetValue("[A]", "x", "345", kByKey), kNoOpen) << "the memory is its whole length";
+  EXPECT_EQ(document.SetValue("[A]", "x", "345", kByKey), kNoOpen)
+      << "the memory is its whole length";
   std::fclose(stream);
   EXPECT_EQ(std::string(memory, sizeof memory), stored);
 }
@@ -102,14 +106,18 @@ TEST_F(Document, LosesNothingWhereAFileMayGrowNoFurther) {
   make(contents);
   EXPECT_TRUE(in_child({.longest_file = contents.size() + 5}, [&] {
     CQELPROIO writing;
-    return writing.SetFilePath(path.c_str(), CQELPROIO::kWriting) && writing.SetValue("[A]", "x", "longer", kByKey) == kNoOpen &&
-           writing.SetValue("[A]", "z", "longer", kByKey) == kNoOpen && writing.SetValue("[C]", "x", "1", kByKey) == kNoOpen &&
-           writing.InsertValue(path.c_str(), "[A]", "x", "longer") == kNoOpen && writing.ReplaceValue("[A]", "x", "longer than it") == kNoOpen;
+    return writing.SetFilePath(path.c_str(), CQELPROIO::kWriting) &&
+           writing.SetValue("[A]", "x", "longer", kByKey) == kNoOpen &&
+           writing.SetValue("[A]", "z", "longer", kByKey) == kNoOpen &&
+           writing.SetValue("[C]", "x", "1", kByKey) == kNoOpen &&
+           writing.InsertValue(path.c_str(), "[A]", "x", "longer") == kNoOpen &&
+           writing.ReplaceValue("[A]", "x", "longer than it") == kNoOpen;
   }));
   EXPECT_TRUE(bytes_of(path) == contents);
   EXPECT_TRUE(in_child({.longest_file = contents.size()}, [&] {
     CQELPROIO writing;
-    return writing.SetFilePath(path.c_str(), CQELPROIO::kWriting) && writing.ReplaceValue("[A]", "x", "2") == kDone;
+    return writing.SetFilePath(path.c_str(), CQELPROIO::kWriting) &&
+           writing.ReplaceValue("[A]", "x", "2") == kDone;
   }));
   EXPECT_EQ(bytes_of(path).substr(0, 10), "[A]\nx = 2\n");
 }
@@ -120,8 +128,10 @@ TEST_F(Document, LosesNothingWhereAFileOfALentStreamMayGrowNoFurther) {
   EXPECT_TRUE(in_child({.longest_file = contents.size() + 5}, [&] {
     CQELPROIO lent;
     stream = std::fopen(path.c_str(), "r+");
-    const bool refused = lent.SetFilePtr(stream) && lent.SetValue("[A]", "x", "longer", kByKey) == kNoOpen &&
-                         lent.SetValue("[C]", "x", "1", kByKey) == kNoOpen && lent.WriteOnce("[A]", "x", "longer") == kNoOpen;
+    const bool refused = lent.SetFilePtr(stream) &&
+                         lent.SetValue("[A]", "x", "longer", kByKey) == kNoOpen &&
+                         lent.SetValue("[C]", "x", "1", kByKey) == kNoOpen &&
+                         lent.WriteOnce("[A]", "x", "longer") == kNoOpen;
     const bool intact = look(lent, "[A]", "x") == "1" && look(lent, "[B]", "y") == "2";
     return std::fclose(stream) == 0 && refused && intact;
   }));

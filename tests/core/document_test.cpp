@@ -224,7 +224,8 @@ TEST_F(Document, LooksUpPlainlyOnceItHasTurnedFromReadingToWriting) {
 
 TEST_F(Document, LooksUpPlainlyInThePathThatItWritesTo) {
   lend("[A]\nx = 1\n", "r");
-  ASSERT_TRUE(document.SetFilePath(scratch.file("[A]\nx = 1\n[B]\ny = 2\n", "other.pro").c_str(), CQELPROIO::kWriting));
+  ASSERT_TRUE(document.SetFilePath(scratch.file("[A]\nx = 1\n[B]\ny = 2\n", "other.pro").c_str(),
+                                   CQELPROIO::kWriting));
   EXPECT_EQ(look(document, "[A]", "y"), "2");
   std::fclose(stream);
 }
@@ -232,7 +233,9 @@ TEST_F(Document, LooksUpPlainlyInThePathThatItWritesTo) {
 TEST_F(Document, VisitsLinesBehindAHeaderOnTheFirstByte) {
   read("[A]\n first \nsecond\n");
   std::string visited;
-  EXPECT_EQ(document.VisitLines("[A]", 2, [&visited](const char* line) { visited.append(line).append("|"); }), kDone);
+  EXPECT_EQ(document.VisitLines("[A]", 2,
+                                [&visited](const char* line) { visited.append(line).append("|"); }),
+            kDone);
   EXPECT_EQ(visited, "first|second|");
   EXPECT_EQ(document.VisitLines("[A]", 3, [](const char*) {}), kAbsent);
   EXPECT_EQ(document.VisitLines("[B]", 1, [](const char*) {}), kAbsent);
@@ -339,7 +342,8 @@ TEST_F(Document, ScansNoValueThatItsBufferCannotHold) {
 TEST_F(Document, ReadsOnceWithoutLearningAnything) {
   read("\n[A]\nfirst\nx = 1\n");
   EXPECT_EQ(look_once(document, "[A]", "x"), "1");
-  EXPECT_EQ(look(document, "[A]", "", 1), "first") << "nothing was learnt, so the header is not line 1";
+  EXPECT_EQ(look(document, "[A]", "", 1), "first")
+      << "nothing was learnt, so the header is not line 1";
 }
 
 // Streams
@@ -455,7 +459,8 @@ TEST_F(Document, ForgetsALentStreamWhenItIsGivenAPath) {
 
 TEST_F(Document, StoresIntoALentStreamWhereAPathCannotBeOpened) {
   lend("[A]\nx = 1\n");
-  EXPECT_FALSE(document.SetFilePath(scratch.path("no/such/folder.pro").c_str(), CQELPROIO::kWriting));
+  EXPECT_FALSE(
+      document.SetFilePath(scratch.path("no/such/folder.pro").c_str(), CQELPROIO::kWriting));
   EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kDone);
   std::fclose(stream);
   EXPECT_EQ(bytes_of(path), "[A]\nx                    = 2\n");
@@ -469,7 +474,8 @@ TEST_F(Document, StoresThroughALentStream) {
   EXPECT_EQ(document.WriteOnce("[B]", "z", "7"), kDone);
   EXPECT_EQ(look(document, "[B]", "z"), "7");
   std::fclose(stream);
-  EXPECT_EQ(bytes_of(path), "[A]\nx                    = 5\ny = 2\n\n[B]\nz                    = 7\n");
+  EXPECT_EQ(bytes_of(path),
+            "[A]\nx                    = 5\ny = 2\n\n[B]\nz                    = 7\n");
 }
 
 TEST_F(Document, CannotAddAKeyToASectionThroughALentStream) {
@@ -528,7 +534,8 @@ TEST_F(Document, CreatesSectionAndKeyInANewFile) {
   EXPECT_EQ(document.SetValue("[Flow-1]", "FRSet", "3", kByKey), kDone);
   EXPECT_EQ(bytes_of(path), native("\n[Flow-1]\nFillTime             = 1.5\nFRSet = 3\n"));
   EXPECT_EQ(document.SetValue("[Flow-1]", "FRSet", "4", kByKey), kDone);
-  EXPECT_EQ(bytes_of(path), native("\n[Flow-1]\nFillTime             = 1.5\nFRSet                = 4\n"));
+  EXPECT_EQ(bytes_of(path),
+            native("\n[Flow-1]\nFillTime             = 1.5\nFRSet                = 4\n"));
 }
 
 TEST_F(Document, FindsEveryKeyRightAfterItsStore) {
@@ -536,7 +543,8 @@ TEST_F(Document, FindsEveryKeyRightAfterItsStore) {
   for (int i = 0; i < 60; ++i) {
     const std::string section = "[S" + std::to_string(i % 7) + "]";
     const std::string key = "k" + std::to_string(i % 11);
-    const std::string value = std::string(static_cast<std::size_t>(i * 13 % 40), 'v') + std::to_string(i);
+    const std::string value =
+        std::string(static_cast<std::size_t>(i * 13 % 40), 'v') + std::to_string(i);
     ASSERT_EQ(document.SetValue(section.c_str(), key.c_str(), value.c_str(), kByKey), kDone);
     EXPECT_EQ(look(document, section.c_str(), key.c_str()), value);
   }

@@ -9,7 +9,8 @@ namespace qelpro_test {
 namespace {
 
 TEST_F(Document, CannotOpenWhatIsNoRegularFile) {
-  for (const std::string& odd : {scratch.path(""), std::string("NUL"), std::string("CON"), std::string("")}) {
+  for (const std::string& odd :
+       {scratch.path(""), std::string("NUL"), std::string("CON"), std::string("")}) {
     for (const int mode : {CQELPROIO::kReading, CQELPROIO::kWriting}) {
       EXPECT_FALSE(document.SetFilePath(odd.c_str(), mode)) << odd;
       EXPECT_FALSE(document.SetFilePath(widened(odd).c_str(), mode)) << odd;
@@ -28,7 +29,8 @@ TEST_F(Document, StoresUnderAWidePathOfAnyAlphabet) {
 
 TEST_F(Document, LeavesAFileThatAnotherProgramHoldsAlone) {
   make("[A]\nx = 1\n");
-  const HANDLE other = ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE other = ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(other, INVALID_HANDLE_VALUE);
   EXPECT_FALSE(document.SetFilePath(path.c_str(), CQELPROIO::kWriting));
   EXPECT_EQ(document.InsertValue(path.c_str(), "[A]", "y", "1"), kNoOpen);

@@ -2,7 +2,8 @@
 #include "core/snapshot.h"
 #include "support/line_break.h"
 
-// A 0x1A at a file's very end is where other programs' text mode stops: padding, before which stores land.
+// A 0x1A at a file's very end is where other programs' text mode stops: padding, before which
+// stores land.
 
 namespace qelpro_test {
 namespace {
@@ -10,7 +11,8 @@ namespace {
 class EndMark : public Document {};
 
 TEST_F(EndMark, IsNoPartOfTheLastLine) {
-  for (const char* contents : {"[A]\ny = 2\nx = 1\x1A", "[A]\ny = 2\nx = 1 \x1A", "[A]\ny = 2\nx = 1\n\x1A", "[A]\ny = 2\nx = 1\n\x1A\x1A  \x1A"}) {
+  for (const char* contents : {"[A]\ny = 2\nx = 1\x1A", "[A]\ny = 2\nx = 1 \x1A",
+                               "[A]\ny = 2\nx = 1\n\x1A", "[A]\ny = 2\nx = 1\n\x1A\x1A  \x1A"}) {
     read(contents);
     EXPECT_EQ(look(document, "[A]", "x"), "1");
     EXPECT_EQ(look_once(document, "[A]", "x"), "1");

@@ -4,7 +4,8 @@
 #include "core/document_fixture.h"
 #include "core/name_hash.h"
 
-// Names that someone chose so that a table without a key of its own would take each of them for the next.
+// Names that someone chose so that a table without a key of its own would take each of them for the
+// next.
 
 namespace qelpro_test {
 namespace {
@@ -24,8 +25,9 @@ TEST(NameHash, TellsNamesApartByEveryCharacterAndByTheirLength) {
 }
 
 #ifdef __GLIBCXX__
-// The standard library's hash is MurmurHash64A with a fixed key: two halves of a word pair can be chosen so that they cancel out.
-// The same block of eight bytes twice is enough for a family of names whose hashes agree in their low bits.
+// The standard library's hash is MurmurHash64A with a fixed key: two halves of a word pair can be
+// chosen so that they cancel out. The same block of eight bytes twice is enough for a family of
+// names whose hashes agree in their low bits.
 std::vector<std::string> names_of_one_slot(std::size_t count, std::size_t mask) {
   std::vector<std::string> names;
   for (unsigned number = 0; names.size() < count; ++number) {

@@ -35,7 +35,8 @@ std::vector<Seen> all(LineScanner& lines) {
   return result;
 }
 
-// The lines of a text, which have to be the same over a file, in blocks of any size, as over memory.
+// The lines of a text, which have to be the same over a file, in blocks of any size, as over
+// memory.
 std::vector<Seen> lines_of(const std::string& contents) {
   LineScanner over_memory{std::string_view(contents)};
   std::vector<Seen> result = all(over_memory);
@@ -56,12 +57,17 @@ std::vector<std::string> texts_of(const std::string& contents) {
 }
 
 TEST(LineScanner, EndsALineAtEitherLineBreak) {
-  EXPECT_THAT(lines_of("one\ntwo\r\nthree\n"), ElementsAre(Seen{0, 4, "one"}, Seen{4, 9, "two"}, Seen{9, 15, "three"}));
+  EXPECT_THAT(lines_of("one\ntwo\r\nthree\n"),
+              ElementsAre(Seen{0, 4, "one"}, Seen{4, 9, "two"}, Seen{9, 15, "three"}));
 }
 
-TEST(LineScanner, KeepsACarriageReturnThatEndsNoLine) { EXPECT_THAT(texts_of("a\rb\r\r\nc\r"), ElementsAre("a\rb\r", "c\r")); }
+TEST(LineScanner, KeepsACarriageReturnThatEndsNoLine) {
+  EXPECT_THAT(texts_of("a\rb\r\r\nc\r"), ElementsAre("a\rb\r", "c\r"));
+}
 
-TEST(LineScanner, GivesALastLineWithoutALineBreak) { EXPECT_THAT(lines_of("one\ntwo"), ElementsAre(Seen{0, 4, "one"}, Seen{4, 7, "two"})); }
+TEST(LineScanner, GivesALastLineWithoutALineBreak) {
+  EXPECT_THAT(lines_of("one\ntwo"), ElementsAre(Seen{0, 4, "one"}, Seen{4, 7, "two"}));
+}
 
 TEST(LineScanner, CountsEmptyLines) { EXPECT_THAT(texts_of("\n\r\n\n"), ElementsAre("", "", "")); }
 
@@ -72,9 +78,13 @@ TEST(LineScanner, TakesAByteOrderMarkForNoLine) {
   EXPECT_THAT(lines_of("\xEF\xBB\xBF"), IsEmpty());
 }
 
-TEST(LineScanner, KeepsAByteOrderMarkThatStandsElsewhere) { EXPECT_THAT(texts_of("a\n\xEF\xBB\xBF\n"), ElementsAre("a", "\xEF\xBB\xBF")); }
+TEST(LineScanner, KeepsAByteOrderMarkThatStandsElsewhere) {
+  EXPECT_THAT(texts_of("a\n\xEF\xBB\xBF\n"), ElementsAre("a", "\xEF\xBB\xBF"));
+}
 
-TEST(LineScanner, TakesPartOfAByteOrderMarkForText) { EXPECT_THAT(texts_of("\xEF\xBBx\n"), ElementsAre("\xEF\xBBx")); }
+TEST(LineScanner, TakesPartOfAByteOrderMarkForText) {
+  EXPECT_THAT(texts_of("\xEF\xBBx\n"), ElementsAre("\xEF\xBBx"));
+}
 
 TEST(LineScanner, TakesBlanksBehindTheLastLineBreakForPadding) {
   EXPECT_THAT(texts_of("a\n     "), ElementsAre("a"));
@@ -111,7 +121,8 @@ TEST(LineScanner, SplitsALineOfBlanksThatTextFollows) {
 }
 
 TEST(LineScanner, CutsALineAtANulByteAndGoesOnBehindIt) {
-  EXPECT_THAT(lines_of(std::string("ab\0cd\nef\n", 9)), ElementsAre(Seen{0, 6, "ab"}, Seen{6, 9, "ef"}));
+  EXPECT_THAT(lines_of(std::string("ab\0cd\nef\n", 9)),
+              ElementsAre(Seen{0, 6, "ab"}, Seen{6, 9, "ef"}));
   EXPECT_THAT(texts_of(std::string("\0\n\0", 3)), ElementsAre("", ""));
 }
 
@@ -147,7 +158,8 @@ TEST(LineScanner, StopsWhereAReadFailsFurtherOn) {
   EXPECT_TRUE(lines.failed());
 }
 
-// What `next_starting_with` gives has to be what `next` gives, less the lines that begin with another byte.
+// What `next_starting_with` gives has to be what `next` gives, less the lines that begin with
+// another byte.
 void expect_same_jumps(const std::string& contents, char first) {
   std::vector<Seen> expected;
   for (const Seen& seen : lines_of(contents)) {
@@ -196,12 +208,17 @@ TEST(NextStartingWith, PassesALineOfManyBlocks) {
   expect_same_jumps("[a]\n" + line, '[');
 }
 
-TEST(NextStartingWith, FindsNothingInPaddingOfManyBlocks) { expect_same_jumps("[a]\n" + std::string(3 * LineScanner::kBlock, ' '), '['); }
+TEST(NextStartingWith, FindsNothingInPaddingOfManyBlocks) {
+  expect_same_jumps("[a]\n" + std::string(3 * LineScanner::kBlock, ' '), '[');
+}
 
 TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
-  for (const std::size_t block : {LineScanner::kFirstBlock, LineScanner::kFirstBlock + LineScanner::kBlock}) {
+  for (const std::size_t block :
+       {LineScanner::kFirstBlock, LineScanner::kFirstBlock + LineScanner::kBlock}) {
     for (std::size_t size = block - 4; size < block + 4; ++size) {
-      expect_same_jumps(std::string(size - 1, 'x').replace(block / 2, 1, "\n") + "\n[section]\nkey\n[other]\n", '[');
+      expect_same_jumps(
+          std::string(size - 1, 'x').replace(block / 2, 1, "\n") + "\n[section]\nkey\n[other]\n",
+          '[');
     }
   }
 }

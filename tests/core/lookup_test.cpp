@@ -14,7 +14,9 @@ using qelpro_test::MemoryFile;
 
 constexpr const char* kNothing = "(nothing)";
 
-std::string text_of(const std::optional<Line>& line) { return line ? std::string(line->text) : kNothing; }
+std::string text_of(const std::optional<Line>& line) {
+  return line ? std::string(line->text) : kNothing;
+}
 
 std::string plainly(const std::string& contents, const Target& target) {
   LineScanner lines{std::string_view(contents)};
@@ -34,7 +36,8 @@ class Indexed : public testing::Test {
     return text_of(find_indexed(file, target, index, lines));
   }
   std::optional<std::int64_t> offset_of(const std::string& section, const std::string& key) {
-    const SectionIndex::Place* place = index.entry(index.line_name(SectionIndex::Purpose::looked_for, section, key));
+    const SectionIndex::Place* place =
+        index.entry(index.line_name(SectionIndex::Purpose::looked_for, section, key));
     return place != nullptr ? std::optional(place->offset) : std::nullopt;
   }
 
@@ -60,9 +63,13 @@ TEST(PlainScan, FindsAKeyThatOnlyALaterSectionHolds) {
   EXPECT_EQ(plainly("[B]\ny = 2\n[A]\nx = 1\n", {"[A]", "y"}), kNothing);
 }
 
-TEST(PlainScan, TakesTheFirstOfTwoSectionsAndKeys) { EXPECT_EQ(plainly("[A]\nx = 1\nx = 2\n[A]\nx = 3\n", {"[A]", "x"}), "x = 1"); }
+TEST(PlainScan, TakesTheFirstOfTwoSectionsAndKeys) {
+  EXPECT_EQ(plainly("[A]\nx = 1\nx = 2\n[A]\nx = 3\n", {"[A]", "x"}), "x = 1");
+}
 
-TEST(PlainScan, LeavesTextBeforeTheFirstHeaderAlone) { EXPECT_EQ(plainly("x = 0\n[A]\ny = 1\n", {"[A]", "x"}), kNothing); }
+TEST(PlainScan, LeavesTextBeforeTheFirstHeaderAlone) {
+  EXPECT_EQ(plainly("x = 0\n[A]\ny = 1\n", {"[A]", "x"}), kNothing);
+}
 
 TEST(PlainScan, CountsEveryLineBehindTheHeader) {
   const std::string file = "\n[A]\nfirst\n\n  third\n[B]\nfifth\n";
@@ -78,7 +85,9 @@ TEST(PlainScan, ReachesLinesOfLaterSectionsByIndex) {
   EXPECT_EQ(plainly(file, {"[A]", "", 4}), kNothing);
 }
 
-TEST(PlainScan, FindsNothingAtIndexZero) { EXPECT_EQ(plainly("[A]\nfirst\n", {"[A]", "first", 0}), kNothing); }
+TEST(PlainScan, FindsNothingAtIndexZero) {
+  EXPECT_EQ(plainly("[A]\nfirst\n", {"[A]", "first", 0}), kNothing);
+}
 
 TEST(PlainScan, FindsNothingWithoutAKeyOrASection) {
   EXPECT_EQ(plainly("[A]\n\n= 1\n", {"[A]", ""}), kNothing);
@@ -87,7 +96,8 @@ TEST(PlainScan, FindsNothingWithoutAKeyOrASection) {
 
 TEST(PlainScan, FindsASectionByFirstTokenAlone) {
   EXPECT_EQ(plainly("[A] with more\nx = 1\n", {"[A]", "x"}), "x = 1");
-  EXPECT_EQ(plainly("[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nx = 1\n", {"[SURFACE", "x"}), "x = 1");
+  EXPECT_EQ(plainly("[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nx = 1\n", {"[SURFACE", "x"}),
+            "x = 1");
   EXPECT_EQ(plainly("[AB]\nx = 1\n", {"[A]", "x"}), kNothing);
   EXPECT_EQ(plainly(" [A]\nx = 1\n", {"[A]", "x"}), kNothing);
 }
@@ -109,7 +119,9 @@ TEST(ScanInSection, StopsAtAHeaderWithBlanksBehindOrWithoutALineBreak) {
   EXPECT_EQ(in_section("[A]\nx = 1\n[B]", {"[A]", "[B]"}), kNothing);
 }
 
-TEST(ScanInSection, TakesNoEntryForASection) { EXPECT_EQ(in_section("[A] = 5\n[A]\nx = 1\n", {"[A]", "x"}), "x = 1"); }
+TEST(ScanInSection, TakesNoEntryForASection) {
+  EXPECT_EQ(in_section("[A] = 5\n[A]\nx = 1\n", {"[A]", "x"}), "x = 1");
+}
 
 TEST_F(Indexed, StopsAtTheNextHeader) {
   file.bytes = "\n[A]\nx = 1\n[B]\ny = 2\n";

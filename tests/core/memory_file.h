@@ -64,7 +64,7 @@ class MemoryFile : public qel::platform::RandomAccess {
   bool size_fails = false;
   bool truncate_fails = false;
   std::size_t readable = std::numeric_limits<std::size_t>::max();  // reads beyond fail
-  int failing_write = 0;                                           // which write fails, counted from 1
+  int failing_write = 0;  // which write fails, counted from 1
   std::size_t writable = 0;
   std::int64_t room = std::numeric_limits<std::int64_t>::max();  // the longest the file may grow
 };

@@ -14,8 +14,8 @@
 #include "support/line_break.h"
 #include "support/scratch.h"
 
-// The rules of process files once more, written as plainly as they can be said: the whole file in memory, a list of
-// its lines, nothing clever. The engine has to agree with it byte for byte.
+// The rules of process files once more, written as plainly as they can be said: the whole file in
+// memory, a list of its lines, nothing clever. The engine has to agree with it byte for byte.
 namespace {
 namespace naive {
 
@@ -29,7 +29,9 @@ struct Answer {
   bool operator==(const Answer& other) const = default;
 };
 
-[[maybe_unused]] void PrintTo(const Answer& answer, std::ostream* out) { *out << answer.result << " \"" << answer.text << '"'; }
+[[maybe_unused]] void PrintTo(const Answer& answer, std::ostream* out) {
+  *out << answer.result << " \"" << answer.text << '"';
+}
 
 struct Line {
   std::size_t start = 0;
@@ -43,10 +45,12 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from = 0);
 // The lookups of one reading document, over one file after another.
 class Reading {
  public:
-  Answer look(const std::string& bytes, const std::string& section, const std::string& key, int index);
+  Answer look(const std::string& bytes, const std::string& section, const std::string& key,
+              int index);
 
  private:
-  // Lines found by position are known apart from those of keys, so that neither changes what the other yields.
+  // Lines found by position are known apart from those of keys, so that neither changes what the
+  // other yields.
   using Name = std::tuple<bool, std::string, std::string>;
 
   std::map<std::string, std::size_t> sections_;
@@ -60,9 +64,13 @@ std::string strip_front(const std::string& text, const std::string& set) {
   return at == std::string::npos ? "" : text.substr(at);
 }
 
-std::string strip_back(const std::string& text, const std::string& set) { return text.substr(0, text.find_last_not_of(set) + 1); }
+std::string strip_back(const std::string& text, const std::string& set) {
+  return text.substr(0, text.find_last_not_of(set) + 1);
+}
 
-std::string token_of(const std::string& line) { return line.substr(0, line.find_first_of(" \t=\n")); }
+std::string token_of(const std::string& line) {
+  return line.substr(0, line.find_first_of(" \t=\n"));
+}
 
 // A line's value: as it is, or with everything up to the first "=" made blank.
 std::string value_of(std::string line, bool by_key) {
@@ -82,7 +90,8 @@ std::string value_of(std::string line, bool by_key) {
   return strip_back(strip_front(line, " "), " \t\n");
 }
 
-// A line "[...]", whatever blanks follow, or one with words behind its brackets. An entry of an odd key has a "=" there.
+// A line "[...]", whatever blanks follow, or one with words behind its brackets. An entry of an odd
+// key has a "=" there.
 bool closes_a_section(const std::string& line) {
   const std::string text = strip_back(line, " \t\n");
   if (text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1) {
@@ -103,7 +112,9 @@ std::string without_mark(const std::string& last_line) {
 }
 
 // What the file holds besides the blanks and end marks at its end.
-std::string contents_of(const std::string& bytes) { return bytes.find('\n') == std::string::npos ? without_mark(bytes) : strip_back(bytes, " \x1A"); }
+std::string contents_of(const std::string& bytes) {
+  return bytes.find('\n') == std::string::npos ? without_mark(bytes) : strip_back(bytes, " \x1A");
+}
 
 std::string line_break_of(const std::string& contents) {
   const std::size_t at = contents.find('\n');
@@ -114,7 +125,8 @@ std::string line_break_of(const std::string& contents) {
 }
 
 bool is_name(const std::string& text) {
-  return !text.empty() && std::none_of(text.begin(), text.end(), [](char c) { return is_one_of(c, " \t=\r\n"); });
+  return !text.empty() &&
+         std::none_of(text.begin(), text.end(), [](char c) { return is_one_of(c, " \t=\r\n"); });
 }
 
 bool too_long(const std::string& line) { return line.size() + 1 > 4095; }
@@ -132,13 +144,17 @@ bool bad(const std::string& section, const std::string& key, const std::string& 
   const bool by_key = index < 0;
   const std::string line = by_key ? key + " = " + value : value;
   const bool names_fit = by_key
-                             ? is_name(key) && key[0] != '[' && is_name(section) && section.size() > 1 && section[0] == '[' && section.back() == ']'
+                             ? is_name(key) && key[0] != '[' && is_name(section) &&
+                                   section.size() > 1 && section[0] == '[' && section.back() == ']'
                              : is_name(section) && section[0] == '[';
-  return !names_fit || too_long(section) || index == 0 || value.find_first_of("\r\n\x1A") != std::string::npos ||
-         key.find('\x1A') != std::string::npos || section.find('\x1A') != std::string::npos || closes_a_section(line) || too_long(line);
+  return !names_fit || too_long(section) || index == 0 ||
+         value.find_first_of("\r\n\x1A") != std::string::npos ||
+         key.find('\x1A') != std::string::npos || section.find('\x1A') != std::string::npos ||
+         closes_a_section(line) || too_long(line);
 }
 
-// The file after a store: never shorter than it was. What stood behind its contents stays, where they do not reach.
+// The file after a store: never shorter than it was. What stood behind its contents stays, where
+// they do not reach.
 void put_back(std::string& bytes, std::string contents) {
   while (contents.size() < contents_of(bytes).size()) {
     contents += ' ';
@@ -146,8 +162,10 @@ void put_back(std::string& bytes, std::string contents) {
   bytes = contents + (contents.size() < bytes.size() ? bytes.substr(contents.size()) : "");
 }
 
-// Puts lines into the contents at an offset; behind a last line without a line break, one is written first.
-std::string with_lines(const std::string& contents, std::size_t at, const std::vector<std::string>& added) {
+// Puts lines into the contents at an offset; behind a last line without a line break, one is
+// written first.
+std::string with_lines(const std::string& contents, std::size_t at,
+                       const std::vector<std::string>& added) {
   std::string text;
   if (at == contents.size() && !contents.empty() && contents.back() != '\n') {
     text += line_break_of(contents);
@@ -158,22 +176,26 @@ std::string with_lines(const std::string& contents, std::size_t at, const std::v
   return contents.substr(0, at) + text + contents.substr(at);
 }
 
-std::string with_section(const std::string& contents, const std::string& header, const std::string& line) {
+std::string with_section(const std::string& contents, const std::string& header,
+                         const std::string& line) {
   const std::string line_break = line_break_of(contents);
   return contents + line_break + header + line_break + line + line_break;
 }
 
-// The number of the line that a plain scan takes for the section's header; the number of lines where there is none.
+// The number of the line that a plain scan takes for the section's header; the number of lines
+// where there is none.
 std::size_t header_of(const std::vector<Line>& list, const std::string& section) {
   for (std::size_t i = 0; i < list.size(); ++i) {
-    if (!section.empty() && token_of(list[i].text) == section && (section[0] != '[' || closes_a_section(list[i].text))) {
+    if (!section.empty() && token_of(list[i].text) == section &&
+        (section[0] != '[' || closes_a_section(list[i].text))) {
       return i;
     }
   }
   return list.size();
 }
 
-// Whether a line holds a value under the key when it is cut at "=" and carriage returns and its first piece is trimmed.
+// Whether a line holds a value under the key when it is cut at "=" and carriage returns and its
+// first piece is trimmed.
 bool names_key(const std::string& line, const std::string& key) {
   std::vector<std::string> pieces;
   bool open = false;
@@ -190,7 +212,8 @@ bool names_key(const std::string& line, const std::string& key) {
   return pieces.size() >= 2 && strip_back(strip_front(pieces[0], " "), " ") == key;
 }
 
-int insert_line(std::string& bytes, const std::string& section, const std::string& key, const std::string& line) {
+int insert_line(std::string& bytes, const std::string& section, const std::string& key,
+                const std::string& line) {
   const std::string contents = contents_of(bytes);
   const std::vector<Line> list = lines(contents);
   const std::size_t header = header_of(list, section);
@@ -226,8 +249,10 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from) {
     Line line;
     line.start = at;
     const std::size_t line_break = bytes.find('\n', at);
-    const bool returns = line_break != std::string::npos && line_break > at && bytes[line_break - 1] == '\r';
-    std::size_t text_end = line_break == std::string::npos ? bytes.size() : line_break - (returns ? 1 : 0);
+    const bool returns =
+        line_break != std::string::npos && line_break > at && bytes[line_break - 1] == '\r';
+    std::size_t text_end =
+        line_break == std::string::npos ? bytes.size() : line_break - (returns ? 1 : 0);
     const bool ended = line_break != std::string::npos && text_end - at < 4095;
     if (!ended) {
       text_end = std::min(bytes.size(), at + 4095);
@@ -246,7 +271,8 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from) {
 }
 
 // Every lookup of a lent stream and of a writing document.
-Answer plain(const std::string& bytes, const std::string& section, const std::string& key, int index) {
+Answer plain(const std::string& bytes, const std::string& section, const std::string& key,
+             int index) {
   const std::vector<Line> list = lines(bytes);
   int position = 0;
   for (std::size_t i = header_of(list, section) + 1; i < list.size(); ++i) {
@@ -298,10 +324,12 @@ Answer whole_text(const std::string& bytes, const std::string& section, const st
   return {0, ""};
 }
 
-Answer Reading::look(const std::string& bytes, const std::string& section, const std::string& key, int index) {
+Answer Reading::look(const std::string& bytes, const std::string& section, const std::string& key,
+                     int index) {
   const auto line_at = [&](std::size_t offset) -> Answer {
     const std::vector<Line> list = lines(bytes, offset);
-    return offset == 0 || list.empty() ? Answer{} : Answer{kDone, value_of(list[0].text, index < 0)};
+    return offset == 0 || list.empty() ? Answer{}
+                                       : Answer{kDone, value_of(list[0].text, index < 0)};
   };
   const Name name(index < 0, section, key);
   if (lines_.count(name) != 0) {
@@ -334,7 +362,8 @@ Answer Reading::look(const std::string& bytes, const std::string& section, const
       return {};
     }
     ++position;
-    const bool found = index < 0 ? (!own_header && !key.empty() && token_of(line.text) == key) : index == position;
+    const bool found =
+        index < 0 ? (!own_header && !key.empty() && token_of(line.text) == key) : index == position;
     if (!found && !own_header && is_name(token_of(line.text))) {
       lines_.emplace(Name(true, section, token_of(line.text)), line.start);
     }
@@ -346,7 +375,8 @@ Answer Reading::look(const std::string& bytes, const std::string& section, const
   return {};
 }
 
-int store(std::string& bytes, const std::string& section, const std::string& key, const std::string& given, int index, bool may_insert) {
+int store(std::string& bytes, const std::string& section, const std::string& key,
+          const std::string& given, int index, bool may_insert) {
   const std::string value = strip_back(given, "\r\n");
   if (bad(section, key, value, index)) {
     return kRefused;
@@ -375,7 +405,8 @@ int store(std::string& bytes, const std::string& section, const std::string& key
       if (too_long(line)) {
         return kRefused;
       }
-      put_back(bytes, contents.substr(0, list[i].start) + line + line_break_of(contents) + contents.substr(list[i].end));
+      put_back(bytes, contents.substr(0, list[i].start) + line + line_break_of(contents) +
+                          contents.substr(list[i].end));
       return kDone;
     }
   }
@@ -386,12 +417,15 @@ int store(std::string& bytes, const std::string& section, const std::string& key
   return may_insert ? insert_line(bytes, section, key, key + " = " + value) : kRefused;
 }
 
-int insert(std::string& bytes, const std::string& section, const std::string& key, const std::string& given) {
+int insert(std::string& bytes, const std::string& section, const std::string& key,
+           const std::string& given) {
   const std::string value = strip_back(given, "\r\n");
-  return bad(section, key, value, -1) ? kRefused : insert_line(bytes, section, key, key + " = " + value);
+  return bad(section, key, value, -1) ? kRefused
+                                      : insert_line(bytes, section, key, key + " = " + value);
 }
 
-int replace(std::string& bytes, const std::string& section, const std::string& key, const std::string& given) {
+int replace(std::string& bytes, const std::string& section, const std::string& key,
+            const std::string& given) {
   const std::string value = strip_back(given, "\r\n");
   if (bad(section, key, value, -1)) {
     return kRefused;
@@ -410,7 +444,8 @@ int replace(std::string& bytes, const std::string& section, const std::string& k
     result = with_lines(contents, contents.size(), {line});
     for (std::size_t i = header + 1; i < list.size(); ++i) {
       if (token_of(list[i].text) == key) {
-        result = contents.substr(0, list[i].start) + line + line_break_of(contents) + contents.substr(list[i].end);
+        result = contents.substr(0, list[i].start) + line + line_break_of(contents) +
+                 contents.substr(list[i].end);
         break;
       }
       if (list[i].text.find('[') != std::string::npos) {
@@ -449,20 +484,24 @@ class Generator {
   }
 
   std::string section() {
-    static const std::vector<std::string> kSections = {"[A]", "[B]", "[Flow-1]", "[Flow-10]", "[SURFACE"};
-    static const std::vector<std::string> kOdd = {"A", "[not", "[A", "", "[A B]", "x", "[A]]", "k\n"};
+    static const std::vector<std::string> kSections = {"[A]", "[B]", "[Flow-1]", "[Flow-10]",
+                                                       "[SURFACE"};
+    static const std::vector<std::string> kOdd = {"A",     "[not", "[A",   "",
+                                                  "[A B]", "x",    "[A]]", "k\n"};
     return chance(93) ? one_of(kSections) : one_of(kOdd);
   }
 
   std::string key() {
-    static const std::vector<std::string> kKeys = {"x", "xy", "FR", "FR-1", "FR-10", "GC-1", "aKeyOfMoreThanTwentyCharacters"};
+    static const std::vector<std::string> kKeys = {
+        "x", "xy", "FR", "FR-1", "FR-10", "GC-1", "aKeyOfMoreThanTwentyCharacters"};
     static const std::vector<std::string> kOdd = {"", "x y", "[A]", "[B", "x=", "]x", "x\x1A"};
     return chance(95) ? one_of(kKeys) : one_of(kOdd);
   }
 
   std::string value() {
-    static const std::vector<std::string> kOdd = {"",     " ",     "a = b", "[A]", "see [B] there", "y]",   "1\n", "1\r\n",
-                                                  "1\n2", "\tt\t", "x = 1", "=",   "\f1\f",         "1\x1A"};
+    static const std::vector<std::string> kOdd = {"",      " ",   "a = b", "[A]",  "see [B] there",
+                                                  "y]",    "1\n", "1\r\n", "1\n2", "\tt\t",
+                                                  "x = 1", "=",   "\f1\f", "1\x1A"};
     if (chance(20)) {
       return one_of(kOdd);
     }
@@ -473,7 +512,8 @@ class Generator {
   }
 
   std::string line() {
-    static const std::vector<std::string> kHeaders = {"[A]", "[B]", "[Flow-1]", "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"};
+    static const std::vector<std::string> kHeaders = {"[A]", "[B]", "[Flow-1]",
+                                                      "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"};
     static const std::vector<std::string> kOdd = {"",
                                                   " ",
                                                   "\t",
@@ -561,7 +601,8 @@ Answer look_once(CQELPROIO& document, const std::string& section, const std::str
   return {result, result == naive::kDone ? value : ""};
 }
 
-Answer scan(CQELPROIO& document, const std::string& path, const std::string& section, const std::string& key) {
+Answer scan(CQELPROIO& document, const std::string& path, const std::string& section,
+            const std::string& key) {
   char* value = nullptr;
   const bool found = document.ScanValue(path.c_str(), section.c_str(), key.c_str(), value, nullptr);
   return {found ? naive::kDone : 0, found ? value : ""};
@@ -570,7 +611,9 @@ Answer scan(CQELPROIO& document, const std::string& path, const std::string& sec
 // One file that is stored into and read in every way.
 class Trial {
  public:
-  explicit Trial(unsigned seed) : random_(seed), path_(scratch_.path()), bytes_(random_.file()) { put_bytes(path_, bytes_); }
+  explicit Trial(unsigned seed) : random_(seed), path_(scratch_.path()), bytes_(random_.file()) {
+    put_bytes(path_, bytes_);
+  }
 
   void store_some() {
     CQELPROIO document;
@@ -598,16 +641,18 @@ class Trial {
         result = store_lent(section, key, value);
       }
       const auto what = [&] {
-        return std::to_string(kind) + ": " + section + " | " + key + " | " + value + " | " + std::to_string(index) + "\nover " +
-               testing::PrintToString(before);
+        return std::to_string(kind) + ": " + section + " | " + key + " | " + value + " | " +
+               std::to_string(index) + "\nover " + testing::PrintToString(before);
       };
       EXPECT_EQ(result, expected) << what();
-      ASSERT_TRUE(bytes_of(path_) == bytes_) << what() << "\nis " << testing::PrintToString(bytes_of(path_)) << "\nnot "
-                                             << testing::PrintToString(bytes_);
+      ASSERT_TRUE(bytes_of(path_) == bytes_)
+          << what() << "\nis " << testing::PrintToString(bytes_of(path_)) << "\nnot "
+          << testing::PrintToString(bytes_);
       if (result == naive::kDone && kind < 70) {
         const Answer read = look(document, section, key, -1);
         EXPECT_EQ(read, naive::plain(bytes_, section, key, -1)) << what();
-        EXPECT_EQ(read.text, naive::value_of(naive::strip_back(value, "\r\n"), false)) << "a store is read back: " << what();
+        EXPECT_EQ(read.text, naive::value_of(naive::strip_back(value, "\r\n"), false))
+            << "a store is read back: " << what();
       }
     }
   }
@@ -621,9 +666,14 @@ class Trial {
       const std::string section = random_.section();
       const std::string key = random_.chance(85) ? random_.key() : "";
       const int index = random_.chance(70) ? -1 : random_.below(8);
-      const auto what = [&] { return section + " | " + key + " | " + std::to_string(index) + "\nin " + testing::PrintToString(bytes_); };
-      EXPECT_EQ(look(reading, section, key, index), model.look(bytes_, section, key, index)) << what();
-      EXPECT_EQ(look(lent, section, key, index), naive::plain(bytes_, section, key, index)) << what();
+      const auto what = [&] {
+        return section + " | " + key + " | " + std::to_string(index) + "\nin " +
+               testing::PrintToString(bytes_);
+      };
+      EXPECT_EQ(look(reading, section, key, index), model.look(bytes_, section, key, index))
+          << what();
+      EXPECT_EQ(look(lent, section, key, index), naive::plain(bytes_, section, key, index))
+          << what();
       EXPECT_EQ(look_once(reading, section, key), naive::once(bytes_, section, key)) << what();
       EXPECT_EQ(look_once(lent, section, key), naive::plain(bytes_, section, key, -1)) << what();
       EXPECT_EQ(scan(lent, path_, section, key), naive::whole_text(bytes_, section, key)) << what();
@@ -635,7 +685,9 @@ class Trial {
   int store_lent(const std::string& section, const std::string& key, const std::string& value) {
     CQELPROIO lent;
     std::FILE* stream = std::fopen(path_.c_str(), "r+");
-    const int result = lent.SetFilePtr(stream) ? lent.SetValue(section.c_str(), key.c_str(), value.c_str(), -1) : -1;
+    const int result = lent.SetFilePtr(stream)
+                           ? lent.SetValue(section.c_str(), key.c_str(), value.c_str(), -1)
+                           : -1;
     std::fclose(stream);
     return result;
   }

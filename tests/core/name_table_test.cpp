@@ -68,8 +68,10 @@ TEST(NameTable, AgreesWithAMapAsItGrows) {
   std::map<std::string, int> model;
   std::mt19937 random(1);
   for (int number = 0; number < 20000; ++number) {
-    const std::string name = "[Flow-" + std::to_string(random() % 300) + "]" + std::to_string(random() % 50);
-    EXPECT_EQ(table.insert(HashedName(name), number).is_new, model.try_emplace(name, number).second);
+    const std::string name =
+        "[Flow-" + std::to_string(random() % 300) + "]" + std::to_string(random() % 50);
+    EXPECT_EQ(table.insert(HashedName(name), number).is_new,
+              model.try_emplace(name, number).second);
   }
   for (const auto& [name, number] : model) {
     ASSERT_EQ(number_of(table, HashedName(name)), number) << name;

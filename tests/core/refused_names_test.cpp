@@ -1,6 +1,7 @@
 #include "core/document_fixture.h"
 
-// Names and values that would read as something else are stored by nothing, whether or not the file holds such a line.
+// Names and values that would read as something else are stored by nothing, whether or not the file
+// holds such a line.
 
 namespace qelpro_test {
 namespace {
@@ -17,7 +18,8 @@ class RefusedNames : public Document {
     const std::string before = bytes_of(path);
     EXPECT_EQ(document.SetValue(section, key, value, kByKey), kNoOpen) << section << ' ' << key;
     EXPECT_EQ(document.WriteOnce(section, key, value), kNoOpen) << section << ' ' << key;
-    EXPECT_EQ(document.InsertValue(path.c_str(), section, key, value), kNoOpen) << section << ' ' << key;
+    EXPECT_EQ(document.InsertValue(path.c_str(), section, key, value), kNoOpen)
+        << section << ' ' << key;
     EXPECT_EQ(document.ReplaceValue(section, key, value), kNoOpen) << section << ' ' << key;
     EXPECT_EQ(bytes_of(path), before);
   }

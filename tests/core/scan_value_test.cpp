@@ -36,7 +36,9 @@ TEST(ScanValue, StripsWhatStandsBetweenKeyAndEqualsSign) {
   EXPECT_EQ(scan("[A]\nx y = 1\n", "[A]", "x y"), "1");
 }
 
-TEST(ScanValue, NeverFindsALineWithLeadingBlanks) { EXPECT_EQ(scan("[A]\n  x = 1\n", "[A]", "x"), kNothing); }
+TEST(ScanValue, NeverFindsALineWithLeadingBlanks) {
+  EXPECT_EQ(scan("[A]\n  x = 1\n", "[A]", "x"), kNothing);
+}
 
 TEST(ScanValue, MatchesTheKeyOverItsWholeLength) {
   EXPECT_EQ(scan("[A]\nFR-1 = 3\nFR = 4\n", "[A]", "FR"), "4");
@@ -48,9 +50,13 @@ TEST(ScanValue, BeginsTheSectionAtALineThatMerelyMentionsIt) {
   EXPECT_EQ(scan("  [A]\nx = 1\n", "[A]", "x"), "1");
 }
 
-TEST(ScanValue, DoesNotStopAtTheNextSection) { EXPECT_EQ(scan("[A]\nx = 1\n[B]\ny = 2\n", "[A]", "y"), "2"); }
+TEST(ScanValue, DoesNotStopAtTheNextSection) {
+  EXPECT_EQ(scan("[A]\nx = 1\n[B]\ny = 2\n", "[A]", "y"), "2");
+}
 
-TEST(ScanValue, PassesALineWithoutAnEqualsSign) { EXPECT_EQ(scan("[A]\nx\nx = 2\n", "[A]", "x"), "2"); }
+TEST(ScanValue, PassesALineWithoutAnEqualsSign) {
+  EXPECT_EQ(scan("[A]\nx\nx = 2\n", "[A]", "x"), "2");
+}
 
 TEST(ScanValue, ReadsALineOfAnyLength) {
   const std::string value(10000, 'v');

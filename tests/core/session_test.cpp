@@ -78,7 +78,8 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
     if (block == &session.mold_temperature_bc_x) {
       continue;  // a name that reads as no header is never appended
     }
-    EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()), 1) << number;
+    EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()), 1)
+        << number;
   }
   number = 0;
   for (CQELPROBlockIOBase* block : session.Blocks()) {
@@ -93,7 +94,8 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
 
 TEST(Session, FindsThePositionalSectionByTheFirstTokenOfItsHeader) {
   const Scratch scratch;
-  const std::string path = scratch.file("\n[A]\n\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nProbe = found\n");
+  const std::string path =
+      scratch.file("\n[A]\n\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nProbe = found\n");
   CQELPROReader session;
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
@@ -117,7 +119,8 @@ TEST(Session, HoldsNoFileOpenBetweenStores) {
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   ASSERT_EQ(session.unit.Write(kProbe, {}, "1"), 1);
-  EXPECT_EQ(bytes_of(path), native("\n[Unit]\nProbe                = 1\n")) << "complete after each write";
+  EXPECT_EQ(bytes_of(path), native("\n[Unit]\nProbe                = 1\n"))
+      << "complete after each write";
   std::FILE* stream = nullptr;
   EXPECT_FALSE(session.document().GetFilePtr(stream));
 }

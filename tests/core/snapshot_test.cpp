@@ -20,8 +20,10 @@ using qel::Snapshot;
 using qelpro_test::Scratch;
 
 constexpr const char* kAwkward =
-    "x = 0\n[A]\nFR-1 = 3\n FR-2 = 4\nFR-2=5\r\nFR-2 = 6\nFR-03 = 7\nFR-x = 8\nFR-10 = 9\nFR-0 = 10\n"
-    "FR--4 = 11\nFR-2147483648 = 12\nFR = 13\n[not\nlate = 14\n[A]\nlater = 15\n[B] \ny = 16\n[C] z\nz = 17\nbare\n";
+    "x = 0\n[A]\nFR-1 = 3\n FR-2 = 4\nFR-2=5\r\nFR-2 = 6\nFR-03 = 7\nFR-x = 8\nFR-10 = 9\nFR-0 = "
+    "10\n"
+    "FR--4 = 11\nFR-2147483648 = 12\nFR = 13\n[not\nlate = 14\n[A]\nlater = 15\n[B] \ny = 16\n[C] "
+    "z\nz = 17\nbare\n";
 
 TEST(Snapshot, AnswersAsAOneShotReadDoes) {
   const Scratch scratch;
@@ -29,7 +31,8 @@ TEST(Snapshot, AnswersAsAOneShotReadDoes) {
   Snapshot snapshot;
   ASSERT_TRUE(snapshot.load(path.c_str()));
   for (const char* section : {"[A]", "[B]", "[C]", "[not", "[D]", "A", ""}) {
-    for (const char* key : {"x", "FR-1", "FR-2", "FR", "FR-10", "late", "later", "y", "z", "bare", "[not", ""}) {
+    for (const char* key :
+         {"x", "FR-1", "FR-2", "FR", "FR-10", "late", "later", "y", "z", "bare", "[not", ""}) {
       CQELPROIO document;
       ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
       char* text = nullptr;
@@ -57,7 +60,8 @@ TEST(Snapshot, KnowsItsSections) {
 TEST(Snapshot, ListsNumberedEntriesInAscendingOrder) {
   const Scratch scratch;
   Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-3 = c\nP-1 = a\nP-20 = d\nP-2 = b\n[B]\nP-4 = x\n").c_str()));
+  ASSERT_TRUE(snapshot.load(
+      scratch.file("[A]\nP-3 = c\nP-1 = a\nP-20 = d\nP-2 = b\n[B]\nP-4 = x\n").c_str()));
   std::string listed;
   for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "P-", 1000)) {
     listed.append(std::to_string(entry.number)).append(entry.value).append(" ");
@@ -80,7 +84,10 @@ TEST(Snapshot, ListsTheEntriesThatALookupByNumberWouldFind) {
 TEST(Snapshot, TakesTheFirstOfSeveralEntriesOfOneKey) {
   const Scratch scratch;
   Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nLongPrefix-2 = b\nLongPrefix-1\nLongPrefix-1 = a\nLongPrefix-2 = c\nLong = d\nLong = e\n").c_str()));
+  ASSERT_TRUE(snapshot.load(scratch
+                                .file("[A]\nLongPrefix-2 = b\nLongPrefix-1\nLongPrefix-1 = "
+                                      "a\nLongPrefix-2 = c\nLong = d\nLong = e\n")
+                                .c_str()));
   std::string listed;
   for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "LongPrefix-", 1000)) {
     listed.append(std::to_string(entry.number)).append("=").append(entry.value).append(" ");
@@ -93,7 +100,9 @@ TEST(Snapshot, TakesTheFirstOfSeveralEntriesOfOneKey) {
 TEST(Snapshot, TakesOnlyPrintedNumbersForNumbers) {
   const Scratch scratch;
   Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-1x = a\nP-02 = b\nP-+3 = c\nP-99999999999 = d\nP- = e\nP-4 = f\n").c_str()));
+  ASSERT_TRUE(snapshot.load(
+      scratch.file("[A]\nP-1x = a\nP-02 = b\nP-+3 = c\nP-99999999999 = d\nP- = e\nP-4 = f\n")
+          .c_str()));
   const std::vector<Snapshot::Numbered> listed = snapshot.numbered("[A]", "P-", 2147483647);
   ASSERT_EQ(listed.size(), 1U);
   EXPECT_EQ(listed.front().number, 4);
@@ -120,8 +129,11 @@ TEST(Snapshot, FindsEachOfManySimilarKeys) {
   for (const auto& [key, value] : first) {
     EXPECT_EQ(snapshot.value("[A]", key), value);
     const std::string prefix = key.substr(0, key.find('-') + 1);
-    const auto with_prefix = [&](const auto& entry) { return entry.first.substr(0, prefix.size()) == prefix; };
-    EXPECT_EQ(snapshot.numbered("[A]", prefix, 20).size(), static_cast<std::size_t>(std::count_if(first.begin(), first.end(), with_prefix)));
+    const auto with_prefix = [&](const auto& entry) {
+      return entry.first.substr(0, prefix.size()) == prefix;
+    };
+    EXPECT_EQ(snapshot.numbered("[A]", prefix, 20).size(),
+              static_cast<std::size_t>(std::count_if(first.begin(), first.end(), with_prefix)));
   }
 }
 
@@ -137,7 +149,8 @@ TEST(Snapshot, EndsALineAtANulByte) {
 TEST(Snapshot, NumbersSectionsByTheirWholeNames) {
   const Scratch scratch;
   Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file("[V-12 x]\n[V-3]\n[V-1]\n[V-2x]\n[W-4]\n[V-30]\n]\n").c_str()));
+  ASSERT_TRUE(
+      snapshot.load(scratch.file("[V-12 x]\n[V-3]\n[V-1]\n[V-2x]\n[W-4]\n[V-30]\n]\n").c_str()));
   EXPECT_EQ(snapshot.numbered_sections("[V-%d]", 20), (std::vector<int>{1, 3}));
 }
 

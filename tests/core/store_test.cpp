@@ -16,7 +16,8 @@ using namespace qel;
 using qelpro_test::MemoryFile;
 using qelpro_test::native;
 
-Result set(MemoryFile& file, const char* section, const char* key, const std::string& value, int index = Target::kByKey) {
+Result set(MemoryFile& file, const char* section, const char* key, const std::string& value,
+           int index = Target::kByKey) {
   const Entry entry{{section, key, index}, value};
   return is_refused(entry) ? Result::no_open : Store(file).set(entry, true);
 }
@@ -31,25 +32,29 @@ Result replace(MemoryFile& file, const char* section, const char* key, const std
   return is_refused(entry) ? Result::no_open : Store(file).replace(entry);
 }
 
-std::string after_set(const std::string& contents, const char* section, const char* key, const std::string& value, int index = Target::kByKey) {
+std::string after_set(const std::string& contents, const char* section, const char* key,
+                      const std::string& value, int index = Target::kByKey) {
   MemoryFile file(contents);
   EXPECT_EQ(set(file, section, key, value, index), Result::done);
   return file.bytes;
 }
 
-std::string after_insert(const std::string& contents, const char* section, const char* key, const std::string& value) {
+std::string after_insert(const std::string& contents, const char* section, const char* key,
+                         const std::string& value) {
   MemoryFile file(contents);
   EXPECT_EQ(insert(file, section, key, value), Result::done);
   return file.bytes;
 }
 
-std::string after_replace(const std::string& contents, const char* section, const char* key, const std::string& value) {
+std::string after_replace(const std::string& contents, const char* section, const char* key,
+                          const std::string& value) {
   MemoryFile file(contents);
   EXPECT_EQ(replace(file, section, key, value), Result::done);
   return file.bytes;
 }
 
-void expect_refused(const char* section, const char* key, const std::string& value, int index = Target::kByKey) {
+void expect_refused(const char* section, const char* key, const std::string& value,
+                    int index = Target::kByKey) {
   const std::string contents = "[A]\nx                    = 1\n[B]\n";
   MemoryFile file(contents);
   EXPECT_EQ(set(file, section, key, value, index), Result::no_open);
@@ -69,29 +74,40 @@ constexpr const char* kX2 = "x                    = 2\n";
 std::string x(const std::string& value) { return "x                    = " + value + "\n"; }
 
 TEST(Store, WritesASectionAndAPaddedEntryIntoANewFile) {
-  EXPECT_EQ(after_set("", "[Flow-1]", "FillTime", "1.5"), native("\n[Flow-1]\nFillTime             = 1.5\n"));
+  EXPECT_EQ(after_set("", "[Flow-1]", "FillTime", "1.5"),
+            native("\n[Flow-1]\nFillTime             = 1.5\n"));
 }
 
-TEST(Store, AppendsAMissingSection) { EXPECT_EQ(after_set("\n[A]\nx = 1\n", "[B]", "x", "2"), std::string("\n[A]\nx = 1\n\n[B]\n") + kX2); }
+TEST(Store, AppendsAMissingSection) {
+  EXPECT_EQ(after_set("\n[A]\nx = 1\n", "[B]", "x", "2"),
+            std::string("\n[A]\nx = 1\n\n[B]\n") + kX2);
+}
 
 TEST(Store, AddsANewKeyToItsSectionWithoutPadding) {
   EXPECT_EQ(after_set("\n[A]\nx = 1\n", "[A]", "y", "2"), "\n[A]\nx = 1\ny = 2\n");
-  EXPECT_EQ(after_set("[A]\nx = 1\n[B]\ny = 2\n", "[A]", "z", "3"), "[A]\nx = 1\nz = 3\n[B]\ny = 2\n");
+  EXPECT_EQ(after_set("[A]\nx = 1\n[B]\ny = 2\n", "[A]", "z", "3"),
+            "[A]\nx = 1\nz = 3\n[B]\ny = 2\n");
 }
 
 TEST(Store, AddsANewKeyRightBeforeTheNextHeaderBehindEmptyLines) {
   EXPECT_EQ(after_set("[A]\nx = 1\n\n[B]\n", "[A]", "y", "2"), "[A]\nx = 1\n\ny = 2\n[B]\n");
 }
 
-TEST(Store, RewritesAnEntryWithPadding) { EXPECT_EQ(after_set("[A]\nx = 1                 \n", "[A]", "x", "2"), std::string("[A]\n") + kX2); }
+TEST(Store, RewritesAnEntryWithPadding) {
+  EXPECT_EQ(after_set("[A]\nx = 1                 \n", "[A]", "x", "2"),
+            std::string("[A]\n") + kX2);
+}
 
 TEST(Store, WritesALongKeyWhole) {
-  EXPECT_EQ(after_set("", "[A]", "12345678901234567890", "1"), native("\n[A]\n12345678901234567890 = 1\n"));
-  EXPECT_EQ(after_set("", "[A]", "123456789012345678901234", "1"), native("\n[A]\n123456789012345678901234 = 1\n"));
+  EXPECT_EQ(after_set("", "[A]", "12345678901234567890", "1"),
+            native("\n[A]\n12345678901234567890 = 1\n"));
+  EXPECT_EQ(after_set("", "[A]", "123456789012345678901234", "1"),
+            native("\n[A]\n123456789012345678901234 = 1\n"));
 }
 
 TEST(Store, MovesTheRestWhereTheLineGrows) {
-  EXPECT_EQ(after_set("[A]\nx = 1\ny = 2\n[B]\nz = 3\n", "[A]", "x", "long"), "[A]\n" + x("long") + "y = 2\n[B]\nz = 3\n");
+  EXPECT_EQ(after_set("[A]\nx = 1\ny = 2\n[B]\nz = 3\n", "[A]", "x", "long"),
+            "[A]\n" + x("long") + "y = 2\n[B]\nz = 3\n");
 }
 
 TEST(Store, LeavesBlanksWhereTheValueGotShorter) {
@@ -123,7 +139,8 @@ TEST(Store, UsesTheBlanksBehindALastLineWithoutALineBreakAgain) {
 TEST(Store, PutsANewEntryInThePlaceOfPadding) {
   EXPECT_EQ(after_set("[A]\nx = 1\n    ", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n");
   EXPECT_EQ(after_set("[A]\nx = 1\n          ", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n    ");
-  EXPECT_EQ(after_set("[A]\nx = 1\n    ", "[B]", "x", "2"), std::string("[A]\nx = 1\n\n[B]\n") + kX2);
+  EXPECT_EQ(after_set("[A]\nx = 1\n    ", "[B]", "x", "2"),
+            std::string("[A]\nx = 1\n\n[B]\n") + kX2);
 }
 
 TEST(Store, WritesALineBreakBehindALastLineThatHasNone) {
@@ -132,44 +149,59 @@ TEST(Store, WritesALineBreakBehindALastLineThatHasNone) {
   EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "", "line", 2), "[A]\nx = 1\nline\n");
 }
 
-TEST(Store, RewritesALastLineThatHasNoLineBreak) { EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "x", "2"), std::string("[A]\n") + kX2); }
+TEST(Store, RewritesALastLineThatHasNoLineBreak) {
+  EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "x", "2"), std::string("[A]\n") + kX2);
+}
 
 TEST(Store, OverwritesAKeyThatOnlyALaterSectionHolds) {
-  EXPECT_EQ(after_set("[A]\ny = 1\n[B]\n" + x("5"), "[A]", "x", "2"), std::string("[A]\ny = 1\n[B]\n") + kX2);
+  EXPECT_EQ(after_set("[A]\ny = 1\n[B]\n" + x("5"), "[A]", "x", "2"),
+            std::string("[A]\ny = 1\n[B]\n") + kX2);
 }
 
 TEST(Store, WritesTheFirstOfTwoSectionsAlone) {
-  EXPECT_EQ(after_set(std::string("[A]\n") + kX1 + "[A]\n" + kX1, "[A]", "x", "2"), std::string("[A]\n") + kX2 + "[A]\n" + kX1);
+  EXPECT_EQ(after_set(std::string("[A]\n") + kX1 + "[A]\n" + kX1, "[A]", "x", "2"),
+            std::string("[A]\n") + kX2 + "[A]\n" + kX1);
 }
 
 TEST(Store, WritesTheFirstOfTwoEntriesAlone) {
-  EXPECT_EQ(after_set(std::string("[A]\n") + kX1 + kX1, "[A]", "x", "2"), std::string("[A]\n") + kX2 + kX1);
+  EXPECT_EQ(after_set(std::string("[A]\n") + kX1 + kX1, "[A]", "x", "2"),
+            std::string("[A]\n") + kX2 + kX1);
 }
 
 TEST(Store, DoesNotTakeALongerOrShorterKeyForTheSame) {
-  EXPECT_EQ(after_set("[A]\nFR-1 = 3\nF = 1\n", "[A]", "FR", "2"), "[A]\nFR-1 = 3\nF = 1\nFR = 2\n");
+  EXPECT_EQ(after_set("[A]\nFR-1 = 3\nF = 1\n", "[A]", "FR", "2"),
+            "[A]\nFR-1 = 3\nF = 1\nFR = 2\n");
 }
 
-TEST(Store, GivesALineWithoutAnEqualsSignItsValue) { EXPECT_EQ(after_set("[A]\nx\n", "[A]", "x", "1"), std::string("[A]\n") + kX1); }
+TEST(Store, GivesALineWithoutAnEqualsSignItsValue) {
+  EXPECT_EQ(after_set("[A]\nx\n", "[A]", "x", "1"), std::string("[A]\n") + kX1);
+}
 
-TEST(Store, FindsASectionOnTheFirstByte) { EXPECT_EQ(after_set(std::string("[A]\n") + kX1, "[A]", "x", "2"), std::string("[A]\n") + kX2); }
+TEST(Store, FindsASectionOnTheFirstByte) {
+  EXPECT_EQ(after_set(std::string("[A]\n") + kX1, "[A]", "x", "2"), std::string("[A]\n") + kX2);
+}
 
 TEST(Store, KeepsAByteOrderMark) {
-  EXPECT_EQ(after_set(std::string("\xEF\xBB\xBF[A]\n") + kX1, "[A]", "x", "2"), std::string("\xEF\xBB\xBF[A]\n") + kX2);
+  EXPECT_EQ(after_set(std::string("\xEF\xBB\xBF[A]\n") + kX1, "[A]", "x", "2"),
+            std::string("\xEF\xBB\xBF[A]\n") + kX2);
   EXPECT_EQ(after_set("\xEF\xBB\xBF[A]\n", "[A]", "y", "2"), "\xEF\xBB\xBF[A]\ny = 2\n");
-  EXPECT_EQ(after_set("\xEF\xBB\xBF", "[A]", "x", "1"), native(std::string("\xEF\xBB\xBF\n[A]\n") + kX1));
+  EXPECT_EQ(after_set("\xEF\xBB\xBF", "[A]", "x", "1"),
+            native(std::string("\xEF\xBB\xBF\n[A]\n") + kX1));
 }
 
 TEST(Store, WritesTheLineBreakOfTheFilesFirstLine) {
   EXPECT_EQ(after_set("[A]\r\nx = 1\r\n", "[A]", "y", "2"), "[A]\r\nx = 1\r\ny = 2\r\n");
   EXPECT_EQ(after_set("[A]\r\nx = 1\r\n", "[A]", "x", "2"), "[A]\r\nx                    = 2\r\n");
-  EXPECT_EQ(after_set("[A]\r\nx = 1\r\n", "[B]", "x", "2"), "[A]\r\nx = 1\r\n\r\n[B]\r\nx                    = 2\r\n");
+  EXPECT_EQ(after_set("[A]\r\nx = 1\r\n", "[B]", "x", "2"),
+            "[A]\r\nx = 1\r\n\r\n[B]\r\nx                    = 2\r\n");
   EXPECT_EQ(after_set("[A]\r\nx = 1", "[A]", "y", "2"), "[A]\r\nx = 1\r\ny = 2\r\n");
 }
 
 TEST(Store, LeavesTheLineBreaksOfOtherLinesAlone) {
-  EXPECT_EQ(after_set("[A]\r\nx = 1\r\ny = 2\nz = 3\r\n", "[A]", "x", "long"), "[A]\r\nx                    = long\r\ny = 2\nz = 3\r\n");
-  EXPECT_EQ(after_set("[A]\nx = 1\r\ny = 2\r\n", "[A]", "x", "long"), "[A]\n" + x("long") + "y = 2\r\n");
+  EXPECT_EQ(after_set("[A]\r\nx = 1\r\ny = 2\nz = 3\r\n", "[A]", "x", "long"),
+            "[A]\r\nx                    = long\r\ny = 2\nz = 3\r\n");
+  EXPECT_EQ(after_set("[A]\nx = 1\r\ny = 2\r\n", "[A]", "x", "long"),
+            "[A]\n" + x("long") + "y = 2\r\n");
 }
 
 TEST(Store, WritesBytesItDoesNotOwnBackAsTheyWere) {
@@ -249,7 +281,8 @@ TEST(Store, MeasuresTheLineInTheLayoutThatItIsWrittenIn) {
 }
 
 TEST(StoreByIndex, ReplacesALineWhole) {
-  EXPECT_EQ(after_set("[A]\nfirst\nsecond\n[B]\n", "[A]", "", "one", 1), "[A]\none\nsecond\n[B]\n  ");
+  EXPECT_EQ(after_set("[A]\nfirst\nsecond\n[B]\n", "[A]", "", "one", 1),
+            "[A]\none\nsecond\n[B]\n  ");
   EXPECT_EQ(after_set("[A]\nfirst\n\nthird\n", "[A]", "", "two", 2), "[A]\nfirst\ntwo\nthird\n");
 }
 
@@ -266,8 +299,10 @@ TEST(StoreByIndex, AlwaysCreatesThePositionalHeader) {
 }
 
 TEST(StoreByIndex, AddsALastLineBehindTheSectionsLastLine) {
-  EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 2), "[A]\nfirst\n2nd\n[B]\nx = 1\n");
-  EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 9), "[A]\nfirst\n2nd\n[B]\nx = 1\n");
+  EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 2),
+            "[A]\nfirst\n2nd\n[B]\nx = 1\n");
+  EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 9),
+            "[A]\nfirst\n2nd\n[B]\nx = 1\n");
   EXPECT_EQ(after_set("[A]\nfirst\n", "[A]", "", "2nd", 9), "[A]\nfirst\n2nd\n");
 }
 
@@ -279,12 +314,14 @@ TEST(StoreByIndex, PutsLinesThatComeInOrderOneBelowTheOther) {
   ASSERT_EQ(set(file, "[Y]", "y", "1"), Result::done);
   ASSERT_EQ(set(file, "[SURFACE", "", "line 6", 6), Result::done);
   EXPECT_EQ(file.bytes,
-            "\n[Z]\nz = 1\n\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nline 1\nline 2\nline 3\nline 4\nline 5\nline 6\n"
+            "\n[Z]\nz = 1\n\n[SURFACE ELEMENT BOUNDARY CONDITION NAME]\nline 1\nline 2\nline "
+            "3\nline 4\nline 5\nline 6\n"
             "[Y]\ny                    = 1\n");
 }
 
 TEST(Insert, WritesBeforeALineOfTheSameKeyThatStays) {
-  EXPECT_EQ(after_insert("[A]\nw = 0\nx = 1\ny = 2\n", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\nx = 1\ny = 2\n");
+  EXPECT_EQ(after_insert("[A]\nw = 0\nx = 1\ny = 2\n", "[A]", "x", "5"),
+            "[A]\nw = 0\nx = 5\nx = 1\ny = 2\n");
 }
 
 TEST(Insert, WritesBeforeAnIndentedLineOfTheSameKey) {
@@ -293,17 +330,23 @@ TEST(Insert, WritesBeforeAnIndentedLineOfTheSameKey) {
 }
 
 TEST(Insert, PassesALineOfTheSameKeyThatHoldsNoValue) {
-  EXPECT_EQ(after_insert("[A]\n  x =\n  x\ny = 2\n", "[A]", "x", "5"), "[A]\n  x =\n  x\ny = 2\nx = 5\n");
-  EXPECT_EQ(after_insert("[A]\n  x =\r\ny = 2\r\n", "[A]", "x", "5"), "[A]\n  x =\r\ny = 2\r\nx = 5\n");
+  EXPECT_EQ(after_insert("[A]\n  x =\n  x\ny = 2\n", "[A]", "x", "5"),
+            "[A]\n  x =\n  x\ny = 2\nx = 5\n");
+  EXPECT_EQ(after_insert("[A]\n  x =\r\ny = 2\r\n", "[A]", "x", "5"),
+            "[A]\n  x =\r\ny = 2\r\nx = 5\n");
 }
 
 TEST(Insert, WritesBeforeTheNextHeader) {
-  EXPECT_EQ(after_insert("[A]\nw = 0\n[B]\nx = 1\n", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\n[B]\nx = 1\n");
-  EXPECT_EQ(after_insert("[A]\nw = 0\n[B] \t\nx = 1\n", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\n[B] \t\nx = 1\n");
+  EXPECT_EQ(after_insert("[A]\nw = 0\n[B]\nx = 1\n", "[A]", "x", "5"),
+            "[A]\nw = 0\nx = 5\n[B]\nx = 1\n");
+  EXPECT_EQ(after_insert("[A]\nw = 0\n[B] \t\nx = 1\n", "[A]", "x", "5"),
+            "[A]\nw = 0\nx = 5\n[B] \t\nx = 1\n");
   EXPECT_EQ(after_insert("[A]\nw = 0\n[B]", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\n[B]");
 }
 
-TEST(Insert, WritesAtTheEndOfTheFileInTheLastSection) { EXPECT_EQ(after_insert("[A]\nw = 0", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\n"); }
+TEST(Insert, WritesAtTheEndOfTheFileInTheLastSection) {
+  EXPECT_EQ(after_insert("[A]\nw = 0", "[A]", "x", "5"), "[A]\nw = 0\nx = 5\n");
+}
 
 TEST(Insert, AppendsAMissingSectionWithAnUnpaddedEntry) {
   EXPECT_EQ(after_insert("[A]\nw = 0\n", "[B]", "x", "5"), "[A]\nw = 0\n\n[B]\nx = 5\n");
@@ -311,27 +354,35 @@ TEST(Insert, AppendsAMissingSectionWithAnUnpaddedEntry) {
 }
 
 TEST(Insert, NeverLandsInASectionThatMerelyMentionsTheName) {
-  EXPECT_EQ(after_insert("[A]\nsee = [B]\n[B]\ny = 1\n", "[B]", "x", "5"), "[A]\nsee = [B]\n[B]\ny = 1\nx = 5\n");
+  EXPECT_EQ(after_insert("[A]\nsee = [B]\n[B]\ny = 1\n", "[B]", "x", "5"),
+            "[A]\nsee = [B]\n[B]\ny = 1\nx = 5\n");
   EXPECT_EQ(after_insert("[A]\nsee = [B]\n", "[B]", "x", "5"), "[A]\nsee = [B]\n\n[B]\nx = 5\n");
 }
 
 TEST(Replace, PutsTheEntryInThePlaceOfItsLine) {
-  EXPECT_EQ(after_replace("[A]\nGC-1 = 1\nGC-2 = 2\n", "[A]", "GC-1", "longer"), "[A]\nGC-1 = longer\nGC-2 = 2\n");
+  EXPECT_EQ(after_replace("[A]\nGC-1 = 1\nGC-2 = 2\n", "[A]", "GC-1", "longer"),
+            "[A]\nGC-1 = longer\nGC-2 = 2\n");
 }
 
 TEST(Replace, LeavesNoPaddingBehind) {
-  EXPECT_EQ(after_replace("[A]\nGC-1 = 123456\ny = 2\n", "[A]", "GC-1", "1"), "[A]\nGC-1 = 1\ny = 2\n");
-  EXPECT_EQ(after_replace("[A]\nGC-1 = 1\ny = 2\n      ", "[A]", "GC-1", "2"), "[A]\nGC-1 = 2\ny = 2\n");
+  EXPECT_EQ(after_replace("[A]\nGC-1 = 123456\ny = 2\n", "[A]", "GC-1", "1"),
+            "[A]\nGC-1 = 1\ny = 2\n");
+  EXPECT_EQ(after_replace("[A]\nGC-1 = 1\ny = 2\n      ", "[A]", "GC-1", "2"),
+            "[A]\nGC-1 = 2\ny = 2\n");
 }
 
-TEST(Replace, LeavesALongerKeyAlone) { EXPECT_EQ(after_replace("[A]\nGC-10 = 1\n", "[A]", "GC-1", "2"), "[A]\nGC-10 = 1\nGC-1 = 2\n"); }
+TEST(Replace, LeavesALongerKeyAlone) {
+  EXPECT_EQ(after_replace("[A]\nGC-10 = 1\n", "[A]", "GC-1", "2"), "[A]\nGC-10 = 1\nGC-1 = 2\n");
+}
 
 TEST(Replace, SetsANewEntryOffFromTheNextSectionByAnEmptyLine) {
-  EXPECT_EQ(after_replace("[A]\ny = 1\n[B]\nGC-1 = 1\n", "[A]", "GC-1", "2"), "[A]\ny = 1\nGC-1 = 2\n\n[B]\nGC-1 = 1\n");
+  EXPECT_EQ(after_replace("[A]\ny = 1\n[B]\nGC-1 = 1\n", "[A]", "GC-1", "2"),
+            "[A]\ny = 1\nGC-1 = 2\n\n[B]\nGC-1 = 1\n");
 }
 
 TEST(Replace, TakesAnyBracketForTheNextSection) {
-  EXPECT_EQ(after_replace("[A]\ny = [1\nGC-1 = 1\n", "[A]", "GC-1", "2"), "[A]\nGC-1 = 2\n\ny = [1\nGC-1 = 1\n");
+  EXPECT_EQ(after_replace("[A]\ny = [1\nGC-1 = 1\n", "[A]", "GC-1", "2"),
+            "[A]\nGC-1 = 2\n\ny = [1\nGC-1 = 1\n");
 }
 
 TEST(Replace, EndsEveryLineWithALineBreak) {
@@ -380,9 +431,10 @@ TEST(FailingStore, NeedsNoRoomWhereTheFileDoesNotGrow) {
 }
 
 TEST(FailingStore, PutsTheOldBytesBackAfterAShortWrite) {
-  for (const std::size_t taken : {std::size_t{0}, std::size_t{1}, std::size_t{9}, std::size_t{1000}}) {
-    for (const auto& works :
-         {std::vector<Work>(std::begin(kGrowing), std::end(kGrowing)), std::vector<Work>(std::begin(kShrinking), std::end(kShrinking))}) {
+  for (const std::size_t taken :
+       {std::size_t{0}, std::size_t{1}, std::size_t{9}, std::size_t{1000}}) {
+    for (const auto& works : {std::vector<Work>(std::begin(kGrowing), std::end(kGrowing)),
+                              std::vector<Work>(std::begin(kShrinking), std::end(kShrinking))}) {
       for (const Work work : works) {
         MemoryFile file(kOld);
         file.failing_write = 1;

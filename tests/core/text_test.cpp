@@ -13,7 +13,9 @@ TEST(FirstToken, EndsAtABlankATabOrAnEqualsSign) {
   EXPECT_EQ(first_token("Key"), "Key");
 }
 
-TEST(FirstToken, OfAHeaderWithBlanksIsItsTextUpToTheFirst) { EXPECT_EQ(first_token("[SURFACE ELEMENT BOUNDARY CONDITION NAME]"), "[SURFACE"); }
+TEST(FirstToken, OfAHeaderWithBlanksIsItsTextUpToTheFirst) {
+  EXPECT_EQ(first_token("[SURFACE ELEMENT BOUNDARY CONDITION NAME]"), "[SURFACE");
+}
 
 TEST(FirstToken, IsEmptyWhereTheLineBeginsWithADelimiter) {
   EXPECT_EQ(first_token(" Key"), "");
@@ -112,10 +114,12 @@ TEST(TrimEnd, TakesTheGivenCharactersFromTheEndAlone) {
 }
 
 TEST(IsHeader, TakesWordsBehindTheBrackets) {
-  for (const char* line : {"[A] # first inlet", "[A]\tnote", "[A] note = 5", "[A B] note", "[a]b] c", "[A] = [B]", "[] x"}) {
+  for (const char* line : {"[A] # first inlet", "[A]\tnote", "[A] note = 5", "[A B] note",
+                           "[a]b] c", "[A] = [B]", "[] x"}) {
     EXPECT_TRUE(is_header(line)) << line;
   }
-  for (const char* line : {"[A] = 5", "[A]=5", "[A] \t= 5", "[A]note", "[A note", "[A=] b", " [A] note", "A [B] c", "[A]x y"}) {
+  for (const char* line : {"[A] = 5", "[A]=5", "[A] \t= 5", "[A]note", "[A note", "[A=] b",
+                           " [A] note", "A [B] c", "[A]x y"}) {
     EXPECT_FALSE(is_header(line)) << line;
   }
 }

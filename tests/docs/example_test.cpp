@@ -42,7 +42,8 @@ TEST(Example, IsReadByTheReader) {
 
 TEST(Example, MakesOneInletOfTheLoader) {
   CQELProcessData_Manipulator data;
-  const std::unique_ptr<const QELG_SimulatorProcess> process(data.GetProcessDataStructure(example().c_str()));
+  const std::unique_ptr<const QELG_SimulatorProcess> process(
+      data.GetProcessDataStructure(example().c_str()));
   ASSERT_NE(process, nullptr);
   ASSERT_EQ(process->GetNumOfInlets(), 1U);
   const QELG_SimulatorFlowPackProcess& inlet = *process->GetFlowPackOfInlet(0);

@@ -4,8 +4,8 @@ namespace qelpro_test::allocations {
 
 enum class Failure { none, one, all_behind };
 
-/// The calls of `operator new` of this thread are counted from here on, the library's included, and the n-th fails: it alone,
-/// or with all behind it.
+/// The calls of `operator new` of this thread are counted from here on, the library's included, and
+/// the n-th fails: it alone, or with all behind it.
 void fail(int n, Failure failure);
 
 struct Outcome {

@@ -12,8 +12,9 @@
 #include "proio/support.h"
 #include "support/scratch.h"
 
-// Every call to the operating system fails once, in turn, in every kind of store. The file is as it was before the store or
-// as the store leaves it, never anything between, and the member says which.
+// Every call to the operating system fails once, in turn, in every kind of store. The file is as it
+// was before the store or as the store leaves it, never anything between, and the member says
+// which.
 
 namespace qelpro_test {
 namespace {
@@ -52,7 +53,8 @@ std::function<bool(const std::string&)> through_a_stream(Store store) {
 }
 
 const std::string kRest = "[Pack-1]\nPackTime = 3\n" + std::string(6000, 'y') + "\n[Last]\nz = 1\n";
-const std::string kFile = "[FileHeader]\nName = a.pro\n[Flow-1]\nFillTime = 1.5\nFR-1 = 0 10\n" + kRest;
+const std::string kFile =
+    "[FileHeader]\nName = a.pro\n[Flow-1]\nFillTime = 1.5\nFR-1 = 0 10\n" + kRest;
 
 class FailingCalls : public testing::TestWithParam<Case> {
  protected:
@@ -82,13 +84,15 @@ TEST_P(FailingCalls, LeaveTheFileBeforeOrAfterTheStore) {
       const io_calls::Outcome outcome = io_calls::stop();
       failures += outcome.failed ? 1 : 0;
       const std::string left = bytes_of(path);
-      const std::string where = std::string(outcome.failed_call) + ", call " + std::to_string(n) + " of " + std::to_string(calls);
+      const std::string where = std::string(outcome.failed_call) + ", call " + std::to_string(n) +
+                                " of " + std::to_string(calls);
       if (done) {
         EXPECT_TRUE(left == after) << where << ": success, but not what the store leaves";
       } else {
         // That a file could not be closed is known only once it is written.
         const bool too_late = std::strcmp(outcome.failed_call, "close") == 0;
-        EXPECT_TRUE(left == row.contents || (too_late && left == after)) << where << ": failure, but the file is not as it was";
+        EXPECT_TRUE(left == row.contents || (too_late && left == after))
+            << where << ": failure, but the file is not as it was";
       }
     }
   }
@@ -104,36 +108,53 @@ TEST_P(FailingCalls, AreMadeAgainWhereASignalInterruptedThem) {
     io_calls::fail(n, Failure::interrupted);
     EXPECT_TRUE(row.run(path)) << n;
     const io_calls::Outcome outcome = io_calls::stop();
-    EXPECT_TRUE(bytes_of(path) == after) << outcome.failed_call << ", call " << n << " of " << calls;
+    EXPECT_TRUE(bytes_of(path) == after)
+        << outcome.failed_call << ", call " << n << " of " << calls;
     // A file that a signal kept from being closed is closed all the same; nobody closes it again.
-    EXPECT_EQ(outcome.calls, calls + (outcome.failed && std::strcmp(outcome.failed_call, "close") != 0 ? 1 : 0)) << outcome.failed_call;
+    EXPECT_EQ(outcome.calls,
+              calls + (outcome.failed && std::strcmp(outcome.failed_call, "close") != 0 ? 1 : 0))
+        << outcome.failed_call;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Document, FailingCalls,
-                         testing::Values(Case{"SameLength", kFile, written([](auto& w) { return w.FlowX_WriteFillingTime(2.5, 1); })},
-                                         Case{"Longer", kFile,
-                                              written([](auto& w) { return w.WriteString("[Flow-1]", "FillTime", std::string(3000, 'v').c_str()); })},
-                                         Case{"Shorter", kFile, written([](auto& w) { return w.WriteString("[Pack-1]", "PackTime", ""); })},
-                                         Case{"NewKey", kFile, written([](auto& w) { return w.FlowX_WriteMeltTemperature(230, 1); })},
-                                         Case{"NewSection", kFile, written([](auto& w) { return w.Cool_WriteCoolTime(20); })},
-                                         Case{"NewFile", "", written([](auto& w) { return w.Cool_WriteCoolTime(20); })},
-                                         Case{"Replace", kFile, written([](auto& w) { return w.GateValveX_WriteGateSetting(1.5, 1, 2, 1, 1); })},
-                                         Case{"ByPosition", kFile, written([](auto& w) {
-                                                char name[] = "Top";
-                                                return w.MoldTemperatureBCX_WriteBC(1, name, 2, 1);
+INSTANTIATE_TEST_SUITE_P(
+    Document, FailingCalls,
+    testing::Values(
+        Case{"SameLength", kFile,
+             written([](auto& w) { return w.FlowX_WriteFillingTime(2.5, 1); })},
+        Case{"Longer", kFile, written([](auto& w) {
+               return w.WriteString("[Flow-1]", "FillTime", std::string(3000, 'v').c_str());
+             })},
+        Case{"Shorter", kFile,
+             written([](auto& w) { return w.WriteString("[Pack-1]", "PackTime", ""); })},
+        Case{"NewKey", kFile,
+             written([](auto& w) { return w.FlowX_WriteMeltTemperature(230, 1); })},
+        Case{"NewSection", kFile, written([](auto& w) { return w.Cool_WriteCoolTime(20); })},
+        Case{"NewFile", "", written([](auto& w) { return w.Cool_WriteCoolTime(20); })},
+        Case{"Replace", kFile,
+             written([](auto& w) { return w.GateValveX_WriteGateSetting(1.5, 1, 2, 1, 1); })},
+        Case{"ByPosition", kFile, written([](auto& w) {
+               char name[] = "Top";
+               return w.MoldTemperatureBCX_WriteBC(1, name, 2, 1);
+             })}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(LentStream, FailingCalls,
+                         testing::Values(Case{"SameLength", kFile, through_a_stream([](auto& w) {
+                                                return w.FlowX_WriteFillingTime(2.5, 1);
+                                              })},
+                                         Case{"Longer", kFile, through_a_stream([](auto& w) {
+                                                return w.WriteString(
+                                                    "[Flow-1]", "FillTime",
+                                                    std::string(3000, 'v').c_str());
+                                              })},
+                                         Case{"NewSection", kFile, through_a_stream([](auto& w) {
+                                                return w.Cool_WriteCoolTime(20);
                                               })}),
                          [](const auto& row) { return row.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(LentStream, FailingCalls,
-                         testing::Values(Case{"SameLength", kFile, through_a_stream([](auto& w) { return w.FlowX_WriteFillingTime(2.5, 1); })},
-                                         Case{"Longer", kFile, through_a_stream([](auto& w) {
-                                                return w.WriteString("[Flow-1]", "FillTime", std::string(3000, 'v').c_str());
-                                              })},
-                                         Case{"NewSection", kFile, through_a_stream([](auto& w) { return w.Cool_WriteCoolTime(20); })}),
-                         [](const auto& row) { return row.param.name; });
-
-// The self-contained object yields true whatever happened. It writes twice, the entry and the stamp.
+// The self-contained object yields true whatever happened. It writes twice, the entry and the
+// stamp.
 class FailingCallsOfTheObject : public testing::TestWithParam<Case> {
  protected:
   Scratch scratch_;
@@ -156,10 +177,12 @@ TEST_P(FailingCallsOfTheObject, LeaveTheFileBeforeBetweenOrAfterItsTwoWrites) {
       const io_calls::Outcome outcome = io_calls::stop();
       failures += outcome.failed ? 1 : 0;
       const std::string left = bytes_of(path);
-      // The stamp has the length of the one before, so that whole writes tell themselves by their text.
+      // The stamp has the length of the one before, so that whole writes tell themselves by their
+      // text.
       const bool entry_written = left.find("7.5") != std::string::npos;
       const std::string undone = entry_written ? after : masked(row.contents);
-      EXPECT_TRUE(masked(left) == undone) << outcome.failed_call << ", call " << n << " of " << calls;
+      EXPECT_TRUE(masked(left) == undone)
+          << outcome.failed_call << ", call " << n << " of " << calls;
       EXPECT_NE(left.find(stamp), std::string::npos);
     }
   }
@@ -182,12 +205,15 @@ std::function<bool(const std::string&)> by_object(Store store) {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Object, FailingCallsOfTheObject,
-                         testing::Values(Case{"ByPosition", kConditions, by_object([](auto& o) { return o.SetBCProfile(2, 1, 7.5, 1); })},
-                                         Case{"Replace", kStamped, by_object([](auto& o) { return o.SetFillTime(7.5, 1); })},
-                                         Case{"Append", kStamped, by_object([](auto& o) { return o.SetMeltTemperature(7.5, 1); })},
-                                         Case{"NewSection", kStamped, by_object([](auto& o) { return o.SetCoolTime(7.5); })}),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Object, FailingCallsOfTheObject,
+    testing::Values(
+        Case{"ByPosition", kConditions,
+             by_object([](auto& o) { return o.SetBCProfile(2, 1, 7.5, 1); })},
+        Case{"Replace", kStamped, by_object([](auto& o) { return o.SetFillTime(7.5, 1); })},
+        Case{"Append", kStamped, by_object([](auto& o) { return o.SetMeltTemperature(7.5, 1); })},
+        Case{"NewSection", kStamped, by_object([](auto& o) { return o.SetCoolTime(7.5); })}),
+    [](const auto& row) { return row.param.name; });
 
 // A read that fails is never a value, and leaves the outputs alone.
 TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
@@ -201,18 +227,21 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
       },
       [&path](double& value) {
         CPROIO_Manipulator object;
-        return object.SetFilePath(static_cast<const char*>(path.c_str())) && object.GetFillTime(value, 1);
+        return object.SetFilePath(static_cast<const char*>(path.c_str())) &&
+               object.GetFillTime(value, 1);
       },
       [&conditions](double& value) {
         CPROIO_Manipulator object;
         double y = 0;
-        return object.SetFilePath(static_cast<const char*>(conditions.c_str())) && object.GetBCProfile(2, 1, value, y);
+        return object.SetFilePath(static_cast<const char*>(conditions.c_str())) &&
+               object.GetBCProfile(2, 1, value, y);
       },
       [&path](double& value) {
         CQELPROReader_Manipulator reader;
         char buffer[32];
         char* text = nullptr;
-        const bool done = reader.SetFilePath(path.c_str()) && reader.ReadString("[Flow-1]", "FillTime", text, buffer, sizeof buffer);
+        const bool done = reader.SetFilePath(path.c_str()) &&
+                          reader.ReadString("[Flow-1]", "FillTime", text, buffer, sizeof buffer);
         value = done ? std::strtod(text, nullptr) : value;
         return done;
       },
@@ -239,7 +268,8 @@ TEST(FailingReads, YieldNoProcess) {
   const std::string path = scratch.file(kFile);
   const auto load = [&path] {
     CQELProcessData_Manipulator loader;
-    const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(path.c_str()));
+    const std::unique_ptr<const QELG_SimulatorProcess> process(
+        loader.GetProcessDataStructure(path.c_str()));
     return process != nullptr;
   };
   io_calls::fail(0, Failure::none);

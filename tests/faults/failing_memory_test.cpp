@@ -11,9 +11,10 @@
 #include "proio/support.h"
 #include "support/scratch.h"
 
-// Every allocation of every member fails once, in turn, alone and with all behind it. No exception leaves the library, a member
-// that says no has left its outputs and its file alone, and the same call of the same object works as soon as there is memory.
-// Every run of the tests takes some of the members, `./dev load` all of them.
+// Every allocation of every member fails once, in turn, alone and with all behind it. No exception
+// leaves the library, a member that says no has left its outputs and its file alone, and the same
+// call of the same object works as soon as there is memory. Every run of the tests takes some of
+// the members, `./dev load` all of them.
 
 namespace qelpro_test {
 namespace {
@@ -23,7 +24,8 @@ using allocations::Failure;
 int planned_at = 0;
 Failure planned = Failure::none;
 allocations::Outcome outcome;
-const Around kAround{[] { allocations::fail(planned_at, planned); }, [] { outcome = allocations::stop(); }};
+const Around kAround{[] { allocations::fail(planned_at, planned); },
+                     [] { outcome = allocations::stop(); }};
 
 // What happened to one object: a call without memory, and the same call once more.
 struct Trial {
@@ -35,7 +37,8 @@ struct Trial {
 };
 
 template <class Object>
-Trial try_twice(const EveryCall<Object>& call, Object& object, const std::string& path, int n, Failure failure) {
+Trial try_twice(const EveryCall<Object>& call, Object& object, const std::string& path, int n,
+                Failure failure) {
   Trial trial;
   planned_at = n;
   planned = failure;
@@ -48,7 +51,8 @@ Trial try_twice(const EveryCall<Object>& call, Object& object, const std::string
   return trial;
 }
 
-// Tries a call with every of its allocations failing, and hands each trial to `check`, with the one where none failed.
+// Tries a call with every of its allocations failing, and hands each trial to `check`, with the one
+// where none failed.
 template <class Attempt, class Check>
 void fail_each_allocation(const std::string& name, Attempt attempt, Check check) {
   const Trial undisturbed = attempt(0, Failure::none);
@@ -78,7 +82,8 @@ class FailingMemory : public testing::Test {
  protected:
   // A file with a value for every member.
   std::string everything() {
-    const std::string path = scratch_.file("[FileHeader]\nRemark = " + std::string(200, 'r') + "\n", "everything.pro");
+    const std::string path =
+        scratch_.file("[FileHeader]\nRemark = " + std::string(200, 'r') + "\n", "everything.pro");
     planned = Failure::none;
     for (const auto& call : writer_calls()) {
       CQELPROWriter_Manipulator writer;
@@ -98,7 +103,8 @@ TEST_F(FailingMemory, OfReadersLeavesTheirOutputsAlone) {
       EXPECT_TRUE(reader.SetFilePath(path.c_str()));
       return try_twice(call, reader, path, n, failure);
     };
-    // A session's second lookup by position goes by what the first one learnt, also where that found no memory to end.
+    // A session's second lookup by position goes by what the first one learnt, also where that
+    // found no memory to end.
     const bool by_position = call.name == "MoldTemperatureBCX_ReadBC";
     fail_each_allocation(call.name, attempt, [&](const Trial& trial, const Trial& undisturbed) {
       EXPECT_EQ(trial.first, trial.first.done ? undisturbed.first : call.untouched);
@@ -186,7 +192,8 @@ TEST_F(FailingMemory, OfAdaptersKeepsThemUsable) {
   });
 }
 
-// The self-contained object says yes whatever became of a store; a getter that says no has read nothing.
+// The self-contained object says yes whatever became of a store; a getter that says no has read
+// nothing.
 TEST_F(FailingMemory, OfTheSelfContainedObjectKeepsItUsable) {
   planned = Failure::none;
   std::string made = scratch_.file("", "made.pro");

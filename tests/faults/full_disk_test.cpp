@@ -32,7 +32,8 @@ class FullDisk : public testing::Test {
     struct statvfs status {};
     ASSERT_EQ(::statvfs(scratch_.path("").c_str(), &status), 0);
     ASSERT_GE(status.f_bfree, pages);
-    std::ofstream(scratch_.path("filler"), std::ios::binary) << std::string((status.f_bfree - pages) * status.f_bsize, '#');
+    std::ofstream(scratch_.path("filler"), std::ios::binary)
+        << std::string((status.f_bfree - pages) * status.f_bsize, '#');
   }
 
   Scratch scratch_;
@@ -53,7 +54,8 @@ TEST_F(FullDisk, LosesNoEntryOfTheDocument) {
     for (int key = 0; key < 12; ++key) {
       const std::string before = bytes_of(path);
       const std::string value(length, 'v');
-      const bool done = writer.WriteString("[Flow-1]", ("new" + std::to_string(key)).c_str(), value.c_str());
+      const bool done =
+          writer.WriteString("[Flow-1]", ("new" + std::to_string(key)).c_str(), value.c_str());
       if (!done) {
         ++refused;
         ASSERT_TRUE(bytes_of(path) == before);
@@ -68,7 +70,9 @@ TEST_F(FullDisk, LosesNoEntryOfTheDocument) {
   for (int i = 0; i < 200; ++i) {
     char buffer[16];
     char* value = nullptr;
-    ASSERT_TRUE(reader.ReadString("[Flow-1]", ("k" + std::to_string(i)).c_str(), value, buffer, sizeof buffer)) << i;
+    ASSERT_TRUE(reader.ReadString("[Flow-1]", ("k" + std::to_string(i)).c_str(), value, buffer,
+                                  sizeof buffer))
+        << i;
     EXPECT_EQ(value, std::to_string(i));
   }
   EXPECT_TRUE(writer.FlowX_WriteFillingTime(2, 1)) << "what needs no room is still stored";

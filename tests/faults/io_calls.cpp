@@ -37,7 +37,8 @@ bool fails(const char* name, int error, Interruption interruption = Interruption
   if (!is_chosen(name)) {
     return false;
   }
-  const bool interrupted = plan.failure == Failure::interrupted && interruption == Interruption::possible;
+  const bool interrupted =
+      plan.failure == Failure::interrupted && interruption == Interruption::possible;
   if (plan.failure != Failure::error && !interrupted) {
     return false;
   }
@@ -140,12 +141,15 @@ VISIBLE std::size_t fread(void* to, std::size_t size, std::size_t count, std::FI
   return real(to, size, count, stream);
 }
 
-VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count, std::FILE* stream) {
-  static auto* const real = next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
+VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count,
+                           std::FILE* stream) {
+  static auto* const real =
+      next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
   if (is_chosen("fwrite") && plan.failure != Failure::interrupted) {
     plan.outcome.failed = true;
     errno = ENOSPC;
-    const std::size_t half = plan.failure == Failure::error ? 0 : real(from, 1, size * count / 2, stream);
+    const std::size_t half =
+        plan.failure == Failure::error ? 0 : real(from, 1, size * count / 2, stream);
     return half / size;
   }
   return real(from, size, count, stream);

@@ -1,7 +1,7 @@
 #pragma once
 
-/// The operating system's calls of this program, of which one can be made to fail. They stand in front of the C library's, for
-/// the library under test too.
+/// The operating system's calls of this program, of which one can be made to fail. They stand in
+/// front of the C library's, for the library under test too.
 namespace qelpro_test::io_calls {
 
 enum class Failure {
@@ -9,7 +9,8 @@ enum class Failure {
   error,        ///< The call fails with EIO, or ENOSPC where it writes.
   short_write,  ///< The call, where it writes, writes half; the next one goes on.
   torn_write,   ///< The call, where it writes, writes half; the next write fails.
-  interrupted,  ///< The call, where a signal can interrupt it, fails with EINTR and has done nothing; a file is closed nevertheless.
+  interrupted,  ///< The call, where a signal can interrupt it, fails with EINTR and has done
+                ///< nothing; a file is closed nevertheless.
 };
 
 /// From now on the n-th call (from 1) of this thread fails.

@@ -11,7 +11,8 @@
 #include "QELPROEngine/QELPROEngine.h"
 #include "support/scratch.h"
 
-// A writer that is killed at any moment leaves every entry that it was not writing as it was. QELPRO_KILLS sets how often.
+// A writer that is killed at any moment leaves every entry that it was not writing as it was.
+// QELPRO_KILLS sets how often.
 
 namespace qelpro_test {
 namespace {
@@ -21,12 +22,15 @@ constexpr int kEntries = 40;
 std::string key(int number) { return "k" + std::to_string(number); }
 
 // Values that tell themselves by their text, of lengths that make the file's rest move.
-std::string value(int number, int round) { return std::to_string(number) + ":" + std::string(static_cast<std::size_t>(round * 7 % 60), 'v') + ";"; }
+std::string value(int number, int round) {
+  return std::to_string(number) + ":" + std::string(static_cast<std::size_t>(round * 7 % 60), 'v') +
+         ";";
+}
 
 bool is_whole(const std::string& text, int number) {
   const std::string front = std::to_string(number) + ":";
-  return text.size() > front.size() && text.compare(0, front.size(), front) == 0 && text.back() == ';' &&
-         text.find_first_not_of('v', front.size()) == text.size() - 1;
+  return text.size() > front.size() && text.compare(0, front.size(), front) == 0 &&
+         text.back() == ';' && text.find_first_not_of('v', front.size()) == text.size() - 1;
 }
 
 int kills() {
@@ -73,7 +77,8 @@ TEST(KilledWriter, LeavesEveryOtherEntryWhole) {
       put_bytes(path, contents);
     }
   }
-  std::cout << "[ measured ] " << half_written << " of " << kills() << " kills left an entry broken\n";
+  std::cout << "[ measured ] " << half_written << " of " << kills()
+            << " kills left an entry broken\n";
   EXPECT_LE(half_written, kills() / 20);
 }
 

@@ -47,7 +47,8 @@ TEST(Load, OfALargeFileIsReadWithoutHoldingItAndStoredIntoWithoutLosingAByte) {
   char* value = nullptr;
   EXPECT_TRUE(reader.ReadString("[Flow-3]", "FillTime", value, nullptr, 0));
   EXPECT_STREQ(value, "3.5");
-  EXPECT_LT(most_resident_bytes(), before + 2 * kMiB) << "a read holds a piece of the file at a time";
+  EXPECT_LT(most_resident_bytes(), before + 2 * kMiB)
+      << "a read holds a piece of the file at a time";
 
   const std::string copy = scratch.path("copy.pro");
   std::filesystem::copy(path, copy);
@@ -55,12 +56,15 @@ TEST(Load, OfALargeFileIsReadWithoutHoldingItAndStoredIntoWithoutLosingAByte) {
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   ASSERT_TRUE(writer.FlowX_WriteFillingTime(2.03125, 2));
   const std::size_t after = most_resident_bytes();
-  EXPECT_LT(after, before + std::filesystem::file_size(path) + 2 * kMiB) << "a store holds the file once";
+  EXPECT_LT(after, before + std::filesystem::file_size(path) + 2 * kMiB)
+      << "a store holds the file once";
   std::string contents = bytes_of(copy);
   const std::string old_line = "[Flow-2]\nFillTime = 2.5\n";
-  contents.replace(contents.find(old_line), old_line.size(), "[Flow-2]\nFillTime             = 2.03125\n");
+  contents.replace(contents.find(old_line), old_line.size(),
+                   "[Flow-2]\nFillTime             = 2.03125\n");
   EXPECT_TRUE(bytes_of(path) == contents);
-  std::cout << contents.size() / kMiB << " MiB; " << before / kMiB << " MiB held before, " << after / kMiB << " MiB at most\n";
+  std::cout << contents.size() / kMiB << " MiB; " << before / kMiB << " MiB held before, "
+            << after / kMiB << " MiB at most\n";
 }
 
 TEST(Load, OfASectionOfVeryManyLinesIsReadInFull) {
@@ -86,7 +90,8 @@ TEST(Load, OfASectionOfVeryManyLinesIsReadInFull) {
   CQELProcessData_Manipulator loader;
   const Process process(loader.GetProcessDataStructure(path.c_str()));
   ASSERT_NE(process, nullptr);
-  EXPECT_EQ(process->GetFlowPackOfInlet(0)->GetFlowRateProfile()->GetNumOfDataPoints(), static_cast<unsigned int>(kPoints));
+  EXPECT_EQ(process->GetFlowPackOfInlet(0)->GetFlowRateProfile()->GetNumOfDataPoints(),
+            static_cast<unsigned int>(kPoints));
   CPROIO_Manipulator object;
   ASSERT_TRUE(object.SetFilePath(path.c_str()));
   double x = 0;
@@ -101,12 +106,14 @@ TEST(Load, OfFourThousandInletsIsLoadedInFull) {
   const std::string path = scratch.path();
   {
     std::ofstream file(path, std::ios::binary);
-    file << "[CaeHeader]\nProjectType = 1 0\n[Summary]\nTotalNodeEM = " << kInlets << "\n[FlowCTLInfo]\nTotalInlet = " << kInlets << "\n";
+    file << "[CaeHeader]\nProjectType = 1 0\n[Summary]\nTotalNodeEM = " << kInlets
+         << "\n[FlowCTLInfo]\nTotalInlet = " << kInlets << "\n";
     for (int inlet = 1; inlet <= kInlets; ++inlet) {
       file << "FlowCTL-" << inlet << " = 0 0\n";
     }
     for (int inlet = 1; inlet <= kInlets; ++inlet) {
-      file << "[Flow-" << inlet << "]\nFillTime = " << inlet << ".5\nFRSet = 2\nFR-1 = 0 50\nFR-2 = 100 " << inlet << "\n[Pack-" << inlet
+      file << "[Flow-" << inlet << "]\nFillTime = " << inlet
+           << ".5\nFRSet = 2\nFR-1 = 0 50\nFR-2 = 100 " << inlet << "\n[Pack-" << inlet
            << "]\nPackTime = " << inlet << "\nPPSet = 1\nPP-1 = 1 2\n";
     }
   }
@@ -121,13 +128,15 @@ TEST(Load, OfFourThousandInletsIsLoadedInFull) {
     double fill = 0;
     double pack = 0;
     QELG_2dPoint point{};
-    wrong += get_process_FillTime(stages, fill) && fill == inlet + 1.5 && get_process_PackTime(stages, pack) && pack == inlet + 1 &&
+    wrong += get_process_FillTime(stages, fill) && fill == inlet + 1.5 &&
+                     get_process_PackTime(stages, pack) && pack == inlet + 1 &&
                      stages.GetFlowRateProfile()->GetDataPoint(1, point) && point.y == inlet + 1
                  ? 0
                  : 1;
   }
   EXPECT_EQ(wrong, 0);
-  std::cout << std::filesystem::file_size(path) << " bytes; the process holds " << (resident_bytes() - before) / kMiB << " MiB\n";
+  std::cout << std::filesystem::file_size(path) << " bytes; the process holds "
+            << (resident_bytes() - before) / kMiB << " MiB\n";
 }
 
 }  // namespace

@@ -16,7 +16,9 @@ namespace {
 constexpr int kKeys = 100;
 
 // Longer and shorter from one round to the next.
-double value_of(long round, int key) { return round % 3 == 0 ? key : static_cast<double>(key) + 1.0 / static_cast<double>(2 + round % 7); }
+double value_of(long round, int key) {
+  return round % 3 == 0 ? key : static_cast<double>(key) + 1.0 / static_cast<double>(2 + round % 7);
+}
 
 double as_written(double value) {
   char text[32];
@@ -60,7 +62,8 @@ TEST(Load, OfManyStoresIntoOneFileLeavesItAsLongAsItsLongestContents) {
     EXPECT_EQ(x, as_written(value_of(number - 1, key)));
     EXPECT_EQ(y, key);
   }
-  std::cout << number * kKeys << " stores into a file of " << size << " bytes; " << resident_bytes() / kMiB << " MiB\n";
+  std::cout << number * kKeys << " stores into a file of " << size << " bytes; "
+            << resident_bytes() / kMiB << " MiB\n";
 }
 
 }  // namespace

@@ -19,8 +19,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// One thread's work on its own file: stores through the engine and the self-contained object in turn, each read back at once
-// through the other, and all of them at the end.
+// One thread's work on its own file: stores through the engine and the self-contained object in
+// turn, each read back at once through the other, and all of them at the end.
 class Worker {
  public:
   Worker(std::string path, unsigned seed) : path_(std::move(path)), random_(seed) {}
@@ -93,7 +93,8 @@ TEST(Load, OfManyThreadsOnFilesOfTheirOwnLosesNothing) {
   }
   EXPECT_EQ(wrong, 0);
   EXPECT_GT(stores, kThreads);
-  std::cout << stores << " stores, each read back, on " << kThreads << " threads; " << most_resident_bytes() / kMiB << " MiB at most\n";
+  std::cout << stores << " stores, each read back, on " << kThreads << " threads; "
+            << most_resident_bytes() / kMiB << " MiB at most\n";
 }
 
 }  // namespace

@@ -44,7 +44,8 @@ TEST(ConstantText, IsWrittenByTheAdapter) {
   CQEL_ProcessAdapter adapter;
   ASSERT_TRUE(adapter.SetProcessPath(path.c_str()));
   EXPECT_TRUE(adapter.SetCoolant_WriteCoolant(1, 2, 3, 4, 5, "Oil", 7, 8, 2));
-  EXPECT_EQ(without_returns(bytes_of(path)), "\n[Coolant]\n2                    = 1\t2\t3\t4\t5\tOil\t7\t8\n");
+  EXPECT_EQ(without_returns(bytes_of(path)),
+            "\n[Coolant]\n2                    = 1\t2\t3\t4\t5\tOil\t7\t8\n");
 }
 
 TEST(ConstantText, ANullPointerStillMeansTheMember) {

@@ -65,7 +65,9 @@ template <class Character>
 struct GivenTextOutput {
   Character* text = before();
   Character*& pass() { return text; }
-  void tell(std::vector<std::string>& outputs) const { outputs.emplace_back(text != nullptr ? text : "(null)"); }
+  void tell(std::vector<std::string>& outputs) const {
+    outputs.emplace_back(text != nullptr ? text : "(null)");
+  }
   static char* before() {
     static char untouched[] = "untouched";
     return untouched;
@@ -81,7 +83,8 @@ struct Given<QELPRO_MMM_MECHANICAL&> {
   QELPRO_MMM_MECHANICAL& pass() { return row; }
   void tell(std::vector<std::string>& outputs) const {
     for (const double* values : {row.thermal, row.mechanical}) {
-      outputs.insert(outputs.end(), {std::to_string(values[0]), std::to_string(values[1]), std::to_string(values[2])});
+      outputs.insert(outputs.end(), {std::to_string(values[0]), std::to_string(values[1]),
+                                     std::to_string(values[2])});
     }
     outputs.emplace_back(row.name != nullptr ? row.name : "(null)");
   }
@@ -103,7 +106,8 @@ struct With {
       bool done = false;
       around.begin();
       try {
-        done = std::apply([&object, member](auto&... each) { return (object.*member)(each.pass()...); }, given);
+        done = std::apply(
+            [&object, member](auto&... each) { return (object.*member)(each.pass()...); }, given);
       } catch (...) {
         threw = true;
       }

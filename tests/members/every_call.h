@@ -6,8 +6,9 @@
 
 #include "QELPROEngine/QELPROEngine.h"
 
-/// Members of the exported classes, to be called with arguments that fit their types: every integer is 1, every real 1.5, and
-/// every text is of more characters than a string holds without memory. Outputs begin with values that no file holds.
+/// Members of the exported classes, to be called with arguments that fit their types: every integer
+/// is 1, every real 1.5, and every text is of more characters than a string holds without memory.
+/// Outputs begin with values that no file holds.
 namespace qelpro_test {
 
 /// What is to happen right before and right behind a call, in which the test itself uses no memory.
@@ -21,7 +22,9 @@ struct Answer {
   bool done = false;
   std::vector<std::string> outputs;
 };
-inline bool operator==(const Answer& a, const Answer& b) { return a.threw == b.threw && a.done == b.done && a.outputs == b.outputs; }
+inline bool operator==(const Answer& a, const Answer& b) {
+  return a.threw == b.threw && a.done == b.done && a.outputs == b.outputs;
+}
 std::ostream& operator<<(std::ostream& out, const Answer& answer);
 
 template <class Object>

@@ -58,7 +58,8 @@ bool call(Object& object, bool (Object::*member)(Arguments...), std::vector<Valu
     std::tuple<Passed<Arguments>...> passed{Passed<Arguments>(values[index])...};
     const bool done = (object.*member)(std::get<index>(passed).pass()...);
     if (done) {
-      ((Passed<Arguments>::kOutput ? std::get<index>(passed).give_back(values[index]) : void()), ...);
+      ((Passed<Arguments>::kOutput ? std::get<index>(passed).give_back(values[index]) : void()),
+       ...);
     }
     return done;
   }
@@ -68,17 +69,25 @@ bool call(Object& object, bool (Object::*member)(Arguments...), std::vector<Valu
 template <class... Arguments>
 struct With {
   static std::string reader_letters() {
-    return {static_cast<char>(Passed<Arguments>::kOutput ? Passed<Arguments>::kLetter : Passed<Arguments>::kLetter + 'A' - 'a')...};
+    return {static_cast<char>(Passed<Arguments>::kOutput
+                                  ? Passed<Arguments>::kLetter
+                                  : Passed<Arguments>::kLetter + 'A' - 'a')...};
   }
   static std::string writer_letters() { return {Passed<Arguments>::kLetter...}; }
 
-  static ReaderMember reader_member(const char* name, bool (CQELPROReader_Manipulator::*member)(Arguments...)) {
+  static ReaderMember reader_member(const char* name,
+                                    bool (CQELPROReader_Manipulator::*member)(Arguments...)) {
     return {{name, reader_letters()},
-            [member](CQELPROReader_Manipulator& reader, std::vector<Value>& values) { return call(reader, member, values); }};
+            [member](CQELPROReader_Manipulator& reader, std::vector<Value>& values) {
+              return call(reader, member, values);
+            }};
   }
-  static WriterMember writer_member(const char* name, bool (CQELPROWriter_Manipulator::*member)(Arguments...)) {
+  static WriterMember writer_member(const char* name,
+                                    bool (CQELPROWriter_Manipulator::*member)(Arguments...)) {
     return {{name, writer_letters()},
-            [member](CQELPROWriter_Manipulator& writer, std::vector<Value> values) { return call(writer, member, values); }};
+            [member](CQELPROWriter_Manipulator& writer, std::vector<Value> values) {
+              return call(writer, member, values);
+            }};
   }
 };
 
@@ -102,14 +111,16 @@ const std::vector<WriterMember>& writer_members() {
   return members;
 }
 
-std::vector<Value> values_for(const MemberShape& member, const std::vector<int>& numbers, const std::string& text) {
+std::vector<Value> values_for(const MemberShape& member, const std::vector<int>& numbers,
+                              const std::string& text) {
   std::vector<Value> values;
   std::size_t next = 0;
   for (const char letter : member.arguments) {
     switch (letter) {
       case 'I':
       case 'i':
-        values.emplace_back(letter == 'I' && !numbers.empty() ? numbers[next++ % numbers.size()] : 0);
+        values.emplace_back(letter == 'I' && !numbers.empty() ? numbers[next++ % numbers.size()]
+                                                              : 0);
         break;
       case 'd':
       case 'D':
@@ -124,7 +135,8 @@ std::vector<Value> values_for(const MemberShape& member, const std::vector<int>&
 }
 
 std::size_t numbers_given(const ReaderMember& member) {
-  return static_cast<std::size_t>(std::count(member.arguments.begin(), member.arguments.end(), 'I'));
+  return static_cast<std::size_t>(
+      std::count(member.arguments.begin(), member.arguments.end(), 'I'));
 }
 
 std::vector<std::vector<int>> number_sets(const ReaderMember& member, int most) {

@@ -32,8 +32,8 @@ TEST_F(Lent, IsAsGoodAsNewAfterAWriteThatFailed) {
     std::FILE* limited = std::fopen(path.c_str(), "r+");
     LentStream file(limited);
     const bool failed = !file.write_at(8, "abcdefgh", 8);
-    return failed && file.write_at(8, "89", 2) && file.truncate(10) && file.size() == 10 && read(file, 0, 20) == "0123456789" &&
-           std::fclose(limited) == 0;
+    return failed && file.write_at(8, "89", 2) && file.truncate(10) && file.size() == 10 &&
+           read(file, 0, 20) == "0123456789" && std::fclose(limited) == 0;
   }));
   EXPECT_EQ(bytes_of(path), "0123456789");
 }

@@ -23,7 +23,8 @@ TEST(OsFile, TakesNothingButARegularFile) {
   const std::string fifo = scratch.path("fifo");
   ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
   OsFile file;
-  for (const std::string& odd : {scratch.path(""), fifo, std::string("/dev/zero"), std::string("/dev/null")}) {
+  for (const std::string& odd :
+       {scratch.path(""), fifo, std::string("/dev/zero"), std::string("/dev/null")}) {
     EXPECT_FALSE(file.open_for_reading(odd.c_str())) << odd;
     EXPECT_FALSE(file.open_for_update(odd.c_str())) << odd;
     EXPECT_FALSE(file.create(odd.c_str())) << odd;
@@ -35,7 +36,8 @@ TEST(OsFile, ReportsAWriteThatTheSystemCutsShort) {
   const std::string path = scratch.file("0123456789");
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12, .survives_long_file = true}, [&] {
     OsFile file;
-    return file.open_for_update(path.c_str()) && file.write_at(10, "ab", 2) && !file.write_at(10, "abcd", 4);
+    return file.open_for_update(path.c_str()) && file.write_at(10, "ab", 2) &&
+           !file.write_at(10, "abcd", 4);
   }));
 }
 
@@ -130,11 +132,13 @@ TEST(OsFile, SecuresNoRoomBeyondTheProcesssLimitOnFiles) {
   const std::string path = scratch.file("0123456789");
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12}, [&] {
     OsFile file;
-    return file.open_for_update(path.c_str()) && file.secure_growth(10, 12) && !file.secure_growth(10, 13) && file.secure_growth(10, 5);
+    return file.open_for_update(path.c_str()) && file.secure_growth(10, 12) &&
+           !file.secure_growth(10, 13) && file.secure_growth(10, 5);
   }));
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 5}, [&] {
     OsFile file;
-    return file.open_for_update(path.c_str()) && file.secure_growth(10, 5) && !file.secure_growth(10, 10);
+    return file.open_for_update(path.c_str()) && file.secure_growth(10, 5) &&
+           !file.secure_growth(10, 10);
   }));
 }
 

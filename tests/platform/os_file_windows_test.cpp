@@ -34,7 +34,8 @@ TEST(OsFile, CountsOffsetsBeyondWhatALongHolds) {
   EXPECT_EQ(file.size(), kBeyondALong + 3);
   EXPECT_EQ(read(file, kBeyondALong, 10), "far");
   EXPECT_EQ(read(file, 0, 10), "0123456789");
-  EXPECT_EQ(read(file, kBeyondALong - (std::int64_t{1} << 32U) + 5, 1), "failed") << "an offset before the file";
+  EXPECT_EQ(read(file, kBeyondALong - (std::int64_t{1} << 32U) + 5, 1), "failed")
+      << "an offset before the file";
   EXPECT_TRUE(file.truncate(10));
   EXPECT_EQ(file.size(), 10);
 }
@@ -59,7 +60,9 @@ TEST(OsFile, IsNotHandedToChildPrograms) {
   std::FILE* stream = file.duplicate_as_stream();
   ASSERT_NE(stream, nullptr);
   DWORD flags = HANDLE_FLAG_INHERIT;
-  EXPECT_NE(::GetHandleInformation(reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream))), &flags), 0);
+  EXPECT_NE(
+      ::GetHandleInformation(reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream))), &flags),
+      0);
   EXPECT_EQ(flags & HANDLE_FLAG_INHERIT, 0U);
   EXPECT_EQ(std::fgetc(stream), 'x');
   std::fclose(stream);

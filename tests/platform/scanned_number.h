@@ -40,7 +40,8 @@ inline void expect_same_real(const std::string& text) {
   if (std::isnan(expected.value)) {
     EXPECT_TRUE(std::isnan(actual.value)) << text;
   } else {
-    EXPECT_EQ(std::memcmp(&actual.value, &expected.value, sizeof(double)), 0) << text << ": " << actual.value << " for " << expected.value;
+    EXPECT_EQ(std::memcmp(&actual.value, &expected.value, sizeof(double)), 0)
+        << text << ": " << actual.value << " for " << expected.value;
   }
 }
 

@@ -16,7 +16,9 @@ using Adapter = CQEL_ProcessAdapter;
 
 char kWater[] = "Water";
 
-std::string padded(const std::string& key, const std::string& value) { return key + std::string(20 - key.size(), ' ') + " = " + value + "\n"; }
+std::string padded(const std::string& key, const std::string& value) {
+  return key + std::string(20 - key.size(), ' ') + " = " + value + "\n";
+}
 
 // A member that writes, and what it writes into a new file.
 struct Row {
@@ -57,47 +59,70 @@ TEST_P(AdapterMember, TellsAFailedWriteOrYieldsTrueWhateverHappened) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, AdapterMember,
-    testing::Values(Row{"SetGateCount", "\n[Summary]\n" + padded("TotalGateCTL", "3"), true, [](Adapter& a) { return a.SetGateCount(3); }},
-                    Row{"SetGateCTL_Time", "\n[GateCTL]\n" + padded("ST-2", "0.5") + "ET-2 = 1.5\n", true,
-                        [](Adapter& a) { return a.SetGateCTL_Time(0.5, 1.5, 2); }},
-                    Row{"SetGateValveX_ControlPoint", "\n[GateValve-2]\n" + padded("GCSet", "4"), true,
-                        [](Adapter& a) { return a.SetGateValveX_ControlPoint(4, 2); }},
-                    Row{"SetGateValveX_GateSettingOfFive", "\n[GateValve-3]\nGC-1 = 5.5\t1\t7\n", true,
-                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 7, 1, 3); }},
-                    Row{"SetGateValveX_GateSettingOfSix", "\n[GateValve-3]\nGC-1 = 5.5\t0\t2\t118\n", false,
-                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 2, 118, 1, 3); }},
-                    Row{"SetGateValveX_GateSettingOfFiveWithoutTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t0\t7\n", true,
-                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 7, 1, 3); }},
-                    Row{"SetGateValveX_GateSettingOfSixWithTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t1\t2\t118\n", false,
-                        [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 2, 118, 1, 3); }},
-                    Row{"SetCoolCTL_WriteCoolantTemperature", "\n[CoolCTL]\n" + padded("T-1", "60.5"), false,
-                        [](Adapter& a) { return a.SetCoolCTL_WriteCoolantTemperature(60.5, 1); }},
-                    Row{"SetCoolCTL_WriteCoolantFlowRate", "\n[CoolCTL]\n" + padded("F-2", "8.5"), false,
-                        [](Adapter& a) { return a.SetCoolCTL_WriteCoolantFlowRate(8.5, 2); }},
-                    Row{"SetCoolCTL_WriteCoolantSystem", "\n[CoolCTL]\n" + padded("M-3", "2"), false,
-                        [](Adapter& a) { return a.SetCoolCTL_WriteCoolantSystem(2, 3); }},
-                    Row{"SetCoolCTL_WroteCoolantPressure", "\n[CoolCTL]\n" + padded("P-1", "3"), false,
-                        [](Adapter& a) { return a.SetCoolCTL_WroteCoolantPressure(3, 1); }},
-                    Row{"SetCoolant_WriteCoolant", "\n[Coolant]\n" + padded("4", "1\t2\t3\t4.5\t5\tWater\t0.01\t2"), false,
-                        [](Adapter& a) { return a.SetCoolant_WriteCoolant(1, 2, 3, 4.5, 5, kWater, 0.01, 2, 4); }},
-                    Row{"SetCoolChannelX_WriteDiameter", "\n[CoolChannel-2]\n" + padded("Diameter", "0.8"), false,
-                        [](Adapter& a) { return a.SetCoolChannelX_WriteDiameter(0.8, 2); }},
-                    Row{"SetCoolChannelX_WriteGroupID", "\n[CoolChannel-2]\n" + padded("GroupID", "6"), false,
-                        [](Adapter& a) { return a.SetCoolChannelX_WriteGroupID(6, 2); }},
-                    Row{"SetCoolChannelX_WriteTimeSection", "\n[CoolChannel-2]\n" + padded("TimeSet", "5"), false,
-                        [](Adapter& a) { return a.SetCoolChannelX_WriteTimeSection(5, 2); }},
-                    Row{"SetCoolChannelX_WriteControlPointSetting", "\n[CoolChannel-2]\n" + padded("TCP-3", "0.5\t2\t60\t8.5\t1"), false,
-                        [](Adapter& a) { return a.SetCoolChannelX_WriteControlPointSetting(0.5, 2, 60, 8.5, 1, 3, 2); }},
-                    Row{"SetCoolChannelX_WritePressureControlPointSetting", "\n[CoolChannel-2]\n" + padded("TCPP-3", "0.5\t2\t60\t8.5\t1"), false,
-                        [](Adapter& a) { return a.SetCoolChannelX_WritePressureControlPointSetting(0.5, 2, 60, 8.5, 1, 3, 2); }},
-                    Row{"SetCoolingChannelDataByFlow",
-                        "\n[CoolCTL]\n" + padded("T-2", "60") + "F-2 = 8.5\nM-2 = 4\n\n[Coolant]\n" + padded("2", "1\t2\t3\t4.5\t4\tWater\t0.8\t6") +
-                            "\n[CoolChannel-2]\n" + padded("Diameter", "0.8") + "GroupID = 6\nTimeSet = 1\nTCP-1 = 0.5\t4\t60\t8.5\t9\n",
-                        true, [](Adapter& a) { return a.SetCoolingChannelData(2, 6, 0.8, 1, 60, 8.5, 4, 7.5, 0.5, 9, 1, 2, 3, 4.5, kWater, 0); }},
-                    Row{"SetCoolingChannelDataByPressure",
-                        "\n[CoolCTL]\n" + padded("T-2", "60") + "F-2 = 8.5\nM-2 = 4\n\n[Coolant]\n" + padded("2", "1\t2\t3\t4.5\t4\tWater\t0.8\t6") +
-                            "\n[CoolChannel-2]\n" + padded("Diameter", "0.8") + "GroupID = 6\nTimeSet = 1\nTCPP-1 = 0.5\t4\t60\t7.5\t9\n",
-                        true, [](Adapter& a) { return a.SetCoolingChannelData(2, 6, 0.8, 1, 60, 8.5, 4, 7.5, 0.5, 9, 1, 2, 3, 4.5, kWater, -1); }}),
+    testing::Values(
+        Row{"SetGateCount", "\n[Summary]\n" + padded("TotalGateCTL", "3"), true,
+            [](Adapter& a) { return a.SetGateCount(3); }},
+        Row{"SetGateCTL_Time", "\n[GateCTL]\n" + padded("ST-2", "0.5") + "ET-2 = 1.5\n", true,
+            [](Adapter& a) { return a.SetGateCTL_Time(0.5, 1.5, 2); }},
+        Row{"SetGateValveX_ControlPoint", "\n[GateValve-2]\n" + padded("GCSet", "4"), true,
+            [](Adapter& a) { return a.SetGateValveX_ControlPoint(4, 2); }},
+        Row{"SetGateValveX_GateSettingOfFive", "\n[GateValve-3]\nGC-1 = 5.5\t1\t7\n", true,
+            [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 7, 1, 3); }},
+        Row{"SetGateValveX_GateSettingOfSix", "\n[GateValve-3]\nGC-1 = 5.5\t0\t2\t118\n", false,
+            [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 2, 118, 1, 3); }},
+        Row{"SetGateValveX_GateSettingOfFiveWithoutTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t0\t7\n",
+            true, [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, false, 7, 1, 3); }},
+        Row{"SetGateValveX_GateSettingOfSixWithTheFlag", "\n[GateValve-3]\nGC-1 = 5.5\t1\t2\t118\n",
+            false, [](Adapter& a) { return a.SetGateValveX_GateSetting(5.5, true, 2, 118, 1, 3); }},
+        Row{"SetCoolCTL_WriteCoolantTemperature", "\n[CoolCTL]\n" + padded("T-1", "60.5"), false,
+            [](Adapter& a) { return a.SetCoolCTL_WriteCoolantTemperature(60.5, 1); }},
+        Row{"SetCoolCTL_WriteCoolantFlowRate", "\n[CoolCTL]\n" + padded("F-2", "8.5"), false,
+            [](Adapter& a) { return a.SetCoolCTL_WriteCoolantFlowRate(8.5, 2); }},
+        Row{"SetCoolCTL_WriteCoolantSystem", "\n[CoolCTL]\n" + padded("M-3", "2"), false,
+            [](Adapter& a) { return a.SetCoolCTL_WriteCoolantSystem(2, 3); }},
+        Row{"SetCoolCTL_WroteCoolantPressure", "\n[CoolCTL]\n" + padded("P-1", "3"), false,
+            [](Adapter& a) { return a.SetCoolCTL_WroteCoolantPressure(3, 1); }},
+        Row{"SetCoolant_WriteCoolant",
+            "\n[Coolant]\n" + padded("4", "1\t2\t3\t4.5\t5\tWater\t0.01\t2"), false,
+            [](Adapter& a) {
+              return a.SetCoolant_WriteCoolant(1, 2, 3, 4.5, 5, kWater, 0.01, 2, 4);
+            }},
+        Row{"SetCoolChannelX_WriteDiameter", "\n[CoolChannel-2]\n" + padded("Diameter", "0.8"),
+            false, [](Adapter& a) { return a.SetCoolChannelX_WriteDiameter(0.8, 2); }},
+        Row{"SetCoolChannelX_WriteGroupID", "\n[CoolChannel-2]\n" + padded("GroupID", "6"), false,
+            [](Adapter& a) { return a.SetCoolChannelX_WriteGroupID(6, 2); }},
+        Row{"SetCoolChannelX_WriteTimeSection", "\n[CoolChannel-2]\n" + padded("TimeSet", "5"),
+            false, [](Adapter& a) { return a.SetCoolChannelX_WriteTimeSection(5, 2); }},
+        Row{"SetCoolChannelX_WriteControlPointSetting",
+            "\n[CoolChannel-2]\n" + padded("TCP-3", "0.5\t2\t60\t8.5\t1"), false,
+            [](Adapter& a) {
+              return a.SetCoolChannelX_WriteControlPointSetting(0.5, 2, 60, 8.5, 1, 3, 2);
+            }},
+        Row{"SetCoolChannelX_WritePressureControlPointSetting",
+            "\n[CoolChannel-2]\n" + padded("TCPP-3", "0.5\t2\t60\t8.5\t1"), false,
+            [](Adapter& a) {
+              return a.SetCoolChannelX_WritePressureControlPointSetting(0.5, 2, 60, 8.5, 1, 3, 2);
+            }},
+        Row{"SetCoolingChannelDataByFlow",
+            "\n[CoolCTL]\n" + padded("T-2", "60") + "F-2 = 8.5\nM-2 = 4\n\n[Coolant]\n" +
+                padded("2", "1\t2\t3\t4.5\t4\tWater\t0.8\t6") + "\n[CoolChannel-2]\n" +
+                padded("Diameter", "0.8") +
+                "GroupID = 6\nTimeSet = 1\nTCP-1 = 0.5\t4\t60\t8.5\t9\n",
+            true,
+            [](Adapter& a) {
+              return a.SetCoolingChannelData(2, 6, 0.8, 1, 60, 8.5, 4, 7.5, 0.5, 9, 1, 2, 3, 4.5,
+                                             kWater, 0);
+            }},
+        Row{"SetCoolingChannelDataByPressure",
+            "\n[CoolCTL]\n" + padded("T-2", "60") + "F-2 = 8.5\nM-2 = 4\n\n[Coolant]\n" +
+                padded("2", "1\t2\t3\t4.5\t4\tWater\t0.8\t6") + "\n[CoolChannel-2]\n" +
+                padded("Diameter", "0.8") +
+                "GroupID = 6\nTimeSet = 1\nTCPP-1 = 0.5\t4\t60\t7.5\t9\n",
+            true,
+            [](Adapter& a) {
+              return a.SetCoolingChannelData(2, 6, 0.8, 1, 60, 8.5, 4, 7.5, 0.5, 9, 1, 2, 3, 4.5,
+                                             kWater, -1);
+            }}),
     [](const auto& row) { return std::string(row.param.member); });
 
 TEST(Adapter, ServesOneFileInItsLife) {
@@ -181,7 +206,8 @@ TEST(Adapter, LeavesTheConductivityOfAnUnknownCoolantAlone) {
 
 TEST(Adapter, ReadsTheTemperaturesThatItsFileHolds) {
   const Scratch scratch;
-  const std::string path = scratch.file("[FlowCTL]\nMeltTemperature = 235\nMoldTemperature = 62.5\n");
+  const std::string path =
+      scratch.file("[FlowCTL]\nMeltTemperature = 235\nMoldTemperature = 62.5\n");
   Adapter adapter;
   ASSERT_TRUE(adapter.SetProcessPath(path.c_str()));
   double mold = -1;

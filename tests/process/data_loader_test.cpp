@@ -33,7 +33,9 @@ unsigned int inlets_of(const std::string& contents) {
   return process != nullptr ? process->GetNumOfInlets() : 0;
 }
 
-std::string header_of_type(int type) { return "[CaeHeader]\nProjectType = " + std::to_string(type) + " 0\n"; }
+std::string header_of_type(int type) {
+  return "[CaeHeader]\nProjectType = " + std::to_string(type) + " 0\n";
+}
 
 enum class Of { process, inlet };
 
@@ -45,27 +47,32 @@ struct Row {
   Of of;
 };
 
-std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.section << ' ' << row.key; }
+std::ostream& operator<<(std::ostream& out, const Row& row) {
+  return out << row.section << ' ' << row.key;
+}
 
 class LoadedItem : public testing::TestWithParam<Row> {};
 
 TEST_P(LoadedItem, GoesToItsSetterAndToNoOther) {
   const Row& row = GetParam();
-  const std::string file = std::string(row.section) + "\n" + row.key + " = " + row.text + "\n" + row.key + " = 9\n";
+  const std::string file =
+      std::string(row.section) + "\n" + row.key + " = " + row.text + "\n" + row.key + " = 9\n";
   const std::string item = std::string(row.expected) + "\n";
   EXPECT_EQ(loaded(file), row.of == Of::process ? item + "inlet 1\n" : "inlet 1\n  " + item);
 }
 
 TEST_P(LoadedItem, IsNotTakenFromAnotherSectionOrKey) {
   const Row& row = GetParam();
-  const std::string file = std::string(row.section) + "\n" + row.key + "x = 9\n " + row.key + " = 9\n[Other]\n" + row.key + " = 9\n";
+  const std::string file = std::string(row.section) + "\n" + row.key + "x = 9\n " + row.key +
+                           " = 9\n[Other]\n" + row.key + " = 9\n";
   EXPECT_EQ(loaded(file), "inlet 1\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     DataLoader, LoadedItem,
     testing::Values(
-        Row{"[CaeHeader]", "ProjectType", "100 2", "ProjectType 100", Of::process}, Row{"[CaeHeader]", "FlagUNF", "101", "FlagUNF 101", Of::process},
+        Row{"[CaeHeader]", "ProjectType", "100 2", "ProjectType 100", Of::process},
+        Row{"[CaeHeader]", "FlagUNF", "101", "FlagUNF 101", Of::process},
         Row{"[CaeHeader]", "FlagEncapsulationCM", "102", "FlagEncapsulationCM 102", Of::process},
         Row{"[Summary]", "TotalNodeEM", "103", "TotalNodeEM 103", Of::process},
         Row{"[Summary]", "TotalNodeEC", "104", "TotalNodeEC 104", Of::process},
@@ -81,7 +88,8 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"[Summary]", "TotalGrpCCS", "114", "TotalGrpCCS 114", Of::process},
         Row{"[Summary]", "TotalOverFlowCTL", "115", "TotalOverFlowCTL 115", Of::process},
         Row{"[Summary]", "IsTransientInletConv", "116", "IsTransientInletConv 116", Of::process},
-        Row{"[FlowCTL]", "FlowCtrl", "117", "FlowCtrl 117", Of::process}, Row{"[FlowCTL]", "VPSwitchCtrl", "118", "VPSwitchCtrl 118", Of::process},
+        Row{"[FlowCTL]", "FlowCtrl", "117", "FlowCtrl 117", Of::process},
+        Row{"[FlowCTL]", "VPSwitchCtrl", "118", "VPSwitchCtrl 118", Of::process},
         Row{"[FlowCTL]", "PackingCtrl", "119", "PackingCtrl 119", Of::process},
         Row{"[FlowCTL]", "MoldTemperature", "120.25", "MoldTemperature 120.25", Of::process},
         Row{"[FlowCTL]", "MeltTemperature", "121.25", "MeltTemperature 121.25", Of::process},
@@ -95,13 +103,18 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"[MoldThermalBoundaryType]", "Type", "129", "HTC_HeatTransferType 129", Of::process},
         Row{"[MoldThermalBoundaryType]", "Flow", "130.25", "HTC_Flow 130.25", Of::process},
         Row{"[MoldThermalBoundaryType]", "Pack", "131.25", "HTC_Pack 131.25", Of::process},
-        Row{"[MoldThermalBoundaryType]", "Detached_HTC", "132.25", "HTC_Detached 132.25", Of::process},
-        Row{"[MoldThermalBoundaryType]", "HotRunner_HTC", "133.25", "HTC_HotRunner 133.25", Of::process},
+        Row{"[MoldThermalBoundaryType]", "Detached_HTC", "132.25", "HTC_Detached 132.25",
+            Of::process},
+        Row{"[MoldThermalBoundaryType]", "HotRunner_HTC", "133.25", "HTC_HotRunner 133.25",
+            Of::process},
         Row{"[MoldThermalBoundaryType]", "UserMode", "134", "HTC_UserMode 134", Of::process},
         Row{"[MoldThermalBoundaryType]", "NuNum", "135.25", "HTC_NuNum 135.25", Of::process},
-        Row{"[Machine]", "Maker", "Maker of trial 36", "machine_Maker 'Maker of trial 36'", Of::process},
-        Row{"[Machine]", "Grade", "Grade of trial 37", "machine_Grade 'Grade of trial 37'", Of::process},
-        Row{"[Machine]", "Remark", "Remark of trial 38", "machine_Remark 'Remark of trial 38'", Of::process},
+        Row{"[Machine]", "Maker", "Maker of trial 36", "machine_Maker 'Maker of trial 36'",
+            Of::process},
+        Row{"[Machine]", "Grade", "Grade of trial 37", "machine_Grade 'Grade of trial 37'",
+            Of::process},
+        Row{"[Machine]", "Remark", "Remark of trial 38", "machine_Remark 'Remark of trial 38'",
+            Of::process},
         Row{"[Machine]", "Diameter", "139.25", "machine_Diameter 139.25", Of::process},
         Row{"[Machine]", "MaxRamPos", "140.25", "machine_MaxRamPos 140.25", Of::process},
         Row{"[Machine]", "ShotVolume", "141.25", "machine_ShotVolume 141.25", Of::process},
@@ -109,36 +122,52 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"[Machine]", "MaxMachinePres", "143.25", "machine_MaxMachinePres 143.25", Of::process},
         Row{"[Machine]", "FR", "144.25", "machine_MaxFlowRate 144.25", Of::process},
         Row{"[Machine]", "Size", "145.25", "machine_ClampForce 145.25", Of::process},
-        Row{"[Machine]", "BarrelCompressionCtrl", "146", "machine_BarrelCompressionCtrl 146", Of::process},
+        Row{"[Machine]", "BarrelCompressionCtrl", "146", "machine_BarrelCompressionCtrl 146",
+            Of::process},
         Row{"[Machine]", "NozzleVolume", "147.25", "machine_NozzleVolume 147.25", Of::process},
         Row{"[Machine]", "MachineEnergyType", "148", "machine_MachineEnergyType 148", Of::process},
-        Row{"[Machine]", "HydraulicPressureTransferFactor", "149.25", "machine_HydraulicPressureTransferFactor 149.25", Of::process},
+        Row{"[Machine]", "HydraulicPressureTransferFactor", "149.25",
+            "machine_HydraulicPressureTransferFactor 149.25", Of::process},
         Row{"[Machine]", "PITCHSIZE", "150.25", "machine_PITCHSIZE 150.25", Of::process},
         Row{"[Machine]", "SCREWSPEED", "151.25", "machine_SCREWSPEED 151.25", Of::process},
         Row{"[Machine]", "SCREWDIAFEED", "152.25", "machine_SCREWDIAFEED 152.25", Of::process},
-        Row{"[Machine]", "SCREWDIATRANSITION", "153.25", "machine_SCREWDIATRANSITION 153.25", Of::process},
-        Row{"[Machine]", "SCREWDIAMETERING", "154.25", "machine_SCREWDIAMETERING 154.25", Of::process},
-        Row{"[Machine]", "CHANNELDEEPFEED", "155.25", "machine_CHANNELDEEPFEED 155.25", Of::process},
-        Row{"[Machine]", "CHANNELDEEPMETERING", "156.25", "machine_CHANNELDEEPMETERING 156.25", Of::process},
+        Row{"[Machine]", "SCREWDIATRANSITION", "153.25", "machine_SCREWDIATRANSITION 153.25",
+            Of::process},
+        Row{"[Machine]", "SCREWDIAMETERING", "154.25", "machine_SCREWDIAMETERING 154.25",
+            Of::process},
+        Row{"[Machine]", "CHANNELDEEPFEED", "155.25", "machine_CHANNELDEEPFEED 155.25",
+            Of::process},
+        Row{"[Machine]", "CHANNELDEEPMETERING", "156.25", "machine_CHANNELDEEPMETERING 156.25",
+            Of::process},
         Row{"[Machine]", "SECTIONDEPFEED", "157.25", "machine_SECTIONDEPFEED 157.25", Of::process},
-        Row{"[Machine]", "SECTIONDEPTRANSITION", "158.25", "machine_SECTIONDEPTRANSITION 158.25", Of::process},
-        Row{"[Machine]", "SECTIONDEPMETERING", "159.25", "machine_SECTIONDEPMETERING 159.25", Of::process},
-        Row{"[Machine]", "NUMBERPITCHFEED", "160.25", "machine_NUMBERPITCHFEED 160.25", Of::process},
-        Row{"[Machine]", "NUMBERPITCHTRANSITION", "161.25", "machine_NUMBERPITCHTRANSITION 161.25", Of::process},
-        Row{"[Machine]", "NUMBERPITCHMETERING", "162.25", "machine_NUMBERPITCHMETERING 162.25", Of::process},
+        Row{"[Machine]", "SECTIONDEPTRANSITION", "158.25", "machine_SECTIONDEPTRANSITION 158.25",
+            Of::process},
+        Row{"[Machine]", "SECTIONDEPMETERING", "159.25", "machine_SECTIONDEPMETERING 159.25",
+            Of::process},
+        Row{"[Machine]", "NUMBERPITCHFEED", "160.25", "machine_NUMBERPITCHFEED 160.25",
+            Of::process},
+        Row{"[Machine]", "NUMBERPITCHTRANSITION", "161.25", "machine_NUMBERPITCHTRANSITION 161.25",
+            Of::process},
+        Row{"[Machine]", "NUMBERPITCHMETERING", "162.25", "machine_NUMBERPITCHMETERING 162.25",
+            Of::process},
         Row{"[Machine]", "NOZZLEDIAMETER", "163.25", "machine_NOZZLEDIAMETER 163.25", Of::process},
         Row{"[Machine]", "NOZZLELENGTH", "164.25", "machine_NOZZLELENGTH 164.25", Of::process},
         Row{"[RamPosition]", "SuckBack", "165.25", "SuckBack 165.25", Of::process},
-        Row{"[Flow-1]", "FillTime", "166.25", "FillTime 166.25", Of::inlet}, Row{"[Flow-1]", "MeltTemp", "167.25", "MeltTemp 167.25", Of::inlet},
-        Row{"[Flow-1]", "MoldTemp", "168.25", "MoldTemp 168.25", Of::inlet}, Row{"[Flow-1]", "InjectPres", "169.25", "InjectPres 169.25", Of::inlet},
+        Row{"[Flow-1]", "FillTime", "166.25", "FillTime 166.25", Of::inlet},
+        Row{"[Flow-1]", "MeltTemp", "167.25", "MeltTemp 167.25", Of::inlet},
+        Row{"[Flow-1]", "MoldTemp", "168.25", "MoldTemp 168.25", Of::inlet},
+        Row{"[Flow-1]", "InjectPres", "169.25", "InjectPres 169.25", Of::inlet},
         Row{"[Flow-1]", "FRDisplayType", "170", "FRDisplayType 170", Of::inlet},
         Row{"[Flow-1]", "IPDisplayType", "171", "IPDisplayType 171", Of::inlet},
         Row{"[Flow-1]", "FRProfileType", "172", "FRProfileType 172", Of::inlet},
-        Row{"[Flow-1]", "IPProfileType", "173", "IPProfileType 173", Of::inlet}, Row{"[Flow-1]", "MaxFR", "174.25", "MaxFR 174.25", Of::inlet},
+        Row{"[Flow-1]", "IPProfileType", "173", "IPProfileType 173", Of::inlet},
+        Row{"[Flow-1]", "MaxFR", "174.25", "MaxFR 174.25", Of::inlet},
         Row{"[Flow-1]", "MaxFillingTime", "175.25", "MaxFillingTime 175.25", Of::inlet},
         Row{"[Flow-1]", "FlowPackMode", "176", "FlowPackMode 176", Of::inlet},
-        Row{"[Flow-1]", "HotRunnerTemperatureDiff", "177.25", "HotRunnerTemperatureDiff 177.25", Of::inlet},
-        Row{"[Flow-1]", "Material", "Material of trial 78", "Material 'Material of trial 78'", Of::inlet},
+        Row{"[Flow-1]", "HotRunnerTemperatureDiff", "177.25", "HotRunnerTemperatureDiff 177.25",
+            Of::inlet},
+        Row{"[Flow-1]", "Material", "Material of trial 78", "Material 'Material of trial 78'",
+            Of::inlet},
         Row{"[Flow-1]", "CoreEnterType", "179", "CoreEnterType 179", Of::inlet},
         Row{"[Flow-1]", "CoreEnterSwch", "180.25", "CoreEnterSwch 180.25", Of::inlet},
         Row{"[Flow-1]", "CoreEnterTime", "181.25", "CoreEnterTime 181.25", Of::inlet},
@@ -147,27 +176,38 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"[Flow-1]", "FluidEnterSwch", "184.25", "FluidEnterSwch 184.25", Of::inlet},
         Row{"[Flow-1]", "FluidEnterTime", "185.25", "FluidEnterTime 185.25", Of::inlet},
         Row{"[Flow-1]", "FluidDelayTime", "186.25", "FluidDelayTime 186.25", Of::inlet},
-        Row{"[Flow-1]", "InitConv", "187.25", "InitConv 187.25", Of::inlet}, Row{"[Flow-1]", "TransTime", "188.25", "FillTime 188.25", Of::inlet},
-        Row{"[Flow-1]", "ResnTemp", "189.25", "MeltTemp 189.25", Of::inlet}, Row{"[Flow-1]", "TransPres", "190.25", "InjectPres 190.25", Of::inlet},
+        Row{"[Flow-1]", "InitConv", "187.25", "InitConv 187.25", Of::inlet},
+        Row{"[Flow-1]", "TransTime", "188.25", "FillTime 188.25", Of::inlet},
+        Row{"[Flow-1]", "ResnTemp", "189.25", "MeltTemp 189.25", Of::inlet},
+        Row{"[Flow-1]", "TransPres", "190.25", "InjectPres 190.25", Of::inlet},
         Row{"[Flow-1]", "MaxTransferTime", "191.25", "MaxFillingTime 191.25", Of::inlet},
-        Row{"[Pack-1]", "PackTime", "192.25", "PackTime 192.25", Of::inlet}, Row{"[Pack-1]", "PackPres", "193.25", "PackPres 193.25", Of::inlet},
+        Row{"[Pack-1]", "PackTime", "192.25", "PackTime 192.25", Of::inlet},
+        Row{"[Pack-1]", "PackPres", "193.25", "PackPres 193.25", Of::inlet},
         Row{"[Pack-1]", "PackSwch", "194.25", "PackSwch 194.25", Of::inlet},
         Row{"[Pack-1]", "MaxEOFRatio", "195.25", "MaxEOFRatio 195.25", Of::inlet},
         Row{"[Pack-1]", "PPDisplayType", "196", "PPDisplayType 196", Of::inlet},
         Row{"[Pack-1]", "PPProfileType", "197", "PPProfileType 197", Of::inlet},
-        Row{"[Pack-1]", "MaxPressSlop", "198.25", "MaxPressSlop 198.25", Of::inlet}, Row{"[Pack-1]", "Shutoff", "199", "Shutoff 199", Of::inlet},
-        Row{"[Pack-1]", "MaterialType", "200", "MaterialType 200", Of::inlet}, Row{"[Pack-1]", "FluidPres", "201.25", "FluidPres 201.25", Of::inlet},
+        Row{"[Pack-1]", "MaxPressSlop", "198.25", "MaxPressSlop 198.25", Of::inlet},
+        Row{"[Pack-1]", "Shutoff", "199", "Shutoff 199", Of::inlet},
+        Row{"[Pack-1]", "MaterialType", "200", "MaterialType 200", Of::inlet},
+        Row{"[Pack-1]", "FluidPres", "201.25", "FluidPres 201.25", Of::inlet},
         Row{"[Pack-1]", "FluidMaxFR", "202.25", "FluidMaxFR 202.25", Of::inlet},
         Row{"[Pack-1]", "FluidProfileType", "203", "FluidProfileType 203", Of::inlet},
-        Row{"[Cure-1]", "CureTime", "204.25", "PackTime 204.25", Of::inlet}, Row{"[Cure-1]", "CurePres", "205.25", "PackPres 205.25", Of::inlet},
-        Row{"[Cure-1]", "CureSwch", "206.25", "PackSwch 206.25", Of::inlet}, Row{"[Cure-1]", "CPDisplayType", "207", "PPDisplayType 207", Of::inlet},
+        Row{"[Cure-1]", "CureTime", "204.25", "PackTime 204.25", Of::inlet},
+        Row{"[Cure-1]", "CurePres", "205.25", "PackPres 205.25", Of::inlet},
+        Row{"[Cure-1]", "CureSwch", "206.25", "PackSwch 206.25", Of::inlet},
+        Row{"[Cure-1]", "CPDisplayType", "207", "PPDisplayType 207", Of::inlet},
         Row{"[Cure-1]", "PPProfileType", "208", "PPProfileType 208", Of::inlet}));
 
 TEST(DataLoader, NumbersConvertAsFarAsTheyParse) {
-  EXPECT_EQ(loaded("[Summary]\nTotalNodeEM = three\nTotalNodeEC = 12abc\nTotalGateCTL = 2.9\nTotalNodeMB =\nTotalNodeBC = +7\n"),
-            "TotalNodeEM 0\nTotalNodeEC 12\nTotalGateCTL 2\nTotalNodeMB 0\nTotalNodeBC 7\ninlet 1\n");
-  EXPECT_EQ(loaded("[FlowCTL]\nMoldTemperature = warm\nMeltTemperature = 2.5e2 oC\nInjectionTime = -.5\nVolumeFilled =\nRamPosition = 1,5\n"),
-            "MoldTemperature 0\nMeltTemperature 250\nInjectionTime -0.5\nVolumeFilled 0\nRamPosition 1\ninlet 1\n");
+  EXPECT_EQ(
+      loaded("[Summary]\nTotalNodeEM = three\nTotalNodeEC = 12abc\nTotalGateCTL = 2.9\nTotalNodeMB "
+             "=\nTotalNodeBC = +7\n"),
+      "TotalNodeEM 0\nTotalNodeEC 12\nTotalGateCTL 2\nTotalNodeMB 0\nTotalNodeBC 7\ninlet 1\n");
+  EXPECT_EQ(loaded("[FlowCTL]\nMoldTemperature = warm\nMeltTemperature = 2.5e2 oC\nInjectionTime = "
+                   "-.5\nVolumeFilled =\nRamPosition = 1,5\n"),
+            "MoldTemperature 0\nMeltTemperature 250\nInjectionTime -0.5\nVolumeFilled "
+            "0\nRamPosition 1\ninlet 1\n");
 }
 
 TEST(DataLoader, NegativeIntegersGoOverAsUnsigned) {
@@ -175,7 +215,9 @@ TEST(DataLoader, NegativeIntegersGoOverAsUnsigned) {
   EXPECT_EQ(loaded("[CaeHeader]\nProjectType = -2\n"), "ProjectType 4294967294\ninlet 1\n");
 }
 
-TEST(DataLoader, SymmetryVolumeRatioIsAnInteger) { EXPECT_EQ(loaded("[Summary]\nSymVolRatio = 0.5\n"), "SymVolRatio 0\ninlet 1\n"); }
+TEST(DataLoader, SymmetryVolumeRatioIsAnInteger) {
+  EXPECT_EQ(loaded("[Summary]\nSymVolRatio = 0.5\n"), "SymVolRatio 0\ninlet 1\n");
+}
 
 TEST(DataLoader, ProjectTypeIsTheFirstOfTwoIntegers) {
   EXPECT_EQ(loaded("[CaeHeader]\nProjectType = 3\t1\n"), "ProjectType 3\ninlet 1\n");
@@ -184,19 +226,25 @@ TEST(DataLoader, ProjectTypeIsTheFirstOfTwoIntegers) {
 }
 
 TEST(DataLoader, HeatTransferNotesAreLeftOut) {
-  EXPECT_EQ(loaded("[MoldThermalBoundaryType]\nFlow = 1500\t(W/m^2.K)\n"), "HTC_Flow 1500\ninlet 1\n");
+  EXPECT_EQ(loaded("[MoldThermalBoundaryType]\nFlow = 1500\t(W/m^2.K)\n"),
+            "HTC_Flow 1500\ninlet 1\n");
 }
 
 TEST(DataLoader, TextsKeepTheirBlanks) {
-  EXPECT_EQ(loaded("[Machine]\nMaker =   Two  words = one name \t\nGrade =\n"), "machine_Maker 'Two  words = one name'\nmachine_Grade ''\ninlet 1\n");
+  EXPECT_EQ(loaded("[Machine]\nMaker =   Two  words = one name \t\nGrade =\n"),
+            "machine_Maker 'Two  words = one name'\nmachine_Grade ''\ninlet 1\n");
 }
 
 TEST(DataLoader, TransferMoldingSpellingsWinOverTheOthers) {
-  const std::string transfer = "TransTime = 9\nResnTemp = 90\nTransPres = 8\nMaxTransferTime = 30\n";
-  const std::string filling = "FillTime = 1\nMeltTemp = 230\nInjectPres = 140\nMaxFillingTime = 5\n";
-  const std::string expected = "inlet 1\n  FillTime 9\n  MeltTemp 90\n  InjectPres 8\n  MaxFillingTime 30\n";
+  const std::string transfer =
+      "TransTime = 9\nResnTemp = 90\nTransPres = 8\nMaxTransferTime = 30\n";
+  const std::string filling =
+      "FillTime = 1\nMeltTemp = 230\nInjectPres = 140\nMaxFillingTime = 5\n";
+  const std::string expected =
+      "inlet 1\n  FillTime 9\n  MeltTemp 90\n  InjectPres 8\n  MaxFillingTime 30\n";
   EXPECT_EQ(loaded("[Flow-1]\n" + filling + transfer), expected);
-  EXPECT_EQ(loaded("[Flow-1]\n" + transfer + filling), expected) << "whatever their order in the file";
+  EXPECT_EQ(loaded("[Flow-1]\n" + transfer + filling), expected)
+      << "whatever their order in the file";
 }
 
 TEST(DataLoader, FillingProfilesHoldTheirPointsInOrder) {
@@ -218,11 +266,14 @@ TEST(DataLoader, PackingProfilesHoldTheirPointsInOrder) {
 }
 
 TEST(DataLoader, MissingPointsAreSkipped) {
-  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 3\nFR-1 = 1 10\nFR-3 = 3 30\n"), "inlet 1\n  FlowRateProfile (1 10) (3 30)\n");
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 3\nFR-1 = 1 10\nFR-3 = 3 30\n"),
+            "inlet 1\n  FlowRateProfile (1 10) (3 30)\n");
 }
 
 TEST(DataLoader, PointsBeyondTheCountAreLeftOut) {
-  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 1\nFR-0 = 0 0\nFR-1 = 1 10\nFR-2 = 2 20\nFR--1 = 3 30\nFR-01 = 4 40\n"), "inlet 1\n  FlowRateProfile (1 10)\n");
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 1\nFR-0 = 0 0\nFR-1 = 1 10\nFR-2 = 2 20\nFR--1 = 3 30\nFR-01 "
+                   "= 4 40\n"),
+            "inlet 1\n  FlowRateProfile (1 10)\n");
 }
 
 TEST(DataLoader, ProfilesWithoutAPositiveCountAreEmpty) {
@@ -232,34 +283,43 @@ TEST(DataLoader, ProfilesWithoutAPositiveCountAreEmpty) {
 }
 
 TEST(DataLoader, HalfParsedPointsKeepZero) {
-  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 4\nFR-1 = 5\nFR-2 = 6 x\nFR-3 = x 7\nFR-4 =\n"), "inlet 1\n  FlowRateProfile (5 0) (6 0) (0 0) (0 0)\n");
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 4\nFR-1 = 5\nFR-2 = 6 x\nFR-3 = x 7\nFR-4 =\n"),
+            "inlet 1\n  FlowRateProfile (5 0) (6 0) (0 0) (0 0)\n");
 }
 
 TEST(DataLoader, RepeatedKeysCountOnce) {
-  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2\nFRSet = 1\nFR-1 = 1 1\nFR-2 = 2 2\nFR-1 = 9 9\n[Flow-1]\nFillTime = 3\n"),
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2\nFRSet = 1\nFR-1 = 1 1\nFR-2 = 2 2\nFR-1 = 9 "
+                   "9\n[Flow-1]\nFillTime = 3\n"),
             "inlet 1\n  FlowRateProfile (1 1) (2 2)\n");
 }
 
 TEST(DataLoader, RamPositionListsHoldTheFirstNumberOfEachItem) {
-  EXPECT_EQ(loaded("[RamPosition]\nRP_FRSet = 3\nRP_FR-1 = 100\t0\nRP_FR-3 = 20\nRP_IPSet = 2\nRP_IP-1 = far\nRP_IP-2 = 7.5\n"),
+  EXPECT_EQ(loaded("[RamPosition]\nRP_FRSet = 3\nRP_FR-1 = 100\t0\nRP_FR-3 = 20\nRP_IPSet = "
+                   "2\nRP_IP-1 = far\nRP_IP-2 = 7.5\n"),
             "FlowRateRamPosition 100 20\nInjectionPressureRamPosition 0 7.5\ninlet 1\n");
 }
 
 TEST(DataLoader, TimeConstantsEndAtTheFirstMissingNumber) {
-  EXPECT_EQ(loaded("[Flow-1]\nTimeConstFR-1 = 1\nTimeConstFR-2 = 2\nTimeConstFR-4 = 4\n"), "inlet 1\n  FlowRateTimeConstants 1 2\n");
+  EXPECT_EQ(loaded("[Flow-1]\nTimeConstFR-1 = 1\nTimeConstFR-2 = 2\nTimeConstFR-4 = 4\n"),
+            "inlet 1\n  FlowRateTimeConstants 1 2\n");
   EXPECT_EQ(loaded("[Flow-1]\nTimeConstIP-2 = 2\n"), "inlet 1\n");
-  EXPECT_EQ(loaded("[Flow-1]\nTimeConstPP-3 = 3\nTimeConstPP-1 = 1\nTimeConstPP-2 = x\nTimeConstIP-1 = 0.5\n"),
-            "inlet 1\n  InjectionPressureTimeConstants 0.5\n  PackingPressureTimeConstants 1 0 3\n");
+  EXPECT_EQ(
+      loaded("[Flow-1]\nTimeConstPP-3 = 3\nTimeConstPP-1 = 1\nTimeConstPP-2 = x\nTimeConstIP-1 = "
+             "0.5\n"),
+      "inlet 1\n  InjectionPressureTimeConstants 0.5\n  PackingPressureTimeConstants 1 0 3\n");
 }
 
 TEST(DataLoader, CuringOverwritesPackingAndAppendsItsPoints) {
   EXPECT_EQ(loaded("[Cure-1]\nCureTime = 90\nCPDisplayType = 2\nCPSet = 1\nCP-1 = 0 6\n"
-                   "[Pack-1]\nPackTime = 20\nPackPres = 7\nPPDisplayType = 1\nPPProfileType = 1\nPPSet = 1\nPP-1 = 0 7\n"),
-            "inlet 1\n  PackTime 90\n  PackPres 7\n  PPDisplayType 2\n  PPProfileType 1\n  PackingPressureProfile (0 7) (0 6)\n");
+                   "[Pack-1]\nPackTime = 20\nPackPres = 7\nPPDisplayType = 1\nPPProfileType = "
+                   "1\nPPSet = 1\nPP-1 = 0 7\n"),
+            "inlet 1\n  PackTime 90\n  PackPres 7\n  PPDisplayType 2\n  PPProfileType 1\n  "
+            "PackingPressureProfile (0 7) (0 6)\n");
 }
 
 TEST(DataLoader, CuringProfileTypeStandsUnderTheKeyOfPacking) {
-  EXPECT_EQ(loaded("[Cure-1]\nCPProfileType = 3\nPPProfileType = 4\n"), "inlet 1\n  PPProfileType 4\n");
+  EXPECT_EQ(loaded("[Cure-1]\nCPProfileType = 3\nPPProfileType = 4\n"),
+            "inlet 1\n  PPProfileType 4\n");
 }
 
 TEST(DataLoader, InletControlTypeIsTheSecondNumberUnderTheKeyWithABracket) {
@@ -271,42 +331,57 @@ TEST(DataLoader, InletControlTypeIsTheSecondNumberUnderTheKeyWithABracket) {
 }
 
 TEST(DataLoader, OneInletIsLoadedWithoutATotal) {
-  EXPECT_EQ(loaded(header_of_type(1) + "[Flow-1]\nFillTime = 1\n[Pack-1]\nPackTime = 2\n[Flow-2]\nFillTime = 3\n[Cure-1]\nCurePres = 4\n"),
+  EXPECT_EQ(loaded(header_of_type(1) + "[Flow-1]\nFillTime = 1\n[Pack-1]\nPackTime = "
+                                       "2\n[Flow-2]\nFillTime = 3\n[Cure-1]\nCurePres = 4\n"),
             "ProjectType 1\ninlet 1\n  FillTime 1\n  PackTime 2\n  PackPres 4\n");
 }
 
 TEST(DataLoader, AnyNumberOfInletsIsLoadedFromTheirOwnSections) {
-  EXPECT_EQ(loaded("[Flow-2]\nFillTime = 2\n[Pack-3]\nPackTime = 3\n[Flow-1]\nFillTime = 1\n[FlowCTLInfo]\nTotalInlet = 3\n[Cure-2]\nCureTime = 4\n"),
+  EXPECT_EQ(loaded("[Flow-2]\nFillTime = 2\n[Pack-3]\nPackTime = 3\n[Flow-1]\nFillTime = "
+                   "1\n[FlowCTLInfo]\nTotalInlet = 3\n[Cure-2]\nCureTime = 4\n"),
             "inlet 1\n  FillTime 1\ninlet 2\n  FillTime 2\n  PackTime 4\ninlet 3\n  PackTime 3\n");
 }
 
 TEST(DataLoader, NoInletIsLoadedForATotalOfZero) {
   for (const char* total : {"0", "none", ""}) {
-    EXPECT_EQ(loaded(header_of_type(1) + "[FlowCTLInfo]\nTotalInlet = " + total + "\n[Flow-1]\nFillTime = 1\n"), "ProjectType 1\n") << total;
+    EXPECT_EQ(loaded(header_of_type(1) + "[FlowCTLInfo]\nTotalInlet = " + total +
+                     "\n[Flow-1]\nFillTime = 1\n"),
+              "ProjectType 1\n")
+        << total;
   }
 }
 
 TEST(DataLoader, BothInletsOfTypeEightComeFromTheSkinSectionsNumberedOne) {
   const std::string file = header_of_type(8) +
-                           "[Flow-1-Skin]\nFillTime = 1\nFRSet = 1\nFR-1 = 0 30\n[Pack-1-Skin]\nPackTime = 2\n[Flow-2-Skin]\nFillTime = 3\n"
-                           "[Pack-2-Skin]\nPackTime = 4\n[Flow-1]\nFillTime = 5\n[Cure-1]\nCureTime = 6\n[FlowCTLInfo]\nFlowCTL-1] = 1 2\n";
+                           "[Flow-1-Skin]\nFillTime = 1\nFRSet = 1\nFR-1 = 0 "
+                           "30\n[Pack-1-Skin]\nPackTime = 2\n[Flow-2-Skin]\nFillTime = 3\n"
+                           "[Pack-2-Skin]\nPackTime = 4\n[Flow-1]\nFillTime = "
+                           "5\n[Cure-1]\nCureTime = 6\n[FlowCTLInfo]\nFlowCTL-1] = 1 2\n";
   const std::string stage = "  FillTime 1\n  PackTime 2\n  FlowRateProfile (0 30)\n";
   EXPECT_EQ(loaded(file), "ProjectType 8\ninlet 1\n" + stage + "inlet 2\n" + stage);
 }
 
 TEST(DataLoader, TheInletsOfTypeElevenComeFromTheMeltEntranceSections) {
   const std::string file = header_of_type(11) +
-                           "[Flow-EM1]\nFillTime = 1\n[Pack-EM1]\nPackTime = 2\n[Flow-EM2]\nFillTime = 3\n[Pack-EM2]\nPackTime = 4\n"
-                           "[Flow-1]\nFillTime = 5\n[Cure-1]\nCureTime = 6\n[Cure-EM1]\nCureTime = 7\n[FlowCTLInfo]\nFlowCTL-1] = 1 2\n";
-  EXPECT_EQ(loaded(file), "ProjectType 11\ninlet 1\n  FillTime 1\n  PackTime 2\ninlet 2\n  FillTime 3\n  PackTime 4\n");
+                           "[Flow-EM1]\nFillTime = 1\n[Pack-EM1]\nPackTime = "
+                           "2\n[Flow-EM2]\nFillTime = 3\n[Pack-EM2]\nPackTime = 4\n"
+                           "[Flow-1]\nFillTime = 5\n[Cure-1]\nCureTime = 6\n[Cure-EM1]\nCureTime = "
+                           "7\n[FlowCTLInfo]\nFlowCTL-1] = 1 2\n";
+  EXPECT_EQ(
+      loaded(file),
+      "ProjectType 11\ninlet 1\n  FillTime 1\n  PackTime 2\ninlet 2\n  FillTime 3\n  PackTime 4\n");
 }
 
 TEST(DataLoader, TypesEightAndElevenSkipInletsThatDoNotExist) {
-  const std::string skin = header_of_type(8) + "[Flow-1-Skin]\nFillTime = 1\n[FlowCTLInfo]\nTotalInlet = ";
+  const std::string skin =
+      header_of_type(8) + "[Flow-1-Skin]\nFillTime = 1\n[FlowCTLInfo]\nTotalInlet = ";
   EXPECT_EQ(loaded(skin + "0\n"), "ProjectType 8\n");
   EXPECT_EQ(loaded(skin + "1\n"), "ProjectType 8\ninlet 1\n  FillTime 1\n");
-  EXPECT_EQ(loaded(skin + "3\n"), "ProjectType 8\ninlet 1\n  FillTime 1\ninlet 2\n  FillTime 1\ninlet 3\n");
-  const std::string entrances = header_of_type(11) + "[Flow-EM1]\nFillTime = 1\n[Flow-EM2]\nFillTime = 2\n[FlowCTLInfo]\nTotalInlet = ";
+  EXPECT_EQ(loaded(skin + "3\n"),
+            "ProjectType 8\ninlet 1\n  FillTime 1\ninlet 2\n  FillTime 1\ninlet 3\n");
+  const std::string entrances =
+      header_of_type(11) +
+      "[Flow-EM1]\nFillTime = 1\n[Flow-EM2]\nFillTime = 2\n[FlowCTLInfo]\nTotalInlet = ";
   EXPECT_EQ(loaded(entrances + "0\n"), "ProjectType 11\n");
   EXPECT_EQ(loaded(entrances + "1\n"), "ProjectType 11\ninlet 1\n  FillTime 1\n");
 }
@@ -315,7 +390,9 @@ TEST(DataLoader, HugeTotalsEndAtTheMostInletsOfAProcess) {
   constexpr unsigned int kMost = 4096;
   for (const char* total : {"4096", "4097", "-1", "2147483647", "-2147483648"}) {
     for (const int type : {1, 8, 11}) {
-      EXPECT_EQ(inlets_of(header_of_type(type) + "[FlowCTLInfo]\nTotalInlet = " + total + "\n"), kMost) << total << " of type " << type;
+      EXPECT_EQ(inlets_of(header_of_type(type) + "[FlowCTLInfo]\nTotalInlet = " + total + "\n"),
+                kMost)
+          << total << " of type " << type;
     }
   }
 }
@@ -323,7 +400,8 @@ TEST(DataLoader, HugeTotalsEndAtTheMostInletsOfAProcess) {
 TEST(DataLoader, TheLastOfTheMostInletsIsLoaded) {
   const Scratch scratch;
   const Process process =
-      load_file(scratch.file("[FlowCTLInfo]\nTotalInlet = -1\nFlowCTL-4096] = 1 2\nFlowCTL-4097] = 1 3\n[Flow-4096]\nFillTime = 5\n"));
+      load_file(scratch.file("[FlowCTLInfo]\nTotalInlet = -1\nFlowCTL-4096] = 1 2\nFlowCTL-4097] = "
+                             "1 3\n[Flow-4096]\nFillTime = 5\n"));
   ASSERT_NE(process, nullptr);
   ASSERT_EQ(process->GetNumOfInlets(), 4096U);
   EXPECT_EQ(dump(*process->GetFlowPackOfInlet(4094)), "");
@@ -348,12 +426,16 @@ TEST(DataLoader, ManyInletsInALongSectionCostNoMoreThanTheFile) {
 }
 
 TEST(DataLoader, HugeCountsCostNoMoreThanTheFile) {
-  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2147483647\nFR-2147483647 = 7 8\nFR-1 = 1 2\nFR-2147483648 = 9 9\nTPSet = 2147483647\nIPSet = 2147483647\n"
-                   "[Pack-1]\nPPSet = 2147483647\nPP-2147483646 = 5 6\nFluidSet = 2147483647\n[Cure-1]\nCPSet = 2147483647\nCP-2147483647 = 3 4\n"),
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2147483647\nFR-2147483647 = 7 8\nFR-1 = 1 2\nFR-2147483648 = "
+                   "9 9\nTPSet = 2147483647\nIPSet = 2147483647\n"
+                   "[Pack-1]\nPPSet = 2147483647\nPP-2147483646 = 5 6\nFluidSet = "
+                   "2147483647\n[Cure-1]\nCPSet = 2147483647\nCP-2147483647 = 3 4\n"),
             "inlet 1\n  FlowRateProfile (1 2) (7 8)\n  PackingPressureProfile (5 6) (3 4)\n");
-  EXPECT_EQ(loaded("[RamPosition]\nRP_FRSet = 2147483647\nRP_FR-2147483647 = 5\nRP_IPSet = 2000000000\nRP_IP-2147483647 = 6\n"),
+  EXPECT_EQ(loaded("[RamPosition]\nRP_FRSet = 2147483647\nRP_FR-2147483647 = 5\nRP_IPSet = "
+                   "2000000000\nRP_IP-2147483647 = 6\n"),
             "FlowRateRamPosition 5\ninlet 1\n");
-  EXPECT_EQ(loaded("[FlowCTLInfo]\nTotalInlet = 2\n[Flow-1]\nFRSet = 2147483647\n[Flow-2]\nFRSet = 2147483647\nFR-2147483647 = 1 1\n"),
+  EXPECT_EQ(loaded("[FlowCTLInfo]\nTotalInlet = 2\n[Flow-1]\nFRSet = 2147483647\n[Flow-2]\nFRSet = "
+                   "2147483647\nFR-2147483647 = 1 1\n"),
             "inlet 1\ninlet 2\n  FlowRateProfile (1 1)\n");
 }
 
@@ -361,7 +443,8 @@ TEST(DataLoader, LongProfilesAreLoadedInFull) {
   constexpr int kPoints = 20000;
   std::string file = "[Flow-1]\nFRSet = " + std::to_string(kPoints) + "\n";
   for (int i = kPoints; i >= 1; --i) {
-    file += "FR-" + std::to_string(i) + " = " + std::to_string(i) + "\t" + std::to_string(2 * i) + "\n";
+    file +=
+        "FR-" + std::to_string(i) + " = " + std::to_string(i) + "\t" + std::to_string(2 * i) + "\n";
   }
   const Scratch scratch;
   const Process process = load_file(scratch.file(file));
@@ -377,11 +460,17 @@ TEST(DataLoader, LongProfilesAreLoadedInFull) {
 }
 
 TEST(DataLoader, SectionsStandInAnyOrderWithAnyLineBreak) {
-  const std::string file = "[Pack-1]\r\nPackTime=2\r\nPPSet=1\r\nPP-1=0\t80\r\n\r\n[Flow-1]  \r\nMaterial=RESIN A\r\n[CaeHeader]\r\nProjectType=1 0";
-  EXPECT_EQ(loaded(file), "ProjectType 1\ninlet 1\n  Material 'RESIN A'\n  PackTime 2\n  PackingPressureProfile (0 80)\n");
+  const std::string file =
+      "[Pack-1]\r\nPackTime=2\r\nPPSet=1\r\nPP-1=0\t80\r\n\r\n[Flow-1]  \r\nMaterial=RESIN "
+      "A\r\n[CaeHeader]\r\nProjectType=1 0";
+  EXPECT_EQ(loaded(file),
+            "ProjectType 1\ninlet 1\n  Material 'RESIN A'\n  PackTime 2\n  PackingPressureProfile "
+            "(0 80)\n");
 }
 
-TEST(DataLoader, ByteOrderMarkIsSkipped) { EXPECT_EQ(loaded("\xEF\xBB\xBF[CaeHeader]\nProjectType = 4\n"), "ProjectType 4\ninlet 1\n"); }
+TEST(DataLoader, ByteOrderMarkIsSkipped) {
+  EXPECT_EQ(loaded("\xEF\xBB\xBF[CaeHeader]\nProjectType = 4\n"), "ProjectType 4\ninlet 1\n");
+}
 
 TEST(DataLoader, EmptyFileGivesOneEmptyInlet) {
   EXPECT_EQ(loaded(""), "inlet 1\n");
@@ -425,7 +514,8 @@ TEST(DataLoader, EveryCallGivesAProcessOfItsOwn) {
   const Process first(loader.GetProcessDataStructure(path.c_str()));
   put_bytes(path, "[Flow-1]\nFillTime = 2\n");
   const Process second(loader.GetProcessDataStructure(path.c_str()));
-  EXPECT_EQ(loader.GetProcessDataStructure(scratch.path("missing.pro").c_str()), nullptr) << "and one that fails changes neither";
+  EXPECT_EQ(loader.GetProcessDataStructure(scratch.path("missing.pro").c_str()), nullptr)
+      << "and one that fails changes neither";
   ASSERT_NE(first, nullptr);
   ASSERT_NE(second, nullptr);
   EXPECT_EQ(dump(*first), "inlet 1\n  FillTime 1\n");
@@ -437,7 +527,8 @@ TEST(DataLoader, ProcessOutlivesTheLoader) {
   Process process;
   {
     CQELProcessData_Manipulator loader;
-    process.reset(loader.GetProcessDataStructure(scratch.file("[Machine]\nMaker = A\n[Flow-1]\nMaterial = B\n").c_str()));
+    process.reset(loader.GetProcessDataStructure(
+        scratch.file("[Machine]\nMaker = A\n[Flow-1]\nMaterial = B\n").c_str()));
     loader.Dispose();
   }
   ASSERT_NE(process, nullptr);
@@ -475,7 +566,8 @@ TEST(DataLoader, NumbersDoNotDependOnTheLocale) {
   ASSERT_NE(plain, nullptr);
   ASSERT_NE(process, nullptr);
   EXPECT_EQ(dump(*process), dump(*plain));
-  EXPECT_EQ(loaded("[Flow-1]\nFillTime = 1.5\nFRSet = 1\nFR-1 = 0.5\t1,5\n"), "inlet 1\n  FillTime 1.5\n  FlowRateProfile (0.5 1)\n");
+  EXPECT_EQ(loaded("[Flow-1]\nFillTime = 1.5\nFRSet = 1\nFR-1 = 0.5\t1,5\n"),
+            "inlet 1\n  FillTime 1.5\n  FlowRateProfile (0.5 1)\n");
 }
 
 struct DataFile {
@@ -504,9 +596,11 @@ TEST_P(LoadedDataFile, HasTheLayoutThatItStandsFor) {
   const std::string contents = bytes_of(data_path(file.name));
   EXPECT_EQ(contents.substr(0, std::string(file.begins).size()), file.begins);
   const std::string line_break = file.line_break;
-  for (std::size_t at = contents.find('\n'); at != std::string::npos; at = contents.find('\n', at + 1)) {
+  for (std::size_t at = contents.find('\n'); at != std::string::npos;
+       at = contents.find('\n', at + 1)) {
     ASSERT_GE(at + 1, line_break.size());
-    ASSERT_EQ(contents[at] == '\n' && at > 0 && contents[at - 1] == '\r', line_break == "\r\n") << "at byte " << at;
+    ASSERT_EQ(contents[at] == '\n' && at > 0 && contents[at - 1] == '\r', line_break == "\r\n")
+        << "at byte " << at;
   }
 }
 
@@ -827,9 +921,12 @@ inlet 2
 )";
 
 INSTANTIATE_TEST_SUITE_P(DataLoader, LoadedDataFile,
-                         testing::Values(DataFile{"injection_two_inlets.pro", "\n", "\n[FileHeader]\n", kInjectionTwoInlets},
-                                         DataFile{"transfer_molding_curing.pro", "\r\n", "\r\n[FileHeader]\r\n", kTransferMoldingCuring},
-                                         DataFile{"co_injection_type_8.pro", "\n", "[FileHeader]\n", kCoInjectionType8}));
+                         testing::Values(DataFile{"injection_two_inlets.pro", "\n",
+                                                  "\n[FileHeader]\n", kInjectionTwoInlets},
+                                         DataFile{"transfer_molding_curing.pro", "\r\n",
+                                                  "\r\n[FileHeader]\r\n", kTransferMoldingCuring},
+                                         DataFile{"co_injection_type_8.pro", "\n", "[FileHeader]\n",
+                                                  kCoInjectionType8}));
 
 }  // namespace
 }  // namespace qelpro_test

@@ -19,7 +19,8 @@ struct Switch {
 
 Switch switch_of(CQELPROReader_Manipulator* reader) {
   Switch result;
-  result.done = CQELProcessValueReader::GetVPSwitch(reader, 1, 2, 3, 4, 5, 6, 7, result.first, result.second, result.value);
+  result.done = CQELProcessValueReader::GetVPSwitch(reader, 1, 2, 3, 4, 5, 6, 7, result.first,
+                                                    result.second, result.value);
   return result;
 }
 
@@ -45,7 +46,8 @@ void expect_untouched(const Switch& actual) {
 }
 
 std::string with_mode(const std::string& mode) {
-  return "[FlowCTL]\nVPSwitchCtrl = " + mode + "\nVolumeFilled = 98.5\nRamPosition = 12.25\nInjectionPressure = 118\n";
+  return "[FlowCTL]\nVPSwitchCtrl = " + mode +
+         "\nVolumeFilled = 98.5\nRamPosition = 12.25\nInjectionPressure = 118\n";
 }
 
 TEST(VPSwitch, FilledVolume) { expect(switch_in(with_mode("0")), 1, 5, 98.5); }
@@ -54,7 +56,9 @@ TEST(VPSwitch, RamPosition) { expect(switch_in(with_mode("1")), 2, 6, 12.25); }
 
 TEST(VPSwitch, InjectionPressure) { expect(switch_in(with_mode("2")), 3, 7, 118); }
 
-TEST(VPSwitch, FurtherCriterionSharesSecondChoiceAndValueWithFilledVolume) { expect(switch_in(with_mode("3")), 4, 5, 98.5); }
+TEST(VPSwitch, FurtherCriterionSharesSecondChoiceAndValueWithFilledVolume) {
+  expect(switch_in(with_mode("3")), 4, 5, 98.5);
+}
 
 TEST(VPSwitch, OtherModesChooseNothing) {
   for (const char* mode : {"4", "-1", "2147483647"}) {
@@ -63,7 +67,9 @@ TEST(VPSwitch, OtherModesChooseNothing) {
   }
 }
 
-TEST(VPSwitch, ModeThatDoesNotScanIsFilledVolume) { expect(switch_in(with_mode("volume")), 1, 5, 98.5); }
+TEST(VPSwitch, ModeThatDoesNotScanIsFilledVolume) {
+  expect(switch_in(with_mode("volume")), 1, 5, 98.5);
+}
 
 TEST(VPSwitch, MissingModeChoosesNothing) {
   expect_untouched(switch_in("[FlowCTL]\nVolumeFilled = 98.5\n"));
@@ -77,7 +83,9 @@ TEST(VPSwitch, MissingValueIsLeftAsItWas) {
   expect(switch_in("[FlowCTL]\nVPSwitchCtrl = 3\nRamPosition = 1\n"), 4, 5, -3.5);
 }
 
-TEST(VPSwitch, ValueThatDoesNotScanIsLeftAsItWas) { expect(switch_in("[FlowCTL]\nVPSwitchCtrl = 0\nVolumeFilled = full\n"), 1, 5, -3.5); }
+TEST(VPSwitch, ValueThatDoesNotScanIsLeftAsItWas) {
+  expect(switch_in("[FlowCTL]\nVPSwitchCtrl = 0\nVolumeFilled = full\n"), 1, 5, -3.5);
+}
 
 TEST(VPSwitch, NullReaderChoosesNothing) { expect_untouched(switch_of(nullptr)); }
 

@@ -14,10 +14,13 @@ namespace qelpro_test {
 namespace {
 
 constexpr const char* kGatedVersion = "[CaeHeader]\nFileVersion = 1010\n";
-const std::set<std::string> kGated = {"GetMoldClampingForce", "GetInitPelletConv", "GetPelletDiameter", "GetPelletHeight", "GetPreHeatTime"};
+const std::set<std::string> kGated = {"GetMoldClampingForce", "GetInitPelletConv",
+                                      "GetPelletDiameter", "GetPelletHeight", "GetPreHeatTime"};
 
 // What stands in front of the values that are kept from older files.
-std::string gate_of(const char* accessor) { return kGated.count(accessor) != 0 ? kGatedVersion : ""; }
+std::string gate_of(const char* accessor) {
+  return kGated.count(accessor) != 0 ? kGatedVersion : "";
+}
 
 template <class Value>
 struct Sample;
@@ -80,7 +83,8 @@ class EveryAccessor : public ProcessObject {
   static std::string new_file(const Accessor<Value>& row, const std::string& text) {
     const std::string section = row.section;
     const std::string written = "\n" + section + "\n" + entry(row.key, text);
-    return section == "[FileHeader]" ? written + kMaskedDate : written + "\n[FileHeader]\n" + kMaskedDate;
+    return section == "[FileHeader]" ? written + kMaskedDate
+                                     : written + "\n[FileHeader]\n" + kMaskedDate;
   }
 };
 
@@ -95,8 +99,9 @@ TYPED_TEST(EveryAccessor, GetsTheValueOfItsKey) {
       continue;
     }
     for (TypeParam value : {S::first(), S::second()}) {
-      Object& object = this->over(gate_of(row.name) + "[Before]\n" + row.key + " = 5\n" + row.section + "\n " + row.key + " = 6\n" + row.key +
-                                  "x = 7\n" + row.key + " =  " + S::text(value) + "\n" + row.key + " = 8\n");
+      Object& object = this->over(gate_of(row.name) + "[Before]\n" + row.key + " = 5\n" +
+                                  row.section + "\n " + row.key + " = 6\n" + row.key + "x = 7\n" +
+                                  row.key + " =  " + S::text(value) + "\n" + row.key + " = 8\n");
       TypeParam read = S::untouched();
       EXPECT_TRUE(row.get(object, read));
       EXPECT_EQ(S::read(read), S::text(value));
@@ -111,7 +116,8 @@ TYPED_TEST(EveryAccessor, LeavesItsOutputAloneWithoutItsKey) {
     if (!row.get) {
       continue;
     }
-    for (const std::string& contents : {std::string(), std::string(row.section) + "\n", std::string(row.key) + " = 5\n" + row.section + "\n"}) {
+    for (const std::string& contents : {std::string(), std::string(row.section) + "\n",
+                                        std::string(row.key) + " = 5\n" + row.section + "\n"}) {
       TypeParam read = S::untouched();
       EXPECT_FALSE(row.get(this->over(gate_of(row.name) + contents), read));
       EXPECT_EQ(S::read(read), S::read(S::untouched()));
@@ -163,7 +169,8 @@ TYPED_TEST(EveryAccessor, AppendsAMissingKeyAtTheEndOfTheFile) {
     const std::string before = std::string(row.section) + "\nOther = 1\n[Last]\nx = 1\n";
     Object& object = this->over("[FileHeader]\nDate = 2001/01/01 00:00:00\n" + before);
     EXPECT_TRUE(row.set(object, S::first()));
-    EXPECT_EQ(this->masked_bytes(), "[FileHeader]\n" + kMaskedDate + before + entry(row.key, S::text(S::first())));
+    EXPECT_EQ(this->masked_bytes(),
+              "[FileHeader]\n" + kMaskedDate + before + entry(row.key, S::text(S::first())));
     TypeParam read = S::untouched();
     if (row.get && kGated.count(row.name) == 0) {
       EXPECT_TRUE(row.get(object, read));
@@ -180,13 +187,15 @@ TYPED_TEST(EveryAccessor, ReplacesItsLineWhereItStandsAndNeverShortensTheFile) {
       continue;
     }
     const std::string old_line = std::string(row.key) + "=" + std::string(60, 'v') + "\n";
-    const std::string before = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + std::string(row.section) + "\n";
+    const std::string before =
+        "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + std::string(row.section) + "\n";
     const std::string behind = "[Last]\nx = 1\n";
     Object& object = this->over(before + old_line + behind);
     EXPECT_TRUE(row.set(object, S::second()));
     const std::string line = entry(row.key, S::text(S::second()));
     ASSERT_GT(old_line.size(), line.size());
-    EXPECT_EQ(this->masked_bytes(), masked(before) + line + behind + std::string(old_line.size() - line.size(), ' '));
+    EXPECT_EQ(this->masked_bytes(),
+              masked(before) + line + behind + std::string(old_line.size() - line.size(), ' '));
   }
 }
 
@@ -200,7 +209,8 @@ TYPED_TEST(EveryAccessor, ConvertsTextThatIsNoNumberToNothingAndYieldsTrue) {
       }
       for (const char* text : {" = none", " =", ""}) {
         TypeParam read = S::untouched();
-        EXPECT_TRUE(row.get(this->over(gate_of(row.name) + row.section + "\n" + row.key + text + "\n"), read));
+        EXPECT_TRUE(row.get(
+            this->over(gate_of(row.name) + row.section + "\n" + row.key + text + "\n"), read));
         EXPECT_EQ(read, S::untouched());
       }
     }
@@ -214,7 +224,8 @@ TEST_F(EveryPoint, IsReadFromItsKey) {
     SCOPED_TRACE(row.name);
     double x = 777;
     double y = 777;
-    EXPECT_TRUE(row.get(over(std::string(row.section) + "\n" + row.key + " = 1.5  \t20 tail\n"), x, y));
+    EXPECT_TRUE(
+        row.get(over(std::string(row.section) + "\n" + row.key + " = 1.5  \t20 tail\n"), x, y));
     EXPECT_EQ(x, 1.5);
     EXPECT_EQ(y, 20);
   }
@@ -250,8 +261,10 @@ TEST_F(EveryPoint, IsWrittenWithATabAndLeavesTheCountAlone) {
       continue;
     }
     const std::string section = std::string(row.section) + "\nFRSet = 2\n";
-    EXPECT_TRUE(row.set(over("[FileHeader]\nDate = 2001/01/01 00:00:00\n" + section), 0.5, -1.5e-7));
-    EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + section + entry(row.key, "0.5\t-1.5e-007"));
+    EXPECT_TRUE(
+        row.set(over("[FileHeader]\nDate = 2001/01/01 00:00:00\n" + section), 0.5, -1.5e-7));
+    EXPECT_EQ(masked_bytes(),
+              "[FileHeader]\n" + kMaskedDate + section + entry(row.key, "0.5\t-1.5e-007"));
   }
 }
 

@@ -16,7 +16,10 @@ std::string engine_reads(const std::string& path, const char* section, const cha
   CQELPROReader_Manipulator reader;
   char buffer[256];
   char* value = nullptr;
-  return reader.SetFilePath(path.c_str()) && reader.ReadString(section, key, value, buffer, sizeof buffer) ? value : "(none)";
+  return reader.SetFilePath(path.c_str()) &&
+                 reader.ReadString(section, key, value, buffer, sizeof buffer)
+             ? value
+             : "(none)";
 }
 
 std::string without_line_feed(std::string text) {

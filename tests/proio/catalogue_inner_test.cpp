@@ -90,7 +90,8 @@ TEST(LeadingWord, EndsAtTabLineFeedBlankOrEqualsSign) {
   for (const char* line : {"FillTime", "FillTime = 1", "FillTime=1", "FillTime\t1", "FillTime\n"}) {
     EXPECT_TRUE(is_match(line, "FillTime")) << line;
   }
-  for (const char* line : {" FillTime", "FillTimes", "FillTim", "fillTime", "\tFillTime", "=FillTime", ""}) {
+  for (const char* line :
+       {" FillTime", "FillTimes", "FillTim", "fillTime", "\tFillTime", "=FillTime", ""}) {
     EXPECT_FALSE(is_match(line, "FillTime")) << line;
   }
   EXPECT_TRUE(is_match("[SURFACE ELEMENT BOUNDARY CONDITION NAME]", "[SURFACE"));

@@ -11,7 +11,8 @@
 #include "proio/support.h"
 #include "support/line_break.h"
 
-// The object's life, its default document, the date stamp, the version gate, and what the head has beside single values.
+// The object's life, its default document, the date stamp, the version gate, and what the head has
+// beside single values.
 
 namespace qelpro_test {
 namespace {
@@ -86,11 +87,14 @@ TEST_F(DefaultDocument, BeginsWithAnEmptyLine) {
 }
 
 TEST_F(DefaultDocument, KeepsEverythingElseOfAFile) {
-  over("[Machine]\nMaker = Any Works\n[CaeHeader]\nParent = other.pro\nNote = keep me\n[Flow-1]\nFillTime = 9\nFRSet = 7\nFR-9 = 1 2\n");
+  over(
+      "[Machine]\nMaker = Any Works\n[CaeHeader]\nParent = other.pro\nNote = keep "
+      "me\n[Flow-1]\nFillTime = 9\nFRSet = 7\nFR-9 = 1 2\n");
   EXPECT_TRUE(object_.SetDefault());
   const std::string after = masked_bytes();
-  EXPECT_EQ(after.find("[Machine]\nMaker = Any Works\n[CaeHeader]\n" + entry("Parent", "") + "Note = keep me\n[Flow-1]\n" + entry("FillTime", "1") +
-                       entry("FRSet", "2") + "FR-9 = 1 2\n"),
+  EXPECT_EQ(after.find("[Machine]\nMaker = Any Works\n[CaeHeader]\n" + entry("Parent", "") +
+                       "Note = keep me\n[Flow-1]\n" + entry("FillTime", "1") + entry("FRSet", "2") +
+                       "FR-9 = 1 2\n"),
             0U)
       << after;
   double x = 0;
@@ -126,7 +130,9 @@ TEST_F(DateStamp, IsTheLocalTime) {
   char* text = nullptr;
   EXPECT_TRUE(object_.GetFileDate(text));
   std::tm stamp{};
-  ASSERT_EQ(std::sscanf(text, "%d/%d/%d %d:%d:%d\n", &stamp.tm_year, &stamp.tm_mon, &stamp.tm_mday, &stamp.tm_hour, &stamp.tm_min, &stamp.tm_sec), 6);
+  ASSERT_EQ(std::sscanf(text, "%d/%d/%d %d:%d:%d\n", &stamp.tm_year, &stamp.tm_mon, &stamp.tm_mday,
+                        &stamp.tm_hour, &stamp.tm_min, &stamp.tm_sec),
+            6);
   stamp.tm_year -= 1900;
   stamp.tm_mon -= 1;
   stamp.tm_isdst = -1;
@@ -157,7 +163,8 @@ TEST_F(DateStamp, IsLeftByEverySetterButTheCoefficients) {
       {"unit", [](Object& o) { return o.SetUnitTime(); }, true},
       {"valve gate", [](Object& o) { return o.SetValveGateTimeSwitch(1, 2, 3); }, true},
       {"coolant", [t](Object& o) { return o.SetCoolant(1, 1, 2, 3, 4, 5, t, 6, 7); }, true},
-      {"control point", [](Object& o) { return o.SetcoolChannelControlPoint(1, 1, 1, 2, 3, 4, 5); }, true},
+      {"control point", [](Object& o) { return o.SetcoolChannelControlPoint(1, 1, 1, 2, 3, 4, 5); },
+       true},
       {"by reference", [&number](Object& o) { return o.SetCoolChannelGroupID(1, number); }, true},
       {"mold row", [t](Object& o) { return o.SetMoldbase(1, 2, 3, 4, t); }, true},
       {"mold record", [&record](Object& o) { return o.SetMoldMetalMaterial(1, record); }, true},
@@ -175,11 +182,14 @@ TEST_F(DateStamp, IsLeftByEverySetterButTheCoefficients) {
 class VersionGate : public ProcessObject {
  protected:
   static constexpr const char* kValues =
-      "[AdvancedSetting]\nClampForce = 5\nOpenDirection = 1 2 3\n[TransientInletConv]\nInitPelletConv = 5\nPelletDiameter = 5\nPelletHeight = 5\n"
-      "PreHeatTime = 5\n[Summary]\nIsTransientInletConv = 1\n[Moldbase]\n1 = 1 2 3 P20 4 5 6\n[MoldMetalMaterial]\n1 = 1 2 3 P20 4 5 6\n";
+      "[AdvancedSetting]\nClampForce = 5\nOpenDirection = 1 2 "
+      "3\n[TransientInletConv]\nInitPelletConv = 5\nPelletDiameter = 5\nPelletHeight = 5\n"
+      "PreHeatTime = 5\n[Summary]\nIsTransientInletConv = 1\n[Moldbase]\n1 = 1 2 3 P20 4 5 "
+      "6\n[MoldMetalMaterial]\n1 = 1 2 3 P20 4 5 6\n";
 
   static std::vector<bool (Object::*)(double&)> reals() {
-    return {&Object::GetMoldClampingForce, &Object::GetInitPelletConv, &Object::GetPelletDiameter, &Object::GetPelletHeight, &Object::GetPreHeatTime};
+    return {&Object::GetMoldClampingForce, &Object::GetInitPelletConv, &Object::GetPelletDiameter,
+            &Object::GetPelletHeight, &Object::GetPreHeatTime};
   }
 };
 
@@ -210,7 +220,9 @@ TEST_F(VersionGate, OpensAt1010) {
 }
 
 TEST_F(VersionGate, GivesFallbacksToOlderFilesAndThoseWithoutAVersion) {
-  for (const char* version : {"[CaeHeader]\nFileVersion = 1009\n", "[CaeHeader]\nFileVersion = 1008\n", "[CaeHeader]\nFileVersion = new\n", ""}) {
+  for (const char* version :
+       {"[CaeHeader]\nFileVersion = 1009\n", "[CaeHeader]\nFileVersion = 1008\n",
+        "[CaeHeader]\nFileVersion = new\n", ""}) {
     over(version + std::string(kValues));
     for (const auto get : reals()) {
       double value = 777;
@@ -255,9 +267,11 @@ TEST_F(VersionGate, DoesNotHoldSettersBack) {
 TEST_F(VersionGate, LeavesTheFlagToTheReadOnceItIsOpen) {
   const std::string version = "[CaeHeader]\nFileVersion = 1010\n";
   bool flag = true;
-  EXPECT_TRUE(over(version + "[Summary]\nIsTransientInletConv = 0\n").GetIsTransientInletConv(flag));
+  EXPECT_TRUE(
+      over(version + "[Summary]\nIsTransientInletConv = 0\n").GetIsTransientInletConv(flag));
   EXPECT_FALSE(flag);
-  EXPECT_TRUE(over(version + "[Summary]\nIsTransientInletConv = 2\n").GetIsTransientInletConv(flag));
+  EXPECT_TRUE(
+      over(version + "[Summary]\nIsTransientInletConv = 2\n").GetIsTransientInletConv(flag));
   EXPECT_FALSE(flag);
   flag = true;
   EXPECT_FALSE(over(version + "[Summary]\n").GetIsTransientInletConv(flag));
@@ -271,9 +285,10 @@ TEST_F(Flags, YieldTheFlagAndNotWhetherItWasFound) {
     const char* key;
     bool (Object::*get)(bool&);
     bool (Object::*set)(bool);
-  } rows[] = {{"[Summary]", "PEOFasPPack", &Object::GetPpackAsPeof, &Object::SetPpackAsPeof},
-              {"[Cool]", "AutoSetCoolTime", &Object::GetAutoSetCoolTime, &Object::SetAutoSetCoolTime},
-              {"[RamPosition]", "IsVPswitch", &Object::GetVPSwitch, &Object::SetVPSwitch}};
+  } rows[] = {
+      {"[Summary]", "PEOFasPPack", &Object::GetPpackAsPeof, &Object::SetPpackAsPeof},
+      {"[Cool]", "AutoSetCoolTime", &Object::GetAutoSetCoolTime, &Object::SetAutoSetCoolTime},
+      {"[RamPosition]", "IsVPswitch", &Object::GetVPSwitch, &Object::SetVPSwitch}};
   for (const auto& row : rows) {
     const std::string key = std::string(row.section) + "\n" + row.key + " = ";
     for (const char* no : {"0", "2", "-1", "x"}) {
@@ -289,7 +304,8 @@ TEST_F(Flags, YieldTheFlagAndNotWhetherItWasFound) {
     for (const bool value : {true, false}) {
       EXPECT_TRUE((over_missing_file().*row.set)(value));
       EXPECT_EQ(masked_bytes(),
-                native("\n" + std::string(row.section) + "\n" + entry(row.key, value ? "1" : "0") + "\n[FileHeader]\n" + kMaskedDate));
+                native("\n" + std::string(row.section) + "\n" + entry(row.key, value ? "1" : "0") +
+                       "\n[FileHeader]\n" + kMaskedDate));
       std::filesystem::remove(path_);
     }
   }
@@ -311,7 +327,8 @@ TEST_F(Units, AreWrittenAsTheyStand) {
               {&Object::SetUnitVolume, "Volum", "cc        Volume"}};
   for (const auto& row : rows) {
     EXPECT_TRUE((over("[FileHeader]\nDate = x\n").*row.set)());
-    EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "\n[Unit]\n" + entry(row.key, row.text));
+    EXPECT_EQ(masked_bytes(),
+              "[FileHeader]\n" + kMaskedDate + "\n[Unit]\n" + entry(row.key, row.text));
   }
 }
 
@@ -320,7 +337,8 @@ class Coefficients : public ProcessObject {};
 TEST_F(Coefficients, CarryTheirUnit) {
   EXPECT_TRUE(over("").SetFlowHeatTransferCoefficient(25));
   EXPECT_TRUE(object_.SetPackHeatTransferCoefficient(1500.5));
-  EXPECT_EQ(bytes(), native("\n[MoldThermalBoundaryType]\n" + entry("Flow", "25        (W/m^2.K)") + entry("Pack", "1500.5        (W/m^2.K)")));
+  EXPECT_EQ(bytes(), native("\n[MoldThermalBoundaryType]\n" + entry("Flow", "25        (W/m^2.K)") +
+                            entry("Pack", "1500.5        (W/m^2.K)")));
   double value = 0;
   EXPECT_TRUE(object_.GetFlowHeatTransferCoefficient(value));
   EXPECT_EQ(value, 25);

@@ -80,7 +80,8 @@ TEST(SelfContainedScanner, FindsASectionAtEveryPlaceOfABlock) {
 
 TEST(SelfContainedScanner, AgreesWithALookAtEveryLine) {
   std::mt19937 random(1);
-  constexpr std::string_view kPieces[] = {"[A-1]", "[A-1] ", "[A-1", "[", "A-1]", "x = 1", "\n", "\n", "\r\n", "\r", " "};
+  constexpr std::string_view kPieces[] = {"[A-1]", "[A-1] ", "[A-1", "[",  "A-1]", "x = 1",
+                                          "\n",    "\n",     "\r\n", "\r", " "};
   for (int round = 0; round < 3000; ++round) {
     std::string contents;
     for (int count = static_cast<int>(random() % 40); count > 0; --count) {
@@ -110,9 +111,11 @@ TEST(SelfContainedScanner, TellsPaddingOfAnyLength) {
     for (const std::string& text : {""s, "x\n"s, "x"s, "\n"s, "x\n y"s}) {
       MemoryFile file(text + padding);
       const bool is_padded = !text.empty() && text.back() == '\n';
-      EXPECT_EQ(qel::proio::length_without_padding(file), static_cast<std::int64_t>(text.size() + (is_padded ? 0 : blanks)))
+      EXPECT_EQ(qel::proio::length_without_padding(file),
+                static_cast<std::int64_t>(text.size() + (is_padded ? 0 : blanks)))
           << testing::PrintToString(text) << ' ' << blanks;
-      EXPECT_EQ(static_cast<std::int64_t>(qel::proio::length_without_padding(std::string_view(file.bytes))),
+      EXPECT_EQ(static_cast<std::int64_t>(
+                    qel::proio::length_without_padding(std::string_view(file.bytes))),
                 qel::proio::length_without_padding(file));
     }
   }

@@ -8,7 +8,8 @@
 #include "proio/lines_fixture.h"
 #include "support/comma_locale.h"
 
-// How the object finds and rewrites lines, seen through its accessors, and what it does with files that nobody meant.
+// How the object finds and rewrites lines, seen through its accessors, and what it does with files
+// that nobody meant.
 
 namespace qelpro_test {
 namespace {
@@ -31,13 +32,15 @@ TEST_F(Lines, PointOfALaterStageIsTakenForAMissingOne) {
 TEST_F(Lines, KeyOfALaterSectionIsOverwrittenThere) {
   over("[FileHeader]\nDate = x\n[Flow-1]\nMeltTemp = 1\n[Flow-2]\nFillTime = 2\n");
   EXPECT_TRUE(object_.SetFillTime(9, 1));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n[Flow-2]\n" + entry("FillTime", "9"));
+  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n[Flow-2]\n" +
+                                entry("FillTime", "9"));
 }
 
 TEST_F(Lines, MissingKeyIsAppendedAtTheEndOfTheFileAndFoundThere) {
   over("[FileHeader]\nDate = x\n[Flow-1]\nFRSet = 2\n[Last]\nz = 1\n");
   EXPECT_TRUE(object_.SetFRProfile(3, 10, 20, 1));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nFRSet = 2\n[Last]\nz = 1\n" + entry("FR-3", "10\t20"));
+  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate +
+                                "[Flow-1]\nFRSet = 2\n[Last]\nz = 1\n" + entry("FR-3", "10\t20"));
   double x = 0;
   double y = 0;
   EXPECT_TRUE(object_.GetFRProfile(3, x, y, 1));
@@ -70,7 +73,8 @@ TEST_F(Lines, HeaderOnTheFirstByteCounts) {
 
 TEST_F(Lines, TextKeepsItsLineFeedAndItsTrailingBlanks) {
   EXPECT_EQ(remark_of("[Machine]\nRemark =   any remark \t \n"), "any remark \t \n");
-  EXPECT_EQ(remark_of("[Machine]\nRemark = \tany\n"), "\tany\n") << "only blanks are skipped at the front";
+  EXPECT_EQ(remark_of("[Machine]\nRemark = \tany\n"), "\tany\n")
+      << "only blanks are skipped at the front";
   EXPECT_EQ(remark_of("[Machine]\nRemark = a = b\n"), "a = b\n");
   EXPECT_EQ(remark_of("[Machine]\nRemark =\n"), "\n");
   EXPECT_EQ(remark_of("[Machine]\nRemark = last line"), "last line");
@@ -88,7 +92,8 @@ TEST_F(Lines, LongLineIsSeveralLines) {
   EXPECT_EQ(fill_time(), 2) << "what stands behind 127 characters is a line of its own";
   over("[Flow-1]\n" + filler.substr(1) + "FillTime = 2\n");
   EXPECT_EQ(fill_time(), 777);
-  EXPECT_EQ(remark_of("[Machine]\nRemark = " + std::string(300, 'y') + "\n"), std::string(127 - 9, 'y'));
+  EXPECT_EQ(remark_of("[Machine]\nRemark = " + std::string(300, 'y') + "\n"),
+            std::string(127 - 9, 'y'));
 }
 
 TEST_F(Lines, RewriteOfALongLineReplacesItWhole) {
@@ -97,12 +102,15 @@ TEST_F(Lines, RewriteOfALongLineReplacesItWhole) {
       SCOPED_TRACE(length);
       std::string line = "Remark = ";
       line.resize(length, 'y');
-      const std::string before = "[FileHeader]" + line_break + "Date = x" + line_break + "[Machine]" + line_break;
+      const std::string before =
+          "[FileHeader]" + line_break + "Date = x" + line_break + "[Machine]" + line_break;
       over(before + line + line_break + "Grade = 1" + line_break);
       char text[] = "short";
       EXPECT_TRUE(object_.SetMachineRemark(text));
       const std::string after = bytes();
-      EXPECT_NE(after.find("[Machine]" + line_break + "Remark         = short" + line_break + "Grade = 1" + line_break + " "), std::string::npos);
+      EXPECT_NE(after.find("[Machine]" + line_break + "Remark         = short" + line_break +
+                           "Grade = 1" + line_break + " "),
+                std::string::npos);
     }
   }
 }
@@ -112,16 +120,22 @@ TEST_F(Lines, RewriteOfALongLastLineReplacesItWhole) {
   char text[] = "short";
   EXPECT_TRUE(object_.SetMachineRemark(text));
   const std::string after = masked_bytes();
-  EXPECT_EQ(after.substr(0, after.find_last_not_of(' ') + 1), "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "short"));
+  EXPECT_EQ(after.substr(0, after.find_last_not_of(' ') + 1),
+            "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "short"));
 }
 
 TEST_F(Lines, SameStoreTwiceLeavesWhatOneLeaves) {
-  for (const std::string& head : {std::string("[FileHeader]\nDate = x\n"), std::string("[FileHeader]\r\nDate = x\r\n"), std::string()}) {
-    for (std::string text : {std::string("short"), std::string(110, 'v'), std::string(111, 'v'), std::string(169, 'v'), std::string(5000, 'v'),
-                             std::string("text\n"), std::string("text\r\n"), std::string("\n\n"), std::string("two\nlines"),
-                             std::string("two\n") + std::string(300, 'v') + "\n", std::string("  ")}) {
+  for (const std::string& head : {std::string("[FileHeader]\nDate = x\n"),
+                                  std::string("[FileHeader]\r\nDate = x\r\n"), std::string()}) {
+    for (std::string text :
+         {std::string("short"), std::string(110, 'v'), std::string(111, 'v'), std::string(169, 'v'),
+          std::string(5000, 'v'), std::string("text\n"), std::string("text\r\n"),
+          std::string("\n\n"), std::string("two\nlines"),
+          std::string("two\n") + std::string(300, 'v') + "\n", std::string("  ")}) {
       SCOPED_TRACE(testing::PrintToString(text));
-      const auto store = [&] { return object_.SetProject(text.data()) && object_.SetBCCountName(1, 2, text.data()); };
+      const auto store = [&] {
+        return object_.SetProject(text.data()) && object_.SetBCCountName(1, 2, text.data());
+      };
       over(head);
       EXPECT_TRUE(store());
       const std::string once = masked_bytes();
@@ -154,7 +168,8 @@ TEST_F(Lines, AThousandStoresOfALongPathDoNotLetTheFileGrow) {
 }
 
 TEST_F(Lines, ShorterValueLeavesBlanksAtTheEndThatLaterOnesUseAgain) {
-  over("[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Machine]\n" + entry("Remark", "a long remark") + entry("Grade", "g"));
+  over("[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Machine]\n" +
+       entry("Remark", "a long remark") + entry("Grade", "g"));
   const std::size_t size = bytes().size();
   char brief[] = "brief";
   char longer[] = "a longer one";
@@ -166,13 +181,15 @@ TEST_F(Lines, ShorterValueLeavesBlanksAtTheEndThatLaterOnesUseAgain) {
     object_.SetMachineRemark(brief);
     object_.SetMeshLayer(i % 2 == 0 ? 6 : 1000000);
   }
-  EXPECT_LE(bytes().size(), size + std::string("\n[Summary]\n").size() + entry("TotalNdivz", "1000000").size());
+  EXPECT_LE(bytes().size(),
+            size + std::string("\n[Summary]\n").size() + entry("TotalNdivz", "1000000").size());
 }
 
 TEST_F(Lines, MissingLastLineBreakIsWrittenFirst) {
   over("[FileHeader]\nDate = x\n[Flow-1]\nMeltTemp = 1");
   EXPECT_TRUE(object_.SetFillTime(2, 1));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n" + entry("FillTime", "2"));
+  EXPECT_EQ(masked_bytes(),
+            "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n" + entry("FillTime", "2"));
   EXPECT_EQ(fill_time(), 2);
 }
 
@@ -180,8 +197,8 @@ TEST_F(Lines, FileOfWindowsLineBreaksKeepsThem) {
   over("[FileHeader]\r\nDate = x\r\n[Flow-1]\r\nMeltTemp = 1\r\n");
   EXPECT_TRUE(object_.SetFillTime(2, 1));
   EXPECT_TRUE(object_.SetMeshLayer(6));
-  std::string expected =
-      "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n" + entry("FillTime", "2") + "\n[Summary]\n" + entry("TotalNdivz", "6");
+  std::string expected = "[FileHeader]\n" + kMaskedDate + "[Flow-1]\nMeltTemp = 1\n" +
+                         entry("FillTime", "2") + "\n[Summary]\n" + entry("TotalNdivz", "6");
   for (std::size_t at = 0; (at = expected.find('\n', at)) != std::string::npos; at += 2) {
     expected.insert(at, "\r");
   }
@@ -203,7 +220,8 @@ TEST_F(Lines, RestOfAnyLengthIsKept) {
   rest += "long = " + std::string(20000, 'v') + "\n";
   over("[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Flow-1]\nFillTime = 1\n" + rest);
   EXPECT_TRUE(object_.SetFillTime(2, 1));
-  EXPECT_TRUE(masked_bytes() == "[FileHeader]\n" + kMaskedDate + "[Flow-1]\n" + entry("FillTime", "2") + rest);
+  EXPECT_TRUE(masked_bytes() ==
+              "[FileHeader]\n" + kMaskedDate + "[Flow-1]\n" + entry("FillTime", "2") + rest);
 }
 
 TEST_F(Lines, WriteIsSeenByTheNextReadOfAnotherObject) {
@@ -220,13 +238,16 @@ TEST_F(Lines, TextWithALineFeedIsWrittenAsItStands) {
   // What a getter handed out carries its line feed; writing it back leaves an empty line behind.
   char text[] = "any remark\n";
   EXPECT_TRUE(over("[FileHeader]\nDate = x\n[Machine]\nRemark = 1\n").SetMachineRemark(text));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "any remark\n"));
+  EXPECT_EQ(masked_bytes(),
+            "[FileHeader]\n" + kMaskedDate + "[Machine]\n" + entry("Remark", "any remark\n"));
 }
 
 TEST_F(Lines, LineFeedOfATextBecomesTheFilesOwnLineBreak) {
   char text[] = "one\ntwo\r\n";
-  EXPECT_TRUE(over("[FileHeader]\r\nDate = x\r\n[Machine]\r\nRemark = 1\r\n").SetMachineRemark(text));
-  EXPECT_NE(bytes().find("[Machine]\r\nRemark         = one\r\ntwo\r\n\r\n"), std::string::npos) << bytes();
+  EXPECT_TRUE(
+      over("[FileHeader]\r\nDate = x\r\n[Machine]\r\nRemark = 1\r\n").SetMachineRemark(text));
+  EXPECT_NE(bytes().find("[Machine]\r\nRemark         = one\r\ntwo\r\n\r\n"), std::string::npos)
+      << bytes();
 }
 
 TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
@@ -246,17 +267,23 @@ TEST_F(Lines, WritesToAFileThatCannotBeOpenedYieldTrueAndTouchNothing) {
 TEST_F(Lines, EndMarkAtTheVeryEndIsPadding) {
   const std::string head = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00");
   const std::string masked_head = "[FileHeader]\n" + kMaskedDate;
-  for (const std::string& end : {std::string("\n\x1A"), std::string("\x1A"), std::string("\n  \x1A   "), std::string("\n\x1A \x1A"),
-                                 std::string("\x1A  \x1A"), std::string("\n") + std::string(5000, ' ') + "\x1A" + std::string(5000, ' ')}) {
+  for (const std::string& end :
+       {std::string("\n\x1A"), std::string("\x1A"), std::string("\n  \x1A   "),
+        std::string("\n\x1A \x1A"), std::string("\x1A  \x1A"),
+        std::string("\n") + std::string(5000, ' ') + "\x1A" + std::string(5000, ' ')}) {
     SCOPED_TRACE(testing::PrintToString(end));
-    EXPECT_EQ(remark_of(head + "[Machine]\nRemark = last" + end), end[0] == '\n' ? "last\n" : "last");
+    EXPECT_EQ(remark_of(head + "[Machine]\nRemark = last" + end),
+              end[0] == '\n' ? "last\n" : "last");
     EXPECT_TRUE(object_.SetFillTime(2, 1));
-    EXPECT_EQ(masked_bytes().find(masked_head + "[Machine]\nRemark = last\n" + (end[0] == '\n' ? "\n" : "") + "[Flow-1]\n" + entry("FillTime", "2")),
-              0U);
+    EXPECT_EQ(
+        masked_bytes().find(masked_head + "[Machine]\nRemark = last\n" +
+                            (end[0] == '\n' ? "\n" : "") + "[Flow-1]\n" + entry("FillTime", "2")),
+        0U);
     EXPECT_EQ(fill_time(), 2);
     over(head + "[Flow-1]\nMeltTemp = 3" + end);
     EXPECT_TRUE(object_.SetFillTime(2, 1));
-    EXPECT_EQ(masked_bytes().find(masked_head + "[Flow-1]\nMeltTemp = 3\n" + entry("FillTime", "2")), 0U);
+    EXPECT_EQ(
+        masked_bytes().find(masked_head + "[Flow-1]\nMeltTemp = 3\n" + entry("FillTime", "2")), 0U);
     over(head + "[Flow-1]\nFillTime = 3" + end);
     EXPECT_TRUE(object_.SetFillTime(2, 1));
     EXPECT_EQ(masked_bytes().find(masked_head + "[Flow-1]\n" + entry("FillTime", "2")), 0U);
@@ -272,7 +299,9 @@ TEST_F(Lines, EndMarkAtTheVeryEndIsPadding) {
     EXPECT_FALSE(object_.GetBCCountName(2, count, name));
     char two[] = "Two";
     EXPECT_TRUE(object_.SetBCCountName(2, 2, two));
-    EXPECT_EQ(masked_bytes().find(masked_head + "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n2\tTwo\n"), 0U);
+    EXPECT_EQ(masked_bytes().find(masked_head +
+                                  "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n2\tTwo\n"),
+              0U);
   }
   over("\x1A");
   EXPECT_TRUE(object_.SetFillTime(2, 1));
@@ -333,9 +362,11 @@ TEST_F(Lines, FileThatShrinksOrGoesBetweenTwoCallsIsReadAsItIs) {
 
 TEST_F(Lines, HostileFilesAreAnsweredByEveryGetter) {
   using namespace std::string_literals;
-  for (const std::string& contents : {""s, "\n"s, std::string(500, ' '), std::string(20000, 'x'), "[Flow-2]\0\nFillTime\0 = 1\nFR-3 = \0 1 2\n"s,
-                                      std::string(5000, '\0'), "[Flow-2]\nFillTime = "s + std::string(9000, '9') + "\n", std::string(300, '\xFF'),
-                                      "[\n]\n=\n==\n[Flow-2]\n=\n"s, "[Flow-2]\r\r\nFillTime=1\r\r\n"s}) {
+  for (const std::string& contents :
+       {""s, "\n"s, std::string(500, ' '), std::string(20000, 'x'),
+        "[Flow-2]\0\nFillTime\0 = 1\nFR-3 = \0 1 2\n"s, std::string(5000, '\0'),
+        "[Flow-2]\nFillTime = "s + std::string(9000, '9') + "\n", std::string(300, '\xFF'),
+        "[\n]\n=\n==\n[Flow-2]\n=\n"s, "[Flow-2]\r\r\nFillTime=1\r\r\n"s}) {
     over(contents);
     for (const auto& row : integer_accessors()) {
       int value = 777;

@@ -21,11 +21,13 @@ TEST_F(Lines, ReadOnlyFileIsReadAndKept) {
 }
 
 TEST_F(Lines, FileThatMayGrowNoFurtherIsKept) {
-  const std::string contents = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Flow-1]\nFillTime = 1\n";
+  const std::string contents =
+      "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + "[Flow-1]\nFillTime = 1\n";
   over(contents);
   char longer[] = "0123456789012345678901234567890123456789";
   EXPECT_TRUE(in_child({.longest_file = contents.size() + 5}, [&] {
-    return object_.SetMachineRemark(longer) && object_.SetProject(longer) && object_.SetBCCountName(1, 2, longer) && object_.SetBCProfile(1, 1, 2, 3);
+    return object_.SetMachineRemark(longer) && object_.SetProject(longer) &&
+           object_.SetBCCountName(1, 2, longer) && object_.SetBCProfile(1, 1, 2, 3);
   }));
   EXPECT_EQ(bytes(), contents) << "a store that was not done leaves no stamp";
 }

@@ -12,7 +12,8 @@
 #include "proio/support.h"
 #include "support/line_break.h"
 
-// The object against a second, naive reading of its text rules: the whole file in memory, cut into lines.
+// The object against a second, naive reading of its text rules: the whole file in memory, cut into
+// lines.
 
 namespace qelpro_test {
 namespace {
@@ -43,7 +44,8 @@ class Model {
     write("[SURFACE", "", position, line + "\n");
     write("[FileHeader]", "Date", 0, entry("Date", kDate));
   }
-  [[nodiscard]] std::optional<std::string> get(const std::string& section, const std::string& key) const {
+  [[nodiscard]] std::optional<std::string> get(const std::string& section,
+                                               const std::string& key) const {
     const auto [found, line] = find(section, key, 0);
     if (!line) {
       return std::nullopt;
@@ -59,10 +61,12 @@ class Model {
     const auto found = find("[SURFACE", "", position).second;
     return found ? std::optional<std::string>(found->text) : std::nullopt;
   }
-  // Behind the names of as many conditions as the summary tells, and the points of the conditions before.
+  // Behind the names of as many conditions as the summary tells, and the points of the conditions
+  // before.
   [[nodiscard]] int line_of_point(int condition, int point, bool& named) const {
     named = behind_header("[SURFACE", false).has_value();
-    int position = std::max(leading_number(get("[Summary]", "TotalNodeBC").value_or("0")), 0) + point;
+    int position =
+        std::max(leading_number(get("[Summary]", "TotalNodeBC").value_or("0")), 0) + point;
     for (int k = 1; k < condition; ++k) {
       const auto name = line(k);
       named = named && name;
@@ -86,40 +90,52 @@ class Model {
     while (end > 0 && (text_[end - 1] == ' ' || text_[end - 1] == '\x1A')) {
       --end;
     }
-    return end > 0 && text_[end - 1] == '\n' ? end : std::min(text_.find('\x1A', end), text_.size());
+    return end > 0 && text_[end - 1] == '\n' ? end
+                                             : std::min(text_.find('\x1A', end), text_.size());
   }
 
   [[nodiscard]] std::vector<Line> lines() const {
     std::vector<Line> all;
     const std::string contents = text_.substr(0, contents_end());
     for (std::size_t at = 0; at < contents.size();) {
-      const std::size_t end = std::min({contents.find('\n', at), contents.size() - 1, at + 126}) + 1;
+      const std::size_t end =
+          std::min({contents.find('\n', at), contents.size() - 1, at + 126}) + 1;
       all.push_back({at, end, contents.substr(at, end - at), at == 0 || contents[at - 1] == '\n'});
       at = end;
     }
     return all;
   }
 
-  static std::string leading_word(const std::string& line) { return line.substr(0, line.find_first_of("\t\n =")); }
+  static std::string leading_word(const std::string& line) {
+    return line.substr(0, line.find_first_of("\t\n ="));
+  }
 
   static bool begins_section(const Line& line) {
     static const std::regex word_in_brackets(R"(\[[^ \t=\n]*\](\n?|[ \t]+([^= \t][^]*)?))");
     static const std::regex all_in_brackets(R"(\[[^]*\][ \t]*\n?)");
     return line.begins &&
-           (std::regex_match(line.text, word_in_brackets) || std::regex_match(line.text, all_in_brackets) || leading_word(line.text) == "[SURFACE");
+           (std::regex_match(line.text, word_in_brackets) ||
+            std::regex_match(line.text, all_in_brackets) || leading_word(line.text) == "[SURFACE");
   }
 
-  // The lines from behind the section's header to the next header, or all of the file's where `whole`; none without the section.
-  [[nodiscard]] std::optional<std::vector<Line>> behind_header(const std::string& section, bool whole) const {
+  // The lines from behind the section's header to the next header, or all of the file's where
+  // `whole`; none without the section.
+  [[nodiscard]] std::optional<std::vector<Line>> behind_header(const std::string& section,
+                                                               bool whole) const {
     std::vector<Line> all = lines();
-    const auto header = std::find_if(all.begin(), all.end(), [&](const Line& line) { return leading_word(line.text) == section; });
+    const auto header = std::find_if(all.begin(), all.end(), [&](const Line& line) {
+      return leading_word(line.text) == section;
+    });
     if (header == all.end()) {
       return std::nullopt;
     }
-    return std::vector<Line>(header + 1, whole ? all.end() : std::find_if(header + 1, all.end(), begins_section));
+    return std::vector<Line>(
+        header + 1, whole ? all.end() : std::find_if(header + 1, all.end(), begins_section));
   }
 
-  [[nodiscard]] std::pair<bool, std::optional<Line>> find(const std::string& section, const std::string& key, int position) const {
+  [[nodiscard]] std::pair<bool, std::optional<Line>> find(const std::string& section,
+                                                          const std::string& key,
+                                                          int position) const {
     const auto behind = behind_header(section, position <= 0);
     if (!behind) {
       return {false, std::nullopt};
@@ -136,21 +152,28 @@ class Model {
   // Where the section's lines end, the empty ones at its end left out where asked for.
   [[nodiscard]] std::size_t end_of(const std::string& section, bool without_empty_lines) const {
     std::vector<Line> all = *behind_header(section, false);
-    std::size_t end =
-        all.empty() ? behind_header(section, true)->empty() ? contents_end() : behind_header(section, true)->front().start : all.back().end;
-    for (; without_empty_lines && !all.empty() && all.back().begins && all.back().text.find_first_not_of(" \t\n") == std::string::npos;
+    std::size_t end = all.empty() ? behind_header(section, true)->empty()
+                                        ? contents_end()
+                                        : behind_header(section, true)->front().start
+                                  : all.back().end;
+    for (; without_empty_lines && !all.empty() && all.back().begins &&
+           all.back().text.find_first_not_of(" \t\n") == std::string::npos;
          all.pop_back()) {
       end = all.back().start;
     }
     return end;
   }
 
-  void write(const std::string& section, const std::string& key, int position, const std::string& line) {
+  void write(const std::string& section, const std::string& key, int position,
+             const std::string& line) {
     const std::string old_text = text_;
     const std::size_t old_end = contents_end();
     const auto [found, old_line] = find(section, key, position);
-    const std::string header = "\n" + (position > 0 ? std::string("[SURFACE ELEMENT BOUNDARY CONDITION NAME]") : section) + "\n";
-    const bool block_is_last = behind_header("[SURFACE", false) && end_of("[SURFACE", false) == contents_end();
+    const std::string header =
+        "\n" + (position > 0 ? std::string("[SURFACE ELEMENT BOUNDARY CONDITION NAME]") : section) +
+        "\n";
+    const bool block_is_last =
+        behind_header("[SURFACE", false) && end_of("[SURFACE", false) == contents_end();
     std::size_t at = contents_end();
     std::size_t end = at;
     std::string written = line;
@@ -318,12 +341,14 @@ TEST(SelfContainedObject, AgreesWithANaiveModel) {
           const bool done = object.GetFillTime(time, stage);
           const auto expected = model.get(flow, "FillTime");
           ASSERT_EQ(done, expected.has_value());
-          ASSERT_EQ(time, expected && !expected->empty() && *expected != "\n" ? std::stod(*expected) : -1);
+          ASSERT_EQ(time, expected && !expected->empty() && *expected != "\n" ? std::stod(*expected)
+                                                                              : -1);
           found += done ? 1 : 0;
           break;
         }
       }
-      ASSERT_EQ(with_plain_dates(bytes_of(path)), with_plain_dates(model.text())) << "after step " << step << " from " << contents;
+      ASSERT_EQ(with_plain_dates(bytes_of(path)), with_plain_dates(model.text()))
+          << "after step " << step << " from " << contents;
     }
   }
   EXPECT_GT(found, 1000) << "the reads have something to find";

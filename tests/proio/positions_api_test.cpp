@@ -6,8 +6,8 @@
 #include "QELPROEngine/QELPROEngine.h"
 #include "proio/support.h"
 
-// The boundary conditions stand in lines that are addressed by position. They end where the next section begins, and no other
-// section's entry is one of them.
+// The boundary conditions stand in lines that are addressed by position. They end where the next
+// section begins, and no other section's entry is one of them.
 
 namespace qelpro_test {
 namespace {
@@ -29,8 +29,9 @@ const char* const kHeaders[] = {"[Cool]",
                                 "[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
                                 "[SURFACE ELEMENT BOUNDARY CONDITION NAME] again",
                                 "[]"};
-const char* const kOtherLines[] = {"[Cool] = 5", "[Cool]=5",           "[Cool] \t= 5", "[Cool", "Cool]",
-                                   " [Cool]",    "[A HEADER]of words", "[A=] b",       "[",     "x [Cool]"};
+const char* const kOtherLines[] = {"[Cool] = 5", "[Cool]=5", "[Cool] \t= 5",       "[Cool",
+                                   "Cool]",      " [Cool]",  "[A HEADER]of words", "[A=] b",
+                                   "[",          "x [Cool]"};
 
 std::string windows(std::string text) {
   for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
@@ -41,7 +42,9 @@ std::string windows(std::string text) {
 
 class Positions : public ProcessObject {
  protected:
-  bool set_name(int line, int count, std::string name) { return object_.SetBCCountName(line, count, name.data()); }
+  bool set_name(int line, int count, std::string name) {
+    return object_.SetBCCountName(line, count, name.data());
+  }
   std::string name_at(int line) {
     int count = 777;
     char* name = nullptr;
@@ -55,7 +58,8 @@ class Positions : public ProcessObject {
     double y = 777;
     const bool found = object_.GetBCProfile(bc, point, x, y);
     EXPECT_TRUE(found || (x == 777 && y == 777));
-    return found ? std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y)) : "(none)";
+    return found ? std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y))
+                 : "(none)";
   }
   int boundary_conditions() {
     int count = 777;
@@ -72,12 +76,15 @@ class Positions : public ProcessObject {
 TEST_F(Positions, PointsBehindTheBlockLeaveTheNextSectionAlone) {
   over("");
   char file[] = "x";
-  EXPECT_TRUE(object_.SetFileName(file) && object_.SetBoundaryConditionNo(1) && set_name(1, 2, "top"));
+  EXPECT_TRUE(object_.SetFileName(file) && object_.SetBoundaryConditionNo(1) &&
+              set_name(1, 2, "top"));
   EXPECT_TRUE(object_.SetBCProfile(1, 1, 0, 5) && object_.SetBCProfile(1, 2, 1, 5));
   EXPECT_TRUE(object_.SetCoolTime(12) && object_.SetOpenTime(3));
-  EXPECT_TRUE(set_name(1, 4, "top") && object_.SetBCProfile(1, 3, 2, 5) && object_.SetBCProfile(1, 4, 3, 5));
+  EXPECT_TRUE(set_name(1, 4, "top") && object_.SetBCProfile(1, 3, 2, 5) &&
+              object_.SetBCProfile(1, 4, 3, 5));
   EXPECT_EQ(name_at(1), "4 top");
-  EXPECT_EQ(point_at(1, 1) + ", " + point_at(1, 2) + ", " + point_at(1, 3) + ", " + point_at(1, 4), "0 5, 1 5, 2 5, 3 5");
+  EXPECT_EQ(point_at(1, 1) + ", " + point_at(1, 2) + ", " + point_at(1, 3) + ", " + point_at(1, 4),
+            "0 5, 1 5, 2 5, 3 5");
   EXPECT_EQ(cool_time(), 12);
   double open_time = 0;
   EXPECT_TRUE(object_.GetOpenTime(open_time));
@@ -99,7 +106,8 @@ TEST_F(Positions, NewKeyBehindTheBlockIsNoneOfItsLines) {
 TEST_F(Positions, BehindTheNextHeaderNothingIsFound) {
   for (const std::string header : kHeaders) {
     SCOPED_TRACE(header);
-    over("[Summary]\nTotalNodeBC = 1\n" + kBlock + "1\tTop\n1 = 2\t3\n" + header + "\n5\tFive\n1 = 7\t8\n");
+    over("[Summary]\nTotalNodeBC = 1\n" + kBlock + "1\tTop\n1 = 2\t3\n" + header +
+         "\n5\tFive\n1 = 7\t8\n");
     EXPECT_EQ(name_at(1), "1 Top");
     EXPECT_EQ(name_at(3) + name_at(4) + name_at(5), "(none)(none)(none)");
     EXPECT_EQ(point_at(1, 1), "2 3");
@@ -119,7 +127,8 @@ TEST_F(Positions, LineThatBeginsNoSectionIsOneOfTheBlock) {
     over(kStamp + kBlock + "1\tTop\n" + other + "\n5\tFive\n");
     EXPECT_EQ(name_at(3), "5 Five");
     EXPECT_TRUE(set_name(3, 6, "Six"));
-    EXPECT_EQ(masked_bytes().substr(0, masked_bytes().find_last_not_of(' ') + 1), kStamped + kBlock + "1\tTop\n" + other + "\n6\tSix\n");
+    EXPECT_EQ(masked_bytes().substr(0, masked_bytes().find_last_not_of(' ') + 1),
+              kStamped + kBlock + "1\tTop\n" + other + "\n6\tSix\n");
   }
 }
 
@@ -131,7 +140,9 @@ TEST_F(Positions, LineBehindTheLastIsWrittenInFrontOfTheNextHeader) {
         const std::string all = kStamped + kBlock + lines + header + "\nCoolTime = 5\n";
         return carriage_returns ? windows(all) : all;
       };
-      const auto with_date = [&](std::string all) { return all.replace(all.find("<date>"), 6, "2001/01/01 00:00:00"); };
+      const auto with_date = [&](std::string all) {
+        return all.replace(all.find("<date>"), 6, "2001/01/01 00:00:00");
+      };
       over(with_date(text("1\tTop\n")));
       EXPECT_TRUE(set_name(2, 5, "Five"));
       EXPECT_EQ(masked_bytes(), text("1\tTop\n5\tFive\n"));
@@ -167,18 +178,26 @@ TEST_F(Positions, NewKeyGoesIntoItsSectionWhereTheBlockIsLast) {
     std::string before;
     std::string after;
   } rows[] = {
-      {"its section is the one before", "[Cool]\nOpenTime = 1\n" + block, "[Cool]\nOpenTime = 1\n" + key + block},
-      {"no line between", "[Cool]\nOpenTime = 1\n" + block.substr(1), "[Cool]\nOpenTime = 1\n" + key + block.substr(1)},
-      {"two empty lines between", "[Cool]\nOpenTime = 1\n\n" + block, "[Cool]\nOpenTime = 1\n" + key + "\n" + block},
+      {"its section is the one before", "[Cool]\nOpenTime = 1\n" + block,
+       "[Cool]\nOpenTime = 1\n" + key + block},
+      {"no line between", "[Cool]\nOpenTime = 1\n" + block.substr(1),
+       "[Cool]\nOpenTime = 1\n" + key + block.substr(1)},
+      {"two empty lines between", "[Cool]\nOpenTime = 1\n\n" + block,
+       "[Cool]\nOpenTime = 1\n" + key + "\n" + block},
       {"its section has no line", "[Cool]" + block, "[Cool]\n" + key + block.substr(1)},
       {"another section between", "[Cool]\nOpenTime = 1\n\n[Pack-1]\nx = 1\n" + block,
        "[Cool]\nOpenTime = 1\n" + key + "\n[Pack-1]\nx = 1\n" + block},
-      {"a header with words between", "[Cool] a\n[Pack-1] note\nx = 1\n" + block, "[Cool] a\n" + key + "[Pack-1] note\nx = 1\n" + block},
-      {"a header with words of the block", "[Cool]\n[SURFACE X] note\n1\tTop\n", "[Cool]\n" + key + "[SURFACE X] note\n1\tTop\n"},
+      {"a header with words between", "[Cool] a\n[Pack-1] note\nx = 1\n" + block,
+       "[Cool] a\n" + key + "[Pack-1] note\nx = 1\n" + block},
+      {"a header with words of the block", "[Cool]\n[SURFACE X] note\n1\tTop\n",
+       "[Cool]\n" + key + "[SURFACE X] note\n1\tTop\n"},
       {"no section", "[Pack-1]\nx = 1\n" + block, "[Pack-1]\nx = 1\n" + block + "\n[Cool]\n" + key},
-      {"its name in a line of the block", "[Pack-1]\n" + block + "[Cool] = x\n", "[Pack-1]\n" + block + "[Cool] = x\n\n[Cool]\n" + key},
-      {"no line break at the end", "[Cool]\n" + kBlock + "1\tTop", "[Cool]\n" + key + kBlock + "1\tTop"},
-      {"no section and no line break at the end", kBlock + "1\tTop", kBlock + "1\tTop\n[Cool]\n" + key},
+      {"its name in a line of the block", "[Pack-1]\n" + block + "[Cool] = x\n",
+       "[Pack-1]\n" + block + "[Cool] = x\n\n[Cool]\n" + key},
+      {"no line break at the end", "[Cool]\n" + kBlock + "1\tTop",
+       "[Cool]\n" + key + kBlock + "1\tTop"},
+      {"no section and no line break at the end", kBlock + "1\tTop",
+       kBlock + "1\tTop\n[Cool]\n" + key},
       {"a long line in front of the block", "[Cool]\n" + std::string(200, 'y') + "\n" + block,
        "[Cool]\n" + std::string(200, 'y') + "\n" + key + block},
   };
@@ -186,7 +205,9 @@ TEST_F(Positions, NewKeyGoesIntoItsSectionWhereTheBlockIsLast) {
     for (const bool carriage_returns : {false, true}) {
       for (const bool mark : {false, true}) {
         SCOPED_TRACE(row.what);
-        const auto text = [&](const std::string& lines) { return (mark ? "\xEF\xBB\xBF" : "") + (carriage_returns ? windows(lines) : lines); };
+        const auto text = [&](const std::string& lines) {
+          return (mark ? "\xEF\xBB\xBF" : "") + (carriage_returns ? windows(lines) : lines);
+        };
         over(text(kStamp + row.before));
         const std::string lines = name_at(1) + name_at(2);
         EXPECT_TRUE(object_.SetCoolTime(5));
@@ -200,10 +221,12 @@ TEST_F(Positions, NewKeyGoesIntoItsSectionWhereTheBlockIsLast) {
 
 TEST_F(Positions, NewKeyGoesToTheEndOfTheFileWhereAnotherSectionIsLast) {
   const std::string block = kBlock + "1\tTop\n";
-  for (const std::string header : {"[Last]", "[Last] note", "[LAST ONE]", "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"}) {
+  for (const std::string header :
+       {"[Last]", "[Last] note", "[LAST ONE]", "[SURFACE ELEMENT BOUNDARY CONDITION NAME]"}) {
     over(kStamp + "[Cool]\nOpenTime = 1\n" + block + header + "\nz = 1\n");
     EXPECT_TRUE(object_.SetCoolTime(5));
-    EXPECT_EQ(masked_bytes(), kStamped + "[Cool]\nOpenTime = 1\n" + block + header + "\nz = 1\n" + entry("CoolTime", "5"));
+    EXPECT_EQ(masked_bytes(), kStamped + "[Cool]\nOpenTime = 1\n" + block + header + "\nz = 1\n" +
+                                  entry("CoolTime", "5"));
     EXPECT_EQ(cool_time(), 5);
   }
 }
@@ -228,12 +251,13 @@ TEST_F(Positions, StampOfANewHeadDoesNotCountAsALine) {
   EXPECT_TRUE(set_name(3, 3, "Three"));
   EXPECT_TRUE(set_name(4, 4, "Four"));
   EXPECT_EQ(name_at(1) + name_at(2) + name_at(3) + name_at(4), "1 Top2 Two3 Three4 Four");
-  EXPECT_EQ(masked_bytes(), "[Pack-1]\nx = 1\n" + kBlock + "1\tTop\n2\tTwo\n3\tThree\n4\tFour\n[FileHeader]\n" + kMaskedDate);
+  EXPECT_EQ(masked_bytes(), "[Pack-1]\nx = 1\n" + kBlock +
+                                "1\tTop\n2\tTwo\n3\tThree\n4\tFour\n[FileHeader]\n" + kMaskedDate);
 }
 
 TEST_F(Positions, LinesWrittenInOrderStandOneBelowTheOther) {
-  for (const std::string& before :
-       {std::string("\n"), kStamp, kStamp + "[Cool]\nOpenTime = 1\n", kStamp + kBlock, kStamp + kBlock + "[Cool]\nx = 1\n"}) {
+  for (const std::string& before : {std::string("\n"), kStamp, kStamp + "[Cool]\nOpenTime = 1\n",
+                                    kStamp + kBlock, kStamp + kBlock + "[Cool]\nx = 1\n"}) {
     over(before);
     std::string lines;
     for (int line = 1; line <= 9; ++line) {
@@ -250,7 +274,8 @@ TEST_F(Positions, LinesWrittenInOrderStandOneBelowTheOther) {
 }
 
 TEST_F(Positions, PaddingIsNoLineAndIsUsedAgain) {
-  over(kStamp + kBlock + "1\tTop\n1 = 2\t3\n[Cool]\nRemark = a long line that is going to be a short one\n");
+  over(kStamp + kBlock +
+       "1\tTop\n1 = 2\t3\n[Cool]\nRemark = a long line that is going to be a short one\n");
   const std::size_t size = bytes().size();
   put_bytes(path_, kStamp + kBlock + "1\tTop\n" + std::string(60, ' '));
   EXPECT_EQ(name_at(2), "(none)");
@@ -261,18 +286,21 @@ TEST_F(Positions, PaddingIsNoLineAndIsUsedAgain) {
   EXPECT_LE(bytes().size(), size);
 }
 
-// A line of more than 127 characters counts as several lines, and a section does not begin within one.
+// A line of more than 127 characters counts as several lines, and a section does not begin within
+// one.
 TEST_F(Positions, HeaderWithinALongLineEndsNothing) {
   const std::string filler(127, 'y');
   over(kStamp + kBlock + "1\tTop\n" + filler + "[Cool] x\n4\tFour\n");
   EXPECT_EQ(name_at(4), "4 Four");
   over(kStamp + "[Cool]\nOpenTime = 1\n" + filler + "[Pack-1]\nz = 1\n" + kBlock + "1\tTop\n");
   EXPECT_TRUE(object_.SetCoolTime(5));
-  EXPECT_EQ(masked_bytes(), kStamped + "[Cool]\nOpenTime = 1\n" + filler + "[Pack-1]\nz = 1\n" + entry("CoolTime", "5") + kBlock + "1\tTop\n");
+  EXPECT_EQ(masked_bytes(), kStamped + "[Cool]\nOpenTime = 1\n" + filler + "[Pack-1]\nz = 1\n" +
+                                entry("CoolTime", "5") + kBlock + "1\tTop\n");
 }
 
 TEST_F(Positions, WithoutACountOfConditionsBothWaysCountNone) {
-  for (const std::string& head : {std::string(), std::string("[Summary]\nTotalNdivz = 6\n"), std::string("[Summary]\nTotalNodeBC = many\n")}) {
+  for (const std::string& head : {std::string(), std::string("[Summary]\nTotalNdivz = 6\n"),
+                                  std::string("[Summary]\nTotalNodeBC = many\n")}) {
     over(kStamp + head);
     EXPECT_TRUE(object_.SetBCProfile(1, 1, 2, 3) && object_.SetBCProfile(1, 2, 4, 5));
     EXPECT_NE(masked_bytes().find(kBlock + "1 = 2\t3\n2 = 4\t5\n"), std::string::npos);

@@ -8,7 +8,8 @@
 #include "proio/accessors.h"
 #include "proio/support.h"
 
-// Entries of several items: gates, coolants, control points, parting surface, ejection, inserts, mold rows.
+// Entries of several items: gates, coolants, control points, parting surface, ejection, inserts,
+// mold rows.
 
 namespace qelpro_test {
 namespace {
@@ -16,9 +17,12 @@ namespace {
 class Rows : public ProcessObject {
  protected:
   // Over a file of one entry; the stamp of a setter falls into a head that stands already.
-  Object& over_entry(const std::string& section, const std::string& line) { return over(kHead + section + "\n" + line + "\n"); }
+  Object& over_entry(const std::string& section, const std::string& line) {
+    return over(kHead + section + "\n" + line + "\n");
+  }
   Object& over_head() { return over(kHead); }
-  [[nodiscard]] static std::string written(const std::string& section, const std::string& key, const std::string& text) {
+  [[nodiscard]] static std::string written(const std::string& section, const std::string& key,
+                                           const std::string& text) {
     return "[FileHeader]\n" + kMaskedDate + "\n" + section + "\n" + entry(key, text);
   }
   const std::string kHead = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00");
@@ -43,7 +47,8 @@ TEST_F(Rows, ValveGateControlDataHasAFourthItemForModesTwoAndThree) {
   const struct {
     int mode;
     const char* text;
-  } rows[] = {{0, "5.5\t1\t0"}, {1, "5.5\t1\t1"}, {2, "5.5\t1\t2\t118"}, {3, "5.5\t1\t3\t118"}, {4, "5.5\t1\t4"}, {-1, "5.5\t1\t-1"}};
+  } rows[] = {{0, "5.5\t1\t0"},      {1, "5.5\t1\t1"}, {2, "5.5\t1\t2\t118"},
+              {3, "5.5\t1\t3\t118"}, {4, "5.5\t1\t4"}, {-1, "5.5\t1\t-1"}};
   for (const auto& row : rows) {
     EXPECT_TRUE(over_head().SetValveGateControlData(2, 7, 5.5, 1, row.mode, 118));
     EXPECT_EQ(masked_bytes(), written("[GateValve-2]", "GC-7", row.text));
@@ -55,12 +60,14 @@ TEST_F(Rows, ControlDataKeepsTheCallersValuesForItemsThatAreMissing) {
   int second = 77;
   int mode = 77;
   int fourth = 77;
-  EXPECT_TRUE(over_entry("[GateValve-2]", "GC-7 = 5.5 1 4").GetValveGateControlData(2, 7, value, second, mode, fourth));
+  EXPECT_TRUE(over_entry("[GateValve-2]", "GC-7 = 5.5 1 4")
+                  .GetValveGateControlData(2, 7, value, second, mode, fourth));
   EXPECT_EQ(value, 5.5);
   EXPECT_EQ(second, 1);
   EXPECT_EQ(mode, 4);
   EXPECT_EQ(fourth, 77);
-  EXPECT_TRUE(over_entry("[OFGateValve-2]", "GC-7 = 6.5 2 3 9").GetOverFlowControlData(2, 7, value, second, mode, fourth));
+  EXPECT_TRUE(over_entry("[OFGateValve-2]", "GC-7 = 6.5 2 3 9")
+                  .GetOverFlowControlData(2, 7, value, second, mode, fourth));
   EXPECT_EQ(value, 6.5);
   EXPECT_EQ(second, 2);
   EXPECT_EQ(mode, 3);
@@ -132,18 +139,22 @@ TEST_F(Rows, ControlPointIsWrittenUnderTheChannelsNumberWithTheLowBitsOfItsLastI
   const struct {
     double last;
     const char* text;
-  } rows[] = {{0.1, "-1717986918"}, {0.0, "0"}, {1.0, "0"}, {0.5, "0"}, {4.9406564584124654e-324, "1"}, {0.3, "858993459"}};
+  } rows[] = {{0.1, "-1717986918"},           {0.0, "0"},        {1.0, "0"}, {0.5, "0"},
+              {4.9406564584124654e-324, "1"}, {0.3, "858993459"}};
   for (const auto& row : rows) {
     EXPECT_TRUE(over_head().SetcoolChannelControlPoint(2, 5, 1.5, 3, 2.0, 4.0, row.last));
-    EXPECT_EQ(masked_bytes(), written("[CoolChannel-2]", "TCP-2", std::string("1.5\t3\t2\t4\t") + row.text));
+    EXPECT_EQ(masked_bytes(),
+              written("[CoolChannel-2]", "TCP-2", std::string("1.5\t3\t2\t4\t") + row.text));
     EXPECT_TRUE(over_head().SetMPreheatCoolChannelControlPoint(3, 5, 1.5, 3, 2.0, 4.0, row.last));
-    EXPECT_EQ(masked_bytes(), written("[MPreheat_CoolChannel-3]", "TCP-3", std::string("1.5\t3\t2\t4\t") + row.text));
+    EXPECT_EQ(masked_bytes(), written("[MPreheat_CoolChannel-3]", "TCP-3",
+                                      std::string("1.5\t3\t2\t4\t") + row.text));
   }
 }
 
 TEST_F(Rows, ControlPointIsReadUnderThePointsNumber) {
   for (const bool preheat : {false, true}) {
-    const auto get = preheat ? &Object::GetMPreheatCoolChannelControlPoint : &Object::GetCoolChannelControlPoint;
+    const auto get =
+        preheat ? &Object::GetMPreheatCoolChannelControlPoint : &Object::GetCoolChannelControlPoint;
     const char* section = preheat ? "[MPreheat_CoolChannel-2]" : "[CoolChannel-2]";
     double a = 77;
     int b = 77;
@@ -178,7 +189,9 @@ TEST_F(Rows, PartingSurfaceSidesSpellMoldBaseWithACapitalB) {
     double x = 77;
     double y = 77;
     double z = 77;
-    EXPECT_TRUE((over_entry("[PartingSurface]", row.key + std::string(" = 2 0.5 1")).*row.get)(side, x, y, z)) << row.key;
+    EXPECT_TRUE((over_entry("[PartingSurface]", row.key + std::string(" = 2 0.5 1")).*row.get)(
+        side, x, y, z))
+        << row.key;
     EXPECT_EQ(side, 2);
     EXPECT_EQ(x, 0.5);
     EXPECT_EQ(y, 1);
@@ -207,12 +220,14 @@ TEST_F(Rows, PartInsertHasANameOfOneWord) {
   int id = 77;
   char* name = nullptr;
   double temperature = 77;
-  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 3\tPin\t80.5").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 3\tPin\t80.5")
+                  .GetPartInsertSetting(2, id, name, temperature));
   EXPECT_EQ(id, 3);
   EXPECT_STREQ(name, "Pin");
   EXPECT_EQ(temperature, 80.5);
   temperature = 77;
-  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 4 Core Pin 80").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 4 Core Pin 80")
+                  .GetPartInsertSetting(2, id, name, temperature));
   EXPECT_STREQ(name, "Core");
   EXPECT_EQ(temperature, 77) << "the second word is no number";
   EXPECT_FALSE(over_head().GetPartInsertSetting(2, id, name, temperature));
@@ -225,13 +240,17 @@ TEST_F(Rows, PartInsertWithoutANameHasAnEmptyOne) {
     const char* text;
     const char* name;
     double temperature;
-  } rows[] = {{"3\t\t80.5", "", 80.5}, {"3\t\t80.5\t2", "", 80.5}, {"3", "", 77}, {"3\t\tPin\t80.5", "Pin", 80.5}};
+  } rows[] = {{"3\t\t80.5", "", 80.5},
+              {"3\t\t80.5\t2", "", 80.5},
+              {"3", "", 77},
+              {"3\t\tPin\t80.5", "Pin", 80.5}};
   for (const auto& row : rows) {
     int id = 77;
     char* name = before;
     double temperature = 77;
     EXPECT_TRUE(
-        over_entry("[PartInsertInitialTemperature]", std::string("PartInsert-2 = ") + row.text).GetPartInsertSetting(2, id, name, temperature));
+        over_entry("[PartInsertInitialTemperature]", std::string("PartInsert-2 = ") + row.text)
+            .GetPartInsertSetting(2, id, name, temperature));
     EXPECT_EQ(id, 3) << row.text;
     EXPECT_STREQ(name, row.name) << row.text;
     EXPECT_EQ(temperature, row.temperature) << row.text;
@@ -239,7 +258,8 @@ TEST_F(Rows, PartInsertWithoutANameHasAnEmptyOne) {
   int id = 77;
   char* name = before;
   double temperature = 77;
-  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = Pin").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = Pin")
+                  .GetPartInsertSetting(2, id, name, temperature));
   EXPECT_EQ(id, 77);
   EXPECT_STREQ(name, "") << "a row that does not begin with a number";
   name = before;
@@ -251,13 +271,17 @@ TEST_F(Rows, PartInsertWithoutANamePointsToTheEmptiedBuffer) {
   int id = 77;
   char* name = nullptr;
   double temperature = 77;
-  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 3\tPin\t80.5").GetPartInsertSetting(2, id, name, temperature));
+  EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", "PartInsert-2 = 3\tPin\t80.5")
+                  .GetPartInsertSetting(2, id, name, temperature));
   const char* const buffer = name;
-  for (const char* text : {"PartInsert-2 = 5", "PartInsert-2 =", "PartInsert-2", "PartInsert-2 = none"}) {
+  for (const char* text :
+       {"PartInsert-2 = 5", "PartInsert-2 =", "PartInsert-2", "PartInsert-2 = none"}) {
     char untouched[] = "untouched";
     name = untouched;
     temperature = 77;
-    EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", text).GetPartInsertSetting(2, id, name, temperature)) << text;
+    EXPECT_TRUE(over_entry("[PartInsertInitialTemperature]", text)
+                    .GetPartInsertSetting(2, id, name, temperature))
+        << text;
     EXPECT_EQ(name, buffer) << text;
     EXPECT_STREQ(name, "") << text;
     EXPECT_EQ(temperature, 77);
@@ -272,9 +296,11 @@ struct Table {
   bool (Object::*get_record)(int, QELPRO_MMM_MECHANICAL&);
   bool (Object::*set_record)(int, const QELPRO_MMM_MECHANICAL&);
 };
-const Table kTables[] = {{"[Moldbase]", &Object::GetMoldbase, &Object::SetMoldbase, &Object::GetMoldbase, &Object::SetMoldbase},
-                         {"[MoldMetalMaterial]", &Object::GetMoldMetalMaterial, &Object::SetMoldMetalMaterial, &Object::GetMoldMetalMaterial,
-                          &Object::SetMoldMetalMaterial}};
+const Table kTables[] = {
+    {"[Moldbase]", &Object::GetMoldbase, &Object::SetMoldbase, &Object::GetMoldbase,
+     &Object::SetMoldbase},
+    {"[MoldMetalMaterial]", &Object::GetMoldMetalMaterial, &Object::SetMoldMetalMaterial,
+     &Object::GetMoldMetalMaterial, &Object::SetMoldMetalMaterial}};
 
 TEST_F(Rows, MoldRowInItsShortForm) {
   for (const Table& table : kTables) {
@@ -305,9 +331,11 @@ TEST_F(Rows, MoldRecordIsWrittenWithItsSecondMechanicalValueTwice) {
 
 TEST_F(Rows, MoldRecordIsReadWithANameOfSeveralWords) {
   for (const Table& table : kTables) {
-    const std::string version = "[CaeHeader]\nFileVersion = 1010\n" + std::string(table.section) + "\n";
+    const std::string version =
+        "[CaeHeader]\nFileVersion = 1010\n" + std::string(table.section) + "\n";
     QELPRO_MMM_MECHANICAL record{};
-    EXPECT_TRUE((over(version + "1 = 7.8 0.46 29 Tool  Steel\tP20 4 5 6\n").*table.get_record)(1, record));
+    EXPECT_TRUE(
+        (over(version + "1 = 7.8 0.46 29 Tool  Steel\tP20 4 5 6\n").*table.get_record)(1, record));
     EXPECT_STREQ(record.name, "Tool  Steel\tP20");
     EXPECT_EQ(record.thermal[0], 7.8);
     EXPECT_EQ(record.thermal[1], 0.46);
@@ -358,7 +386,8 @@ TEST_F(Rows, MoldRowsRefuseAnEndMarkInTheirName) {
 
 TEST_F(Rows, MoldRecordOfAFewItemsKeepsTheOthers) {
   QELPRO_MMM_MECHANICAL record{{1, 2, 3}, {4, 5, 6}, nullptr};
-  EXPECT_TRUE(over("[CaeHeader]\nFileVersion = 1010\n[Moldbase]\n1 = 9 8\n").GetMoldbase(1, record));
+  EXPECT_TRUE(
+      over("[CaeHeader]\nFileVersion = 1010\n[Moldbase]\n1 = 9 8\n").GetMoldbase(1, record));
   EXPECT_EQ(record.thermal[0], 9);
   EXPECT_EQ(record.thermal[2], 3);
   EXPECT_EQ(record.mechanical[2], 6);
@@ -388,9 +417,11 @@ TEST_F(Rows, NullTextsAreRefusedAndTheFileIsKept) {
   std::vector<Row> rows = {
       {"SetCoolant", [](Object& o) { return o.SetCoolant(1, 1, 2, 3, 4, 5, nullptr, 6, 7); }},
       {"SetMoldbase", [](Object& o) { return o.SetMoldbase(1, 1, 2, 3, nullptr); }},
-      {"SetMoldMetalMaterial", [](Object& o) { return o.SetMoldMetalMaterial(1, 1, 2, 3, nullptr); }},
+      {"SetMoldMetalMaterial",
+       [](Object& o) { return o.SetMoldMetalMaterial(1, 1, 2, 3, nullptr); }},
       {"SetMoldbase of a record", [&record](Object& o) { return o.SetMoldbase(1, record); }},
-      {"SetMoldMetalMaterial of a record", [&record](Object& o) { return o.SetMoldMetalMaterial(1, record); }},
+      {"SetMoldMetalMaterial of a record",
+       [&record](Object& o) { return o.SetMoldMetalMaterial(1, record); }},
       {"SetBCCountName", [](Object& o) { return o.SetBCCountName(1, 2, nullptr); }},
       {"SetFilePath", [](Object& o) { return o.SetFilePath(static_cast<const char*>(nullptr)); }},
   };
@@ -431,8 +462,10 @@ class Conditions : public ProcessObject {
  protected:
   static constexpr const char* kBlock = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n";
   static std::string block() {
-    return "[FileHeader]\nDate = 2001/01/01 00:00:00\n[Summary]\nTotalNodeBC = 3\n" + std::string(kBlock) +
-           "4\tTop\n2\tSide B\n1\tCore\n1 = 1\t10\n2 = 2\t20\n3 = 3\t30\n4 = 4\t40\n1 = 5\t50\n2 = 6\t60\n1 = 7\t70\n";
+    return "[FileHeader]\nDate = 2001/01/01 00:00:00\n[Summary]\nTotalNodeBC = 3\n" +
+           std::string(kBlock) +
+           "4\tTop\n2\tSide B\n1\tCore\n1 = 1\t10\n2 = 2\t20\n3 = 3\t30\n4 = 4\t40\n1 = 5\t50\n2 = "
+           "6\t60\n1 = 7\t70\n";
   }
 };
 
@@ -457,7 +490,9 @@ TEST_F(Conditions, PointIsNotFoundWhereALineIsMissing) {
   double y = 77;
   EXPECT_FALSE(over(block()).GetBCProfile(3, 2, x, y)) << "behind the last line";
   EXPECT_FALSE(over("[Summary]\nTotalNodeBC = 3\n").GetBCProfile(1, 1, x, y)) << "no block";
-  EXPECT_FALSE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n").GetBCProfile(5, 1, x, y)) << "no name line";
+  EXPECT_FALSE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n")
+                   .GetBCProfile(5, 1, x, y))
+      << "no name line";
   EXPECT_EQ(x, 77);
   EXPECT_EQ(y, 77);
 }
@@ -465,10 +500,12 @@ TEST_F(Conditions, PointIsNotFoundWhereALineIsMissing) {
 TEST_F(Conditions, PointOfAFewItemsIsZeroForTheRest) {
   double x = 77;
   double y = 77;
-  EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1\n").GetBCProfile(1, 1, x, y));
+  EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1\n")
+                  .GetBCProfile(1, 1, x, y));
   EXPECT_EQ(x, 0);
   EXPECT_EQ(y, 0);
-  EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1 : 5\n").GetBCProfile(1, 1, x, y));
+  EXPECT_TRUE(over("[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n1 : 5\n")
+                  .GetBCProfile(1, 1, x, y));
   EXPECT_EQ(x, 5);
   EXPECT_EQ(y, 0);
 }
@@ -487,13 +524,15 @@ TEST_F(Conditions, PointBehindTheBlockIsAppended) {
   over("[FileHeader]\nDate = x\n[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n");
   EXPECT_TRUE(object_.SetBCProfile(1, 1, 2, 3));
   EXPECT_TRUE(object_.SetBCProfile(1, 9, 4, 5));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Summary]\nTotalNodeBC = 1\n" + kBlock + "1\tTop\n1 = 2\t3\n9 = 4\t5\n");
+  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Summary]\nTotalNodeBC = 1\n" +
+                                kBlock + "1\tTop\n1 = 2\t3\n9 = 4\t5\n");
 }
 
 TEST_F(Conditions, MissingNameLineCountsNothing) {
   over("[FileHeader]\nDate = x\n[Summary]\nTotalNodeBC = 1\n");
   EXPECT_TRUE(object_.SetBCProfile(3, 1, 2, 3));
-  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Summary]\nTotalNodeBC = 1\n\n" + kBlock + "1 = 2\t3\n");
+  EXPECT_EQ(masked_bytes(), "[FileHeader]\n" + kMaskedDate + "[Summary]\nTotalNodeBC = 1\n\n" +
+                                kBlock + "1 = 2\t3\n");
 }
 
 TEST_F(Conditions, NameLinesAreWrittenAndRead) {
@@ -512,12 +551,16 @@ TEST_F(Conditions, NameLineIsReadWithItsType) {
     int count;
     const char* name;
     int type;
-  } rows[] = {{"5\tCavity  Surface A\t1", 5, "Cavity  Surface A", 1}, {"5 Core 1", 5, "Core", 1}, {"5 Core", 5, "Core", 77}, {"5", 5, "", 77}};
+  } rows[] = {{"5\tCavity  Surface A\t1", 5, "Cavity  Surface A", 1},
+              {"5 Core 1", 5, "Core", 1},
+              {"5 Core", 5, "Core", 77},
+              {"5", 5, "", 77}};
   for (const auto& row : rows) {
     int count = 77;
     int type = 77;
     char* name = nullptr;
-    EXPECT_TRUE(over(kBlock + std::string(row.line) + "\n").GetBCSetting(1, count, name, type)) << row.line;
+    EXPECT_TRUE(over(kBlock + std::string(row.line) + "\n").GetBCSetting(1, count, name, type))
+        << row.line;
     EXPECT_EQ(count, row.count) << row.line;
     EXPECT_STREQ(name, row.name) << row.line;
     EXPECT_EQ(type, row.type) << row.line;
@@ -529,7 +572,8 @@ TEST_F(Conditions, NameLineIsReadWithItsType) {
 }
 
 TEST_F(Conditions, HugeNumbersEndSoon) {
-  over("[Summary]\nTotalNodeBC = 2147483647\n" + std::string(kBlock) + "2147483647\tTop\n2147483647\tSide\n");
+  over("[Summary]\nTotalNodeBC = 2147483647\n" + std::string(kBlock) +
+       "2147483647\tTop\n2147483647\tSide\n");
   double x = 77;
   double y = 77;
   EXPECT_FALSE(object_.GetBCProfile(2147483647, 2147483647, x, y));

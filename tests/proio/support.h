@@ -13,7 +13,8 @@ namespace qelpro_test {
 /// An entry as the object writes it: the key in 14 columns.
 inline std::string entry(const std::string& key, const std::string& value) {
   constexpr std::size_t kColumns = 14;
-  return key + std::string(key.size() < kColumns ? kColumns - key.size() : 0, ' ') + " = " + value + "\n";
+  return key + std::string(key.size() < kColumns ? kColumns - key.size() : 0, ' ') + " = " + value +
+         "\n";
 }
 
 inline const std::string kMaskedDate = entry("Date", "<date>");

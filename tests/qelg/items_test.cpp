@@ -57,7 +57,9 @@ class Items : public testing::Test {
   static void for_each(Check check) {
     for (const ProcessItem<Object>& item : items_of<Object>()) {
       SCOPED_TRACE(item.name);
-      std::visit([&check]<class Value>(const Accessors<Object, Value>& access) { check(access, Sample<Value>()); }, item.access);
+      std::visit([&check]<class Value>(
+                     const Accessors<Object, Value>& access) { check(access, Sample<Value>()); },
+                 item.access);
     }
   }
 
@@ -161,8 +163,11 @@ TEST(ItemsHeader, EveryDeclarationHasARowInTheTables) {
         const std::size_t name = at + prefix.size();
         const std::size_t end = line.find('(', name);
         const std::string object =
-            line.find("QELG_SimulatorFlowPackProcess", end) != std::string::npos ? "QELG_SimulatorFlowPackProcess " : "QELG_SimulatorProcess ";
-        (prefix == "set_process_" ? setters : getters).insert(object + line.substr(name, end - name));
+            line.find("QELG_SimulatorFlowPackProcess", end) != std::string::npos
+                ? "QELG_SimulatorFlowPackProcess "
+                : "QELG_SimulatorProcess ";
+        (prefix == "set_process_" ? setters : getters)
+            .insert(object + line.substr(name, end - name));
       }
     }
   }

@@ -106,7 +106,8 @@ TEST(SimulatorInlet, ListsAreReadBackAndApart) {
   EXPECT_EQ(inlet.GetPackingPressureProfile_mod(), read.GetPackingPressureProfile());
   EXPECT_EQ(inlet.GetFluidPressureProfile_mod(), read.GetFluidPressureProfile());
   EXPECT_EQ(inlet.GetFlowRateTimeConstants_mod(), read.GetFlowRateTimeConstants());
-  EXPECT_EQ(inlet.GetInjectionPressureTimeConstants_mod(), read.GetInjectionPressureTimeConstants());
+  EXPECT_EQ(inlet.GetInjectionPressureTimeConstants_mod(),
+            read.GetInjectionPressureTimeConstants());
   EXPECT_EQ(inlet.GetPackingPressureTimeConstants_mod(), read.GetPackingPressureTimeConstants());
   const std::set<const void*> lists = {read.GetFlowRateProfile(),
                                        read.GetInjectionPressureProfile(),

@@ -14,7 +14,8 @@ const std::string kMachine = "1,Maker,Grade,4,5,6,7,8,9,10,11,12,13,14,15,16,17,
 const std::string kData = "[Machine Database]\n";
 
 TEST(BankReport, CountsTheMachinesOfABank) {
-  const BankReport report = examine_machine_bank("[Header]\nVersion,7007\n" + kData + kMachine + "0,off\n" + kMachine + "1,too,short\n");
+  const BankReport report = examine_machine_bank("[Header]\nVersion,7007\n" + kData + kMachine +
+                                                 "0,off\n" + kMachine + "1,too,short\n");
   EXPECT_EQ(report.version, 7007);
   EXPECT_TRUE(report.has_header && report.has_data);
   EXPECT_EQ(report.machines, 2U);
@@ -27,12 +28,14 @@ TEST(BankReport, TellsAnEmptyBankFromOneWhoseVersionCannotBeRead) {
   const BankReport empty = examine_machine_bank("[Header]\nVersion,7007\n" + kData);
   EXPECT_EQ(empty.machines + empty.machines_passed_over, 0U);
   EXPECT_EQ(empty.unread_version_line, "");
-  const BankReport unread = examine_machine_bank("[Header]\nVersion=7007\n" + kData + kMachine + kMachine);
+  const BankReport unread =
+      examine_machine_bank("[Header]\nVersion=7007\n" + kData + kMachine + kMachine);
   EXPECT_EQ(unread.version, 1000);
   EXPECT_EQ(unread.machines, 0U);
   EXPECT_EQ(unread.machines_passed_over, 2U);
   EXPECT_EQ(unread.unread_version_line, "Version=7007");
-  EXPECT_EQ(examine_machine_bank("[Header]\nVersion = 7007\n" + kData).unread_version_line, "Version = 7007");
+  EXPECT_EQ(examine_machine_bank("[Header]\nVersion = 7007\n" + kData).unread_version_line,
+            "Version = 7007");
 }
 
 TEST(BankReport, NamesTheVersionOfAForeignBank) {
@@ -52,7 +55,8 @@ TEST(BankReport, TellsWhatIsMissing) {
 }
 
 TEST(BankReport, LooksNoFurtherThanTheEndMark) {
-  const BankReport report = examine_machine_bank("[Header]\nVersion,7007\n" + kData + kMachine + "[EOF]\n" + kMachine + "TotalNo\n");
+  const BankReport report = examine_machine_bank("[Header]\nVersion,7007\n" + kData + kMachine +
+                                                 "[EOF]\n" + kMachine + "TotalNo\n");
   EXPECT_EQ(report.machines, 1U);
   EXPECT_FALSE(report.has_total);
 }

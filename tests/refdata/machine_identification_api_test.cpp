@@ -20,7 +20,8 @@ using testing::IsEmpty;
 constexpr const char* kBefore = "[Header]\nVersion 7007\n[Machine Database]\n";
 
 // A machine's line with that many fields.
-std::string machine(const std::string& maker, const std::string& grade, int fields = 22, const std::string& flag = "1") {
+std::string machine(const std::string& maker, const std::string& grade, int fields = 22,
+                    const std::string& flag = "1") {
   std::string line = flag + "," + maker + "," + grade;
   for (int field = 4; field <= fields; ++field) {
     line += "," + std::to_string(field);
@@ -31,13 +32,16 @@ std::string machine(const std::string& maker, const std::string& grade, int fiel
 std::vector<std::string> all_makers(Machines& machines) {
   const char** texts = nullptr;
   int count = 0;
-  return machines.GetAllMaker(&texts, &count) ? std::vector<std::string>(texts, texts + count) : std::vector<std::string>();
+  return machines.GetAllMaker(&texts, &count) ? std::vector<std::string>(texts, texts + count)
+                                              : std::vector<std::string>();
 }
 
 std::vector<std::string> all_grades(Machines& machines, const char* maker) {
   const char** texts = nullptr;
   int count = 0;
-  return machines.GetAllGrade(maker, &texts, &count) ? std::vector<std::string>(texts, texts + count) : std::vector<std::string>();
+  return machines.GetAllGrade(maker, &texts, &count)
+             ? std::vector<std::string>(texts, texts + count)
+             : std::vector<std::string>();
 }
 
 class MachineBank : public testing::Test {
@@ -70,31 +74,35 @@ TEST_F(MachineBank, ListsMakersInTheOrderOfTheirBytes) {
 }
 
 TEST_F(MachineBank, ListsGradesInTheOrderOfTheFileRepeatsIncluded) {
-  EXPECT_TRUE(load(kBefore + machine("M", "z") + machine("M", "a") + machine("N", "x") + machine("M", "z")));
+  EXPECT_TRUE(load(kBefore + machine("M", "z") + machine("M", "a") + machine("N", "x") +
+                   machine("M", "z")));
   EXPECT_EQ(machines_.GetMakerCount(), 2);
   EXPECT_EQ(machines_.GetGradeCount("M"), 3);
   EXPECT_THAT(all_grades(machines_, "M"), ElementsAre("z", "a", "z"));
 }
 
 TEST_F(MachineBank, IgnoresRecordsOfLessThan22Fields) {
-  EXPECT_TRUE(load(kBefore + machine("Short", "1", 21) + machine("Whole", "1", 22) + machine("Long", "1", 30)));
+  EXPECT_TRUE(load(kBefore + machine("Short", "1", 21) + machine("Whole", "1", 22) +
+                   machine("Long", "1", 30)));
   EXPECT_THAT(all_makers(machines_), ElementsAre("Long", "Whole"));
 }
 
 TEST_F(MachineBank, CountsConsecutiveCommasAsOne) {
-  EXPECT_TRUE(load(kBefore + std::string("1,,M,,,x,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22\n1,,,,,,,,,,,,,,,,,,,,,,,N,y\n")));
+  EXPECT_TRUE(load(kBefore + std::string("1,,M,,,x,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,"
+                                         "22\n1,,,,,,,,,,,,,,,,,,,,,,,N,y\n")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("M"));
   EXPECT_THAT(all_grades(machines_, "M"), ElementsAre("x"));
 }
 
 TEST_F(MachineBank, TakesLinesOfFlagOneAlone) {
-  EXPECT_TRUE(load(kBefore + machine("Zero", "1", 22, "0") + machine("Two", "1", 22, "2") + machine("Eleven", "1", 22, "11") +
-                   machine("Blank", "1", 22, "  1 x")));
+  EXPECT_TRUE(load(kBefore + machine("Zero", "1", 22, "0") + machine("Two", "1", 22, "2") +
+                   machine("Eleven", "1", 22, "11") + machine("Blank", "1", 22, "  1 x")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("Blank"));
 }
 
 TEST_F(MachineBank, KeepsTheFlagOverALineWithoutOne) {
-  EXPECT_TRUE(load(kBefore + machine("A", "1") + machine("B", "1", 22, "x") + machine("C", "1", 22, "0") + machine("D", "1", 22, "x")));
+  EXPECT_TRUE(load(kBefore + machine("A", "1") + machine("B", "1", 22, "x") +
+                   machine("C", "1", 22, "0") + machine("D", "1", 22, "x")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("A", "B"));
 }
 
@@ -107,12 +115,14 @@ TEST_F(MachineBank, KeepsBlanksOfNames) {
 TEST_F(MachineBank, EndsAtItsEndMark) {
   EXPECT_TRUE(load(kBefore + machine("A", "1") + "x[EOF]x\n" + machine("B", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("A"));
-  EXPECT_TRUE(load(std::string("[Header]\nVersion 7007\n[Machine Database]\n[EOF]\n") + machine("B", "1")));
+  EXPECT_TRUE(
+      load(std::string("[Header]\nVersion 7007\n[Machine Database]\n[EOF]\n") + machine("B", "1")));
   EXPECT_THAT(all_makers(machines_), IsEmpty());
 }
 
 TEST_F(MachineBank, BeginsItsDataBehindTheDatabaseLine) {
-  EXPECT_TRUE(load("[Header]\nVersion 7007\n" + machine("Before", "1") + "xDatabase]x\n" + machine("Behind", "1")));
+  EXPECT_TRUE(load("[Header]\nVersion 7007\n" + machine("Before", "1") + "xDatabase]x\n" +
+                   machine("Behind", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("Behind"));
 }
 
@@ -135,7 +145,8 @@ TEST_F(MachineBank, ReadsItsVersionWithCommasForBlanks) {
 }
 
 TEST_F(MachineBank, KeepsAVersionOverALineWithoutANumber) {
-  EXPECT_TRUE(load("[Header]\nVersion 7007\nVersion unknown\n[Machine Database]\n" + machine("A", "1")));
+  EXPECT_TRUE(
+      load("[Header]\nVersion 7007\nVersion unknown\n[Machine Database]\n" + machine("A", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("A"));
 }
 
@@ -147,7 +158,8 @@ TEST_F(MachineBank, KeepsItsVersionForTheNextFile) {
 
 TEST_F(MachineBank, KeepsItsHeaderInForceAmongTheData) {
   EXPECT_TRUE(load(kBefore + machine("A", "1") + machine("Version", "1") + machine("B", "1")));
-  EXPECT_THAT(all_makers(machines_), ElementsAre("A", "B")) << "a line of the version has no commas any more";
+  EXPECT_THAT(all_makers(machines_), ElementsAre("A", "B"))
+      << "a line of the version has no commas any more";
   EXPECT_TRUE(load(kBefore + machine("A", "1") + "Version 1\n" + machine("B", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("A")) << "another version from there on";
 }
@@ -175,7 +187,8 @@ TEST_F(MachineBank, IsReplacedByTheNextLoad) {
 
 TEST_F(MachineBank, TakesThePathThatWasSetLast) {
   const std::string narrow = scratch_.file(kBefore + machine("Narrow", "1"), "narrow.bank");
-  const std::wstring wide = std::filesystem::path(scratch_.file(kBefore + machine("Wide", "1"), "wide.bank")).wstring();
+  const std::wstring wide =
+      std::filesystem::path(scratch_.file(kBefore + machine("Wide", "1"), "wide.bank")).wstring();
   machines_.SetMachineUserBankPath(narrow.c_str());
   machines_.SetMachineUserBankPath(wide.c_str());
   EXPECT_TRUE(machines_.LoadFileData());
@@ -224,7 +237,8 @@ TEST_F(MachineBank, CopiesNoMoreThanTheBufferHolds) {
   for (unsigned int size = 1; size <= 7; ++size) {
     for (const bool maker : {true, false}) {
       char buffer[8] = {'#', '#', '#', '#', '#', '#', '#', '#'};
-      EXPECT_TRUE(maker ? machines_.GetMaker(0, buffer, size) : machines_.GetGrade("Maker", 0, buffer, size));
+      EXPECT_TRUE(maker ? machines_.GetMaker(0, buffer, size)
+                        : machines_.GetGrade("Maker", 0, buffer, size));
       const std::string text = maker ? "Maker" : "Grade";
       EXPECT_EQ(std::string(buffer, std::min<std::size_t>(size, 5)), text.substr(0, size));
       if (size > 5) {
@@ -270,7 +284,8 @@ TEST_F(MachineBank, ListsStayValidUntilTheNextList) {
   EXPECT_STREQ(makers[0], "A");
   EXPECT_STREQ(makers[1], "B");
   const char** grades = nullptr;
-  EXPECT_FALSE(machines_.GetAllGrade("Unknown", &grades, &count)) << "a list that is refused replaces none";
+  EXPECT_FALSE(machines_.GetAllGrade("Unknown", &grades, &count))
+      << "a list that is refused replaces none";
   EXPECT_STREQ(makers[1], "B");
   ASSERT_TRUE(machines_.GetAllGrade("A", &grades, &count));
   EXPECT_EQ(count, 2);
@@ -330,7 +345,8 @@ TEST_F(MachineBank, SeesALongLineInPieces) {
   EXPECT_TRUE(load(kBefore + before + machine("A", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("A")) << "the second piece is a record of its own";
   EXPECT_TRUE(load(kBefore + before + "x" + machine("A", "1")));
-  EXPECT_THAT(all_makers(machines_), IsEmpty()) << "the second piece begins with no number, and the flag stays 0";
+  EXPECT_THAT(all_makers(machines_), IsEmpty())
+      << "the second piece begins with no number, and the flag stays 0";
 }
 
 TEST_F(MachineBank, CountsEitherLineBreakAsOneCharacterOfALongLine) {
@@ -346,15 +362,18 @@ TEST_F(MachineBank, CountsEitherLineBreakAsOneCharacterOfALongLine) {
   }
   std::string long_head = record + std::string(1021 - record.size(), ',');
   EXPECT_TRUE(load(kBefore + long_head + "\rx\r\n"));
-  EXPECT_THAT(all_makers(machines_), ElementsAre("A")) << "a \"\\r\" inside of a line is a character of its own";
+  EXPECT_THAT(all_makers(machines_), ElementsAre("A"))
+      << "a \"\\r\" inside of a line is a character of its own";
 }
 
 TEST_F(MachineBank, SurvivesHostileFiles) {
   using namespace std::string_literals;
   const std::string binary = "\0\x01\xFF[Header]\0Version 7007\n\xFE\xFE"s;
-  for (const std::string& contents : {std::string(), binary, std::string(1 << 16, '\0'), std::string(10 << 20, ','),
-                                      kBefore + std::string(10 << 20, 'x'), kBefore + machine("A", "1") + binary, std::string(100, '\n'),
-                                      std::string("[Header]\nVersion"), std::string("Database]"), std::string("[Machine Database]\n")}) {
+  for (const std::string& contents :
+       {std::string(), binary, std::string(1 << 16, '\0'), std::string(10 << 20, ','),
+        kBefore + std::string(10 << 20, 'x'), kBefore + machine("A", "1") + binary,
+        std::string(100, '\n'), std::string("[Header]\nVersion"), std::string("Database]"),
+        std::string("[Machine Database]\n")}) {
     EXPECT_TRUE(load(contents));
     EXPECT_LE(machines_.GetMakerCount(), 1);
   }
@@ -384,10 +403,12 @@ TEST_F(MachineBank, HandsOutEachOfManyMakersInTheirOrder) {
 TEST_F(MachineBank, OfAFrontEndIsReadInFull) {
   machines_.SetMachineUserBankPath(data_path("machines.bank").c_str());
   ASSERT_TRUE(machines_.LoadFileData());
-  EXPECT_THAT(all_makers(machines_), ElementsAre("Alder & Sons", "Norvik Presses", "Tessaro", "alder & sons"));
+  EXPECT_THAT(all_makers(machines_),
+              ElementsAre("Alder & Sons", "Norvik Presses", "Tessaro", "alder & sons"));
   EXPECT_THAT(all_grades(machines_, "Alder & Sons"), ElementsAre("A-80", "A-120 Electric"));
   EXPECT_THAT(all_grades(machines_, "Norvik Presses"), ElementsAre("NP 50-110", "NP 80-200"));
-  EXPECT_THAT(all_grades(machines_, "Tessaro"), ElementsAre("T 160 Hybrid", "T 160 Hybrid", "T 320"));
+  EXPECT_THAT(all_grades(machines_, "Tessaro"),
+              ElementsAre("T 160 Hybrid", "T 160 Hybrid", "T 320"));
   EXPECT_THAT(all_grades(machines_, "alder & sons"), ElementsAre("a-80"));
 }
 

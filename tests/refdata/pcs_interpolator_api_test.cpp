@@ -31,14 +31,19 @@ std::optional<Properties> properties(CQELPCSInterpolator& tables, int coolant, d
 
 class CoolantTables : public testing::Test {
  protected:
-  bool load(const std::string& contents) { return tables_.LoadDataFromFile(scratch_.file(contents, "coolants.pcs").c_str()); }
-  std::optional<Properties> at(int coolant, double argument) { return properties(tables_, coolant, argument); }
+  bool load(const std::string& contents) {
+    return tables_.LoadDataFromFile(scratch_.file(contents, "coolants.pcs").c_str());
+  }
+  std::optional<Properties> at(int coolant, double argument) {
+    return properties(tables_, coolant, argument);
+  }
 
   Scratch scratch_;
   CQELPCSInterpolator tables_;
 };
 
-constexpr const char* kTwoRows = "[Coolant-1]\nName = Oil\nDataCount = 2\nData-1 = 10 1 2 3 4\nData-2 = 20 3 6 -3 4\n";
+constexpr const char* kTwoRows =
+    "[Coolant-1]\nName = Oil\nDataCount = 2\nData-1 = 10 1 2 3 4\nData-2 = 20 3 6 -3 4\n";
 
 TEST_F(CoolantTables, AnswerNothingBeforeTheyAreLoaded) { EXPECT_FALSE(at(1, 15)); }
 
@@ -71,7 +76,8 @@ TEST_F(CoolantTables, GiveZeroForAnArgumentThatIsNoNumber) {
 TEST_F(CoolantTables, ShiftIdentifiersFromSixOnAndRefuseThreeToFive) {
   std::string contents;
   for (const int number : {-1, 0, 1, 2, 3, 4, 5, 6, 7}) {
-    contents += "[Coolant-" + std::to_string(number) + "]\nDataCount = 1\nData-1 = 0 " + std::to_string(number) + " 0 0 0\n";
+    contents += "[Coolant-" + std::to_string(number) + "]\nDataCount = 1\nData-1 = 0 " +
+                std::to_string(number) + " 0 0 0\n";
   }
   ASSERT_TRUE(load(contents));
   const struct {
@@ -79,7 +85,8 @@ TEST_F(CoolantTables, ShiftIdentifiersFromSixOnAndRefuseThreeToFive) {
     int number;
   } rows[] = {{-1, -1}, {0, 0}, {1, 1}, {2, 2}, {6, 3}, {7, 4}, {8, 5}, {9, 6}, {10, 7}};
   for (const auto& row : rows) {
-    EXPECT_EQ(at(row.identifier, 0), Properties({static_cast<double>(row.number), 0, 0, 0})) << row.identifier;
+    EXPECT_EQ(at(row.identifier, 0), Properties({static_cast<double>(row.number), 0, 0, 0}))
+        << row.identifier;
   }
   for (const int refused : {3, 4, 5, 11, -2, 2147483647, -2147483647 - 1}) {
     EXPECT_FALSE(at(refused, 0)) << refused;
@@ -88,23 +95,30 @@ TEST_F(CoolantTables, ShiftIdentifiersFromSixOnAndRefuseThreeToFive) {
 
 TEST_F(CoolantTables, TakeASectionWithoutANumberForNoCoolant) {
   for (const char* name : {"[Coolant-Water]", "[Coolant-]", "[Coolant-x0]", "[Coolant--]"}) {
-    ASSERT_TRUE(load(std::string(name) + "\nDataCount = 1\nData-1 = 0 9 9 9 9\n[Coolant-0]\nDataCount = 1\nData-1 = 0 1 2 3 4\n"));
+    ASSERT_TRUE(load(
+        std::string(name) +
+        "\nDataCount = 1\nData-1 = 0 9 9 9 9\n[Coolant-0]\nDataCount = 1\nData-1 = 0 1 2 3 4\n"));
     EXPECT_EQ(at(0, 0), Properties({1, 2, 3, 4})) << name;
-    ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 2 3 4\n" + std::string(name) + "\nDataCount = 1\nData-1 = 0 9 9 9 9\n"));
+    ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 2 3 4\n" + std::string(name) +
+                     "\nDataCount = 1\nData-1 = 0 9 9 9 9\n"));
     EXPECT_FALSE(at(0, 0)) << name;
-    EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4})) << "its lines belong to no other coolant: " << name;
+    EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4}))
+        << "its lines belong to no other coolant: " << name;
   }
 }
 
 TEST_F(CoolantTables, TakeTheFirstOfTwoSectionsOfOneNumber) {
-  ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 0 0 0\n[Coolant-1]\nDataCount = 1\nData-1 = 0 2 0 0 0\n"));
+  ASSERT_TRUE(
+      load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 0 0 0\n[Coolant-1]\nDataCount = 1\nData-1 = 0 "
+           "2 0 0 0\n"));
   EXPECT_EQ(at(1, 0), Properties({1, 0, 0, 0}));
   ASSERT_TRUE(load("[Coolant-1]\nName = x\n[Coolant-1]\nDataCount = 1\nData-1 = 0 2 0 0 0\n"));
   EXPECT_FALSE(at(1, 0)) << "the first has no count";
 }
 
 TEST_F(CoolantTables, NeedAPositiveCount) {
-  for (const char* count : {"", "DataCount = 0\n", "DataCount = -3\n", "DataCount = x\n", "DataCount =\n"}) {
+  for (const char* count :
+       {"", "DataCount = 0\n", "DataCount = -3\n", "DataCount = x\n", "DataCount =\n"}) {
     ASSERT_TRUE(load("[Coolant-1]\n" + std::string(count) + "Data-1 = 0 1 2 3 4\n"));
     EXPECT_FALSE(at(1, 0)) << count;
   }
@@ -121,8 +135,10 @@ TEST_F(CoolantTables, LeaveRowsWithoutFiveNumbersAtZero) {
 
 TEST_F(CoolantTables, IgnoreRowsOutsideOfTheCount) {
   ASSERT_TRUE(
-      load("[Coolant-1]\nDataCount = 1\nData-0 = 1 9 9 9 9\nData-2 = 1 9 9 9 9\nData--1 = 1 9 9 9 9\nData-x = 1 9 9 9 9\nData-1 = 0 1 2 3 4\n"
-           "Data-2147483648 = 1 9 9 9 9\nData-4294967297 = 1 9 9 9 9\nData--4294967295 = 1 9 9 9 9\nData-18446744073709551617 = 1 9 9 9 9\n"));
+      load("[Coolant-1]\nDataCount = 1\nData-0 = 1 9 9 9 9\nData-2 = 1 9 9 9 9\nData--1 = 1 9 9 9 "
+           "9\nData-x = 1 9 9 9 9\nData-1 = 0 1 2 3 4\n"
+           "Data-2147483648 = 1 9 9 9 9\nData-4294967297 = 1 9 9 9 9\nData--4294967295 = 1 9 9 9 "
+           "9\nData-18446744073709551617 = 1 9 9 9 9\n"));
   EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4}));
 }
 
@@ -141,7 +157,8 @@ TEST_F(CoolantTables, KeepTheirCountAndRowsOverALineWithoutACount) {
 }
 
 TEST_F(CoolantTables, TakeTheLastOfTwoLinesOfOneRow) {
-  ASSERT_TRUE(load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 1 1 1\nData-1 = 0 2 2 2 2\nData-1 = 0 3 3\n"));
+  ASSERT_TRUE(
+      load("[Coolant-1]\nDataCount = 1\nData-1 = 0 1 1 1 1\nData-1 = 0 2 2 2 2\nData-1 = 0 3 3\n"));
   EXPECT_EQ(at(1, 0), Properties({2, 2, 2, 2}));
 }
 
@@ -162,8 +179,10 @@ TEST_F(CoolantTables, TakeABlankForTheFirstEqualsSign) {
 TEST_F(CoolantTables, EndASectionAtAnyBracket) {
   ASSERT_TRUE(load("DataCount = 1\n[x Coolant-1]\nDataCount = 1\n[Coolant-1]\n[\nDataCount = 1\n"));
   EXPECT_FALSE(at(1, 0));
-  ASSERT_TRUE(load("[a [Coolant-1 tail\nDataCount = 1\nData-1 = 0 1 2 3 4\n[Coolant-2]\nDataCount = 1\n"));
-  EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4})) << "the name may stand anywhere behind a first bracket";
+  ASSERT_TRUE(
+      load("[a [Coolant-1 tail\nDataCount = 1\nData-1 = 0 1 2 3 4\n[Coolant-2]\nDataCount = 1\n"));
+  EXPECT_EQ(at(1, 0), Properties({1, 2, 3, 4}))
+      << "the name may stand anywhere behind a first bracket";
   EXPECT_EQ(at(2, 0), Properties({0, 0, 0, 0})) << "the line that ends a section begins the next";
 }
 
@@ -174,7 +193,8 @@ TEST_F(CoolantTables, EndAtTheEndMark) {
 }
 
 TEST_F(CoolantTables, ReadEitherLineBreakAMissingLastOneAndAByteOrderMark) {
-  ASSERT_TRUE(load("\xEF\xBB\xBF[Coolant-1]\r\nDataCount = 2\r\nData-1 = 10 1 2 3 4\r\nData-2 = 20 3 6 -3 4"));
+  ASSERT_TRUE(load(
+      "\xEF\xBB\xBF[Coolant-1]\r\nDataCount = 2\r\nData-1 = 10 1 2 3 4\r\nData-2 = 20 3 6 -3 4"));
   EXPECT_EQ(at(1, 15), Properties({2, 4, 0, 4}));
 }
 
@@ -196,7 +216,8 @@ TEST_F(CoolantTables, OfCopiesAreShared) {
   second = same;
   first.reset();
   ASSERT_TRUE(load("[Coolant-2]\nDataCount = 1\n"));
-  EXPECT_EQ(properties(second, 1, 15), Properties({2, 4, 0, 4})) << "a new file goes to the object that loads it";
+  EXPECT_EQ(properties(second, 1, 15), Properties({2, 4, 0, 4}))
+      << "a new file goes to the object that loads it";
   EXPECT_FALSE(at(1, 15));
   EXPECT_EQ(sizeof(CQELPCSInterpolator), sizeof(void*));
 }
@@ -262,7 +283,8 @@ TEST_F(CoolantTables, AgreeWithAnIndependentFormulaForEverySize) {
       const auto found = at(1, t);
       ASSERT_TRUE(found);
       for (std::size_t property = 0; property < 4; ++property) {
-        ASSERT_NEAR((*found)[property], expected_value(x, y[property], t), 1e-9) << rows << " rows at " << t;
+        ASSERT_NEAR((*found)[property], expected_value(x, y[property], t), 1e-9)
+            << rows << " rows at " << t;
       }
     }
     for (std::size_t i = 0; i < x.size(); ++i) {
@@ -310,7 +332,8 @@ TEST_F(CoolantTables, OutOfOrderAnswerWhatTheSearchFinds) {
       x.push_back(row % 5 == 0 ? 0 : whole(random) + row * 0.001);
       y.push_back(whole(random));
       if (row % 5 != 0) {  // a row that the file never gives is 0
-        contents += "Data-" + std::to_string(row) + " = " + number(x.back()) + " " + number(y.back()) + " 0 0 0\n";
+        contents += "Data-" + std::to_string(row) + " = " + number(x.back()) + " " +
+                    number(y.back()) + " 0 0 0\n";
       } else {
         y.back() = 0;
       }
@@ -326,7 +349,9 @@ TEST_F(CoolantTables, OutOfOrderAnswerWhatTheSearchFinds) {
 }
 
 TEST_F(CoolantTables, GiveTheRowWhereTwoRowsHaveOneArgument) {
-  ASSERT_TRUE(load("[Coolant-1]\nDataCount = 4\nData-1 = 1 1 0 0 0\nData-2 = 2 5 0 0 0\nData-3 = 2 7 0 0 0\nData-4 = 3 9 0 0 0\n"));
+  ASSERT_TRUE(
+      load("[Coolant-1]\nDataCount = 4\nData-1 = 1 1 0 0 0\nData-2 = 2 5 0 0 0\nData-3 = 2 7 0 0 "
+           "0\nData-4 = 3 9 0 0 0\n"));
   EXPECT_EQ((*at(1, 2))[0], 5);
   EXPECT_EQ((*at(1, 2.5))[0], 8);
 }
@@ -334,7 +359,8 @@ TEST_F(CoolantTables, GiveTheRowWhereTwoRowsHaveOneArgument) {
 TEST_F(CoolantTables, GiveARowOfTheirArgumentBesideAnInfiniteOne) {
   std::string contents = "[Coolant-1]\nDataCount = 40\n";
   for (int row = 1; row <= 40; ++row) {
-    contents += "Data-" + std::to_string(row) + " = " + std::to_string(row) + (row % 2 == 0 ? " 2 2 2 2\n" : " inf 1 1 1\n");
+    contents += "Data-" + std::to_string(row) + " = " + std::to_string(row) +
+                (row % 2 == 0 ? " 2 2 2 2\n" : " inf 1 1 1\n");
   }
   ASSERT_TRUE(load(contents));
   for (int row = 1; row <= 40; ++row) {
@@ -346,20 +372,25 @@ TEST_F(CoolantTables, GiveARowOfTheirArgumentBesideAnInfiniteOne) {
 
 TEST_F(CoolantTables, OfAHugeCountCostNoMoreThanTheirRows) {
   const auto begin = std::chrono::steady_clock::now();
-  ASSERT_TRUE(load("[Coolant-1]\nDataCount = 2147483647\nData-1 = 10 1 2 3 4\nData-2147483647 = 20 5 6 7 8\nData-1000000 = 15 9 9 9 9\n"));
+  ASSERT_TRUE(
+      load("[Coolant-1]\nDataCount = 2147483647\nData-1 = 10 1 2 3 4\nData-2147483647 = 20 5 6 7 "
+           "8\nData-1000000 = 15 9 9 9 9\n"));
   EXPECT_EQ(at(1, 10), Properties({1, 2, 3, 4}));
   EXPECT_EQ(at(1, 20), Properties({5, 6, 7, 8}));
   EXPECT_TRUE(at(1, 12));
   ASSERT_TRUE(load("[Coolant-1]\nDataCount = 2147483647\n"));
   EXPECT_EQ(at(1, -1), Properties({0, 0, 0, 0}));
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5)) << "it would take minutes, row by row";
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5))
+      << "it would take minutes, row by row";
 }
 
 TEST_F(CoolantTables, SurviveHostileFiles) {
   using namespace std::string_literals;
   for (const std::string& contents :
-       {std::string(), "\0\xFF[Coolant-1]\0\n"s, "[Coolant-1]\nDataCount\0 = 1\nData-1 = 0 1 2 3 4\n"s, std::string(10 << 20, '['),
-        "[Coolant-1]\nName = "s + std::string(10 << 20, 'n'), "[Coolant-99999999999999999999]\nDataCount = 99999999999999999999\n"s, "[Coolant-"s}) {
+       {std::string(), "\0\xFF[Coolant-1]\0\n"s,
+        "[Coolant-1]\nDataCount\0 = 1\nData-1 = 0 1 2 3 4\n"s, std::string(10 << 20, '['),
+        "[Coolant-1]\nName = "s + std::string(10 << 20, 'n'),
+        "[Coolant-99999999999999999999]\nDataCount = 99999999999999999999\n"s, "[Coolant-"s}) {
     EXPECT_TRUE(load(contents));
     for (int coolant = -2; coolant < 12; ++coolant) {
       at(coolant, 1);

@@ -18,7 +18,9 @@ class UserFile : public testing::Test {
     char buffer[4096] = {};
     return g_GetCurrentUserPSCFilePath(buffer, size) ? buffer : "(false)";
   }
-  static void set(const char* name, const std::optional<std::string>& value) { set_environment(name, value); }
+  static void set(const char* name, const std::optional<std::string>& value) {
+    set_environment(name, value);
+  }
 
  private:
   KeptEnvironment config_{"XDG_CONFIG_HOME"};
@@ -46,7 +48,8 @@ TEST_F(UserFile, StandsInNoRelativeFolder) {
   set("HOME", "/somewhere/engineer");
   for (const char* relative : {"settings", "./settings", "~/settings", "../a/b"}) {
     set("XDG_CONFIG_HOME", relative);
-    EXPECT_EQ(path(), "/somewhere/engineer/.config/Kestrel/Vantor R14.0/PROCoolantSetting.pcs") << relative;
+    EXPECT_EQ(path(), "/somewhere/engineer/.config/Kestrel/Vantor R14.0/PROCoolantSetting.pcs")
+        << relative;
   }
   set("HOME", std::nullopt);
   EXPECT_EQ(path(), "(false)");
@@ -62,7 +65,8 @@ TEST_F(UserFile, FolderIsMadeWhereAWriterIsAboutToSaveIntoIt) {
   EXPECT_FALSE(exists(home + "/.config")) << "to ask for the path makes nothing";
   CQELPROWriter_Manipulator writer;
   ASSERT_TRUE(writer.SetFilePath(file.c_str()));
-  EXPECT_TRUE(writer.WriteString("[Coolant-1]", "DataCount", "1") && writer.WriteString("[Coolant-1]", "Data-1", "0 1 2 3 4"));
+  EXPECT_TRUE(writer.WriteString("[Coolant-1]", "DataCount", "1") &&
+              writer.WriteString("[Coolant-1]", "Data-1", "0 1 2 3 4"));
   struct stat status {};
   ASSERT_EQ(stat((home + "/.config/Kestrel").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0700U);
@@ -81,7 +85,8 @@ TEST_F(UserFile, NoOtherFolderIsMade) {
   CQELPROReader_Manipulator reader;
   CQELPROWriter_Manipulator writer;
   EXPECT_FALSE(reader.SetFilePath(path().c_str()));
-  for (const char* other : {"/Kestrel/file.pro", "/Kestrel/Vantor R14.0/deeper/file.pro", "/Other/file.pro", "x/Kestrel/Vantor R14.0/file.pro"}) {
+  for (const char* other : {"/Kestrel/file.pro", "/Kestrel/Vantor R14.0/deeper/file.pro",
+                            "/Other/file.pro", "x/Kestrel/Vantor R14.0/file.pro"}) {
     EXPECT_FALSE(writer.SetFilePath((scratch.path("settings") + other).c_str())) << other;
   }
   EXPECT_FALSE(exists(scratch.path("settings")));

@@ -12,7 +12,8 @@ namespace {
 bool apply(const Limits& limits) {
   if (limits.longest_file != 0) {
     const rlimit limit{limits.longest_file, limits.longest_file};
-    if (std::signal(SIGXFSZ, limits.survives_long_file ? SIG_IGN : SIG_DFL) == SIG_ERR || ::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+    if (std::signal(SIGXFSZ, limits.survives_long_file ? SIG_IGN : SIG_DFL) == SIG_ERR ||
+        ::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
       return false;
     }
   }
@@ -28,7 +29,8 @@ bool in_child(const Limits& limits, const std::function<bool()>& work) {
     ::_exit(apply(limits) && work() ? 0 : 1);
   }
   int status = -1;
-  return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) &&
+         WEXITSTATUS(status) == 0;
 }
 
 }  // namespace qelpro_test

@@ -7,8 +7,9 @@
 #include "QELG/QELG.h"
 #include "support/process_items.h"
 
-/// A simulator process as text: a line for each item that is set and each list that is not empty, inlets behind the
-/// process, their lines indented. Numbers stand in the shortest form that reads back as the same number.
+/// A simulator process as text: a line for each item that is set and each list that is not empty,
+/// inlets behind the process, their lines indented. Numbers stand in the shortest form that reads
+/// back as the same number.
 namespace qelpro_test {
 
 inline std::string as_text(double value) {
@@ -17,10 +18,13 @@ inline std::string as_text(double value) {
 }
 inline std::string as_text(unsigned int value) { return std::to_string(value); }
 inline std::string as_text(const char* value) { return std::string("'") + value + "'"; }
-inline std::string as_text(QELG_2dPoint point) { return "(" + as_text(point.x) + " " + as_text(point.y) + ")"; }
+inline std::string as_text(QELG_2dPoint point) {
+  return "(" + as_text(point.x) + " " + as_text(point.y) + ")";
+}
 
 template <class Object>
-void dump_items(const std::vector<ProcessItem<Object>>& items, const Object& object, const std::string& indent, std::string& text) {
+void dump_items(const std::vector<ProcessItem<Object>>& items, const Object& object,
+                const std::string& indent, std::string& text) {
   for (const ProcessItem<Object>& item : items) {
     std::visit(
         [&]<class Value>(const Accessors<Object, Value>& access) {
@@ -54,8 +58,10 @@ inline std::string dump(const QELG_SimulatorFlowPackProcess& inlet) {
   dump_list<QELG_2dPoint>("  PackingPressureProfile", *inlet.GetPackingPressureProfile(), text);
   dump_list<QELG_2dPoint>("  FluidPressureProfile", *inlet.GetFluidPressureProfile(), text);
   dump_list<double>("  FlowRateTimeConstants", *inlet.GetFlowRateTimeConstants(), text);
-  dump_list<double>("  InjectionPressureTimeConstants", *inlet.GetInjectionPressureTimeConstants(), text);
-  dump_list<double>("  PackingPressureTimeConstants", *inlet.GetPackingPressureTimeConstants(), text);
+  dump_list<double>("  InjectionPressureTimeConstants", *inlet.GetInjectionPressureTimeConstants(),
+                    text);
+  dump_list<double>("  PackingPressureTimeConstants", *inlet.GetPackingPressureTimeConstants(),
+                    text);
   return text;
 }
 
@@ -63,7 +69,8 @@ inline std::string dump(const QELG_SimulatorProcess& process) {
   std::string text;
   dump_items(process_items(), process, "", text);
   dump_list<double>("FlowRateRamPosition", *process.GetFlowRateRamPosition(), text);
-  dump_list<double>("InjectionPressureRamPosition", *process.GetInjectionPressureRamPosition(), text);
+  dump_list<double>("InjectionPressureRamPosition", *process.GetInjectionPressureRamPosition(),
+                    text);
   for (unsigned int i = 0; i < process.GetNumOfInlets(); ++i) {
     text += "inlet " + std::to_string(i + 1) + "\n" + dump(*process.GetFlowPackOfInlet(i));
   }

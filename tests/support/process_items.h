@@ -17,11 +17,14 @@ struct Accessors {
 template <class Object>
 struct ProcessItem {
   const char* name;
-  std::variant<Accessors<Object, unsigned int>, Accessors<Object, double>, Accessors<Object, const char*>> access;
+  std::variant<Accessors<Object, unsigned int>, Accessors<Object, double>,
+               Accessors<Object, const char*>>
+      access;
 };
 
 template <class Object, class Value>
-ProcessItem<Object> process_item(const char* name, void (*set)(Object&, Value), bool (*get)(const Object&, Value&)) {
+ProcessItem<Object> process_item(const char* name, void (*set)(Object&, Value),
+                                 bool (*get)(const Object&, Value&)) {
   return {name, Accessors<Object, Value>{set, get}};
 }
 

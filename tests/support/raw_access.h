@@ -13,7 +13,9 @@ namespace qelpro_test {
 using Reader = CQELPROReader_Manipulator;
 using Writer = CQELPROWriter_Manipulator;
 
-inline constexpr char kFile[] = "[FileHeader]\nName = a mold.pro\n\n[Flow-1]\nFillTime             = 1.5\nEmpty =\nBare\n[Flow-2]\nFillTime = 2.5\n";
+inline constexpr char kFile[] =
+    "[FileHeader]\nName = a mold.pro\n\n[Flow-1]\nFillTime             = 1.5\nEmpty "
+    "=\nBare\n[Flow-2]\nFillTime = 2.5\n";
 
 inline std::string read_string(Reader& reader, const char* section, const char* key) {
   char buffer[256] = {};

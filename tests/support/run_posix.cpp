@@ -25,9 +25,14 @@ Outcome run(const std::string& program, const std::vector<std::string>& argument
   for (const std::string& argument : arguments) {
     command.append(" ").append(quoted(argument));
   }
-  command.append(" >").append(quoted(scratch.path("out"))).append(" 2>").append(quoted(scratch.path("err"))).append(" </dev/null");
+  command.append(" >")
+      .append(quoted(scratch.path("out")))
+      .append(" 2>")
+      .append(quoted(scratch.path("err")))
+      .append(" </dev/null");
   const int status = std::system(command.c_str());
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytes_of(scratch.path("out")), bytes_of(scratch.path("err"))};
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytes_of(scratch.path("out")),
+          bytes_of(scratch.path("err"))};
 }
 
 }  // namespace qelpro_test

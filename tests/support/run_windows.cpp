@@ -23,7 +23,8 @@ std::string quoted(const std::string& text) {
 
 HANDLE inherited(const std::string& path, DWORD access, DWORD disposition) {
   SECURITY_ATTRIBUTES inherit{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
-  return ::CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherit, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+  return ::CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherit,
+                       disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 std::string lines_of(const std::string& path) { return without_returns(bytes_of(path)); }
@@ -44,7 +45,8 @@ Outcome run(const std::string& program, const std::vector<std::string>& argument
   start.hStdError = inherited(scratch.path("err"), GENERIC_WRITE, CREATE_ALWAYS);
   PROCESS_INFORMATION process{};
   DWORD status = static_cast<DWORD>(-1);
-  if (::CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process) != 0) {
+  if (::CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+                       &process) != 0) {
     ::WaitForSingleObject(process.hProcess, INFINITE);
     ::GetExitCodeProcess(process.hProcess, &status);
     ::CloseHandle(process.hThread);

@@ -10,7 +10,8 @@ namespace qelpro_test {
 Scratch::Scratch() {
   std::random_device random;
   do {
-    folder_ = (std::filesystem::temp_directory_path() / ("qelpro-" + std::to_string(random()))).string();
+    folder_ =
+        (std::filesystem::temp_directory_path() / ("qelpro-" + std::to_string(random()))).string();
   } while (!std::filesystem::create_directory(folder_));
 }
 
@@ -28,9 +29,11 @@ std::string Scratch::file(std::string_view contents, std::string_view name) cons
 std::wstring Scratch::wide_file(std::string_view contents, std::wstring_view name) const {
   std::wstring result(folder_.begin(), folder_.end());
   result.append(L"/").append(name);
-  // Characters, not units of this platform's wide text, which a path would convert by the program's locale.
+  // Characters, not units of this platform's wide text, which a path would convert by the program's
+  // locale.
   const std::filesystem::path path(std::u32string(result.begin(), result.end()));
-  std::ofstream(path, std::ios::binary).write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  std::ofstream(path, std::ios::binary)
+      .write(contents.data(), static_cast<std::streamsize>(contents.size()));
   return result;
 }
 
@@ -42,7 +45,8 @@ std::string bytes_of(const std::string& path) {
 }
 
 void put_bytes(const std::string& path, std::string_view contents) {
-  std::ofstream(path, std::ios::binary).write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  std::ofstream(path, std::ios::binary)
+      .write(contents.data(), static_cast<std::streamsize>(contents.size()));
 }
 
 bool exists(const std::string& path) { return std::filesystem::exists(path); }

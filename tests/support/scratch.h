@@ -13,9 +13,12 @@ class Scratch {
   Scratch& operator=(const Scratch&) = delete;
   ~Scratch();
 
-  [[nodiscard]] std::string path(std::string_view name = "file.pro") const { return folder_ + "/" + std::string(name); }
+  [[nodiscard]] std::string path(std::string_view name = "file.pro") const {
+    return folder_ + "/" + std::string(name);
+  }
   /// Makes a file with these bytes and gives its path.
-  [[nodiscard]] std::string file(std::string_view contents, std::string_view name = "file.pro") const;
+  [[nodiscard]] std::string file(std::string_view contents,
+                                 std::string_view name = "file.pro") const;
   /// The same under a name of any characters.
   [[nodiscard]] std::wstring wide_file(std::string_view contents, std::wstring_view name) const;
 

@@ -12,22 +12,25 @@
 
 #include "QELPROEngine/QELPROEngine.h"
 
-/// Section members as rows of a table. A section's test file lists its members, each with the entry that it reads or
-/// writes, and instantiates the behaviours that all section members share:
+/// Section members as rows of a table. A section's test file lists its members, each with the entry
+/// that it reads or writes, and instantiates the behaviours that all section members share:
 ///
 ///     INSTANTIATE_TEST_SUITE_P(FlowX, SectionReader, testing::Values(
 ///         reads(READER(FlowX_ReadFillingTime), "[Flow-2]", "FillTime", "1.5", 1.5, 2),
-///         reads(READER(FlowX_ReadFRProfile), "[Flow-2]", "FR-3", "0.5\t30", 0.5, 30.0, 3, 2)), name_of_row);
+///         reads(READER(FlowX_ReadFRProfile), "[Flow-2]", "FR-3", "0.5\t30", 0.5, 30.0, 3, 2)),
+///         name_of_row);
 ///
-/// The values behind the entry stand for the member's arguments, in order: what an output is to be, or which number is
-/// passed. Of a member with overloads one is chosen by `Taking<int&>::of(&CQELPROReader_Manipulator::X)`.
+/// The values behind the entry stand for the member's arguments, in order: what an output is to be,
+/// or which number is passed. Of a member with overloads one is chosen by
+/// `Taking<int&>::of(&CQELPROReader_Manipulator::X)`.
 namespace qelpro_test {
 
 using Reader = CQELPROReader_Manipulator;
 using Writer = CQELPROWriter_Manipulator;
 
-/// The writer's members by their exact types, which tell them from the forms for constant texts; the list is made from the header
-/// when the tests are built. Members with overloads are not among them.
+/// The writer's members by their exact types, which tell them from the forms for constant texts;
+/// the list is made from the header when the tests are built. Members with overloads are not among
+/// them.
 namespace writer_members {
 #define MEMBER(name, ...) inline constexpr bool (Writer::*name)(__VA_ARGS__) = &Writer::name;
 #include "Writer_single_members.inc"
@@ -69,7 +72,8 @@ struct WriterRow {
   std::function<bool(Writer&, Given)> call;
 };
 
-/// One argument of a call: what the caller passes, and what is to stand there after the member succeeded.
+/// One argument of a call: what the caller passes, and what is to stand there after the member
+/// succeeded.
 template <class Argument>
 class Slot;
 
@@ -166,16 +170,23 @@ char > class Slot<Character*> {
   std::string value_;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const ReaderRow& row) { return out << row.member << " of " << row.section << ' ' << row.key; }
-inline std::ostream& operator<<(std::ostream& out, const WriterRow& row) { return out << row.member << " of " << row.section << ' ' << row.key; }
+inline std::ostream& operator<<(std::ostream& out, const ReaderRow& row) {
+  return out << row.member << " of " << row.section << ' ' << row.key;
+}
+inline std::ostream& operator<<(std::ostream& out, const WriterRow& row) {
+  return out << row.member << " of " << row.section << ' ' << row.key;
+}
 
 template <class... Arguments, class... Values>
-ReaderRow reads(std::string name, bool (Reader::*member)(Arguments...), std::string section, std::string key, std::string text, Values... values) {
-  static_assert(sizeof...(Arguments) == sizeof...(Values), "one value for each argument of the member");
+ReaderRow reads(std::string name, bool (Reader::*member)(Arguments...), std::string section,
+                std::string key, std::string text, Values... values) {
+  static_assert(sizeof...(Arguments) == sizeof...(Values),
+                "one value for each argument of the member");
   constexpr bool has_text = (std::is_same_v<Arguments, char*&> || ...);
   const auto call = [member, values...](Reader& reader, ReaderRow::Outcome outcome) {
     std::tuple<Slot<Arguments>...> slots{Slot<Arguments>(values)...};
-    const bool done = std::apply([&](auto&... slot) { return (reader.*member)(slot.pass()...); }, slots);
+    const bool done =
+        std::apply([&](auto&... slot) { return (reader.*member)(slot.pass()...); }, slots);
     std::apply(
         [outcome](const auto&... slot) {
           switch (outcome) {
@@ -195,7 +206,12 @@ ReaderRow reads(std::string name, bool (Reader::*member)(Arguments...), std::str
         slots);
     return done;
   };
-  return {std::move(name), std::move(section), std::move(key), std::move(text), has_text ? Unscanned::any : Unscanned::kept, call};
+  return {std::move(name),
+          std::move(section),
+          std::move(key),
+          std::move(text),
+          has_text ? Unscanned::any : Unscanned::kept,
+          call};
 }
 
 /// For a member that sets its outputs to zero before it scans.
@@ -205,8 +221,10 @@ inline ReaderRow zeroing(ReaderRow row) {
 }
 
 template <class... Arguments, class... Values>
-WriterRow writes(std::string name, bool (Writer::*member)(Arguments...), std::string section, std::string key, std::string text, Values... values) {
-  static_assert(sizeof...(Arguments) == sizeof...(Values), "one value for each argument of the member");
+WriterRow writes(std::string name, bool (Writer::*member)(Arguments...), std::string section,
+                 std::string key, std::string text, Values... values) {
+  static_assert(sizeof...(Arguments) == sizeof...(Values),
+                "one value for each argument of the member");
   const auto call = [member, values...](Writer& writer, WriterRow::Given given) {
     std::tuple<Slot<Arguments>...> slots{Slot<Arguments>(values)...};
     return std::apply([&](auto&... slot) { return (writer.*member)(slot.pass(given)...); }, slots);

@@ -31,8 +31,10 @@ void on_threads(Work work) {
 
 std::string file_of(int number) {
   const std::string n = std::to_string(number);
-  return "[FileHeader]\nName = mold-" + n + ".pro\n[CaeHeader]\nProjectType = 1 0\n[Summary]\nTotalNodeEM = 1\n[Flow-1]\nFillTime = " + n +
-         ".5\nFRSet = 2\nFR-1 = 0 " + n + "\nFR-2 = 100 " + n + "0\n[Pack-1]\nPackTime = " + n + "\n";
+  return "[FileHeader]\nName = mold-" + n +
+         ".pro\n[CaeHeader]\nProjectType = 1 0\n[Summary]\nTotalNodeEM = 1\n[Flow-1]\nFillTime = " +
+         n + ".5\nFRSet = 2\nFR-1 = 0 " + n + "\nFR-2 = 100 " + n + "0\n[Pack-1]\nPackTime = " + n +
+         "\n";
 }
 
 TEST(Threads, ReadFilesOfTheirOwn) {
@@ -49,10 +51,13 @@ TEST(Threads, ReadFilesOfTheirOwn) {
       char buffer[64];
       char* raw = nullptr;
       const std::string expected = "mold-" + std::to_string(number) + ".pro";
-      const bool right = reader.SetFilePath(path.c_str()) && reader.FlowX_ReadFillingTime(time, 1) && time == number + 0.5 &&
-                         reader.FlowX_ReadFRProfile(x, y, 2, 1) && x == 100 && y == number * 10 && reader.FileHeader_ReadName(name) &&
-                         expected == name && reader.ReadString("[FileHeader]", "Name", raw, buffer, sizeof buffer) && expected == raw &&
-                         reader.ReadValue("[FileHeader]", "Name", raw, buffer, sizeof buffer) && expected == raw;
+      const bool right =
+          reader.SetFilePath(path.c_str()) && reader.FlowX_ReadFillingTime(time, 1) &&
+          time == number + 0.5 && reader.FlowX_ReadFRProfile(x, y, 2, 1) && x == 100 &&
+          y == number * 10 && reader.FileHeader_ReadName(name) && expected == name &&
+          reader.ReadString("[FileHeader]", "Name", raw, buffer, sizeof buffer) &&
+          expected == raw && reader.ReadValue("[FileHeader]", "Name", raw, buffer, sizeof buffer) &&
+          expected == raw;
       wrong += right ? 0 : 1;
     }
   });
@@ -84,12 +89,14 @@ TEST(Threads, WriteFilesOfTheirOwn) {
     CQELPROWriter_Manipulator writer;
     bool right = writer.SetFilePath(path.c_str());
     for (int round = 1; round <= kRounds; ++round) {
-      right = right && writer.FlowX_WriteFillingTime(number + round, 1) && writer.FlowX_WriteFRProfile(round, number, round, 1) &&
+      right = right && writer.FlowX_WriteFillingTime(number + round, 1) &&
+              writer.FlowX_WriteFRProfile(round, number, round, 1) &&
               writer.WriteItems("[Flow-1]", "Note", "%d of %d", round, number);
     }
     CQELPROReader_Manipulator reader;
     double time = 0;
-    right = right && reader.SetFilePath(path.c_str()) && reader.FlowX_ReadFillingTime(time, 1) && time == number + kRounds;
+    right = right && reader.SetFilePath(path.c_str()) && reader.FlowX_ReadFillingTime(time, 1) &&
+            time == number + kRounds;
     for (int round = 1; round <= kRounds; ++round) {
       double x = 0;
       double y = 0;
@@ -106,14 +113,18 @@ TEST(Threads, NamesOfLinesAreTheirOwn) {
   std::atomic<int> ready = 0;
   on_threads([&](int number) {
     const std::string n = std::to_string(number);
-    const std::string path = scratch.file("[Coolant]\n1 = 1 2 3 4 5 Water-" + n + " 6 7\n[Moldbase]\n1 = 1 2 3 Steel-" + n + " 4 5 6\n", n + ".pro");
+    const std::string path = scratch.file("[Coolant]\n1 = 1 2 3 4 5 Water-" + n +
+                                              " 6 7\n[Moldbase]\n1 = 1 2 3 Steel-" + n + " 4 5 6\n",
+                                          n + ".pro");
     CQELPROReader_Manipulator reader;
     double d[6] = {};
     int i[2] = {};
     char* coolant = nullptr;
     char* base = nullptr;
-    const bool read = reader.SetFilePath(path.c_str()) && reader.Coolant_ReadCoolant(d[0], d[1], d[2], d[3], i[0], coolant, d[4], i[1], 1) &&
-                      reader.Moldbase_ReadMoldbase(d[0], d[1], d[2], base, d[3], d[4], d[5], 1);
+    const bool read =
+        reader.SetFilePath(path.c_str()) &&
+        reader.Coolant_ReadCoolant(d[0], d[1], d[2], d[3], i[0], coolant, d[4], i[1], 1) &&
+        reader.Moldbase_ReadMoldbase(d[0], d[1], d[2], base, d[3], d[4], d[5], 1);
     for (++ready; ready < kThreads;) {
       std::this_thread::yield();
     }
@@ -122,7 +133,8 @@ TEST(Threads, NamesOfLinesAreTheirOwn) {
   EXPECT_EQ(wrong, 0);
 }
 
-// Copies of one object that come and go on different threads; what they share is released once, by the last of them.
+// Copies of one object that come and go on different threads; what they share is released once, by
+// the last of them.
 template <class Object>
 void copy_on_threads(Object& object) {
   on_threads([&object](int /*number*/) {
@@ -142,9 +154,11 @@ TEST(Threads, CopyAndForgetOneObject) {
   CQEL_ProcessAdapter adapter;
   CQELMachineIdentification machines;
   CQELPCSInterpolator coolants;
-  ASSERT_TRUE(reader.SetFilePath(path.c_str()) && writer.SetFilePath(path.c_str()) && adapter.SetProcessPath(path.c_str()));
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()) && writer.SetFilePath(path.c_str()) &&
+              adapter.SetProcessPath(path.c_str()));
   machines.SetMachineUserBankPath(data_path("machines.bank").c_str());
-  ASSERT_TRUE(machines.LoadFileData() && coolants.LoadDataFromFile(data_path("coolants.pcs").c_str()));
+  ASSERT_TRUE(machines.LoadFileData() &&
+              coolants.LoadDataFromFile(data_path("coolants.pcs").c_str()));
   copy_on_threads(reader);
   copy_on_threads(writer);
   copy_on_threads(adapter);
@@ -152,7 +166,8 @@ TEST(Threads, CopyAndForgetOneObject) {
   copy_on_threads(coolants);
   double time = 0;
   double p[4] = {};
-  EXPECT_TRUE(writer.FlowX_WriteFillingTime(7.5, 1) && adapter.SetCoolCTL_WriteCoolantTemperature(60, 1));
+  EXPECT_TRUE(writer.FlowX_WriteFillingTime(7.5, 1) &&
+              adapter.SetCoolCTL_WriteCoolantTemperature(60, 1));
   EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 1));
   EXPECT_EQ(machines.GetMakerCount(), 4);
   EXPECT_TRUE(coolants.InterpolateCoolantProperties(6, 10, p[0], p[1], p[2], p[3]));
@@ -166,9 +181,11 @@ TEST(Threads, LoadProcessesOfTheirOwn) {
     for (int round = 0; round < kRounds; ++round) {
       CQELProcessData_Manipulator loader;
       double time = 0;
-      const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(path.c_str()));
-      const bool right =
-          process != nullptr && process->GetNumOfInlets() == 1 && get_process_FillTime(*process->GetFlowPackOfInlet(0), time) && time == number + 0.5;
+      const std::unique_ptr<const QELG_SimulatorProcess> process(
+          loader.GetProcessDataStructure(path.c_str()));
+      const bool right = process != nullptr && process->GetNumOfInlets() == 1 &&
+                         get_process_FillTime(*process->GetFlowPackOfInlet(0), time) &&
+                         time == number + 0.5;
       wrong += right ? 0 : 1;
     }
   });

@@ -27,9 +27,12 @@ TEST(Threads, ServeFilesOfTheirOwnThroughSelfContainedObjects) {
         double x = 0;
         double y = 0;
         char* text = nullptr;
-        right = right && object.SetFillTime(number + round, number) && object.GetFillTime(time, number) && time == number + round &&
-                object.SetFRProfile(round, round, number, number) && object.GetFRProfile(round, x, y, number) && y == number &&
-                object.SetMachineRemark(remark.data()) && object.GetMachineRemark(text) && remark + "\n" == text;
+        right = right && object.SetFillTime(number + round, number) &&
+                object.GetFillTime(time, number) && time == number + round &&
+                object.SetFRProfile(round, round, number, number) &&
+                object.GetFRProfile(round, x, y, number) && y == number &&
+                object.SetMachineRemark(remark.data()) && object.GetMachineRemark(text) &&
+                remark + "\n" == text;
       }
       wrong += right ? 0 : 1;
     });
@@ -51,8 +54,8 @@ TEST(Threads, InterpolateAndListWithTheirOwnObjects) {
         machines.SetMachineUserBankPath(data_path("machines.bank").c_str());
         double p[4] = {};
         const bool right = tables.LoadDataFromFile(data_path("coolants.pcs").c_str()) &&
-                           tables.InterpolateCoolantProperties(6, 10, p[0], p[1], p[2], p[3]) && p[0] == 1 && machines.LoadFileData() &&
-                           machines.GetMakerCount() == 4;
+                           tables.InterpolateCoolantProperties(6, 10, p[0], p[1], p[2], p[3]) &&
+                           p[0] == 1 && machines.LoadFileData() && machines.GetMakerCount() == 4;
         wrong += right ? 0 : 1;
       }
     });

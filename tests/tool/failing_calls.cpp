@@ -28,7 +28,8 @@ Function* next(const char* name) {
 }
 
 bool fails(std::string_view call) {
-  if (const char* signalled = std::getenv("QELPRO_TEST_SIGNAL"); signalled != nullptr && call == signalled) {
+  if (const char* signalled = std::getenv("QELPRO_TEST_SIGNAL");
+      signalled != nullptr && call == signalled) {
     ::kill(::getpid(), SIGTERM);
   }
   const char* name = std::getenv("QELPRO_TEST_FAIL");
@@ -41,7 +42,8 @@ bool fails(std::string_view call) {
 
 std::string path_of(int fd) {
   char path[4096];
-  const ssize_t length = ::readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof path);
+  const ssize_t length =
+      ::readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof path);
   return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : "";
 }
 
@@ -68,7 +70,8 @@ void log_first_write(int fd) {
   }
   done = true;
   std::FILE* stream = std::fopen(log, "w");
-  std::fprintf(stream, "%s %o %d", path_of(fd).c_str(), status.st_mode & 07777U, static_cast<int>(status.st_size));
+  std::fprintf(stream, "%s %o %d", path_of(fd).c_str(), status.st_mode & 07777U,
+               static_cast<int>(status.st_size));
   std::fclose(stream);
 }
 
@@ -119,8 +122,10 @@ VISIBLE int rename(const char* from, const char* to) noexcept {
   return fails("rename") ? -1 : real(from, to);
 }
 
-VISIBLE int renameat2(int from_folder, const char* from, int to_folder, const char* to, unsigned int flags) noexcept {
-  static auto* const real = next<int(int, const char*, int, const char*, unsigned int)>("renameat2");
+VISIBLE int renameat2(int from_folder, const char* from, int to_folder, const char* to,
+                      unsigned int flags) noexcept {
+  static auto* const real =
+      next<int(int, const char*, int, const char*, unsigned int)>("renameat2");
   return fails("renameat2") || fails("link") ? -1 : real(from_folder, from, to_folder, to, flags);
 }
 

@@ -23,29 +23,32 @@ using testing::Not;
 constexpr const char* kFile = "[Flow-1]\nFillTime = 1.5\nRemark = \x1b[31mred\x07 \xc2\x9b ok\n";
 
 // Every way in which the tool answers.
-const std::vector<std::string> kAnswers = {"get \"$1\" Flow-1 FillTime",
-                                           "show \"$1\"",
-                                           "show \"$1\" --json",
-                                           "process \"$1\"",
-                                           "process \"$1\" --json",
-                                           "machines \"$2\"",
-                                           "machines \"$2\" Tessaro --json",
-                                           "coolant \"$3\" 6 10",
-                                           "coolant \"$3\" --table 6 --from 1 --to 2 --step 1 --json",
-                                           "--help",
-                                           "get --help",
-                                           "--version"};
+const std::vector<std::string> kAnswers = {
+    "get \"$1\" Flow-1 FillTime",
+    "show \"$1\"",
+    "show \"$1\" --json",
+    "process \"$1\"",
+    "process \"$1\" --json",
+    "machines \"$2\"",
+    "machines \"$2\" Tessaro --json",
+    "coolant \"$3\" 6 10",
+    "coolant \"$3\" --table 6 --from 1 --to 2 --step 1 --json",
+    "--help",
+    "get --help",
+    "--version"};
 
 Outcome answer(const std::string& command, const std::string& redirection) {
   const Scratch scratch;
-  return shell("\"$0\" " + command + " " + redirection, {scratch.file(kFile), data_path("machines.bank"), data_path("coolants.pcs")});
+  return shell("\"$0\" " + command + " " + redirection,
+               {scratch.file(kFile), data_path("machines.bank"), data_path("coolants.pcs")});
 }
 
 TEST(Output, ThatDoesNotFitOnTheDeviceIsAnError) {
   for (const std::string& command : kAnswers) {
     const Outcome outcome = answer(command, ">/dev/full");
     EXPECT_EQ(outcome.status, 3) << command;
-    EXPECT_EQ(outcome.err, "qelpro: standard output: cannot be written: No space left on device\n") << command;
+    EXPECT_EQ(outcome.err, "qelpro: standard output: cannot be written: No space left on device\n")
+        << command;
   }
 }
 
@@ -63,7 +66,8 @@ TEST(Output, BeyondALimitOfFileSizesIsAnError) {
   for (int i = 0; i < 1000; ++i) {
     contents += "k" + std::to_string(i) + " = 1\n";
   }
-  const Outcome outcome = shell("ulimit -f 1; \"$0\" show \"$1\" >\"$2\"", {scratch.file(contents), scratch.path("out")});
+  const Outcome outcome = shell("ulimit -f 1; \"$0\" show \"$1\" >\"$2\"",
+                                {scratch.file(contents), scratch.path("out")});
   EXPECT_EQ(outcome.status, 3);
   EXPECT_THAT(outcome.err, HasSubstr("File too large"));
 }
@@ -91,7 +95,8 @@ TEST(Output, IntoAClosedPipeEndsQuietly) {
   }
   for (const char* prelude : {"", "trap '' PIPE; "}) {
     const Outcome outcome =
-        shell(std::string(prelude) + "{ \"$0\" show \"$1\"; echo $? >\"$2\"; } | head -n 1", {scratch.file(contents), scratch.path("status")});
+        shell(std::string(prelude) + "{ \"$0\" show \"$1\"; echo $? >\"$2\"; } | head -n 1",
+              {scratch.file(contents), scratch.path("status")});
     EXPECT_EQ(outcome.out, "[A]  # unknown section\n") << prelude;
     EXPECT_EQ(outcome.err, "") << prelude;
   }
@@ -123,13 +128,16 @@ std::string on_terminal(const std::vector<std::string>& arguments) {
 TEST(Output, ToATerminalShowsControlCharactersAsEscapes) {
   const Scratch scratch;
   const std::string file = scratch.file(kFile);
-  for (const std::vector<std::string>& command : {std::vector<std::string>{"get", file, "Flow-1", "Remark"},
-                                                  {"show", file},
-                                                  {"show", file, "--json"},
-                                                  {"get", file, "Flow-1", "\x1b[2J"},
-                                                  {"get", scratch.path("\x1b]0;x\x07"), "A", "b"}}) {
+  for (const std::vector<std::string>& command :
+       {std::vector<std::string>{"get", file, "Flow-1", "Remark"},
+        {"show", file},
+        {"show", file, "--json"},
+        {"get", file, "Flow-1", "\x1b[2J"},
+        {"get", scratch.path("\x1b]0;x\x07"), "A", "b"}}) {
     const std::string text = on_terminal(command);
-    EXPECT_THAT(text, AllOf(Not(HasSubstr("\x1b")), Not(HasSubstr("\x07")), Not(HasSubstr("\xc2\x9b")))) << testing::PrintToString(command);
+    EXPECT_THAT(text,
+                AllOf(Not(HasSubstr("\x1b")), Not(HasSubstr("\x07")), Not(HasSubstr("\xc2\x9b"))))
+        << testing::PrintToString(command);
     EXPECT_NE(text, "");
   }
   EXPECT_EQ(on_terminal({"get", file, "Flow-1", "Remark"}), "\\x1B[31mred\\x07 \\x9B ok\r\n");
@@ -138,8 +146,10 @@ TEST(Output, ToATerminalShowsControlCharactersAsEscapes) {
 TEST(Output, ToAPipeOrAFileHasTheBytes) {
   const Scratch scratch;
   const std::string file = scratch.file(kFile);
-  EXPECT_EQ(run(QELPRO_TOOL_PATH, {"get", file, "Flow-1", "Remark"}).out, "\x1b[31mred\x07 \xc2\x9b ok\n");
-  EXPECT_EQ(shell("\"$0\" get \"$1\" Flow-1 Remark | cat", {file}).out, "\x1b[31mred\x07 \xc2\x9b ok\n");
+  EXPECT_EQ(run(QELPRO_TOOL_PATH, {"get", file, "Flow-1", "Remark"}).out,
+            "\x1b[31mred\x07 \xc2\x9b ok\n");
+  EXPECT_EQ(shell("\"$0\" get \"$1\" Flow-1 Remark | cat", {file}).out,
+            "\x1b[31mred\x07 \xc2\x9b ok\n");
 }
 
 TEST(Show, NeedsMemoryOfAtMostTwentyTimesTheFile) {

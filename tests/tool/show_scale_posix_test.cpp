@@ -30,7 +30,9 @@ struct ShortLines {
 };
 
 // As the test's name tells it: what stands in the file, and no address.
-[[maybe_unused]] void PrintTo(const ShortLines& lines, std::ostream* out) { *out << lines.count << " lines"; }
+[[maybe_unused]] void PrintTo(const ShortLines& lines, std::ostream* out) {
+  *out << lines.count << " lines";
+}
 
 class ShowOfShortLines : public testing::TestWithParam<ShortLines> {};
 
@@ -52,14 +54,16 @@ TEST_P(ShowOfShortLines, NeedsMemoryOfAtMostTwentyTimesTheFile) {
     EXPECT_EQ(status, 0) << option;
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     constexpr std::size_t kProgram = std::size_t{12} * 1024 * 1024;
-    EXPECT_LE(static_cast<std::size_t>(usage.ru_maxrss) * 1024, kProgram + 20 * contents.size()) << option;
+    EXPECT_LE(static_cast<std::size_t>(usage.ru_maxrss) * 1024, kProgram + 20 * contents.size())
+        << option;
 #endif
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, ShowOfShortLines,
-                         testing::Values(ShortLines{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n", "1\n", 50'000},
-                                         ShortLines{"[A]\n", "\n", 1'000'000}, ShortLines{"[A]\n", "a\n", 200'000}, ShortLines{"", "[A]\n", 150'000},
-                                         ShortLines{"[A]\n", "a=\n", 150'000}));
+INSTANTIATE_TEST_SUITE_P(
+    Lines, ShowOfShortLines,
+    testing::Values(ShortLines{"[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n", "1\n", 50'000},
+                    ShortLines{"[A]\n", "\n", 1'000'000}, ShortLines{"[A]\n", "a\n", 200'000},
+                    ShortLines{"", "[A]\n", 150'000}, ShortLines{"[A]\n", "a=\n", 150'000}));
 
 }  // namespace

@@ -27,38 +27,41 @@ TEST(ValueCheck, KnowsEveryEncodingOfTheCatalogue) {
 }
 
 TEST(ValueCheck, ReadsWholeWhatTheWritersWrite) {
-  const std::vector<std::vector<std::string>> rows = {{"[Flow-1]", "FillTime", "1.2e-007"},
-                                                      {"[Flow-1]", "FR-1", "0\t50"},
-                                                      {"[Flow-1]", "Material", "any text, 1,5"},
-                                                      {"[RamPosition]", "RP_IP-1", "7"},
-                                                      {"[RamPosition]", "RP_IP-1", "7\t8"},
-                                                      {"[Machine]", "PlatenSize(HxV)", "1200x900"},
-                                                      {"[Machine]", "MachineDimension(LxWxH)", "5.2x1.4x2.1"},
-                                                      {"[MoldThermalBoundaryType]", "Flow", "900\t(W/m2)"},
-                                                      {"[GateValve-1]", "GC-1", "5\t1\t2\t3"},
-                                                      {"[GateValve-1]", "GC-1", "5\t1\t4"},
-                                                      {"[CaeHeader]", "ProjectType", "1 2"},
-                                                      {"[CaeHeader]", "ProjectType", "8"},
-                                                      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t\t80"},
-                                                      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t \t80\t"}};
+  const std::vector<std::vector<std::string>> rows = {
+      {"[Flow-1]", "FillTime", "1.2e-007"},
+      {"[Flow-1]", "FR-1", "0\t50"},
+      {"[Flow-1]", "Material", "any text, 1,5"},
+      {"[RamPosition]", "RP_IP-1", "7"},
+      {"[RamPosition]", "RP_IP-1", "7\t8"},
+      {"[Machine]", "PlatenSize(HxV)", "1200x900"},
+      {"[Machine]", "MachineDimension(LxWxH)", "5.2x1.4x2.1"},
+      {"[MoldThermalBoundaryType]", "Flow", "900\t(W/m2)"},
+      {"[GateValve-1]", "GC-1", "5\t1\t2\t3"},
+      {"[GateValve-1]", "GC-1", "5\t1\t4"},
+      {"[CaeHeader]", "ProjectType", "1 2"},
+      {"[CaeHeader]", "ProjectType", "8"},
+      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t\t80"},
+      {"[PartInsertInitialTemperature]", "PartInsert-1", "3\t \t80\t"}};
   for (const auto& row : rows) {
     EXPECT_EQ(unread(row[0].c_str(), row[1].c_str(), row[2]), "") << testing::PrintToString(row);
   }
 }
 
 TEST(ValueCheck, TellsWhatIsNotRead) {
-  const std::vector<std::vector<std::string>> rows = {{"[Flow-1]", "FillTime", "", "a number is missing"},
-                                                      {"[Flow-1]", "FillTime", "1.5abc", "\"abc\" is not read"},
-                                                      {"[Flow-1]", "FillTime", "1,5", "\",5\" is not read: the decimal point is \".\""},
-                                                      {"[Flow-1]", "FillTime", "1e999", "field 1 is a number that is too large"},
-                                                      {"[Flow-1]", "FRSet", "2.5", "\".5\" is not read"},
-                                                      {"[Flow-1]", "FRSet", "99999999999", "field 1 is a whole number beyond 32 bits"},
-                                                      {"[Flow-1]", "FR-1", "0", "field 2, a number, is missing"},
-                                                      {"[Flow-1]", "FR-1", "0 x", "field 2, a number, does not begin with \"x\""},
-                                                      {"[Flow-1]", "FR-1", "0 1 2", "\"2\" is not read"},
-                                                      {"[GateValve-1]", "GC-1", "5 1 2", "field 4, a whole number, is missing"}};
+  const std::vector<std::vector<std::string>> rows = {
+      {"[Flow-1]", "FillTime", "", "a number is missing"},
+      {"[Flow-1]", "FillTime", "1.5abc", "\"abc\" is not read"},
+      {"[Flow-1]", "FillTime", "1,5", "\",5\" is not read: the decimal point is \".\""},
+      {"[Flow-1]", "FillTime", "1e999", "field 1 is a number that is too large"},
+      {"[Flow-1]", "FRSet", "2.5", "\".5\" is not read"},
+      {"[Flow-1]", "FRSet", "99999999999", "field 1 is a whole number beyond 32 bits"},
+      {"[Flow-1]", "FR-1", "0", "field 2, a number, is missing"},
+      {"[Flow-1]", "FR-1", "0 x", "field 2, a number, does not begin with \"x\""},
+      {"[Flow-1]", "FR-1", "0 1 2", "\"2\" is not read"},
+      {"[GateValve-1]", "GC-1", "5 1 2", "field 4, a whole number, is missing"}};
   for (const auto& row : rows) {
-    EXPECT_EQ(unread(row[0].c_str(), row[1].c_str(), row[2]), row[3]) << testing::PrintToString(row);
+    EXPECT_EQ(unread(row[0].c_str(), row[1].c_str(), row[2]), row[3])
+        << testing::PrintToString(row);
   }
 }
 
@@ -70,7 +73,8 @@ TEST(ValueCheck, TakesAZeroBeforeASeparatorForANumber) {
 
 TEST(ValueCheck, TakesAPositionalHeaderLineWithoutItsLastNumber) {
   EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop", 0), std::nullopt);
-  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop\tx", 0), "field 3, a whole number, does not begin with \"x\"");
+  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop\tx", 0),
+            "field 3, a whole number, does not begin with \"x\"");
 }
 
 TEST(ValueCheck, TellsNothingOfKeysThatAreNotKnown) {

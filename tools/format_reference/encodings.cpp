@@ -47,8 +47,10 @@ EncodingText written(std::string_view read, Values... values) {
 }
 
 constexpr std::string_view kInsert =
-    "%d %s %lf: of a name with blanks the first word, and then no temperature; nothing between two tabs before a number is an empty name";
-constexpr std::string_view kInsertOfFour = "four pieces between tabs; or words, whose last is the temperature or the fourth, see below";
+    "%d %s %lf: of a name with blanks the first word, and then no temperature; nothing between two "
+    "tabs before a number is an empty name";
+constexpr std::string_view kInsertOfFour =
+    "four pieces between tabs; or words, whose last is the temperature or the fourth, see below";
 
 template <class Encoding>
 EncodingText read_only(std::string_view read, std::string example) {
@@ -74,20 +76,29 @@ const std::vector<EncodingText>& encodings() {
       written<SizeTriple>("%lf%c%lf%c%lf, all numbers decimal", 5.2, 1.4, 2.1),
       written<ZoneCount>("%d, or %d%c%d and their sum where the text holds a +", 6),
       written<RealWithNote>("%lf, the rest passed over", 1500.0, "W/m^2.K"),
-      written<GatePoint>("%lf %d %d %d; for modes 1 and 4 the last is -1, and a mode that is none of 1 to 4 is written as an empty value", 5.5, 1, 2,
-                         7),
+      written<GatePoint>("%lf %d %d %d; for modes 1 and 4 the last is -1, and a mode that is none "
+                         "of 1 to 4 is written as an empty value",
+                         5.5, 1, 2, 7),
       written<GatePointShort>("%lf %d %d", 5.5, 1, 1),
-      written<CoolantLine>("%lf %lf %lf %lf %d %s %lf %d", 1.0, 4.183e7, 59800.0, 0.01006, 1, "Water", 8.0, 2),
-      written<MoldbaseLine>("%lf %lf %lf, the name, %lf %lf %lf", 7.8, 0.46, 29.0, "Tool Steel P20", 1.0, 2.0, 3.0),
-      written<MoldMetalLine>("%lf %lf %lf, the name, %lf %lf %lf", 7.8, 0.46, 29.0, "Tool Steel P20", 1.0, 2.0, 3.0),
-      written<IntegerAndQuotedName>("%d, and the text between the first and the last double quote", 3, "Base A"),
+      written<CoolantLine>("%lf %lf %lf %lf %d %s %lf %d", 1.0, 4.183e7, 59800.0, 0.01006, 1,
+                           "Water", 8.0, 2),
+      written<MoldbaseLine>("%lf %lf %lf, the name, %lf %lf %lf", 7.8, 0.46, 29.0, "Tool Steel P20",
+                            1.0, 2.0, 3.0),
+      written<MoldMetalLine>("%lf %lf %lf, the name, %lf %lf %lf", 7.8, 0.46, 29.0,
+                             "Tool Steel P20", 1.0, 2.0, 3.0),
+      written<IntegerAndQuotedName>("%d, and the text between the first and the last double quote",
+                                    3, "Base A"),
       written<PartInsertLine>(kInsert, 3, "Core", 80.0),
       written<MoldInsertLine>(kInsert, 4, "Plate", 90.0),
       read_only<PartInsertLineOfFour>(kInsertOfFour, "3\tCore Pin A\t80\t2"),
       read_only<MoldInsertLineOfFour>(kInsertOfFour, "4\tPlate\t90\t1"),
-      {ContactAngle::kName, "the text between the first two double quotes, and the number behind it", ContactAngle::print("Rib", 40.0), true,
+      {ContactAngle::kName,
+       "the text between the first two double quotes, and the number behind it",
+       ContactAngle::print("Rib", 40.0), true,
        "is an error without two quotes; a missing angle is 0"},
-      written<PositionalHeader>("%d %s %d, the name with its blanks in a line of four words or more", 2, "Cavity Surface", 0),
+      written<PositionalHeader>(
+          "%d %s %d, the name with its blanks in a line of four words or more", 2, "Cavity Surface",
+          0),
       written<PositionalSetting>("%d %c %lf %lf, the first two dropped", 1, 40.0, 60.0),
   };
   return all;

@@ -1,5 +1,5 @@
-// Prints docs/format.md, the reference of the process file, from docs/format.md.in and the catalogue; or, for scripts, the
-// catalogue's rows.
+// Prints docs/format.md, the reference of the process file, from docs/format.md.in and the
+// catalogue; or, for scripts, the catalogue's rows.
 
 #include <exception>
 #include <iostream>

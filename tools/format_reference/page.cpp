@@ -32,7 +32,9 @@ std::string contents(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::vector<const qel::KeyInfo*> keys_of(const qel::SectionInfo& section) { return {section.keys, section.keys + section.key_count}; }
+std::vector<const qel::KeyInfo*> keys_of(const qel::SectionInfo& section) {
+  return {section.keys, section.keys + section.key_count};
+}
 
 // A cell of a table ends at "|".
 std::string cell(std::string_view text) {
@@ -72,42 +74,56 @@ std::string together(std::initializer_list<std::string> parts) {
 std::string with_adapter(const qel::Members& own, const qel::KeyInfo& key, bool reading) {
   qel::Members adapter{};
   std::copy_if(key.elsewhere.adapter.begin(), key.elsewhere.adapter.end(), adapter.begin(),
-               [reading](const char* name) { return name != nullptr && (std::string_view(name).substr(0, 3) == "Get") == reading; });
+               [reading](const char* name) {
+                 return name != nullptr &&
+                        (std::string_view(name).substr(0, 3) == "Get") == reading;
+               });
   return together({members(own), members(adapter, "CQEL_ProcessAdapter::")});
 }
 
-std::string loader(const qel::KeyInfo& key) { return key.elsewhere.loader != nullptr ? code(key.elsewhere.loader) : ""; }
+std::string loader(const qel::KeyInfo& key) {
+  return key.elsewhere.loader != nullptr ? code(key.elsewhere.loader) : "";
+}
 
 void print_sections(std::ostream& to) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     to << "\n### `" << section->name << "`\n\n"
-       << cell(section->subject) << "\n\n| key | value | encoding | read by | written by | older object | loader |\n|---|---|---|---|---|---|---|\n";
+       << cell(section->subject)
+       << "\n\n| key | value | encoding | read by | written by | older object | loader "
+          "|\n|---|---|---|---|---|---|---|\n";
     for (const qel::KeyInfo* key : keys_of(*section)) {
-      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding << " | "
-         << together({with_adapter(key->readers, *key, true), members(key->elsewhere.value_reader, "CQELProcessValueReader::")}) << " | "
-         << with_adapter(key->writers, *key, false) << " | " << members(key->elsewhere.older) << " | " << loader(*key) << " |\n";
+      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding
+         << " | "
+         << together({with_adapter(key->readers, *key, true),
+                      members(key->elsewhere.value_reader, "CQELProcessValueReader::")})
+         << " | " << with_adapter(key->writers, *key, false) << " | "
+         << members(key->elsewhere.older) << " | " << loader(*key) << " |\n";
     }
   }
 }
 
 void print_encodings(std::ostream& to) {
-  to << "| encoding | read as | what the text does not supply | such as | written by a member |\n|---|---|---|---|---|\n";
+  to << "| encoding | read as | what the text does not supply | such as | written by a member "
+        "|\n|---|---|---|---|---|\n";
   std::set<std::string_view> told;
   for (const EncodingText& encoding : encodings()) {
     told.insert(encoding.name);
-    to << "| " << encoding.name << " | " << cell(encoding.read) << " | " << encoding.absent << " | " << code(encoding.example) << " | "
-       << (encoding.written ? "yes" : "no") << " |\n";
+    to << "| " << encoding.name << " | " << cell(encoding.read) << " | " << encoding.absent << " | "
+       << code(encoding.example) << " | " << (encoding.written ? "yes" : "no") << " |\n";
   }
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     for (const qel::KeyInfo* key : keys_of(*section)) {
       if (!told.contains(key->encoding)) {
-        throw std::runtime_error(std::string("nothing is told about the encoding ") + key->encoding);
+        throw std::runtime_error(std::string("nothing is told about the encoding ") +
+                                 key->encoding);
       }
     }
   }
 }
 
-bool is_point(const qel::KeyInfo& key) { return key.encoding == std::string_view(qel::RealPair::kName); }
+bool is_point(const qel::KeyInfo& key) {
+  return key.encoding == std::string_view(qel::RealPair::kName);
+}
 
 // The key that counts the points: its text stands before that of the points.
 void print_profiles(std::ostream& to) {
@@ -117,17 +133,20 @@ void print_profiles(std::ostream& to) {
     for (const qel::KeyInfo* key : keys_of(*section)) {
       if (is_point(*key)) {
         const std::string_view meaning = key->meaning;
-        to << "| " << code(section->name) << " | " << (count != nullptr ? code(count) : "none") << " | " << code(key->text) << " | "
-           << cell(meaning.substr(meaning.find(": ") + 2)) << " |\n";
+        to << "| " << code(section->name) << " | " << (count != nullptr ? code(count) : "none")
+           << " | " << code(key->text) << " | " << cell(meaning.substr(meaning.find(": ") + 2))
+           << " |\n";
       }
       const std::string_view text = key->text;
-      const bool counts = text.size() > 3 && (text.substr(text.size() - 3) == "Set" || text.find("_Section") != std::string_view::npos);
+      const bool counts = text.size() > 3 && (text.substr(text.size() - 3) == "Set" ||
+                                              text.find("_Section") != std::string_view::npos);
       count = counts ? key->text : count;
     }
   }
 }
 
-// The functions that the values of several keys go to, in the order in which the loader asks for the keys.
+// The functions that the values of several keys go to, in the order in which the loader asks for
+// the keys.
 void print_shared(std::ostream& to) {
   constexpr std::string_view kStages[] = {"[Flow-%ld]", "[Pack-%d]", "[Cure-%d]"};
   std::vector<std::string> order;
@@ -135,12 +154,15 @@ void print_shared(std::ostream& to) {
   std::map<std::string, int> counts;
   for (const std::string_view stage : kStages) {
     for (const qel::SectionInfo* section : qel::Catalogue()) {
-      for (const qel::KeyInfo* key : section->name == stage ? keys_of(*section) : std::vector<const qel::KeyInfo*>{}) {
-        if (key->elsewhere.loader == nullptr || std::string_view(key->elsewhere.loader).substr(0, 4) != "set_") {
+      for (const qel::KeyInfo* key :
+           section->name == stage ? keys_of(*section) : std::vector<const qel::KeyInfo*>{}) {
+        if (key->elsewhere.loader == nullptr ||
+            std::string_view(key->elsewhere.loader).substr(0, 4) != "set_") {
           continue;
         }
         std::string& listed = keys[key->elsewhere.loader];
-        listed += (listed.empty() ? "" : ", then ") + code(key->text) + " of " + code(section->name);
+        listed +=
+            (listed.empty() ? "" : ", then ") + code(key->text) + " of " + code(section->name);
         if (++counts[key->elsewhere.loader] == 2) {
           order.emplace_back(key->elsewhere.loader);
         }
@@ -158,7 +180,8 @@ void print_older_alone(std::ostream& to) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     std::set<std::string_view> others;
     for (const qel::KeyInfo* key : keys_of(*section)) {
-      if (key->readers.front() != nullptr || key->writers.front() != nullptr || key->elsewhere.loader != nullptr) {
+      if (key->readers.front() != nullptr || key->writers.front() != nullptr ||
+          key->elsewhere.loader != nullptr) {
         others.insert(key->text);
       }
     }
@@ -204,7 +227,8 @@ void print_page(const std::string& folder, std::ostream& to) {
       break;
     }
     const std::size_t end = text.find('@', mark + 1);
-    const auto part = end != std::string::npos ? parts.find(text.substr(mark + 1, end - mark - 1)) : parts.end();
+    const auto part =
+        end != std::string::npos ? parts.find(text.substr(mark + 1, end - mark - 1)) : parts.end();
     if (part == parts.end()) {
       throw std::runtime_error("format.md.in: no such part behind " + text.substr(mark, 20));
     }

@@ -22,10 +22,11 @@ void print_rows(std::ostream& to) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     for (std::size_t index = 0; index < section->key_count; ++index) {
       const qel::KeyInfo& key = *section->keys[index];
-      to << section->name << '\t' << key.text << '\t' << key.encoding << '\t' << joined(key.readers) << '\t' << joined(key.writers) << '\t'
-         << joined(key.elsewhere.older) << '\t' << joined(key.elsewhere.adapter) << '\t'
-         << (key.elsewhere.loader != nullptr ? key.elsewhere.loader : "") << '\t' << key.meaning << '\t' << joined(key.elsewhere.value_reader)
-         << '\n';
+      to << section->name << '\t' << key.text << '\t' << key.encoding << '\t' << joined(key.readers)
+         << '\t' << joined(key.writers) << '\t' << joined(key.elsewhere.older) << '\t'
+         << joined(key.elsewhere.adapter) << '\t'
+         << (key.elsewhere.loader != nullptr ? key.elsewhere.loader : "") << '\t' << key.meaning
+         << '\t' << joined(key.elsewhere.value_reader) << '\n';
     }
   }
 }

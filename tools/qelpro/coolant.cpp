@@ -33,7 +33,9 @@ struct Request {
   std::vector<double> temperatures;
 };
 
-[[noreturn]] void refuse(const std::string& why) { throw Failure(kUsage, "coolant: " + why + "; see qelpro coolant --help"); }
+[[noreturn]] void refuse(const std::string& why) {
+  throw Failure(kUsage, "coolant: " + why + "; see qelpro coolant --help");
+}
 
 std::string own_file() {
   std::array<char, 4096> path{};
@@ -45,7 +47,8 @@ std::string own_file() {
 
 void take_table(const Arguments& arguments, Request& request) {
   constexpr double kMostRows = 1e6;
-  for (const auto& [given, name] : {std::pair(arguments.from.has_value(), "--from"), std::pair(arguments.to.has_value(), "--to"),
+  for (const auto& [given, name] : {std::pair(arguments.from.has_value(), "--from"),
+                                    std::pair(arguments.to.has_value(), "--to"),
                                     std::pair(arguments.step.has_value(), "--step")}) {
     if (!given) {
       refuse(std::string("--table needs --from, --to and --step: ") + name + " is missing");
@@ -70,8 +73,9 @@ void take_table(const Arguments& arguments, Request& request) {
 // The last two words are the coolant and the temperature.
 void take_point(std::vector<std::string>& words, Request& request) {
   if (words.size() < 2) {
-    refuse(words.empty() ? "ID and TEMPERATURE are missing; or give --table"
-                         : "TEMPERATURE is missing behind \"" + words.back() + "\"; or give --table");
+    refuse(words.empty()
+               ? "ID and TEMPERATURE are missing; or give --table"
+               : "TEMPERATURE is missing behind \"" + words.back() + "\"; or give --table");
   }
   constexpr std::size_t kWords = 3;
   if (words.size() > kWords) {
@@ -82,7 +86,8 @@ void take_point(std::vector<std::string>& words, Request& request) {
   // A file's name and a number: the number is the coolant, as far as one can tell.
   if (words.size() == 2 && !CLI::detail::lexical_cast(words.front(), coolant)) {
     refuse(CLI::detail::lexical_cast(words.back(), coolant)
-               ? "TEMPERATURE is missing behind \"" + words.back() + "\"; or \"" + words.front() + "\" is no coolant's identifier"
+               ? "TEMPERATURE is missing behind \"" + words.back() + "\"; or \"" + words.front() +
+                     "\" is no coolant's identifier"
                : "\"" + words.front() + "\" is no coolant's identifier: give a whole number");
   }
   if (!CLI::detail::lexical_cast(words.back(), temperature)) {
@@ -112,8 +117,9 @@ Request request_of(const Arguments& arguments) {
 }
 
 std::string description_of(const ListedCoolant& coolant) {
-  return std::to_string(coolant_identifier(coolant.number)) + " ([Coolant-" + std::to_string(coolant.number) + "]" +
-         (coolant.name.empty() ? "" : ", " + coolant.name) + (coolant.has_rows ? "" : ", without \"DataCount\"") + ")";
+  return std::to_string(coolant_identifier(coolant.number)) + " ([Coolant-" +
+         std::to_string(coolant.number) + "]" + (coolant.name.empty() ? "" : ", " + coolant.name) +
+         (coolant.has_rows ? "" : ", without \"DataCount\"") + ")";
 }
 
 [[noreturn]] void fail_to_find(const Request& request, const std::vector<ListedCoolant>& coolants) {
@@ -131,7 +137,8 @@ std::string description_of(const ListedCoolant& coolant) {
   for (const ListedCoolant& coolant : coolants) {
     there += (there.empty() ? "" : ", ") + description_of(coolant);
   }
-  throw Failure(kNotFound, at(request.file, what + (there.empty() ? "; the file has no coolant" : "; there are " + there)));
+  throw Failure(kNotFound, at(request.file, what + (there.empty() ? "; the file has no coolant"
+                                                                  : "; there are " + there)));
 }
 
 std::string in_columns(const std::vector<double>& numbers) {
@@ -148,7 +155,8 @@ int coolant(const Arguments& arguments) {
   const std::string contents = platform::read_file(request.file);
   CQELPCSInterpolator tables;
   if (!tables.LoadDataFromFile(request.file.c_str())) {
-    throw Failure(kFileError, at(request.file, "cannot be loaded: out of memory, or changed meanwhile"));
+    throw Failure(kFileError,
+                  at(request.file, "cannot be loaded: out of memory, or changed meanwhile"));
   }
   Json rows = Json::array();
   for (const double temperature : request.temperatures) {
@@ -162,7 +170,8 @@ int coolant(const Arguments& arguments) {
     if (arguments.json) {
       rows.push_back({{"temperature", temperature}, {"properties", {p1, p2, p3, p4}}});
     } else {
-      answer() << (arguments.table ? in_columns({temperature, p1, p2, p3, p4}) : in_columns({p1, p2, p3, p4}));
+      answer() << (arguments.table ? in_columns({temperature, p1, p2, p3, p4})
+                                   : in_columns({p1, p2, p3, p4}));
     }
   }
   if (arguments.json) {
@@ -176,20 +185,29 @@ int coolant(const Arguments& arguments) {
 
 void add_coolant(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("coolant", "Print the four properties of a coolant at a temperature, or a table of them");
+  CLI::App* command = app.add_subcommand(
+      "coolant", "Print the four properties of a coolant at a temperature, or a table of them");
   command
       ->add_option("FILE ID TEMPERATURE", arguments->words,
-                   "The coolant settings file (the user's own where it is left out), the coolant's identifier, the temperature")
+                   "The coolant settings file (the user's own where it is left out), the coolant's "
+                   "identifier, the temperature")
       ->type_name("...")
       ->expected(0, -1);
-  command->add_option("--table", arguments->table, "The coolant whose properties are printed as a table, a row a temperature")->type_name("ID");
+  command
+      ->add_option("--table", arguments->table,
+                   "The coolant whose properties are printed as a table, a row a temperature")
+      ->type_name("ID");
   command->add_option("--from", arguments->from, "The table's first temperature")->type_name("T");
-  command->add_option("--to", arguments->to, "The temperature that the table does not exceed")->type_name("T");
-  command->add_option("--step", arguments->step, "The step between two temperatures")->type_name("D");
+  command->add_option("--to", arguments->to, "The temperature that the table does not exceed")
+      ->type_name("T");
+  command->add_option("--step", arguments->step, "The step between two temperatures")
+      ->type_name("D");
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer(
-      "ID is 0, 1 or 2 for the section [Coolant-0], [Coolant-1] or [Coolant-2], and from 6 on the section's number plus 3: 6 is [Coolant-3], 7 is\n"
-      "[Coolant-4]. 3, 4 and 5 identify no coolant. An ID that is not found is answered with those that are there.\n"
+      "ID is 0, 1 or 2 for the section [Coolant-0], [Coolant-1] or [Coolant-2], and from 6 on the "
+      "section's number plus 3: 6 is [Coolant-3], 7 is\n"
+      "[Coolant-4]. 3, 4 and 5 identify no coolant. An ID that is not found is answered with those "
+      "that are there.\n"
       "Example: qelpro coolant coolants.pcs 6 25");
   command->callback([arguments, &status] { status = coolant(*arguments); });
 }

@@ -15,13 +15,17 @@ namespace {
 
 // A byte order mark, or characters whose every second byte is 0.
 bool is_utf16(std::string_view contents) {
-  const auto starts_with = [contents](std::string_view start) { return contents.substr(0, start.size()) == start; };
+  const auto starts_with = [contents](std::string_view start) {
+    return contents.substr(0, start.size()) == start;
+  };
   const auto is_zero = [contents](std::size_t at) { return contents[at] == '\0'; };
   return starts_with("\xFF\xFE") || starts_with("\xFE\xFF") ||
-         (contents.size() >= 4 && is_zero(0) == is_zero(2) && is_zero(1) == is_zero(3) && is_zero(0) != is_zero(1));
+         (contents.size() >= 4 && is_zero(0) == is_zero(2) && is_zero(1) == is_zero(3) &&
+          is_zero(0) != is_zero(1));
 }
 
-// Lookups take a header by its first token; a name with blanks is known by the whole of it, up to the bracket that has words behind it.
+// Lookups take a header by its first token; a name with blanks is known by the whole of it, up to
+// the bracket that has words behind it.
 std::string_view name_of(std::string_view header) {
   const std::string_view token = text::first_token(header);
   if (token.size() > 1 && token.back() == ']') {
@@ -32,7 +36,9 @@ std::string_view name_of(std::string_view header) {
 }
 
 // What lookups compare.
-std::string_view looked_up(std::string_view name) { return is_positional(name) ? text::first_token(name) : name; }
+std::string_view looked_up(std::string_view name) {
+  return is_positional(name) ? text::first_token(name) : name;
+}
 
 }  // namespace
 
@@ -40,10 +46,14 @@ std::string limit_of(const TextLine& line) {
   if (line.whole.size() != line.text.size()) {
     return "what stands behind a NUL byte is not read";
   }
-  return line.goes_on ? "line too long: behind its first " + std::to_string(text::kLongestLine) + " characters another line is read" : std::string();
+  return line.goes_on ? "line too long: behind its first " + std::to_string(text::kLongestLine) +
+                            " characters another line is read"
+                      : std::string();
 }
 
-bool is_positional(std::string_view section) { return text::first_token(section) == text::first_token(text::kPositionalHeader); }
+bool is_positional(std::string_view section) {
+  return text::first_token(section) == text::first_token(text::kPositionalHeader);
+}
 
 LineKind kind_of(const TextLine& line) {
   const std::string_view seen = line.text;
@@ -59,9 +69,11 @@ LineKind kind_of(const TextLine& line) {
   return seen.find('=') == std::string_view::npos ? LineKind::without_equals : LineKind::entry;
 }
 
-DocumentText::DocumentText(const std::string& file, std::string contents) : contents_(std::move(contents)) {
+DocumentText::DocumentText(const std::string& file, std::string contents)
+    : contents_(std::move(contents)) {
   if (is_utf16(contents_)) {
-    throw Failure(kFileError, at(file, "UTF-16 text, in which no section is found: save it as UTF-8"));
+    throw Failure(kFileError,
+                  at(file, "UTF-16 text, in which no section is found: save it as UTF-8"));
   }
   split();
   sort_sections();
@@ -99,7 +111,8 @@ void DocumentText::sort_sections() {
     return order != 0 ? order < 0 : a < b;
   });
   for (std::size_t index = 1; index < by_name_.size(); ++index) {
-    sections_[by_name_[index]].repeated = looked_up(sections_[by_name_[index]].name) == looked_up(sections_[by_name_[index - 1]].name);
+    sections_[by_name_[index]].repeated = looked_up(sections_[by_name_[index]].name) ==
+                                          looked_up(sections_[by_name_[index - 1]].name);
   }
 }
 
@@ -108,12 +121,15 @@ TextLine DocumentText::line(std::size_t index) const {
   const bool is_last = index + 1 == begins_.size();
   line.begin = begins_[index];
   line.end = is_last ? end_ : begins_[index + 1];
-  line.number = index + 1 - static_cast<std::size_t>(std::upper_bound(pieces_.begin(), pieces_.end(), index) - pieces_.begin());
+  line.number = index + 1 -
+                static_cast<std::size_t>(std::upper_bound(pieces_.begin(), pieces_.end(), index) -
+                                         pieces_.begin());
   line.whole = std::string_view(contents_).substr(line.begin, line.end - line.begin);
   const bool has_line_break = line.whole.back() == '\n';
   line.goes_on = !has_line_break && !is_last;
   if (has_line_break) {
-    line.whole.remove_suffix(line.whole.size() > 1 && line.whole[line.whole.size() - 2] == '\r' ? 2 : 1);
+    line.whole.remove_suffix(
+        line.whole.size() > 1 && line.whole[line.whole.size() - 2] == '\r' ? 2 : 1);
   }
   const std::size_t terminator = line.whole.find('\0');
   line.text = line.whole.substr(0, terminator);
@@ -129,8 +145,11 @@ TextLine DocumentText::line(std::size_t index) const {
 const TextSection* DocumentText::find(std::string_view section) const {
   const std::string_view wanted = looked_up(section);
   const auto found = std::lower_bound(by_name_.begin(), by_name_.end(), wanted,
-                                      [this](std::size_t index, std::string_view name) { return looked_up(sections_[index].name) < name; });
-  return found != by_name_.end() && looked_up(sections_[*found].name) == wanted ? &sections_[*found] : nullptr;
+                                      [this](std::size_t index, std::string_view name) {
+                                        return looked_up(sections_[index].name) < name;
+                                      });
+  return found != by_name_.end() && looked_up(sections_[*found].name) == wanted ? &sections_[*found]
+                                                                                : nullptr;
 }
 
 std::optional<TextLine> DocumentText::find(const TextSection& section, std::string_view key) const {
@@ -150,7 +169,8 @@ std::string_view DocumentText::to_line_break(const TextLine& line) const {
 }
 
 std::string_view whole_value(const TextLine& line) {
-  return line.text.find('=') == std::string_view::npos ? std::string_view() : text::entry_value(line.whole);
+  return line.text.find('=') == std::string_view::npos ? std::string_view()
+                                                       : text::entry_value(line.whole);
 }
 
 DocumentText load_document(const std::string& file) { return {file, platform::read_file(file)}; }

@@ -21,7 +21,8 @@ Json field_of(const qel::Field& field) {
 
 }  // namespace
 
-Json typed_entry(const std::string& key, const TextLine& line, const std::string& text, const Reading& reading) {
+Json typed_entry(const std::string& key, const TextLine& line, const std::string& text,
+                 const Reading& reading) {
   const qel::KeyInfo* known = reading.key;
   Json entry = {{"key", key}, {"line", line.number}, {"text", text}, {"known", known != nullptr}};
   std::string note = limit_of(line);

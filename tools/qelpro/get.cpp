@@ -19,7 +19,8 @@ struct Arguments {
 };
 
 // What a line behind a blank says is not found, though it stands there.
-std::string why_not_found(const DocumentText& document, const TextSection* section, const std::string& key) {
+std::string why_not_found(const DocumentText& document, const TextSection* section,
+                          const std::string& key) {
   if (section == nullptr) {
     return "not found: the file has no such section";
   }
@@ -31,7 +32,8 @@ std::string why_not_found(const DocumentText& document, const TextSection* secti
     std::string_view line = candidate.text;
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
     if (qel::text::first_token_is(line, key) && kind_of(candidate) == LineKind::indented) {
-      return "not found: line " + std::to_string(candidate.number) + " begins with a blank and is never read";
+      return "not found: line " + std::to_string(candidate.number) +
+             " begins with a blank and is never read";
     }
   }
   return "not found: the section has no such key";
@@ -53,8 +55,11 @@ int get(const Arguments& arguments) {
   if (const std::string limit = limit_of(*line); !limit.empty()) {
     complain(at(where, limit));
   }
-  // A value that is too long is handed out whole; that the engine reads no more than its beginning was said above.
-  answer() << (line->goes_on ? qel::text::entry_value(document.to_line_break(*line)) : whole_value(*line)) << '\n';
+  // A value that is too long is handed out whole; that the engine reads no more than its beginning
+  // was said above.
+  answer() << (line->goes_on ? qel::text::entry_value(document.to_line_break(*line))
+                             : whole_value(*line))
+           << '\n';
   return kDone;
 }
 
@@ -64,7 +69,8 @@ void add_get(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("get", "Print the value of a key");
   command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")->required();
+  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
+      ->required();
   command->add_option("KEY", arguments->key, "The key")->required();
   command->footer("Example: qelpro get Default.pro Flow-1 FillTime");
   command->callback([arguments, &status] { status = get(*arguments); });

@@ -19,8 +19,9 @@ std::string escape_of(unsigned int unit) {
 
 // How many characters in front are what they are.
 std::size_t plain_length(std::string_view text) {
-  const auto* const special = std::find_if(text.begin(), text.end(),
-                                           [](char c) { return c < ' ' || c == '"' || c == '\\' || c == '\x7F' || static_cast<signed char>(c) < 0; });
+  const auto* const special = std::find_if(text.begin(), text.end(), [](char c) {
+    return c < ' ' || c == '"' || c == '\\' || c == '\x7F' || static_cast<signed char>(c) < 0;
+  });
   return static_cast<std::size_t>(special - text.begin());
 }
 
@@ -61,7 +62,9 @@ std::string number_text(double value) {
   return value > 0 ? "inf" : "-inf";
 }
 
-bool is_beyond_json(const Json& value) { return value.is_number_float() && !std::isfinite(value.get<double>()); }
+bool is_beyond_json(const Json& value) {
+  return value.is_number_float() && !std::isfinite(value.get<double>());
+}
 
 }  // namespace
 

@@ -6,10 +6,11 @@
 
 using Json = nlohmann::ordered_json;
 
-/// Writes a value as JSON, in lines that are indented by two. The lines behind the first one are indented by so many more.
+/// Writes a value as JSON, in lines that are indented by two. The lines behind the first one are
+/// indented by so many more.
 ///
-/// Numbers that JSON does not know are their texts: "nan", "inf", "-inf". A byte of a text that is no UTF-8 is the escape of the lone surrogate
-/// U+DC00 + byte, so that nothing is lost.
+/// Numbers that JSON does not know are their texts: "nan", "inf", "-inf". A byte of a text that is
+/// no UTF-8 is the escape of the lone surrogate U+DC00 + byte, so that nothing is lost.
 void write_json(Output& output, const Json& value, std::size_t indent = 0);
 
 /// A value of one line, as a person reads it: a text as it is, anything else as JSON has it.

@@ -45,7 +45,8 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
   int count = 0;
   machines.GetAllGrade(maker.c_str(), &grades, &count);
   if (json) {
-    write_json(answer(), {{"maker", maker}, {"grades", std::vector<std::string>(grades, grades + count)}});
+    write_json(answer(),
+               {{"maker", maker}, {"grades", std::vector<std::string>(grades, grades + count)}});
     answer() << '\n';
     return;
   }
@@ -58,23 +59,31 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
   const Where where{bank, version.line, "", ""};
   switch (version.problem) {
     case BankProblem::holds_total:
-      throw Failure(kFileError, at(where, R"(not a machine bank of version 7007: its header holds a "TotalNo" line)"));
+      throw Failure(
+          kFileError,
+          at(where, R"(not a machine bank of version 7007: its header holds a "TotalNo" line)"));
     case BankProblem::no_version_line:
-      throw Failure(kFileError, at(where, R"(not a machine bank: no "Version" line behind a "[Header]" line)"));
+      throw Failure(kFileError,
+                    at(where, R"(not a machine bank: no "Version" line behind a "[Header]" line)"));
     case BankProblem::unreadable_version:
-      throw Failure(kFileError, at(where, "no version can be read from \"" + version.text + R"(": write "Version,7007")"));
+      throw Failure(kFileError, at(where, "no version can be read from \"" + version.text +
+                                              R"(": write "Version,7007")"));
     case BankProblem::other_version:
-      throw Failure(kNotFound, at(where, "no machine: \"" + version.text + "\" is not version 7007, the one that is read"));
+      throw Failure(kNotFound, at(where, "no machine: \"" + version.text +
+                                             "\" is not version 7007, the one that is read"));
     case BankProblem::none:
       break;
   }
-  throw Failure(kNotFound, at(bank, "the bank is empty: no line of it is a machine (flag 1 and 22 fields or more)"));
+  throw Failure(
+      kNotFound,
+      at(bank, "the bank is empty: no line of it is a machine (flag 1 and 22 fields or more)"));
 }
 
 int machines(const Arguments& arguments) {
   const bool lists_grades = arguments.maker_option->count() != 0;
   if (lists_grades && arguments.maker.empty()) {
-    throw Failure(kUsage, "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
+    throw Failure(kUsage,
+                  "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
   }
   const std::string contents = platform::read_file(arguments.bank);
   CQELMachineIdentification machines;
@@ -85,14 +94,17 @@ int machines(const Arguments& arguments) {
     fail_without_machines(arguments.bank, version);
   }
   if (!loaded) {
-    throw Failure(kFileError, at(arguments.bank, "cannot be loaded: out of memory, or changed meanwhile"));
+    throw Failure(kFileError,
+                  at(arguments.bank, "cannot be loaded: out of memory, or changed meanwhile"));
   }
   if (!lists_grades) {
     list_makers(machines, arguments.json);
     return kDone;
   }
   if (machines.GetGradeCount(arguments.maker.c_str()) == 0) {
-    throw Failure(kNotFound, at(arguments.bank, "maker \"" + arguments.maker + "\": not found; qelpro machines FILE lists the makers"));
+    throw Failure(kNotFound,
+                  at(arguments.bank, "maker \"" + arguments.maker +
+                                         "\": not found; qelpro machines FILE lists the makers"));
   }
   list_grades(machines, arguments.maker, arguments.json);
   return kDone;
@@ -102,9 +114,12 @@ int machines(const Arguments& arguments) {
 
 void add_machines(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("machines", "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
+  CLI::App* command = app.add_subcommand(
+      "machines",
+      "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
   command->add_option("FILE", arguments->bank, "The machine bank")->required();
-  arguments->maker_option = command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
+  arguments->maker_option =
+      command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer("Example: qelpro machines machines.bank 'Any Maker'");
   command->callback([arguments, &status] { status = machines(*arguments); });

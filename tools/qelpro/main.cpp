@@ -19,16 +19,19 @@ namespace {
 // 9103 is 9.1.3.
 std::string version() {
   const int number = GetPRODLLVersion();
-  return std::to_string(number / 1000) + "." + std::to_string(number / 100 % 10) + "." + std::to_string(number % 100);
+  return std::to_string(number / 1000) + "." + std::to_string(number / 100 % 10) + "." +
+         std::to_string(number % 100);
 }
 
 bool is_option(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
 // Which word of a command's line is wrong, or which one is missing.
-std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error, const std::vector<std::string>& words) {
+std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
+                          const std::vector<std::string>& words) {
   const std::vector<std::string> extras = command.remaining();
   for (const CLI::Option* option : command.get_options()) {
-    if (option->get_required() && option->count() == 0 && (extras.empty() || extras.front() == "--")) {
+    if (option->get_required() && option->count() == 0 &&
+        (extras.empty() || extras.front() == "--")) {
       return option->get_name() + " is missing";
     }
   }
@@ -40,7 +43,8 @@ std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
     const bool takes_a_value = option->get_items_expected_min() > 0 && !option->get_positional();
     // A value that is missing: nothing, or another option, stands behind it.
     const auto word = takes_a_value ? std::find(words.begin(), words.end(), name) : words.end();
-    if (word != words.end() && (word + 1 == words.end() || command.get_option_no_throw(*(word + 1)) != nullptr)) {
+    if (word != words.end() &&
+        (word + 1 == words.end() || command.get_option_no_throw(*(word + 1)) != nullptr)) {
       return name + ": " + option->get_type_name() + " is missing";
     }
   }
@@ -48,7 +52,8 @@ std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
 }
 
 // What the parser refused, behind the command's name where there is one.
-std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int count, char** arguments) {
+std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int count,
+                          char** arguments) {
   const std::vector<std::string> words(arguments + std::min(count, 1), arguments + count);
   std::string names;
   for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
@@ -60,14 +65,18 @@ std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int
   const std::string& word = words.front();
   const auto commands = app.get_subcommands();
   if (commands.empty() || word != commands.front()->get_name()) {
-    const bool is_of_command = !commands.empty() && is_option(word) && commands.front()->get_option_no_throw(word) != nullptr;
+    const bool is_of_command = !commands.empty() && is_option(word) &&
+                               commands.front()->get_option_no_throw(word) != nullptr;
     if (is_of_command) {
-      return "\"" + word + "\" belongs behind the command: qelpro " + commands.front()->get_name() + " " + word + " ...";
+      return "\"" + word + "\" belongs behind the command: qelpro " + commands.front()->get_name() +
+             " " + word + " ...";
     }
-    return "\"" + word + (is_option(word) ? "\" is no option" : "\" is no command") + "; there are " + names + "; see qelpro --help";
+    return "\"" + word + (is_option(word) ? "\" is no option" : "\" is no command") +
+           "; there are " + names + "; see qelpro --help";
   }
   const std::string& name = commands.front()->get_name();
-  return name + ": " + what_is_wrong(*commands.front(), error, words) + "; see qelpro " + name + " --help";
+  return name + ": " + what_is_wrong(*commands.front(), error, words) + "; see qelpro " + name +
+         " --help";
 }
 
 int run(int count, char** arguments) {

@@ -27,7 +27,8 @@ void check_name(const std::string& kind, const std::string& name) {
     refuse(kind + " " + quoted(name) + ": a name holds no line break");
   }
   if (name.find(kEndOfText) != std::string::npos) {
-    refuse(kind + " " + quoted(name) + ": a name holds no character 0x1A, where other programs end the file");
+    refuse(kind + " " + quoted(name) +
+           ": a name holds no character 0x1A, where other programs end the file");
   }
 }
 
@@ -65,7 +66,8 @@ void check_entry(const std::string& section, const std::string& key, const std::
   }
   const std::size_t length = std::max(text::padded_entry(key, value).size(), section.size()) + 1;
   if (length > text::kLongestLine) {
-    refuse("line too long: it would have " + std::to_string(length) + " characters with its line break, of which the engine reads " +
+    refuse("line too long: it would have " + std::to_string(length) +
+           " characters with its line break, of which the engine reads " +
            std::to_string(text::kLongestLine));
   }
 }

@@ -35,7 +35,8 @@ void Output::flush() {
     pending_ = visible(pending_, Controls::all_but_layout);
   }
   errno = 0;
-  if (std::fwrite(pending_.data(), 1, pending_.size(), stdout) != pending_.size() || std::fflush(stdout) != 0) {
+  if (std::fwrite(pending_.data(), 1, pending_.size(), stdout) != pending_.size() ||
+      std::fflush(stdout) != 0) {
     pending_.clear();
     fail_to_write();
   }

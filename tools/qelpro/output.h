@@ -5,8 +5,9 @@
 
 /// The answer of a command, on its way to standard output.
 ///
-/// Pipes and files get the bytes as they are; a terminal gets control characters as visible escapes. What cannot be written is a `Failure`,
-/// except that a reader who has gone ends the program quietly.
+/// Pipes and files get the bytes as they are; a terminal gets control characters as visible
+/// escapes. What cannot be written is a `Failure`, except that a reader who has gone ends the
+/// program quietly.
 class Output {
  public:
   Output();

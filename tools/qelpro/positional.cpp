@@ -23,7 +23,8 @@ bool is_setting_line(std::string_view line) {
   int condition = 0;
   double value = 0;
   qel::fields::Separator separator;
-  if (!qel::fields::scan_one(at, condition) || !qel::fields::scan_one(at, separator) || *(at - 1) != '=') {
+  if (!qel::fields::scan_one(at, condition) || !qel::fields::scan_one(at, separator) ||
+      *(at - 1) != '=') {
     return false;
   }
   return qel::fields::scan_one(at, value);
@@ -40,7 +41,8 @@ Json entry_of(const std::string& name, const TextLine& line, const qel::KeyInfo&
   return typed_entry(name, line, text, {&kind, 0, unread_part(kind, text, 0)});
 }
 
-/// Tells of settings that are missing. Conditions in a row that have none of theirs are told in one note.
+/// Tells of settings that are missing. Conditions in a row that have none of theirs are told in one
+/// note.
 class MissingSettings {
  public:
   explicit MissingSettings(const std::function<void(const std::string&)>& note) : note_(note) {}
@@ -58,8 +60,10 @@ class MissingSettings {
 
   void flush() {
     if (none_ != 0) {
-      tell(first_ == last_ ? "condition " + std::to_string(first_) + " says " + std::to_string(none_)
-                           : "conditions " + std::to_string(first_) + " to " + std::to_string(last_) + " say " + std::to_string(none_),
+      tell(first_ == last_
+               ? "condition " + std::to_string(first_) + " says " + std::to_string(none_)
+               : "conditions " + std::to_string(first_) + " to " + std::to_string(last_) + " say " +
+                     std::to_string(none_),
            0);
     }
     none_ = 0;
@@ -78,9 +82,12 @@ class MissingSettings {
 
 }  // namespace
 
-void visit_positional_lines(const DocumentText& document, const TextSection& section, const PositionalVisitor& visitor) {
+void visit_positional_lines(const DocumentText& document, const TextSection& section,
+                            const PositionalVisitor& visitor) {
   const qel::SectionInfo& row = catalogue_row();
-  const auto line_at = [&](std::int64_t position) { return document.line(section.header + static_cast<std::size_t>(position)); };
+  const auto line_at = [&](std::int64_t position) {
+    return document.line(section.header + static_cast<std::size_t>(position));
+  };
   const auto lines = static_cast<std::int64_t>(section.behind - section.header) - 1;
   std::int64_t headers = 0;
   for (; headers < lines; ++headers) {
@@ -102,7 +109,8 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
         break;
       }
       taken[static_cast<std::size_t>(before + setting)] = true;
-      const std::string name = "condition " + std::to_string(condition) + ", setting " + std::to_string(setting);
+      const std::string name =
+          "condition " + std::to_string(condition) + ", setting " + std::to_string(setting);
       visitor.entry(entry_of(name, line_at(before + setting), *row.keys[1]));
     }
     if (setting <= count) {
@@ -112,7 +120,8 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
   }
   missing.flush();
   for (std::int64_t position = headers + 1; position <= lines; ++position) {
-    if (!taken[static_cast<std::size_t>(position)] && kind_of(line_at(position)) != LineKind::blank) {
+    if (!taken[static_cast<std::size_t>(position)] &&
+        kind_of(line_at(position)) != LineKind::blank) {
       visitor.passed_over(section.header + static_cast<std::size_t>(position));
     }
   }

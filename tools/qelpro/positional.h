@@ -6,12 +6,16 @@
 #include "document_text.h"
 #include "json_text.h"
 
-/// Who takes the lines of a section that are addressed by position, one at a time: there may be very many.
+/// Who takes the lines of a section that are addressed by position, one at a time: there may be
+/// very many.
 struct PositionalVisitor {
   std::function<void(const Json&)> entry;
-  std::function<void(std::size_t line)> passed_over;  ///< The index of a line that nobody counts as a setting.
+  std::function<void(std::size_t line)>
+      passed_over;  ///< The index of a line that nobody counts as a setting.
   std::function<void(const std::string&)> note;
 };
 
-/// Its lines: header lines first, then as many setting lines for each condition as its header line says and the section holds.
-void visit_positional_lines(const DocumentText& document, const TextSection& section, const PositionalVisitor& visitor);
+/// Its lines: header lines first, then as many setting lines for each condition as its header line
+/// says and the section holds.
+void visit_positional_lines(const DocumentText& document, const TextSection& section,
+                            const PositionalVisitor& visitor);

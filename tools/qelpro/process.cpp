@@ -63,15 +63,16 @@ Json numbers_of(const QELG_Array<double>& array) {
 }
 
 Json inlet_of(const QELG_SimulatorFlowPackProcess& inlet, unsigned int number) {
-  return {{"number", number},
-          {"values", items_of(inlet, kInletItems)},
-          {"flow rate", points_of(*inlet.GetFlowRateProfile())},
-          {"injection pressure", points_of(*inlet.GetInjectionPressureProfile())},
-          {"packing pressure", points_of(*inlet.GetPackingPressureProfile())},
-          {"fluid pressure", points_of(*inlet.GetFluidPressureProfile())},
-          {"flow rate time constants", numbers_of(*inlet.GetFlowRateTimeConstants())},
-          {"injection pressure time constants", numbers_of(*inlet.GetInjectionPressureTimeConstants())},
-          {"packing pressure time constants", numbers_of(*inlet.GetPackingPressureTimeConstants())}};
+  return {
+      {"number", number},
+      {"values", items_of(inlet, kInletItems)},
+      {"flow rate", points_of(*inlet.GetFlowRateProfile())},
+      {"injection pressure", points_of(*inlet.GetInjectionPressureProfile())},
+      {"packing pressure", points_of(*inlet.GetPackingPressureProfile())},
+      {"fluid pressure", points_of(*inlet.GetFluidPressureProfile())},
+      {"flow rate time constants", numbers_of(*inlet.GetFlowRateTimeConstants())},
+      {"injection pressure time constants", numbers_of(*inlet.GetInjectionPressureTimeConstants())},
+      {"packing pressure time constants", numbers_of(*inlet.GetPackingPressureTimeConstants())}};
 }
 
 // Moves the items whose names begin with the prefix into a group of their own, without the prefix.
@@ -96,12 +97,13 @@ Json process_of(const QELG_SimulatorProcess& process) {
   for (unsigned int index = 0; index < process.GetNumOfInlets(); ++index) {
     inlets.push_back(inlet_of(*process.GetFlowPackOfInlet(index), index + 1));
   }
-  return {{"values", values},
-          {"machine", machine},
-          {"heat transfer", heat_transfer},
-          {"flow rate ram positions", numbers_of(*process.GetFlowRateRamPosition())},
-          {"injection pressure ram positions", numbers_of(*process.GetInjectionPressureRamPosition())},
-          {"inlets", inlets}};
+  return {
+      {"values", values},
+      {"machine", machine},
+      {"heat transfer", heat_transfer},
+      {"flow rate ram positions", numbers_of(*process.GetFlowRateRamPosition())},
+      {"injection pressure ram positions", numbers_of(*process.GetInjectionPressureRamPosition())},
+      {"inlets", inlets}};
 }
 
 std::string plain(const Json& value) {
@@ -164,12 +166,15 @@ Json notes_as_json(const std::vector<ProcessNote>& notes) {
 int show(const Arguments& arguments) {
   const DocumentText document = load_document(arguments.file);
   if (document.sections().empty()) {
-    throw Failure(kFileError, at(arguments.file, "no process file: it has no section (a line such as [Flow-1])"));
+    throw Failure(kFileError, at(arguments.file,
+                                 "no process file: it has no section (a line such as [Flow-1])"));
   }
   CQELProcessData_Manipulator loader;
-  const std::unique_ptr<const QELG_SimulatorProcess> process(loader.GetProcessDataStructure(arguments.file.c_str()));
+  const std::unique_ptr<const QELG_SimulatorProcess> process(
+      loader.GetProcessDataStructure(arguments.file.c_str()));
   if (!process) {
-    throw Failure(kFileError, at(arguments.file, "cannot be loaded: out of memory, or changed meanwhile"));
+    throw Failure(kFileError,
+                  at(arguments.file, "cannot be loaded: out of memory, or changed meanwhile"));
   }
   const std::vector<ProcessNote> notes = process_notes(arguments.file, document);
   for (const ProcessNote& note : notes) {
@@ -190,11 +195,13 @@ int show(const Arguments& arguments) {
 
 void add_process(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("process", "Build the simulator process of a file and print it");
+  CLI::App* command =
+      app.add_subcommand("process", "Build the simulator process of a file and print it");
   command->add_option("FILE", arguments->file, "The process file")->required();
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer(
-      "What of the file does not reach the process as it stands is told on stderr, and under \"notes\" in JSON.\nExample: qelpro process Default.pro "
+      "What of the file does not reach the process as it stands is told on stderr, and under "
+      "\"notes\" in JSON.\nExample: qelpro process Default.pro "
       "--json");
   command->callback([arguments, &status] { status = show(*arguments); });
 }

@@ -8,7 +8,9 @@
 template <class Source>
 struct NamedItem {
   const char* name;
-  std::variant<bool (*)(const Source&, unsigned int&), bool (*)(const Source&, double&), bool (*)(const Source&, const char*&)> get;
+  std::variant<bool (*)(const Source&, unsigned int&), bool (*)(const Source&, double&),
+               bool (*)(const Source&, const char*&)>
+      get;
 };
 
 inline constexpr NamedItem<QELG_SimulatorProcess> kProcessItems[] = {
@@ -61,7 +63,8 @@ inline constexpr NamedItem<QELG_SimulatorProcess> kProcessItems[] = {
     {"machine_BarrelCompressionCtrl", get_process_machine_BarrelCompressionCtrl},
     {"machine_NozzleVolume", get_process_machine_NozzleVolume},
     {"machine_MachineEnergyType", get_process_machine_MachineEnergyType},
-    {"machine_HydraulicPressureTransferFactor", get_process_machine_HydraulicPressureTransferFactor},
+    {"machine_HydraulicPressureTransferFactor",
+     get_process_machine_HydraulicPressureTransferFactor},
     {"machine_PITCHSIZE", get_process_machine_PITCHSIZE},
     {"machine_SCREWSPEED", get_process_machine_SCREWSPEED},
     {"machine_SCREWDIAFEED", get_process_machine_SCREWDIAFEED},

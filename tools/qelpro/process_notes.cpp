@@ -30,7 +30,10 @@ std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\
 int printed_number(std::string_view text) {
   int number = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
-  return parsed.ec == std::errc() && parsed.ptr == text.data() + text.size() && number >= 1 && text.front() != '0' ? number : 0;
+  return parsed.ec == std::errc() && parsed.ptr == text.data() + text.size() && number >= 1 &&
+                 text.front() != '0'
+             ? number
+             : 0;
 }
 
 // "2", "2 to 4", "2, 5 to 7"
@@ -42,7 +45,8 @@ std::string ranges_of(const std::vector<std::pair<int, int>>& ranges) {
       return text + ", ...";
     }
     const auto& [first, last] = ranges[index];
-    text += (text.empty() ? "" : ", ") + std::to_string(first) + (last > first ? " to " + std::to_string(last) : "");
+    text += (text.empty() ? "" : ", ") + std::to_string(first) +
+            (last > first ? " to " + std::to_string(last) : "");
   }
   return text;
 }
@@ -60,7 +64,8 @@ struct Entries {
 
 class Diagnosis {
  public:
-  Diagnosis(std::string file, const DocumentText& document) : file_(std::move(file)), document_(document) {}
+  Diagnosis(std::string file, const DocumentText& document)
+      : file_(std::move(file)), document_(document) {}
 
   std::vector<ProcessNote> run() {
     for (std::size_t index = 0; index < document_.lines_before_sections(); ++index) {
@@ -82,7 +87,8 @@ class Diagnosis {
     inlets(type);
     for (const TextSection& section : document_.sections()) {
       if (section.repeated && taken_.contains(std::string(section.name))) {
-        add({file_, document_.line(section.header).number, std::string(section.name), ""}, "dropped: a section of this name came before");
+        add({file_, document_.line(section.header).number, std::string(section.name), ""},
+            "dropped: a section of this name came before");
       }
     }
     return std::move(notes_);
@@ -90,7 +96,8 @@ class Diagnosis {
 
  private:
   void add(const Where& where, const std::string& what) { notes_.push_back({where, what}); }
-  void add(const Entries& section, const TextLine* line, std::string_view key, const std::string& what) {
+  void add(const Entries& section, const TextLine* line, std::string_view key,
+           const std::string& what) {
     add({file_, line != nullptr ? line->number : 0, section.name, std::string(key)}, what);
   }
 
@@ -134,12 +141,15 @@ class Diagnosis {
     }
   }
 
-  // What the catalogue's encoding of the key passes over; of a key that it does not know, what the conversion does.
+  // What the catalogue's encoding of the key passes over; of a key that it does not know, what the
+  // conversion does.
   template <class Setter>
-  std::optional<std::string> unread(const std::string& section, std::string_view key, std::string_view value) {
+  std::optional<std::string> unread(const std::string& section, std::string_view key,
+                                    std::string_view value) {
     int number = 0;
     const Reading reading = reading_of(qel::find_section(section.c_str(), number), key, value);
-    if (reading.unread || (reading.key != nullptr && std::string_view(reading.key->encoding) != qel::Real::kName)) {
+    if (reading.unread ||
+        (reading.key != nullptr && std::string_view(reading.key->encoding) != qel::Real::kName)) {
       return reading.unread;
     }
     if constexpr (std::is_same_v<Setter, unsigned int>) {
@@ -152,7 +162,8 @@ class Diagnosis {
   }
 
   template <class Target, class Value>
-  void check(const Entries& section, const TextLine& line, std::string_view key, void (* /*set*/)(Target&, Value)) {
+  void check(const Entries& section, const TextLine& line, std::string_view key,
+             void (* /*set*/)(Target&, Value)) {
     const std::string value(qel::text::entry_value(line.text));
     if (const auto what = unread<Value>(section.name, key, value)) {
       std::string read_as;
@@ -164,7 +175,9 @@ class Diagnosis {
       add(section, &line, key, quoted(value) + " is read as " + read_as + ": " + *what);
     } else if constexpr (std::is_same_v<Value, unsigned int>) {
       if (const int number = qel::platform::to_int(value.c_str()); number < 0) {
-        add(section, &line, key, quoted(value) + " is read as " + std::to_string(static_cast<unsigned int>(number)) + ": it is not negative there");
+        add(section, &line, key,
+            quoted(value) + " is read as " + std::to_string(static_cast<unsigned int>(number)) +
+                ": it is not negative there");
       }
     }
   }
@@ -189,12 +202,14 @@ class Diagnosis {
         continue;
       }
       std::visit([&](auto set) { check(*section, *line, item.key, set); }, item.set);
-      const std::uintptr_t setter = std::visit([](auto set) { return reinterpret_cast<std::uintptr_t>(set); }, item.set);
+      const std::uintptr_t setter =
+          std::visit([](auto set) { return reinterpret_cast<std::uintptr_t>(set); }, item.set);
       const auto [place, first] = given.try_emplace(setter, Given{name, item.key, line});
       if (!first) {
         const Given& before = place->second;
         add(*section, line, item.key,
-            "replaces \"" + std::string(before.key) + "\" of " + before.section + " (line " + std::to_string(before.line->number) + ")");
+            "replaces \"" + std::string(before.key) + "\" of " + before.section + " (line " +
+                std::to_string(before.line->number) + ")");
         place->second = {name, item.key, line};
       }
     }
@@ -227,7 +242,8 @@ class Diagnosis {
   int counted(const Entries& section, std::string_view count_key, std::string_view prefix) {
     const TextLine* line = section.find(count_key);
     std::map<int, const TextLine*> points;
-    for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
+    for (auto at = section.lines.lower_bound(prefix);
+         at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
         points.emplace(number, &at->second);
       }
@@ -237,7 +253,8 @@ class Diagnosis {
       const std::string value(qel::text::entry_value(line->text));
       count = qel::platform::to_int(value.c_str());
       if (const auto what = unread_part_of_integer(value)) {
-        add(section, line, count_key, quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
+        add(section, line, count_key,
+            quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
       } else if (count < 0) {
         add(section, line, count_key, "a negative count is read as 0");
       }
@@ -250,14 +267,18 @@ class Diagnosis {
     if (beyond != points.end()) {
       const auto last = std::prev(points.end());
       const std::string which =
-          std::string(prefix) + std::to_string(beyond->first) + (beyond == last ? "" : " to " + std::string(prefix) + std::to_string(last->first));
+          std::string(prefix) + std::to_string(beyond->first) +
+          (beyond == last ? "" : " to " + std::string(prefix) + std::to_string(last->first));
       add(section, beyond->second, std::string(prefix) + std::to_string(beyond->first),
-          "dropped: " + which + (line == nullptr ? ": \"" + std::string(count_key) + "\" is missing" : " beyond \"" + std::string(count_key) + "\""));
+          "dropped: " + which +
+              (line == nullptr ? ": \"" + std::string(count_key) + "\" is missing"
+                               : " beyond \"" + std::string(count_key) + "\""));
     }
     return static_cast<int>(std::distance(points.begin(), beyond));
   }
 
-  void missing_points(const Entries& section, const TextLine* line, std::string_view count_key, std::string_view prefix, int count,
+  void missing_points(const Entries& section, const TextLine* line, std::string_view count_key,
+                      std::string_view prefix, int count,
                       const std::map<int, const TextLine*>& points) {
     std::vector<std::pair<int, int>> missing;
     int expected = 1;
@@ -271,7 +292,9 @@ class Diagnosis {
       missing.emplace_back(expected, count);
     }
     if (!missing.empty()) {
-      add(section, line, count_key, "says " + std::to_string(count) + " points, of which " + std::string(prefix) + ranges_of(missing) + " missing");
+      add(section, line, count_key,
+          "says " + std::to_string(count) + " points, of which " + std::string(prefix) +
+              ranges_of(missing) + " missing");
     }
   }
 
@@ -285,7 +308,8 @@ class Diagnosis {
   // A list without a count ends before the first number that is missing.
   void open_list(const Entries& section, std::string_view prefix) {
     std::map<int, const TextLine*> points;
-    for (auto at = section.lines.lower_bound(prefix); at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
+    for (auto at = section.lines.lower_bound(prefix);
+         at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
         points.emplace(number, &at->second);
       }
@@ -294,7 +318,9 @@ class Diagnosis {
     for (const auto& [number, line] : points) {
       const std::string key = std::string(prefix) + std::to_string(number);
       if (number != expected) {
-        add(section, line, key, "dropped, with what follows it: " + std::string(prefix) + std::to_string(expected) + " is missing");
+        add(section, line, key,
+            "dropped, with what follows it: " + std::string(prefix) + std::to_string(expected) +
+                " is missing");
         return;
       }
       point(section, *line, key);
@@ -334,7 +360,8 @@ class Diagnosis {
     items(stage.cure, qel::loading::kCure, given);
     if (const Entries* cure = taken(stage.cure)) {
       if (counted(*cure, "CPSet", "CP-") > 0 && packing_points > 0) {
-        add(*cure, cure->find("CPSet"), "CPSet", "its points are appended to those of \"PPSet\" of " + stage.pack);
+        add(*cure, cure->find("CPSet"), "CPSet",
+            "its points are appended to those of \"PPSet\" of " + stage.pack);
       }
     }
   }
@@ -350,9 +377,11 @@ class Diagnosis {
     const int said = qel::platform::to_int(value.c_str());
     const std::int64_t count = said < 0 || said > kMostInlets ? kMostInlets : said;
     if (const auto what = unread_part_of_integer(value)) {
-      add(*info, line, "TotalInlet", quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
+      add(*info, line, "TotalInlet",
+          quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
     } else if (count != said) {
-      add(*info, line, "TotalInlet", quoted(value) + " is out of range: the process has " + std::to_string(count) + " inlets");
+      add(*info, line, "TotalInlet",
+          quoted(value) + " is out of range: the process has " + std::to_string(count) + " inlets");
     } else if (has_two && count != 2) {
       add(*info, line, "TotalInlet",
           quoted(value) + " is not 2: of project type " + std::to_string(type) +
@@ -410,19 +439,24 @@ class Diagnosis {
     sections_not_taken(type, has_two ? 0 : count);
   }
 
-  // Of the two spellings of a control type's key the loader takes the one with a bracket, and of two project types none.
+  // Of the two spellings of a control type's key the loader takes the one with a bracket, and of
+  // two project types none.
   void control_types_not_taken(int type, bool has_two) {
     constexpr std::string_view kPrefix = "FlowCTL-";
     const Entries* info = taken("[FlowCTLInfo]");
     if (info == nullptr) {
       return;
     }
-    for (auto at = info->lines.lower_bound(kPrefix); at != info->lines.end() && at->first.substr(0, kPrefix.size()) == kPrefix; ++at) {
+    for (auto at = info->lines.lower_bound(kPrefix);
+         at != info->lines.end() && at->first.substr(0, kPrefix.size()) == kPrefix; ++at) {
       const std::string key(at->first);
       if (has_two) {
-        add(*info, &at->second, key, "dropped: of project type " + std::to_string(type) + " no control type is loaded");
-      } else if (printed_number(at->first.substr(kPrefix.size())) != 0 && info->find(key + "]") == nullptr) {
-        add(*info, &at->second, key, "dropped: the process takes the control type from " + quoted(key + "]"));
+        add(*info, &at->second, key,
+            "dropped: of project type " + std::to_string(type) + " no control type is loaded");
+      } else if (printed_number(at->first.substr(kPrefix.size())) != 0 &&
+                 info->find(key + "]") == nullptr) {
+        add(*info, &at->second, key,
+            "dropped: the process takes the control type from " + quoted(key + "]"));
       }
     }
   }
@@ -444,20 +478,24 @@ class Diagnosis {
     }
   }
 
-  // Stages of inlets that the process does not have, or that are none of its project type. `count` is that of inlets with a number alone.
+  // Stages of inlets that the process does not have, or that are none of its project type. `count`
+  // is that of inlets with a number alone.
   void sections_not_taken(int type, std::int64_t count) {
     for (const TextSection& section : document_.sections()) {
       for (const std::string_view prefix : {"[Flow-", "[Pack-", "[Cure-"}) {
         const std::string name(section.name);
         int row_number = 0;
-        if (section.name.substr(0, prefix.size()) != prefix || section.repeated || taken_.contains(name) ||
-            qel::find_section(name.c_str(), row_number) == nullptr) {
+        if (section.name.substr(0, prefix.size()) != prefix || section.repeated ||
+            taken_.contains(name) || qel::find_section(name.c_str(), row_number) == nullptr) {
           continue;
         }
-        const int number = printed_number(section.name.substr(prefix.size(), section.name.size() - prefix.size() - 1));
+        const int number = printed_number(
+            section.name.substr(prefix.size(), section.name.size() - prefix.size() - 1));
         add({file_, document_.line(section.header).number, name, ""},
-            count > 0 && number > count ? "dropped: the process has " + std::to_string(count) + (count == 1 ? " inlet" : " inlets")
-                                        : "dropped: of project type " + std::to_string(type) + " it is not loaded");
+            count > 0 && number > count
+                ? "dropped: the process has " + std::to_string(count) +
+                      (count == 1 ? " inlet" : " inlets")
+                : "dropped: of project type " + std::to_string(type) + " it is not loaded");
       }
     }
   }
@@ -470,4 +508,6 @@ class Diagnosis {
 
 }  // namespace
 
-std::vector<ProcessNote> process_notes(const std::string& file, const DocumentText& document) { return Diagnosis(file, document).run(); }
+std::vector<ProcessNote> process_notes(const std::string& file, const DocumentText& document) {
+  return Diagnosis(file, document).run();
+}

@@ -6,11 +6,13 @@
 #include "document_text.h"
 #include "status.h"
 
-/// Something that the file says and the simulator process does not: dropped, replaced, or read as something else.
+/// Something that the file says and the simulator process does not: dropped, replaced, or read as
+/// something else.
 struct ProcessNote {
   Where where;
   std::string what;
 };
 
-/// The notes of a file in the order in which the loader takes its sections. A diagnosis of its own, from the rows that the loader has its keys from.
+/// The notes of a file in the order in which the loader takes its sections. A diagnosis of its own,
+/// from the rows that the loader has its keys from.
 std::vector<ProcessNote> process_notes(const std::string& file, const DocumentText& document);

@@ -11,7 +11,9 @@ namespace {
 constexpr int kBankVersion = 7007;
 constexpr std::string_view kEnd = "[EOF]";
 
-bool contains(std::string_view line, std::string_view text) { return line.find(text) != std::string_view::npos; }
+bool contains(std::string_view line, std::string_view text) {
+  return line.find(text) != std::string_view::npos;
+}
 
 // The next line without its line break.
 bool next(std::istringstream& lines, std::string& line) {
@@ -42,7 +44,8 @@ std::vector<ListedCoolant> coolants_of(const std::string& contents) {
   for (std::string line; next(lines, line) && !contains(line, kEnd);) {
     if (!line.empty() && line.front() == '[') {
       const std::size_t name = line.find(kSection);
-      const char* at = line.c_str() + (name != std::string::npos ? name + kSection.size() : line.size());
+      const char* at =
+          line.c_str() + (name != std::string::npos ? name + kSection.size() : line.size());
       int number = 0;
       inside = qel::platform::scan_int(at, number);
       if (inside) {
@@ -88,7 +91,10 @@ BankVersion bank_version_of(const std::string& contents) {
       if (!scanned && result.line != 0) {
         continue;  // the number read before stays
       }
-      result = {!scanned ? BankProblem::unreadable_version : version != kBankVersion ? BankProblem::other_version : BankProblem::none, number, line};
+      result = {!scanned                  ? BankProblem::unreadable_version
+                : version != kBankVersion ? BankProblem::other_version
+                                          : BankProblem::none,
+                number, line};
     }
   }
   return result;

@@ -26,24 +26,30 @@ struct Arguments {
 };
 
 // Line breaks at a value's very end are no part of it.
-std::string without_line_breaks_behind(const std::string& value) { return value.substr(0, value.find_last_not_of("\r\n") + 1); }
+std::string without_line_breaks_behind(const std::string& value) {
+  return value.substr(0, value.find_last_not_of("\r\n") + 1);
+}
 
 void check_encoding(const std::string& section, const std::string& key, const std::string& value) {
   int number = 0;
-  const Reading reading = reading_of(qel::find_section(section.c_str(), number), key, qel::text::index_value(value));
+  const Reading reading =
+      reading_of(qel::find_section(section.c_str(), number), key, qel::text::index_value(value));
   if (reading.unread) {
-    throw Failure(kUsage, "\"" + value + "\" would not be read back whole: " + *reading.unread + " (it is read as: " + reading.key->encoding +
+    throw Failure(kUsage, "\"" + value + "\" would not be read back whole: " + *reading.unread +
+                              " (it is read as: " + reading.key->encoding +
                               "); --force stores it nevertheless");
   }
 }
 
 // The engine's own reading of the entry. Its lines are shorter than the buffer.
-bool is_read_back(const std::string& file, const std::string& section, const std::string& key, const std::string& value) {
+bool is_read_back(const std::string& file, const std::string& section, const std::string& key,
+                  const std::string& value) {
   std::array<char, 2 * qel::text::kLongestLine> buffer{};
   CQELPROReader_Manipulator reader;
   char* found = nullptr;
   return reader.SetFilePath(file.c_str()) &&
-         reader.ReadString(section.c_str(), key.c_str(), found, buffer.data(), static_cast<unsigned int>(buffer.size())) &&
+         reader.ReadString(section.c_str(), key.c_str(), found, buffer.data(),
+                           static_cast<unsigned int>(buffer.size())) &&
          qel::text::index_value(value) == found;
 }
 
@@ -56,9 +62,9 @@ void store(const Arguments& arguments, const std::string& section, const std::st
   }
   const std::string& written = file.write(contents);
   if (!is_read_back(written, section, arguments.key, value)) {
-    throw Failure(kFileError,
-                  at({arguments.file, 0, section, arguments.key},
-                     "not stored: another line of the file would be read in its place; qelpro show tells the lines that are passed over"));
+    throw Failure(kFileError, at({arguments.file, 0, section, arguments.key},
+                                 "not stored: another line of the file would be read in its place; "
+                                 "qelpro show tells the lines that are passed over"));
   }
   file.commit();
 }
@@ -73,7 +79,10 @@ int set(const Arguments& arguments) {
       check_encoding(section, arguments.key, value);
     }
   } catch (const Failure& failure) {
-    throw Failure(failure.status(), at({arguments.file, 0, section.empty() ? arguments.section : section, arguments.key}, failure.what()));
+    throw Failure(
+        failure.status(),
+        at({arguments.file, 0, section.empty() ? arguments.section : section, arguments.key},
+           failure.what()));
   }
   store(arguments, section, value);
   return kDone;
@@ -85,10 +94,15 @@ void add_set(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
   CLI::App* command = app.add_subcommand("set", "Change the value of a key, or add it");
   command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")->required();
+  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
+      ->required();
   command->add_option("KEY", arguments->key, "The key")->required();
-  command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")->required();
-  command->add_flag("--force", arguments->force, "Store a value too that the key's encoding does not read back whole");
-  command->footer("A value that begins with a dash comes behind '--'.\nExample: qelpro set Default.pro Flow-1 FillTime 1.5");
+  command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")
+      ->required();
+  command->add_flag("--force", arguments->force,
+                    "Store a value too that the key's encoding does not read back whole");
+  command->footer(
+      "A value that begins with a dash comes behind '--'.\nExample: qelpro set Default.pro Flow-1 "
+      "FillTime 1.5");
   command->callback([arguments, &status] { status = set(*arguments); });
 }

@@ -27,7 +27,15 @@ struct Arguments {
 };
 
 /// Why no lookup takes a value from a line.
-enum class Why : std::uint8_t { none, comment, no_key, blank_before, no_equals, before_sections, not_counted };
+enum class Why : std::uint8_t {
+  none,
+  comment,
+  no_key,
+  blank_before,
+  no_equals,
+  before_sections,
+  not_counted
+};
 
 const char* text_of(Why why) {
   switch (why) {
@@ -49,7 +57,8 @@ const char* text_of(Why why) {
   return "";
 }
 
-/// Takes a file section by section, and of each its entries and the lines that the engine passes over, in the file's order.
+/// Takes a file section by section, and of each its entries and the lines that the engine passes
+/// over, in the file's order.
 class Printer {
  public:
   explicit Printer(const DocumentText& document) : document_(document) {}
@@ -80,7 +89,8 @@ class PlainPrinter : public Printer {
       answer() << "# before the first section\n";
       return;
     }
-    answer() << plain_text(section["section"]) << (section["known"] ? "  # " + plain_text(section["subject"]) : "  # unknown section")
+    answer() << plain_text(section["section"])
+             << (section["known"] ? "  # " + plain_text(section["subject"]) : "  # unknown section")
              << (section.contains("repeated") ? ", repeated: never read\n" : "\n");
   }
   void entry(const Json& entry) override {
@@ -97,19 +107,25 @@ class PlainPrinter : public Printer {
     if (known && entry.contains("note")) {
       answer() << "  (\"" << plain_text(entry["text"]) << "\")";
     }
-    answer() << (known ? "  # " + plain_text(entry["meaning"]) : "  # unknown key") << (entry.contains("repeated") ? ", repeated: never read" : "")
-             << (entry.contains("note") ? "; line " + plain_text(entry["line"]) + ": " + plain_text(entry["note"]) : "") << '\n';
+    answer() << (known ? "  # " + plain_text(entry["meaning"]) : "  # unknown key")
+             << (entry.contains("repeated") ? ", repeated: never read" : "")
+             << (entry.contains("note")
+                     ? "; line " + plain_text(entry["line"]) + ": " + plain_text(entry["note"])
+                     : "")
+             << '\n';
   }
   void passed_over(std::size_t index, Why why) override {
     const TextLine line = document().line(index);
-    answer() << "  # line " << std::to_string(line.number) << " is passed over, " << text_of(why) << ": " << line.whole << '\n';
+    answer() << "  # line " << std::to_string(line.number) << " is passed over, " << text_of(why)
+             << ": " << line.whole << '\n';
   }
   void note(const std::string& note) override { answer() << "  # " << note << '\n'; }
   void end_section() override {}
   void end() override {}
 };
 
-/// One section is complete before the next one is begun: no more of a long file is held than the lines that were passed over.
+/// One section is complete before the next one is begun: no more of a long file is held than the
+/// lines that were passed over.
 class JsonPrinter : public Printer {
  public:
   using Printer::Printer;
@@ -147,7 +163,11 @@ class JsonPrinter : public Printer {
       for (std::size_t index = 0; index < passed_over_.size(); ++index) {
         const TextLine line = document().line(passed_over_[index]);
         answer() << (index == 0 ? "\n" : ",\n") << std::string(kMembers + 2, ' ');
-        write_json(answer(), {{"line", line.number}, {"text", std::string(line.whole)}, {"why", text_of(whys_[index])}}, kMembers + 2);
+        write_json(answer(),
+                   {{"line", line.number},
+                    {"text", std::string(line.whole)},
+                    {"why", text_of(whys_[index])}},
+                   kMembers + 2);
       }
       answer() << '\n' << std::string(kMembers, ' ') << ']';
     }
@@ -163,11 +183,14 @@ class JsonPrinter : public Printer {
  private:
   static constexpr std::size_t kMembers = 4;
 
-  static void write_member(const std::string& name) { answer() << '\n' << std::string(kMembers, ' ') << '"' << name << "\": "; }
+  static void write_member(const std::string& name) {
+    answer() << '\n' << std::string(kMembers, ' ') << '"' << name << "\": ";
+  }
 
   bool any_section_ = false;
   bool any_entry_ = false;
-  std::deque<std::size_t> passed_over_;  // the lines: a deque, which does not hold them twice while it grows
+  std::deque<std::size_t>
+      passed_over_;  // the lines: a deque, which does not hold them twice while it grows
   std::deque<Why> whys_;
   std::vector<std::string> notes_;
 };
@@ -196,7 +219,8 @@ class KnownSections {
       int number = 0;
       any_ = true;
       last_ = name;
-      found_ = qel::find_section(std::string(is_positional(name) ? qel::text::kPositionalHeader : name).c_str(), number);
+      found_ = qel::find_section(
+          std::string(is_positional(name) ? qel::text::kPositionalHeader : name).c_str(), number);
     }
     return found_;
   }
@@ -208,7 +232,8 @@ class KnownSections {
 };
 
 // The keys of the lines that have no "=".
-std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& document, const TextSection& section) {
+std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& document,
+                                                        const TextSection& section) {
   std::set<std::string_view> keys;
   for (std::size_t index = section.header + 1; index < section.behind; ++index) {
     const TextLine line = document.line(index);
@@ -220,19 +245,23 @@ std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& docu
 }
 
 // Those of them that an entry has, too.
-std::set<std::string_view> keys_that_lines_share(const DocumentText& document, const TextSection& section) {
+std::set<std::string_view> keys_that_lines_share(const DocumentText& document,
+                                                 const TextSection& section) {
   const std::set<std::string_view> without_equals = keys_of_lines_without_equals(document, section);
   std::set<std::string_view> shared;
-  for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.behind; ++index) {
+  for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.behind;
+       ++index) {
     const TextLine line = document.line(index);
-    if (kind_of(line) == LineKind::entry && without_equals.contains(qel::text::first_token(line.text))) {
+    if (kind_of(line) == LineKind::entry &&
+        without_equals.contains(qel::text::first_token(line.text))) {
       shared.insert(qel::text::first_token(line.text));
     }
   }
   return shared;
 }
 
-void print_entries(const DocumentText& document, const TextSection& section, const qel::SectionInfo* known_section, Printer& printer) {
+void print_entries(const DocumentText& document, const TextSection& section,
+                   const qel::SectionInfo* known_section, Printer& printer) {
   const std::set<std::string_view> shared = keys_that_lines_share(document, section);
   std::set<std::string_view> keys;
   for (std::size_t index = section.header + 1; index < section.behind; ++index) {
@@ -242,9 +271,11 @@ void print_entries(const DocumentText& document, const TextSection& section, con
       continue;
     }
     const std::string_view key = qel::text::first_token(line.text);
-    // The engine reads an empty value from a line without "=". One whose key nobody else knows is a line like any other.
+    // The engine reads an empty value from a line without "=". One whose key nobody else knows is a
+    // line like any other.
     const bool has_empty_value =
-        kind == LineKind::without_equals && !keys.contains(key) && (shared.contains(key) || reading_of(known_section, key, "").key != nullptr);
+        kind == LineKind::without_equals && !keys.contains(key) &&
+        (shared.contains(key) || reading_of(known_section, key, "").key != nullptr);
     if (kind != LineKind::entry && !has_empty_value) {
       printer.passed_over(index, why_passed_over(line));
       continue;
@@ -262,7 +293,8 @@ void print_entries(const DocumentText& document, const TextSection& section, con
   }
 }
 
-void print_section(const DocumentText& document, const TextSection& section, const qel::SectionInfo* known, Printer& printer) {
+void print_section(const DocumentText& document, const TextSection& section,
+                   const qel::SectionInfo* known, Printer& printer) {
   Json head = {{"section", std::string(section.name)}, {"known", known != nullptr}};
   if (known != nullptr) {
     head["subject"] = known->subject;
@@ -272,13 +304,17 @@ void print_section(const DocumentText& document, const TextSection& section, con
   }
   printer.begin_section(head);
   const TextLine header = document.line(section.header);
-  if (const std::string_view behind = qel::text::index_value(header.text.substr(section.name.size())); !behind.empty()) {
-    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) + "\" behind the header is not read");
+  if (const std::string_view behind =
+          qel::text::index_value(header.text.substr(section.name.size()));
+      !behind.empty()) {
+    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) +
+                 "\" behind the header is not read");
   }
   if (is_positional(section.name) && !section.repeated) {
     visit_positional_lines(
         document, section,
-        {[&printer](const Json& entry) { printer.entry(entry); }, [&printer](std::size_t line) { printer.passed_over(line, Why::not_counted); },
+        {[&printer](const Json& entry) { printer.entry(entry); },
+         [&printer](std::size_t line) { printer.passed_over(line, Why::not_counted); },
          [&printer](const std::string& note) { printer.note(note); }});
   } else {
     print_entries(document, section, known, printer);
@@ -306,14 +342,17 @@ void print_front(const DocumentText& document, Printer& printer) {
 }
 
 int show(const Arguments& arguments) {
-  const std::string wanted = arguments.section_option->count() != 0 ? section_name(arguments.section) : "";
+  const std::string wanted =
+      arguments.section_option->count() != 0 ? section_name(arguments.section) : "";
   const DocumentText document = load_document(arguments.file);
   const TextSection* const first = wanted.empty() ? nullptr : document.find(wanted);
   if (!wanted.empty() && first == nullptr) {
-    throw Failure(kNotFound, at({arguments.file, 0, wanted, ""}, "not found: the file has no such section"));
+    throw Failure(kNotFound,
+                  at({arguments.file, 0, wanted, ""}, "not found: the file has no such section"));
   }
   const std::unique_ptr<Printer> printer =
-      arguments.json ? std::unique_ptr<Printer>(std::make_unique<JsonPrinter>(document)) : std::make_unique<PlainPrinter>(document);
+      arguments.json ? std::unique_ptr<Printer>(std::make_unique<JsonPrinter>(document))
+                     : std::make_unique<PlainPrinter>(document);
   if (wanted.empty()) {
     print_front(document, *printer);
   }
@@ -331,9 +370,12 @@ int show(const Arguments& arguments) {
 
 void add_show(CLI::App& app, int& status) {
   auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("show", "Print every entry with its meaning and its typed value, and the lines that are never read");
+  CLI::App* command = app.add_subcommand(
+      "show",
+      "Print every entry with its meaning and its typed value, and the lines that are never read");
   command->add_option("FILE", arguments->file, "The process file")->required();
-  arguments->section_option = command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
+  arguments->section_option = command->add_option("SECTION", arguments->section,
+                                                  "One section, with or without its brackets");
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer("Example: qelpro show Default.pro Flow-1");
   command->callback([arguments, &status] { status = show(*arguments); });

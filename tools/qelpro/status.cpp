@@ -19,7 +19,9 @@ std::string at(const Where& where, std::string_view what) {
   return text.append(" ").append(what);
 }
 
-std::string at(const std::string& file, std::string_view what) { return file + ": " + std::string(what); }
+std::string at(const std::string& file, std::string_view what) {
+  return file + ": " + std::string(what);
+}
 
 void complain(std::string_view message) {
   while (!message.empty() && (message.back() == '\n' || message.back() == '\r')) {

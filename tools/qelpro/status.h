@@ -11,7 +11,8 @@ enum Status : int { kDone = 0, kNotFound = 1, kUsage = 2, kFileError = 3 };
 /// What ends a command before its time: the exit status, and the message.
 class Failure : public std::runtime_error {
  public:
-  Failure(Status status, const std::string& message) : std::runtime_error(message), status_(status) {}
+  Failure(Status status, const std::string& message)
+      : std::runtime_error(message), status_(status) {}
   [[nodiscard]] Status status() const { return status_; }
 
  private:

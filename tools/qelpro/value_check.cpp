@@ -56,7 +56,8 @@ class Fields {
     if (!qel::platform::scan_real(at_, value)) {
       return missing("a number");
     }
-    if (std::isinf(value) && std::string_view(begin, static_cast<std::size_t>(at_ - begin)).find_first_of("0123456789") != std::string_view::npos) {
+    if (std::isinf(value) && std::string_view(begin, static_cast<std::size_t>(at_ - begin))
+                                     .find_first_of("0123456789") != std::string_view::npos) {
       return "field " + std::to_string(field_) + " is a number that is too large";
     }
     return {};
@@ -80,7 +81,9 @@ class Fields {
     return qel::platform::scan_word(at_, value) ? Complaint() : missing("a word");
   }
 
-  Complaint separator() { return *at_ != '\0' ? (++at_, Complaint()) : Complaint("the separator is missing"); }
+  Complaint separator() {
+    return *at_ != '\0' ? (++at_, Complaint()) : Complaint("the separator is missing");
+  }
 
   Complaint equals() {
     skip_blanks();
@@ -128,7 +131,8 @@ class Fields {
     if (*at_ == '\0') {
       return field_ == 1 ? what + " is missing" : field + "is missing";
     }
-    return field + "does not begin with " + quoted(std::string_view(at_, std::strcspn(at_, kBlanks)));
+    return field + "does not begin with " +
+           quoted(std::string_view(at_, std::strcspn(at_, kBlanks)));
   }
 
   std::string text_;
@@ -183,7 +187,8 @@ Complaint material(std::string_view text) {
     return read_fields(text, "fffwfff");
   }
   const std::size_t count = words.size();
-  for (const std::size_t word : {std::size_t{0}, std::size_t{1}, std::size_t{2}, count - 3, count - 2, count - 1}) {
+  for (const std::size_t word :
+       {std::size_t{0}, std::size_t{1}, std::size_t{2}, count - 3, count - 2, count - 1}) {
     if (Complaint complaint = read_fields(words[word], "f")) {
       return "word " + std::to_string(word + 1) + ": " + *complaint;
     }
@@ -191,7 +196,8 @@ Complaint material(std::string_view text) {
   return {};
 }
 
-// An integer, a name of one or more words, an integer, which may be missing behind a name of one word.
+// An integer, a name of one or more words, an integer, which may be missing behind a name of one
+// word.
 Complaint positional_header(std::string_view text) {
   const std::vector<std::string> words = qel::split(text, kBlanks);
   if (words.size() <= 3) {
@@ -216,14 +222,18 @@ std::vector<std::string> between_tabs(std::string_view text) {
   return pieces;
 }
 
-// Integer, name and real. Where nothing but blanks stands between two tabs and a number behind them, the name was left out.
+// Integer, name and real. Where nothing but blanks stands between two tabs and a number behind
+// them, the name was left out.
 Complaint insert_of_three(std::string_view text) {
   const std::vector<std::string> pieces = between_tabs(text);
-  const bool has_no_name = pieces.size() >= 3 && pieces[1].find_first_not_of(' ') == std::string::npos && !read_fields(pieces[2], "f");
+  const bool has_no_name = pieces.size() >= 3 &&
+                           pieces[1].find_first_not_of(' ') == std::string::npos &&
+                           !read_fields(pieces[2], "f");
   return read_fields(text, has_no_name ? "df" : "dwf");
 }
 
-// Integer, name, real and integer between tabs; or words, the last of which is the integer or, above the insert's number, the real.
+// Integer, name, real and integer between tabs; or words, the last of which is the integer or,
+// above the insert's number, the real.
 Complaint insert_of_four(std::string_view text, int insert) {
   const std::vector<std::string> pieces = between_tabs(text);
   constexpr std::size_t kPieces = 4;
@@ -239,7 +249,8 @@ Complaint insert_of_four(std::string_view text, int insert) {
   if (words.size() < 3) {
     return "fields are missing";
   }
-  if (const Complaint complaint = read_fields(words.back(), "d"); !complaint && qel::platform::to_int(words.back().c_str()) <= insert) {
+  if (const Complaint complaint = read_fields(words.back(), "d");
+      !complaint && qel::platform::to_int(words.back().c_str()) <= insert) {
     words.pop_back();
   }
   if (const Complaint complaint = read_fields(words.back(), "f")) {
@@ -277,12 +288,17 @@ constexpr std::array kRows = {Row{qel::Text::kName, nullptr},
                               Row{qel::ContactAngle::kName, "qf"},
                               Row{qel::PositionalSetting::kName, "deff"}};
 
-bool is_material(std::string_view encoding) { return encoding == qel::MoldbaseLine::kName || encoding == qel::MoldMetalLine::kName; }
+bool is_material(std::string_view encoding) {
+  return encoding == qel::MoldbaseLine::kName || encoding == qel::MoldMetalLine::kName;
+}
 
-bool is_insert_of_three(std::string_view encoding) { return encoding == qel::PartInsertLine::kName || encoding == qel::MoldInsertLine::kName; }
+bool is_insert_of_three(std::string_view encoding) {
+  return encoding == qel::PartInsertLine::kName || encoding == qel::MoldInsertLine::kName;
+}
 
 bool is_insert_of_four(std::string_view encoding) {
-  return encoding == qel::PartInsertLineOfFour::kName || encoding == qel::MoldInsertLineOfFour::kName;
+  return encoding == qel::PartInsertLineOfFour::kName ||
+         encoding == qel::MoldInsertLineOfFour::kName;
 }
 
 const Row* row_of(std::string_view encoding) {
@@ -297,8 +313,9 @@ const Row* row_of(std::string_view encoding) {
 }  // namespace
 
 bool is_checked(std::string_view encoding) {
-  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) || is_insert_of_four(encoding) ||
-         encoding == qel::ZoneCount::kName || encoding == qel::PositionalHeader::kName;
+  return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) ||
+         is_insert_of_four(encoding) || encoding == qel::ZoneCount::kName ||
+         encoding == qel::PositionalHeader::kName;
 }
 
 std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number) {
@@ -343,6 +360,10 @@ Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::s
   return reading;
 }
 
-std::optional<std::string> unread_part_of_integer(std::string_view text) { return read_fields(text, "d"); }
+std::optional<std::string> unread_part_of_integer(std::string_view text) {
+  return read_fields(text, "d");
+}
 
-std::optional<std::string> unread_part_of_real(std::string_view text) { return read_fields(text, "f"); }
+std::optional<std::string> unread_part_of_real(std::string_view text) {
+  return read_fields(text, "f");
+}

@@ -6,16 +6,20 @@
 
 #include "blocks/key.h"
 
-/// Whether a key's encoding reads a text whole. The encodings take what scans and pass over the rest; this tells the rest.
+/// Whether a key's encoding reads a text whole. The encodings take what scans and pass over the
+/// rest; this tells the rest.
 
 /// How the catalogue reads an entry.
 struct Reading {
-  const qel::KeyInfo* key = nullptr;  ///< Null for a key, or a section, that the catalogue does not know.
-  int number = 0;                     ///< The key's number.
-  std::optional<std::string> unread;  ///< What of the text is not read as it stands, and why, for a message.
+  const qel::KeyInfo* key =
+      nullptr;     ///< Null for a key, or a section, that the catalogue does not know.
+  int number = 0;  ///< The key's number.
+  std::optional<std::string>
+      unread;  ///< What of the text is not read as it stands, and why, for a message.
 };
 
-/// Of several encodings of one key the first that reads the text whole, or else the first. `section` may be null.
+/// Of several encodings of one key the first that reads the text whole, or else the first.
+/// `section` may be null.
 Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text);
 
 /// What one encoding does not read of the text.

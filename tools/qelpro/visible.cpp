@@ -2,7 +2,9 @@
 
 namespace {
 
-unsigned char byte_at(std::string_view text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
+unsigned char byte_at(std::string_view text, std::size_t at) {
+  return static_cast<unsigned char>(text[at]);
+}
 
 std::string escape_of(unsigned char byte) {
   constexpr const char* kDigits = "0123456789ABCDEF";
@@ -31,7 +33,8 @@ bool is_control(unsigned char byte, Controls controls) {
   return false;
 }
 
-// 0x80 to 0x9F: control characters in the eight-bit character sets and, as numbers of characters, in Unicode.
+// 0x80 to 0x9F: control characters in the eight-bit character sets and, as numbers of characters,
+// in Unicode.
 bool is_high_control(unsigned char byte) { return byte >= 0x80 && byte <= 0x9F; }
 
 }  // namespace
@@ -45,7 +48,10 @@ std::size_t utf8_length(std::string_view text) {
   if (first < 0x80) {
     return 1;
   }
-  const std::size_t length = first >= 0xC2 && first <= 0xDF ? 2 : first >= 0xE0 && first <= 0xEF ? 3 : first >= 0xF0 && first <= 0xF4 ? kLongest : 0;
+  const std::size_t length = first >= 0xC2 && first <= 0xDF   ? 2
+                             : first >= 0xE0 && first <= 0xEF ? 3
+                             : first >= 0xF0 && first <= 0xF4 ? kLongest
+                                                              : 0;
   if (length == 0 || text.size() < length) {
     return 0;
   }
@@ -56,8 +62,8 @@ std::size_t utf8_length(std::string_view text) {
   }
   // No longer spelling than needed, no surrogate, nothing beyond the last character.
   const unsigned char second = byte_at(text, 1);
-  const bool refused =
-      (first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F) || (first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F);
+  const bool refused = (first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F) ||
+                       (first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F);
   return refused ? 0 : length;
 }
 
@@ -68,7 +74,8 @@ std::string visible(std::string_view text, Controls controls) {
     const unsigned char byte = byte_at(text, at);
     const std::size_t length = utf8_length(text.substr(at));
     const bool high = controls != Controls::line_breaks &&
-                      ((length == 0 && is_high_control(byte)) || (length == 2 && byte == 0xC2 && is_high_control(byte_at(text, at + 1))));
+                      ((length == 0 && is_high_control(byte)) ||
+                       (length == 2 && byte == 0xC2 && is_high_control(byte_at(text, at + 1))));
     if (high) {
       result += escape_of(byte_at(text, at + (length == 2 ? 1 : 0)));
     } else if (length <= 1 && is_control(byte, controls)) {

@@ -10,7 +10,8 @@ enum class Controls {
   all_but_layout,  ///< Every control character but "\n" and "\t", which the tool itself prints.
 };
 
-/// The text with escapes such as "\x1B" in the place of control characters, those of eight bits and of Unicode among them.
+/// The text with escapes such as "\x1B" in the place of control characters, those of eight bits and
+/// of Unicode among them.
 std::string visible(std::string_view text, Controls controls);
 
 /// How many bytes the UTF-8 character has with which the text begins; 0 where it begins with none.

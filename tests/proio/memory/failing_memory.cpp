@@ -38,7 +38,9 @@ void* operator new(std::size_t size) {
   }
   throw std::bad_alloc();
 }
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return qelpro_test::failing_memory::allocate(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return qelpro_test::failing_memory::allocate(size);
+}
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }

@@ -9,9 +9,9 @@
 #include "proio/memory/failing_memory.h"
 #include "proio/support.h"
 
-// Memory fails at every allocation of a member, one after the other. Nothing leaves the member, a getter says no, a setter says
-// yes where its value stands in the file nevertheless, the stamp alone being missed, and no where the file is what it was. The
-// object goes on to work.
+// Memory fails at every allocation of a member, one after the other. Nothing leaves the member, a
+// getter says no, a setter says yes where its value stands in the file nevertheless, the stamp
+// alone being missed, and no where the file is what it was. The object goes on to work.
 
 namespace qelpro_test {
 namespace {
@@ -23,7 +23,9 @@ struct Member {
 };
 
 char* a_long_text() {
-  static char text[] = "a text that is longer than what a string holds without asking for memory, and then some more of the same";
+  static char text[] =
+      "a text that is longer than what a string holds without asking for memory, and then some "
+      "more of the same";
   return text;
 }
 
@@ -37,10 +39,13 @@ std::vector<Member> members() {
       {"SetVPSwitch", [](Object& o) { return o.SetVPSwitch(true); }},
       {"SetIsTransientInletConv", [](Object& o) { return o.SetIsTransientInletConv(true); }},
       {"SetMoldOpenDirection", [](Object& o) { return o.SetMoldOpenDirection(1.25, 2.5, 1e-10); }},
-      {"SetFlowHeatTransferCoefficient", [](Object& o) { return o.SetFlowHeatTransferCoefficient(25000.5); }},
-      {"SetValveGateControlData", [](Object& o) { return o.SetValveGateControlData(1, 2, 1.5, 2, 3, 4); }},
+      {"SetFlowHeatTransferCoefficient",
+       [](Object& o) { return o.SetFlowHeatTransferCoefficient(25000.5); }},
+      {"SetValveGateControlData",
+       [](Object& o) { return o.SetValveGateControlData(1, 2, 1.5, 2, 3, 4); }},
       {"SetCoolant", [](Object& o) { return o.SetCoolant(1, 1, 2, 3, 4, 5, a_long_text(), 6, 7); }},
-      {"SetcoolChannelControlPoint", [](Object& o) { return o.SetcoolChannelControlPoint(1, 2, 1.5, 3, 2, 4, 0.1); }},
+      {"SetcoolChannelControlPoint",
+       [](Object& o) { return o.SetcoolChannelControlPoint(1, 2, 1.5, 3, 2, 4, 0.1); }},
       {"SetCoolChannelGroupID", [](Object& o) { return o.SetCoolChannelGroupID(1, number); }},
       {"SetMoldbase", [](Object& o) { return o.SetMoldbase(1, 1, 2, 3, a_long_text()); }},
       {"SetMoldMetalMaterial", [](Object& o) { return o.SetMoldMetalMaterial(1, record); }},
@@ -105,9 +110,11 @@ std::vector<Member> members() {
 
 class WithoutMemory : public ProcessObject {
  protected:
-  const std::string kFile = "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") +
-                            "[CaeHeader]\nFileVersion = 1010\n[Summary]\nTotalNodeBC = 1\n" +
-                            "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n1 = 2\t3\n[Flow-1]\nFillTime = 1\n" + std::string(300, 'y') + "\n";
+  const std::string kFile =
+      "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") +
+      "[CaeHeader]\nFileVersion = 1010\n[Summary]\nTotalNodeBC = 1\n" +
+      "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tTop\n1 = 2\t3\n[Flow-1]\nFillTime = 1\n" +
+      std::string(300, 'y') + "\n";
 };
 
 TEST_F(WithoutMemory, MembersSayWhatIsDoneAndTheObjectGoesOn) {

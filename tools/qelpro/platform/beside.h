@@ -9,7 +9,9 @@ namespace platform {
 /// A path for a temporary file in the folder of the file.
 inline std::string path_beside(const std::string& file) {
   std::random_device random;
-  return (std::filesystem::path(file).parent_path() / (".qelpro-" + std::to_string(random()) + ".tmp")).string();
+  return (std::filesystem::path(file).parent_path() /
+          (".qelpro-" + std::to_string(random()) + ".tmp"))
+      .string();
 }
 
 /// The folder of the file, as a message names it.

@@ -5,14 +5,16 @@
 #include <string>
 #include <string_view>
 
-/// Files as the tool reads and replaces them. Whatever fails is a `Failure` that names the file and has the operating system's reason.
+/// Files as the tool reads and replaces them. Whatever fails is a `Failure` that names the file and
+/// has the operating system's reason.
 namespace platform {
 
 /// The bytes of a regular file, all of them.
 std::string read_file(const std::string& file);
 
-/// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are followed. While it lives, no other store of this
-/// tool works on the file: another one waits in its constructor.
+/// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are
+/// followed. While it lives, no other store of this tool works on the file: another one waits in
+/// its constructor.
 class Replacement {
  public:
   explicit Replacement(const std::string& file);
@@ -22,7 +24,8 @@ class Replacement {
   ~Replacement();
 
   [[nodiscard]] const std::string& old_contents() const { return old_contents_; }
-  /// Writes the new contents into a file beside the old one, which has its mode, owner and attributes from its first byte, and gives its path.
+  /// Writes the new contents into a file beside the old one, which has its mode, owner and
+  /// attributes from its first byte, and gives its path.
   const std::string& write(std::string_view contents);
   /// Puts the file that was written into the place of the old one.
   void commit();
@@ -47,7 +50,8 @@ class NewFile {
   ~NewFile();
 
   [[nodiscard]] std::string& temporary_path() { return temporary_; }
-  /// Gives the file its name. One of that name that is there, a symbolic link to nothing too, is left alone.
+  /// Gives the file its name. One of that name that is there, a symbolic link to nothing too, is
+  /// left alone.
   void publish();
 
  private:

@@ -61,7 +61,8 @@ class Descriptor {
 };
 
 int open_file(const std::string& file, int flags, mode_t mode = 0) {
-  return static_cast<int>(retried([&] { return ::open(file.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); }));
+  return static_cast<int>(
+      retried([&] { return ::open(file.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); }));
 }
 
 // Only a regular file is opened: to open a named pipe would wait for its other end.
@@ -90,7 +91,8 @@ std::string read_all(int descriptor, const std::string& file) {
     if (length == contents.size()) {
       contents.resize(length + std::max(length, kSmallest));
     }
-    const long got = retried([&] { return ::read(descriptor, contents.data() + length, contents.size() - length); });
+    const long got = retried(
+        [&] { return ::read(descriptor, contents.data() + length, contents.size() - length); });
     if (got < 0) {
       fail(file, "cannot be read to its end: ");
     }
@@ -119,7 +121,8 @@ void copy_attributes(int from, int to) {
   std::vector<char> names(kRoom);
   std::vector<char> value(kRoom);
   const ssize_t length = ::flistxattr(from, names.data(), names.size());
-  for (const char* name = names.data(); name < names.data() + length; name += std::char_traits<char>::length(name) + 1) {
+  for (const char* name = names.data(); name < names.data() + length;
+       name += std::char_traits<char>::length(name) + 1) {
     const ssize_t size = ::fgetxattr(from, name, value.data(), value.size());
     if (size >= 0) {
       ::fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
@@ -127,7 +130,8 @@ void copy_attributes(int from, int to) {
   }
 }
 
-// So that a name that was given lasts through a crash of the machine; where that cannot be had, the file is there nevertheless.
+// So that a name that was given lasts through a crash of the machine; where that cannot be had, the
+// file is there nevertheless.
 void sync_folder(const std::string& file) {
   const Descriptor folder(open_file(folder_of(file), O_RDONLY | O_DIRECTORY));
   if (folder.is_open()) {
@@ -155,7 +159,8 @@ class SignalsWait {
 };
 
 // Makes a temporary file beside the file and hands its path out.
-int make_beside(const std::string& file, const std::string& target, mode_t mode, std::string& path) {
+int make_beside(const std::string& file, const std::string& target, mode_t mode,
+                std::string& path) {
   constexpr int kAttempts = 100;
   int descriptor = -1;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
@@ -190,12 +195,14 @@ struct Replacement::Handles {
   std::unique_ptr<SignalsWait> signals_wait;
 };
 
-Replacement::Replacement(const std::string& file) : file_(file), handles_(std::make_unique<Handles>()) {
+Replacement::Replacement(const std::string& file)
+    : file_(file), handles_(std::make_unique<Handles>()) {
   struct stat held {};
   struct stat named {};
   do {
     check_is_regular(file);
-    const std::unique_ptr<char, void (*)(void*)> real(::realpath(file.c_str(), nullptr), &std::free);
+    const std::unique_ptr<char, void (*)(void*)> real(::realpath(file.c_str(), nullptr),
+                                                      &std::free);
     if (real == nullptr) {
       fail(file, "");
     }
@@ -207,8 +214,8 @@ Replacement::Replacement(const std::string& file) : file_(file), handles_(std::m
     // A file system without locks goes without.
     retried([&] { return ::flock(handles_->old_file.get(), LOCK_EX); });
     // Whoever held the lock has put another file into this one's place.
-  } while (::fstat(handles_->old_file.get(), &held) != 0 || ::stat(target_.c_str(), &named) != 0 || held.st_dev != named.st_dev ||
-           held.st_ino != named.st_ino);
+  } while (::fstat(handles_->old_file.get(), &held) != 0 || ::stat(target_.c_str(), &named) != 0 ||
+           held.st_dev != named.st_dev || held.st_ino != named.st_ino);
   old_contents_ = read_all(handles_->old_file.get(), file);
 }
 
@@ -231,7 +238,8 @@ const std::string& Replacement::write(std::string_view contents) {
     fail(file_, "");
   }
   // Who may not give a file away keeps it, and its group where that is possible.
-  if (::fchown(descriptor, status.st_uid, status.st_gid) != 0 && ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
+  if (::fchown(descriptor, status.st_uid, status.st_gid) != 0 &&
+      ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
     // Another group gets what everybody may.
     status.st_mode = (status.st_mode & ~kGroupBits) | ((status.st_mode & kOtherBits) << 3U);
   }
@@ -257,14 +265,18 @@ struct NewFile::Guard {
   SignalsWait signals_wait;
 };
 
-NewFile::NewFile(const std::string& file, std::size_t room) : guard_(std::make_unique<Guard>()), file_(file) {
+NewFile::NewFile(const std::string& file, std::size_t room)
+    : guard_(std::make_unique<Guard>()), file_(file) {
   constexpr mode_t kAsTheUserWants = 0666;
   struct stat status {};
   if (::lstat(file.c_str(), &status) == 0) {
-    throw Failure(kFileError, at(file, S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already" : "exists already"));
+    throw Failure(kFileError,
+                  at(file, S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already"
+                                                   : "exists already"));
   }
   Descriptor descriptor(make_beside(file, file, kAsTheUserWants, temporary_));
-  if (!write_all(descriptor.get(), std::string(room, ' ')) || retried([&] { return ::fsync(descriptor.get()); }) != 0 ||
+  if (!write_all(descriptor.get(), std::string(room, ' ')) ||
+      retried([&] { return ::fsync(descriptor.get()); }) != 0 ||
       retried([&] { return ::ftruncate(descriptor.get(), 0); }) != 0 || !descriptor.close()) {
     const int error = errno;
     ::unlink(temporary_.c_str());

@@ -14,7 +14,9 @@
 namespace platform {
 namespace {
 
-[[noreturn]] void fail(const std::string& file, const std::string& what) { throw Failure(kFileError, at(file, what + reason_of(errno))); }
+[[noreturn]] void fail(const std::string& file, const std::string& what) {
+  throw Failure(kFileError, at(file, what + reason_of(errno)));
+}
 
 [[noreturn]] void fail_by_system(const std::string& file, const std::string& what) {
   const auto error = static_cast<int>(::GetLastError());
@@ -23,7 +25,9 @@ namespace {
 
 using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-bool put(std::FILE* stream, std::string_view contents) { return std::fwrite(contents.data(), 1, contents.size(), stream) == contents.size(); }
+bool put(std::FILE* stream, std::string_view contents) {
+  return std::fwrite(contents.data(), 1, contents.size(), stream) == contents.size();
+}
 
 Stream make_beside(const std::string& file, const std::string& target, std::string& path) {
   path = path_beside(target);
@@ -41,7 +45,8 @@ std::string read_file(const std::string& file) {
   std::error_code error;
   const auto kind = std::filesystem::status(file, error);
   if (std::filesystem::exists(kind) && !std::filesystem::is_regular_file(kind)) {
-    throw Failure(kFileError, at(file, std::filesystem::is_directory(kind) ? reason_of(EISDIR) : "not a regular file"));
+    throw Failure(kFileError, at(file, std::filesystem::is_directory(kind) ? reason_of(EISDIR)
+                                                                           : "not a regular file"));
   }
   const Stream stream(std::fopen(file.c_str(), "rb"), &std::fclose);
   if (stream == nullptr) {
@@ -63,7 +68,8 @@ struct Replacement::Handles {
   HANDLE lock = nullptr;
 };
 
-Replacement::Replacement(const std::string& file) : file_(file), handles_(std::make_unique<Handles>()) {
+Replacement::Replacement(const std::string& file)
+    : file_(file), handles_(std::make_unique<Handles>()) {
   std::error_code error;
   target_ = std::filesystem::canonical(file, error).string();
   if (error) {
@@ -75,7 +81,8 @@ Replacement::Replacement(const std::string& file) : file_(file), handles_(std::m
   if (handles_->lock != nullptr) {
     ::WaitForSingleObject(handles_->lock, INFINITE);
   }
-  if (const Stream writable(std::fopen(target_.c_str(), "r+b"), &std::fclose); writable == nullptr) {
+  if (const Stream writable(std::fopen(target_.c_str(), "r+b"), &std::fclose);
+      writable == nullptr) {
     fail(file, "cannot be opened for writing: ");
   }
   old_contents_ = read_file(target_);
@@ -102,7 +109,8 @@ const std::string& Replacement::write(std::string_view contents) {
 
 void Replacement::commit() {
   // The one call that keeps the old file's attributes and access list.
-  if (::ReplaceFileA(target_.c_str(), temporary_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) == 0) {
+  if (::ReplaceFileA(target_.c_str(), temporary_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                     nullptr, nullptr) == 0) {
     fail_by_system(file_, "cannot be written, and is as it was: ");
   }
   temporary_.clear();
@@ -112,12 +120,14 @@ void Replacement::commit() {
 struct NewFile::Guard {};
 
 NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
-  if (std::error_code error; std::filesystem::exists(std::filesystem::symlink_status(file, error))) {
+  if (std::error_code error;
+      std::filesystem::exists(std::filesystem::symlink_status(file, error))) {
     throw Failure(kFileError, at(file, "exists already"));
   }
   Stream stream = make_beside(file, file, temporary_);
   const bool whole = put(stream.get(), std::string(room, ' '));
-  const bool emptied = std::fclose(stream.release()) == 0 && Stream(std::fopen(temporary_.c_str(), "wb"), &std::fclose) != nullptr;
+  const bool emptied = std::fclose(stream.release()) == 0 &&
+                       Stream(std::fopen(temporary_.c_str(), "wb"), &std::fclose) != nullptr;
   if (!whole || !emptied) {
     const int error = errno;
     std::remove(temporary_.c_str());

@@ -5,8 +5,9 @@
 /// The standard streams of the tool.
 namespace platform {
 
-/// To be called first. A stream that the caller closed gets a place of its own where nothing can be written or read, so that no file that is
-/// opened later is taken for it; and a limit on the sizes of files becomes an error of the write instead of a signal.
+/// To be called first. A stream that the caller closed gets a place of its own where nothing can be
+/// written or read, so that no file that is opened later is taken for it; and a limit on the sizes
+/// of files becomes an error of the write instead of a signal.
 void prepare_streams();
 
 bool is_terminal(std::FILE* stream);

@@ -13,7 +13,8 @@ namespace platform {
 void prepare_streams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     if (::fcntl(stream, F_GETFD) < 0 && errno == EBADF) {
-      // The lowest number that is free is this one. A folder is always there, and takes and gives no bytes.
+      // The lowest number that is free is this one. A folder is always there, and takes and gives
+      // no bytes.
       ::open("/", O_RDONLY | O_DIRECTORY);
     }
   }
