@@ -74,6 +74,9 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   bool ReadValue(const char* section, const char* key, char*& value, char* buffer,
                  unsigned int size);
 
+  // The members of the sections, made by "./dev generate" from the rows of src/blocks.
+  // clang-format off
+
   // [FileHeader]: what the file is, who wrote it and when.
 
   /// [FileHeader] "Name": the name of the file. Argument: the text. The text is valid until the
@@ -182,7 +185,8 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// value untouched: not in the file.
   bool Summary_ReadTotalOverFlowCTL(int& value);
 
-  // [FlowCTL]: what controls filling, packing, the V/P switch-over and the begin of curing.
+  // [FlowCTL]: what controls filling, packing, the switch-over from velocity to pressure control
+  // (V/P) and the begin of curing.
 
   /// [FlowCTL] "FlowCtrl": a code: which quantity controls filling. Argument: the value. False, the
   /// value untouched: not in the file.
@@ -228,16 +232,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// one entry. Arguments: the value, an index. False, the value untouched: not in the file.
   bool FlowCTL_ReadCureEnterTime(double& value, int index);
 
-  // [FlowCTLInfo]: how many melt inlets the run has, and what controls each.
-
-  /// [FlowCTLInfo] "TotalInlet": the number of melt inlets. Argument: the value. False, the value
-  /// untouched: not in the file.
-  bool FlowCTLInfo_ReadTotalInlet(int& value);
-  /// [FlowCTLInfo] "FlowCTL-%d": two control codes of an inlet, the second its control type. What
-  /// the text lacks is 0. Arguments: the first code, the second code, the inlet. False, outputs
-  /// untouched: not in the file.
-  bool FlowCTLInfo_ReadFlowCTL(int& first, int& second, int inlet);
-
   // [Flow-%ld]: the filling stage of an inlet.
 
   /// [Flow-%ld] "FillTime": the filling time, in sec. Arguments: the value, the inlet. False, the
@@ -275,12 +269,12 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// inlet. False, the value untouched: not in the file.
   bool FlowX_ReadTransferPressure(double& value, int inlet);
   /// [Flow-%ld] "InitConv": how far the resin's curing reaction has gone (its conversion) at the
-  /// start of filling. The same as `FlowX_ReadInitConversion`. Arguments: the value, the inlet.
-  /// False, the value untouched: not in the file.
+  /// start of filling. `FlowX_ReadInitConv` and `FlowX_ReadInitConversion` are the same. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
   bool FlowX_ReadInitConv(double& value, int inlet);
   /// [Flow-%ld] "InitConv": how far the resin's curing reaction has gone (its conversion) at the
-  /// start of filling. The same as `FlowX_ReadInitConv`. Arguments: the value, the inlet. False,
-  /// the value untouched: not in the file.
+  /// start of filling. `FlowX_ReadInitConv` and `FlowX_ReadInitConversion` are the same. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
   bool FlowX_ReadInitConversion(double& value, int inlet);
   /// [Flow-%ld] "MaxFR": the limit of the flow rate, in cc/sec. Arguments: the value, the inlet.
   /// False, the value untouched: not in the file.
@@ -364,35 +358,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// [Flow-%ld] "UserTP-%d": a point of the transfer pressure profile as the user entered it: x and
   /// y. Arguments: x, y, the point, the inlet. False, outputs untouched: not in the file.
   bool FlowX_ReadUserTPProfile(double& x, double& y, int point, int inlet);
-
-  // [Flow-%ld-Skin2nd]: the filling stage of a co-injection run's second skin.
-
-  /// [Flow-%ld-Skin2nd] "FillTime": the filling time, in sec. Arguments: the value, the inlet.
-  /// False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadFillingTime(double& value, int inlet);
-  /// [Flow-%ld-Skin2nd] "FRSet": the number of points of the flow rate profile. Arguments: the
-  /// value, the inlet. False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadFRSection(int& value, int inlet);
-  /// [Flow-%ld-Skin2nd] "FR-%d": a point of the flow rate profile: how far filling has gone, and
-  /// the flow rate, in cc/sec. Arguments: x, y, the point, the inlet. False, outputs untouched: not
-  /// in the file.
-  bool FlowXSkin2nd_ReadFRProfile(double& x, double& y, int point, int inlet);
-  /// [Flow-%ld-Skin2nd] "IPSet": the number of points of the injection pressure profile. Arguments:
-  /// the value, the inlet. False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadIPSection(int& value, int inlet);
-  /// [Flow-%ld-Skin2nd] "IP-%d": a point of the injection pressure profile: how far filling has
-  /// gone, and the pressure, in MPa. Arguments: x, y, the point, the inlet. False, outputs
-  /// untouched: not in the file.
-  bool FlowXSkin2nd_ReadIPProfile(double& x, double& y, int point, int inlet);
-  /// [Flow-%ld-Skin2nd] "Skin2ndEnterType": a code: what makes the second skin enter. Arguments:
-  /// the value, the inlet. False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadSkin2ndEnterType(int& value, int inlet);
-  /// [Flow-%ld-Skin2nd] "Skin2ndEnterSwch": the switch value at which the second skin enters.
-  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadSkin2ndEnterSwch(double& value, int inlet);
-  /// [Flow-%ld-Skin2nd] "Skin2ndEnterTime": the time at which the second skin enters, in sec.
-  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
-  bool FlowXSkin2nd_ReadSkin2ndEnterTime(double& value, int inlet);
 
   // [Pack-%d]: the packing stage of an inlet.
 
@@ -485,204 +450,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// y. Arguments: x, y, the point, the inlet. False, outputs untouched: not in the file.
   bool CureX_ReadUserCTProfile(double& x, double& y, int point, int inlet);
 
-  // [Project]: the mesh and material files and the volumes of the project.
-
-  /// [Project] "Mesh": the mesh file. Argument: the text. The text is valid until the thread's next
-  /// read. False, the text untouched: not in the file.
-  bool Project_ReadMesh(char*& text);
-  /// [Project] "Material": the material file. Argument: the text. The text is valid until the
-  /// thread's next read. False, the text untouched: not in the file.
-  bool Project_ReadMaterial(char*& text);
-  /// [Project] "MeshID": the identifier of the mesh. Argument: the text. The text is valid until
-  /// the thread's next read. False, the text untouched: not in the file.
-  bool Project_ReadMeshID(char*& text);
-  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False, the value
-  /// untouched: not in the file.
-  bool Project_ReadCavityVolume(double& value);
-  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc.
-  /// Argument: the value. False, the value untouched: not in the file.
-  bool Project_ReadCushionVolume(double& value);
-  /// [Project] "ClampFaceArea": the projected area that the clamp holds shut. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool Project_ReadClampFaceArea(double& value);
-
-  // [RamPosition]: profiles over the ram's stroke, and the V/P switch-over by ram position.
-
-  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool RamPosition_ReadRamDirection(int& value);
-  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool RamPosition_ReadIsVPSwitch(int& value);
-  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool RamPosition_ReadVPSwitchRamPosition(double& value);
-  /// [RamPosition] "SuckBack": how far the screw is pulled back after plastication, to relieve the
-  /// melt (suck-back). Argument: the value. False, the value untouched: not in the file.
-  bool RamPosition_ReadSuckBack(double& value);
-  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool RamPosition_ReadRamFRSection(int& value);
-  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow
-  /// rate, in cc/sec. Arguments: x, y, the point. False, outputs untouched: not in the file.
-  bool RamPosition_ReadRamFRProfile(double& x, double& y, int point);
-  /// [RamPosition] "RP_FR-%d": the ram position of a flow rate point alone. Arguments: the value,
-  /// the point. False, the value untouched: not in the file.
-  bool RamPosition_ReadRamFRProfile(double& value, int point);
-  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool RamPosition_ReadRamIPSection(int& value);
-  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the
-  /// pressure, in MPa. Arguments: x, y, the point. False, outputs untouched: not in the file.
-  bool RamPosition_ReadRamIPProfile(double& x, double& y, int point);
-  /// [RamPosition] "RP_IP-%d": the ram position of an injection pressure point alone. Arguments:
-  /// the value, the point. False, the value untouched: not in the file.
-  bool RamPosition_ReadRamIPProfile(double& value, int point);
-
-  // [GasF-%d]: gas-assisted filling at a gas inlet.
-
-  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False,
-  /// the value untouched: not in the file.
-  bool GasFX_ReadGasTime(double& value, int inlet);
-  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the value, the inlet. False,
-  /// the value untouched: not in the file.
-  bool GasFX_ReadGasPressure(double& value, int inlet);
-  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the
-  /// value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGasSwitch(double& value, int inlet);
-  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the value, the
-  /// inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadDelayTime(double& value, int inlet);
-  /// [GasF-%d] "GRDisplayType": a code: how a front end shows the gas flow rate profile. Arguments:
-  /// the value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGRDisplayType(int& value, int inlet);
-  /// [GasF-%d] "GRProfileType": a code: in which form the gas flow rate profile was entered.
-  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGRProfileType(int& value, int inlet);
-  /// [GasF-%d] "GPDisplayType": a code: how a front end shows the gas pressure profile. Arguments:
-  /// the value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGPDisplayType(int& value, int inlet);
-  /// [GasF-%d] "GPProfileType": a code: in which form the gas pressure profile was entered.
-  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGPProfileType(int& value, int inlet);
-  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. Arguments: the value,
-  /// the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGRSection(int& value, int inlet);
-  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. In spite of its name it
-  /// is `GasFX_ReadGRSection`: what the user entered is read with `ReadString`. Arguments: the
-  /// value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadUserGRSection(int& value, int inlet);
-  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
-  /// rate. Arguments: x, y, the point, the inlet. False, outputs untouched: not in the file.
-  bool GasFX_ReadGRProfile(double& x, double& y, int point, int inlet);
-  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
-  /// rate. In spite of its name it is `GasFX_ReadGRProfile`: what the user entered is read with
-  /// `ReadString`. Arguments: x, y, the point, the inlet. False, outputs untouched: not in the
-  /// file.
-  bool GasFX_ReadUserGRProfile(double& x, double& y, int point, int inlet);
-  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. Arguments: the value, the
-  /// inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadGPSection(int& value, int inlet);
-  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. In spite of its name it
-  /// is `GasFX_ReadGPSection`: what the user entered is read with `ReadString`. Arguments: the
-  /// value, the inlet. False, the value untouched: not in the file.
-  bool GasFX_ReadUserGPSection(int& value, int inlet);
-  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
-  /// pressure, in MPa. Arguments: x, y, the point, the inlet. False, outputs untouched: not in the
-  /// file.
-  bool GasFX_ReadGPProfile(double& x, double& y, int point, int inlet);
-  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
-  /// pressure, in MPa. In spite of its name it is `GasFX_ReadGPProfile`: what the user entered is
-  /// read with `ReadString`. Arguments: x, y, the point, the inlet. False, outputs untouched: not
-  /// in the file.
-  bool GasFX_ReadUserGPProfile(double& x, double& y, int point, int inlet);
-
-  // [TransientInletConv]: pellet pre-heating and initial conversion where the inlet conversion is
-  // transient.
-
-  /// [TransientInletConv] "InitConversionType": a code: how the initial conversion is given.
-  /// Argument: the value. False, the value untouched: not in the file.
-  bool TransientInletConv_ReadInitConversionType(int& value);
-  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its
-  /// conversion) before pre-heating. Argument: the value. False, the value untouched: not in the
-  /// file.
-  bool TransientInletConv_ReadInitPelletConversion(double& value);
-  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. Argument: the value. False,
-  /// the value untouched: not in the file.
-  bool TransientInletConv_ReadPelletDiameter(double& value);
-  /// [TransientInletConv] "PelletHeight": the height of the pellet. Argument: the value. False, the
-  /// value untouched: not in the file.
-  bool TransientInletConv_ReadPelletHeight(double& value);
-  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool TransientInletConv_ReadPreHeatTime(double& value);
-
-  // [ICPackage]: pellet pre-heating and initial conversion of IC package encapsulation.
-
-  /// [ICPackage] "InitConversionType": a code: how the initial conversion is given. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool ICPackage_ReadInitConversionType(int& value);
-  /// [ICPackage] "InitConversion": how far the pellet's curing reaction has gone (its conversion)
-  /// before pre-heating. Argument: the value. False, the value untouched: not in the file.
-  bool ICPackage_ReadInitPelletConversion(double& value);
-  /// [ICPackage] "PelletDiameter": the diameter of the pellet. Argument: the value. False, the
-  /// value untouched: not in the file.
-  bool ICPackage_ReadPelletDiameter(double& value);
-  /// [ICPackage] "PelletHeight": the height of the pellet. Argument: the value. False, the value
-  /// untouched: not in the file.
-  bool ICPackage_ReadPelletHeight(double& value);
-  /// [ICPackage] "PreHeatingTime": how long the pellet is pre-heated, in sec. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool ICPackage_ReadPreHeatTime(double& value);
-
-  // [MicrocellularMolding]: foaming and gas dosage.
-
-  /// [MicrocellularMolding] "FoamDurationTime": how long foaming lasts, in sec. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadFoamDurationTime(double& value);
-  /// [MicrocellularMolding] "StartFoamingType": a code: what makes foaming begin. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadStartFoamingType(int& value);
-  /// [MicrocellularMolding] "VolumeFilled": the filled volume at which foaming begins. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadVolumeFilled(double& value);
-  /// [MicrocellularMolding] "PreInjectedVolume": the volume that is injected before foaming begins.
-  /// Argument: the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadPreInjectedVolume(double& value);
-  /// [MicrocellularMolding] "InitialGasConcentrationType": a code: how the initial gas
-  /// concentration is given. Argument: the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadInitialGasConcentrationType(int& value);
-  /// [MicrocellularMolding] "GasDosageAmount": how much gas is dissolved in the melt. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadGasDosageAmount(double& value);
-  /// [MicrocellularMolding] "GasSaturationPressure": the saturation pressure of the gas, in MPa.
-  /// Argument: the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadGasSaturationPressure(double& value);
-  /// [MicrocellularMolding] "NozzleShutoff": a code: whether the nozzle shuts off. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadNozzleShutoff(int& value);
-  /// [MicrocellularMolding] "AdvancedType": a code: which of the advanced values counts. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadAdvancedType(int& value);
-  /// [MicrocellularMolding] "RamPosition": the ram position, for an advanced type that asks for
-  /// one. Argument: the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadRamPosition(double& value);
-  /// [MicrocellularMolding] "PartWeight": the weight of the part, for an advanced type that asks
-  /// for one. Argument: the value. False, the value untouched: not in the file.
-  bool MicrocellularMolding_ReadPartWeight(double& value);
-
-  // [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
-
-  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a
-  /// vector. Arguments: x, y, z. False, outputs untouched: not in the file.
-  bool AdvancedSetting_ReadOpenDirection(double& x, double& y, double& z);
-  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool AdvancedSetting_ReadClampForce(double& value);
-  /// [AdvancedSetting] "CycleTime": the time from one shot to the next, in sec. A text that holds
-  /// no number is 0. Argument: the value. False, the value untouched: not in the file.
-  bool AdvancedSetting_ReadCycleTime(double& value);
-
   // [Cool]: cycle times, temperatures and the kind of cooling.
 
   /// [Cool] "CoolTime": the cooling time, in sec. Argument: the value. False, the value untouched:
@@ -735,18 +502,9 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// group. What the text lacks is 0, the name null. Arguments: the four properties, the coolant
   /// system, the name, the diameter, the channel group, the coolant. The name is valid until the
   /// next read of its kind. False, outputs untouched: not in the file.
-  bool Coolant_ReadCoolant(double& p1, double& p2, double& p3, double& p4, int& system, char*& name,
-                           double& f7, int& f8, int coolant);
-
-  // [VarCoolCTL]: variable cooling.
-
-  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value.
-  /// False, the value untouched: not in the file.
-  bool VarCoolCTL_ReadCoolantCount(int& value);
-  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. What the
-  /// text lacks is 0. Arguments: four reals, the integer, the entry. False, outputs untouched: not
-  /// in the file.
-  bool VarCoolCTL_ReadCoolant(double& f1, double& f2, double& f3, double& f4, int& f5, int entry);
+  bool Coolant_ReadCoolant(
+      double& p1, double& p2, double& p3, double& p4, int& system, char*& name, double& f7, int& f8,
+      int coolant);
 
   // [CoolChannel-%d]: a cooling channel.
 
@@ -759,64 +517,53 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// [CoolChannel-%d] "TimeSet": the number of control points of the channel. Arguments: the value,
   /// the channel. False, the value untouched: not in the file.
   bool CoolChannelX_ReadTimeSection(int& value, int channel);
-  /// [CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the
-  /// temperature, the flow rate, an integer. Where "ControlType" of [Cool] is 1 it reads "TCPP-%d",
-  /// with the pressure in the place of the flow rate. What the text lacks is 0. Arguments: the
-  /// real, the coolant system, the temperature, the flow rate or pressure, the integer, the point,
-  /// the channel. False, outputs untouched: not in the file.
-  bool CoolChannelX_ReadControlPointSetting(double& f1, int& system, double& temperature,
-                                            double& flow, int& f5, int point, int channel);
   /// [CoolChannel-%d] "TCPP-%d": a control point by pressure: a real, the coolant system, the
   /// temperature, the pressure, an integer. What the text lacks is 0. Arguments: the real, the
-  /// coolant system, the temperature, the pressure, the integer, the point, the channel. False,
-  /// outputs untouched: not in the file.
-  bool CoolChannelX_ReadPressureControlPointSetting(double& f1, int& system, double& temperature,
-                                                    double& flow, int& f5, int point, int channel);
+  /// coolant system, the temperature, the flow rate or pressure, the integer, the point, the
+  /// channel. False, outputs untouched: not in the file.
+  bool CoolChannelX_ReadPressureControlPointSetting(
+      double& f1, int& system, double& temperature, double& flow, int& f5, int point, int channel);
 
-  // [MoldPreheat]: preheating of the mold.
+  // [VarCoolCTL]: variable cooling.
 
-  /// [MoldPreheat] "MoldPreHeatType": a code of the kind of preheating. Argument: the value. False,
-  /// the value untouched: not in the file.
-  bool Cool_ReadMoldPreheatType(int& value);
-  /// [MoldPreheat] "MoldPreHeatTime": how long the mold is preheated, in sec. Argument: the value.
+  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value.
   /// False, the value untouched: not in the file.
-  bool Cool_ReadMoldPreheatTime(double& value);
-  /// [MoldPreheat] "MoldPreHeatTemperature": the temperature to which the mold is preheated, in oC.
-  /// Argument: the value. False, the value untouched: not in the file.
-  bool Cool_ReadMoldPreheatTemperature(double& value);
-  /// [MoldPreheat] "MaxMoldPreHeatTime": the limit of the preheating time, in sec. Argument: the
-  /// value. False, the value untouched: not in the file.
-  bool Cool_ReadMaxMoldPreHeatTime(double& value);
-  /// [MoldPreheat] "ControlType": what preheat channels are controlled by: 1 pressure, otherwise
-  /// flow rate. Argument: the value. False, the value untouched: not in the file.
-  bool Cool_ReadMoldPreheat_ControlType(int& value);
+  bool VarCoolCTL_ReadCoolantCount(int& value);
+  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. What the
+  /// text lacks is 0. Arguments: four reals, the integer, the entry. False, outputs untouched: not
+  /// in the file.
+  bool VarCoolCTL_ReadCoolant(double& f1, double& f2, double& f3, double& f4, int& f5, int entry);
 
-  // [MPreheat_CoolChannel-%d]: a channel that preheats the mold.
+  // [GateCTL]: when each gate is open.
 
-  /// [MPreheat_CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the value, the
-  /// channel. False, the value untouched: not in the file.
-  bool MoldPreheat_CoolChannelX_ReadDiameter(double& value, int channel);
-  /// [MPreheat_CoolChannel-%d] "GroupID": the group that the channel belongs to. Arguments: the
-  /// value, the channel. False, the value untouched: not in the file.
-  bool MoldPreheat_CoolChannelX_ReadGroupID(int& value, int channel);
-  /// [MPreheat_CoolChannel-%d] "TimeSet": the number of control points of the channel. Arguments:
-  /// the value, the channel. False, the value untouched: not in the file.
-  bool MoldPreheat_CoolChannelX_ReadTimeSection(int& value, int channel);
-  /// [MPreheat_CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system,
-  /// the temperature, the flow rate, an integer. Where "ControlType" of [MoldPreheat] is 1 it reads
-  /// "TCPP-%d", with the pressure in the place of the flow rate. What the text lacks is 0.
-  /// Arguments: the real, the coolant system, the temperature, the flow rate or pressure, the
-  /// integer, the point, the channel. False, outputs untouched: not in the file.
-  bool MoldPreheat_CoolChannelX_ReadControlPointSetting(double& f1, int& system,
-                                                        double& temperature, double& flow, int& f5,
-                                                        int point, int channel);
-  /// [MPreheat_CoolChannel-%d] "TCPP-%d": a control point by pressure: a real, the coolant system,
-  /// the temperature, the pressure, an integer. What the text lacks is 0. Arguments: the real, the
-  /// coolant system, the temperature, the pressure, the integer, the point, the channel. False,
-  /// outputs untouched: not in the file.
-  bool MoldPreheat_CoolChannelX_ReadPressureControlPointSetting(double& f1, int& system,
-                                                                double& temperature, double& flow,
-                                                                int& f5, int point, int channel);
+  /// [GateCTL] "AutoShutOffValveGateEOP": 1 where valve gates shut at the end of packing. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool GateCTL_ReadAutoShutOffValveGateEOP(int& value);
+  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the value, the
+  /// gate. False, the value untouched: not in the file.
+  bool GateCTL_ReadStartTime(double& value, int gate);
+  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the value, the
+  /// gate. False, the value untouched: not in the file.
+  bool GateCTL_ReadEndTime(double& value, int gate);
+
+  // [GateValve-%d]: a valve gate.
+
+  /// [GateValve-%d] "GCId": the identifier of the valve gate. Arguments: the value, the valve.
+  /// False, the value untouched: not in the file.
+  bool GeteValveX_ReadValveGateID(int& value, int valve);
+  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the value,
+  /// the valve. False, the value untouched: not in the file.
+  bool GateValveX_ReadControlPoint(int& value, int valve);
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
+  /// and for modes 2 and 3 an integer. For modes 1 and 4 the last integer is -1. What the text
+  /// lacks is 0. Arguments: the value, the integer, the mode, the last integer, the point, the
+  /// valve. False, outputs untouched: not in the file.
+  bool GateValveX_ReadGateSetting(
+      double& value, int& number, int& mode, int& last, int point, int valve);
+  /// [GateValve-%d] "GC-%d": a control point without its last integer. What the text lacks is 0.
+  /// Arguments: the value, the integer, the mode, the point, the valve. False, outputs untouched:
+  /// not in the file.
+  bool GateValveX_ReadGateSetting(double& value, int& number, int& mode, int point, int valve);
 
   // [Machine]: the injection molding machine.
 
@@ -926,14 +673,69 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// barrel counts. Argument: the value. False, the value untouched: not in the file.
   bool Machine_ReadBarrelCompressionCtrl(int& value);
 
+  // [Project]: the mesh and material files and the volumes of the project.
+
+  /// [Project] "Mesh": the mesh file. Argument: the text. The text is valid until the thread's next
+  /// read. False, the text untouched: not in the file.
+  bool Project_ReadMesh(char*& text);
+  /// [Project] "Material": the material file. Argument: the text. The text is valid until the
+  /// thread's next read. False, the text untouched: not in the file.
+  bool Project_ReadMaterial(char*& text);
+  /// [Project] "MeshID": the identifier of the mesh. Argument: the text. The text is valid until
+  /// the thread's next read. False, the text untouched: not in the file.
+  bool Project_ReadMeshID(char*& text);
+  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False, the value
+  /// untouched: not in the file.
+  bool Project_ReadCavityVolume(double& value);
+  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc.
+  /// Argument: the value. False, the value untouched: not in the file.
+  bool Project_ReadCushionVolume(double& value);
+  /// [Project] "ClampFaceArea": the projected area that the clamp holds shut. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool Project_ReadClampFaceArea(double& value);
+
+  // [RamPosition]: profiles over the stroke of the ram, and the switch-over from velocity to
+  // pressure control (V/P) by ram position.
+
+  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool RamPosition_ReadRamDirection(int& value);
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool RamPosition_ReadIsVPSwitch(int& value);
+  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool RamPosition_ReadVPSwitchRamPosition(double& value);
+  /// [RamPosition] "SuckBack": how far the screw is pulled back after plastication, to relieve the
+  /// melt (suck-back). Argument: the value. False, the value untouched: not in the file.
+  bool RamPosition_ReadSuckBack(double& value);
+  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool RamPosition_ReadRamFRSection(int& value);
+  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow
+  /// rate, in cc/sec. Arguments: x, y, the point. False, outputs untouched: not in the file.
+  bool RamPosition_ReadRamFRProfile(double& x, double& y, int point);
+  /// [RamPosition] "RP_FR-%d": the ram position of a flow rate point alone. Arguments: the value,
+  /// the point. False, the value untouched: not in the file.
+  bool RamPosition_ReadRamFRProfile(double& value, int point);
+  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool RamPosition_ReadRamIPSection(int& value);
+  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the
+  /// pressure, in MPa. Arguments: x, y, the point. False, outputs untouched: not in the file.
+  bool RamPosition_ReadRamIPProfile(double& x, double& y, int point);
+  /// [RamPosition] "RP_IP-%d": the ram position of an injection pressure point alone. Arguments:
+  /// the value, the point. False, the value untouched: not in the file.
+  bool RamPosition_ReadRamIPProfile(double& value, int point);
+
   // [Moldbase]: the mold bases, one material line each.
 
   /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three
   /// mechanical values. A line of fewer than eight words has a name of one word. What the text
   /// lacks is 0. Arguments: three reals, the name, three reals, the row. The name is valid until
   /// the next read of its kind. False, outputs untouched: not in the file.
-  bool Moldbase_ReadMoldbase(double& f1, double& f2, double& f3, char*& name, double& f5,
-                             double& f6, double& f7, int row);
+  bool Moldbase_ReadMoldbase(
+      double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7, int row);
 
   // [MoldMetalMaterial]: the mold metals, one material line each.
 
@@ -941,16 +743,100 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// three mechanical values. A line of fewer than eight words has a name of one word. What the
   /// text lacks is 0. Arguments: three reals, the name, three reals, the row. The name is valid
   /// until the next read of its kind. False, outputs untouched: not in the file.
-  bool MoldMetalMaterial_ReadMaterial(double& f1, double& f2, double& f3, char*& name, double& f5,
-                                      double& f6, double& f7, int row);
+  bool MoldMetalMaterial_ReadMaterial(
+      double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7, int row);
 
-  // [MoldbaseInfo]: numbered mold bases with their names.
+  // [GasF-%d]: gas-assisted filling at a gas inlet.
 
-  /// [MoldbaseInfo] "MB-%d": a mold base: an integer and its name, which stands in double quotes.
-  /// The name is all between the first and the last double quote. What the text lacks is 0.
-  /// Arguments: the integer, the name, the mold base. The name is valid until the next read of its
-  /// kind. False, outputs untouched: not in the file.
-  bool MoldbaseInfo_ReadMoldbaseInfo(int& number, char*& name, int moldbase);
+  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False,
+  /// the value untouched: not in the file.
+  bool GasFX_ReadGasTime(double& value, int inlet);
+  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the value, the inlet. False,
+  /// the value untouched: not in the file.
+  bool GasFX_ReadGasPressure(double& value, int inlet);
+  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the
+  /// value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGasSwitch(double& value, int inlet);
+  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the value, the
+  /// inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadDelayTime(double& value, int inlet);
+  /// [GasF-%d] "GRDisplayType": a code: how a front end shows the gas flow rate profile. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGRDisplayType(int& value, int inlet);
+  /// [GasF-%d] "GRProfileType": a code: in which form the gas flow rate profile was entered.
+  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGRProfileType(int& value, int inlet);
+  /// [GasF-%d] "GPDisplayType": a code: how a front end shows the gas pressure profile. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGPDisplayType(int& value, int inlet);
+  /// [GasF-%d] "GPProfileType": a code: in which form the gas pressure profile was entered.
+  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGPProfileType(int& value, int inlet);
+  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. In spite of its name
+  /// `GasFX_ReadUserGRSection` reads this key, too: what the user entered is read with
+  /// `ReadString`. Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGRSection(int& value, int inlet);
+  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. In spite of its name
+  /// `GasFX_ReadUserGRSection` reads this key, too: what the user entered is read with
+  /// `ReadString`. Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadUserGRSection(int& value, int inlet);
+  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
+  /// rate. In spite of its name `GasFX_ReadUserGRProfile` reads this key, too: what the user
+  /// entered is read with `ReadString`. Arguments: x, y, the point, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool GasFX_ReadGRProfile(double& x, double& y, int point, int inlet);
+  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
+  /// rate. In spite of its name `GasFX_ReadUserGRProfile` reads this key, too: what the user
+  /// entered is read with `ReadString`. Arguments: x, y, the point, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool GasFX_ReadUserGRProfile(double& x, double& y, int point, int inlet);
+  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. In spite of its name
+  /// `GasFX_ReadUserGPSection` reads this key, too: what the user entered is read with
+  /// `ReadString`. Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadGPSection(int& value, int inlet);
+  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. In spite of its name
+  /// `GasFX_ReadUserGPSection` reads this key, too: what the user entered is read with
+  /// `ReadString`. Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool GasFX_ReadUserGPSection(int& value, int inlet);
+  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
+  /// pressure, in MPa. In spite of its name `GasFX_ReadUserGPProfile` reads this key, too: what the
+  /// user entered is read with `ReadString`. Arguments: x, y, the point, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool GasFX_ReadGPProfile(double& x, double& y, int point, int inlet);
+  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
+  /// pressure, in MPa. In spite of its name `GasFX_ReadUserGPProfile` reads this key, too: what the
+  /// user entered is read with `ReadString`. Arguments: x, y, the point, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool GasFX_ReadUserGPProfile(double& x, double& y, int point, int inlet);
+
+  // [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
+
+  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a
+  /// vector. Arguments: x, y, z. False, outputs untouched: not in the file.
+  bool AdvancedSetting_ReadOpenDirection(double& x, double& y, double& z);
+  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool AdvancedSetting_ReadClampForce(double& value);
+
+  // [TransientInletConv]: pellet pre-heating and initial conversion, where the conversion at the
+  // inlet changes with time.
+
+  /// [TransientInletConv] "InitConversionType": a code: how the initial conversion is given.
+  /// Argument: the value. False, the value untouched: not in the file.
+  bool TransientInletConv_ReadInitConversionType(int& value);
+  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its
+  /// conversion) before pre-heating. Argument: the value. False, the value untouched: not in the
+  /// file.
+  bool TransientInletConv_ReadInitPelletConversion(double& value);
+  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. Argument: the value. False,
+  /// the value untouched: not in the file.
+  bool TransientInletConv_ReadPelletDiameter(double& value);
+  /// [TransientInletConv] "PelletHeight": the height of the pellet. Argument: the value. False, the
+  /// value untouched: not in the file.
+  bool TransientInletConv_ReadPelletHeight(double& value);
+  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool TransientInletConv_ReadPreHeatTime(double& value);
 
   // [MoldThermalBoundaryType]: the heat transfer between melt and mold.
 
@@ -974,6 +860,24 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// untouched: not in the file.
   bool MoldTemperatureBoundaryType_ReadHTCHotRunner(double& value);
 
+  // [ICPackage]: pellet pre-heating and initial conversion of IC package encapsulation.
+
+  /// [ICPackage] "InitConversionType": a code: how the initial conversion is given. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool ICPackage_ReadInitConversionType(int& value);
+  /// [ICPackage] "InitConversion": how far the pellet's curing reaction has gone (its conversion)
+  /// before pre-heating. Argument: the value. False, the value untouched: not in the file.
+  bool ICPackage_ReadInitPelletConversion(double& value);
+  /// [ICPackage] "PelletDiameter": the diameter of the pellet. Argument: the value. False, the
+  /// value untouched: not in the file.
+  bool ICPackage_ReadPelletDiameter(double& value);
+  /// [ICPackage] "PelletHeight": the height of the pellet. Argument: the value. False, the value
+  /// untouched: not in the file.
+  bool ICPackage_ReadPelletHeight(double& value);
+  /// [ICPackage] "PreHeatingTime": how long the pellet is pre-heated, in sec. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool ICPackage_ReadPreHeatTime(double& value);
+
   // [PartingSurface]: the cavity and core sides.
 
   /// [PartingSurface] "CavityPart": the part on the cavity side: an integer and three reals. What
@@ -992,56 +896,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// What the text lacks is 0. Arguments: the integer, three reals. False, outputs untouched: not
   /// in the file.
   bool PartingSurface_ReadCoreMoldbase(int& number, double& f2, double& f3, double& f4);
-
-  // [GateCTL]: when each gate is open.
-
-  /// [GateCTL] "AutoShutOffValveGateEOP": 1 where valve gates shut at the end of packing. Argument:
-  /// the value. False, the value untouched: not in the file.
-  bool GateCTL_ReadAutoShutOffValveGateEOP(int& value);
-  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the value, the
-  /// gate. False, the value untouched: not in the file.
-  bool GateCTL_ReadStartTime(double& value, int gate);
-  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the value, the
-  /// gate. False, the value untouched: not in the file.
-  bool GateCTL_ReadEndTime(double& value, int gate);
-
-  // [GateValve-%d]: a valve gate.
-
-  /// [GateValve-%d] "GCId": the identifier of the valve gate. Arguments: the value, the valve.
-  /// False, the value untouched: not in the file.
-  bool GeteValveX_ReadValveGateID(int& value, int valve);
-  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the value,
-  /// the valve. False, the value untouched: not in the file.
-  bool GateValveX_ReadControlPoint(int& value, int valve);
-  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
-  /// and for modes 2 and 3 an integer. For modes 1 and 4 the last integer is -1. What the text
-  /// lacks is 0. Arguments: the value, the integer, the mode, the last integer, the point, the
-  /// valve. False, outputs untouched: not in the file.
-  bool GateValveX_ReadGateSetting(double& value, int& number, int& mode, int& last, int point,
-                                  int valve);
-  /// [GateValve-%d] "GC-%d": a control point without its last integer. What the text lacks is 0.
-  /// Arguments: the value, the integer, the mode, the point, the valve. False, outputs untouched:
-  /// not in the file.
-  bool GateValveX_ReadGateSetting(double& value, int& number, int& mode, int point, int valve);
-
-  // [OFGateValve-%d]: the valve of an overflow.
-
-  /// [OFGateValve-%d] "GCId": the identifier of the overflow. Arguments: the value, the overflow.
-  /// False, the value untouched: not in the file.
-  bool OverflowX_ReadOverflowID(int& value, int overflow);
-  /// [OFGateValve-%d] "GCSet": the number of control points of the overflow valve. Arguments: the
-  /// value, the overflow. False, the value untouched: not in the file.
-  bool OverflowX_ReadControlPoint(int& value, int overflow);
-  /// [OFGateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
-  /// and for modes 2 and 3 an integer. For modes 1 and 4 the last integer is -1. What the text
-  /// lacks is 0. Arguments: the value, the integer, the mode, the last integer, the point, the
-  /// overflow. False, outputs untouched: not in the file.
-  bool OverflowX_ReadGateSetting(double& value, int& number, int& mode, int& last, int point,
-                                 int overflow);
-  /// [OFGateValve-%d] "GC-%d": a control point without its last integer. What the text lacks is 0.
-  /// Arguments: the value, the integer, the mode, the point, the overflow. False, outputs
-  /// untouched: not in the file.
-  bool OverflowX_ReadGateSetting(double& value, int& number, int& mode, int point, int overflow);
 
   // [EjectCriteria]: the sensor and criteria nodes that decide ejection.
 
@@ -1068,8 +922,8 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// temperature is 0. A name that is empty between two tabs is an empty text. What the text lacks
   /// is 0. Arguments: the identifier, the name, the temperature, the insert. The name is valid
   /// until the next read of its kind. False, outputs untouched: not in the file.
-  bool PartInsertInitialTemperature_ReadPartInsert(int& id, char*& name, double& temperature,
-                                                   int insert);
+  bool PartInsertInitialTemperature_ReadPartInsert(
+      int& id, char*& name, double& temperature, int insert);
   /// [PartInsertInitialTemperature] "PartInsert-%d": a part insert: its identifier, its name, which
   /// may hold blanks, its initial temperature, in oC, and an integer. Four pieces between tabs are
   /// the four fields, whatever is empty; three of which the second is empty and the third a number
@@ -1078,8 +932,8 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// then. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
   /// fourth field, the insert. The name is valid until the next read of its kind. False, outputs
   /// untouched: not in the file.
-  bool PartInsertInitialTemperature_ReadPartInsert(int& id, char*& name, double& temperature,
-                                                   int& fourth, int insert);
+  bool PartInsertInitialTemperature_ReadPartInsert(
+      int& id, char*& name, double& temperature, int& fourth, int insert);
 
   // [MoldInsertInitialTemperature]: the initial temperature of each mold insert.
 
@@ -1091,8 +945,8 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// temperature is 0. A name that is empty between two tabs is an empty text. What the text lacks
   /// is 0. Arguments: the identifier, the name, the temperature, the insert. The name is valid
   /// until the next read of its kind. False, outputs untouched: not in the file.
-  bool MoldInsertInitialTemperature_ReadMoldInsert(int& id, char*& name, double& temperature,
-                                                   int insert);
+  bool MoldInsertInitialTemperature_ReadMoldInsert(
+      int& id, char*& name, double& temperature, int insert);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d": a mold insert: its identifier, its name, which
   /// may hold blanks, its initial temperature, in oC, and an integer. Four pieces between tabs are
   /// the four fields, whatever is empty; three of which the second is empty and the third a number
@@ -1101,14 +955,185 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// then. What the text lacks is 0. Arguments: the identifier, the name, the temperature, the
   /// fourth field, the insert. The name is valid until the next read of its kind. False, outputs
   /// untouched: not in the file.
-  bool MoldInsertInitialTemperature_ReadMoldInsert(int& id, char*& name, double& temperature,
-                                                   int& fourth, int insert);
+  bool MoldInsertInitialTemperature_ReadMoldInsert(
+      int& id, char*& name, double& temperature, int& fourth, int insert);
+
+  // [MoldbaseInfo]: numbered mold bases with their names.
+
+  /// [MoldbaseInfo] "MB-%d": a mold base: an integer and its name, which stands in double quotes.
+  /// The name is all between the first and the last double quote. What the text lacks is 0.
+  /// Arguments: the integer, the name, the mold base. The name is valid until the next read of its
+  /// kind. False, outputs untouched: not in the file.
+  bool MoldbaseInfo_ReadMoldbaseInfo(int& number, char*& name, int moldbase);
+
+  // [MoldPreheat]: preheating of the mold.
+
+  /// [MoldPreheat] "MoldPreHeatType": a code of the kind of preheating. Argument: the value. False,
+  /// the value untouched: not in the file.
+  bool Cool_ReadMoldPreheatType(int& value);
+  /// [MoldPreheat] "MoldPreHeatTime": how long the mold is preheated, in sec. Argument: the value.
+  /// False, the value untouched: not in the file.
+  bool Cool_ReadMoldPreheatTime(double& value);
+  /// [MoldPreheat] "MoldPreHeatTemperature": the temperature to which the mold is preheated, in oC.
+  /// Argument: the value. False, the value untouched: not in the file.
+  bool Cool_ReadMoldPreheatTemperature(double& value);
+  /// [MoldPreheat] "MaxMoldPreHeatTime": the limit of the preheating time, in sec. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool Cool_ReadMaxMoldPreHeatTime(double& value);
+  /// [MoldPreheat] "ControlType": what preheat channels are controlled by: 1 pressure, otherwise
+  /// flow rate. Argument: the value. False, the value untouched: not in the file.
+  bool Cool_ReadMoldPreheat_ControlType(int& value);
+
+  // [MPreheat_CoolChannel-%d]: a channel that preheats the mold.
+
+  /// [MPreheat_CoolChannel-%d] "Diameter": the diameter of the channel. Arguments: the value, the
+  /// channel. False, the value untouched: not in the file.
+  bool MoldPreheat_CoolChannelX_ReadDiameter(double& value, int channel);
+  /// [MPreheat_CoolChannel-%d] "GroupID": the group that the channel belongs to. Arguments: the
+  /// value, the channel. False, the value untouched: not in the file.
+  bool MoldPreheat_CoolChannelX_ReadGroupID(int& value, int channel);
+  /// [MPreheat_CoolChannel-%d] "TimeSet": the number of control points of the channel. Arguments:
+  /// the value, the channel. False, the value untouched: not in the file.
+  bool MoldPreheat_CoolChannelX_ReadTimeSection(int& value, int channel);
+  /// [MPreheat_CoolChannel-%d] "TCPP-%d": a control point by pressure: a real, the coolant system,
+  /// the temperature, the pressure, an integer. What the text lacks is 0. Arguments: the real, the
+  /// coolant system, the temperature, the flow rate or pressure, the integer, the point, the
+  /// channel. False, outputs untouched: not in the file.
+  bool MoldPreheat_CoolChannelX_ReadPressureControlPointSetting(
+      double& f1, int& system, double& temperature, double& flow, int& f5, int point, int channel);
+
+  // [MicrocellularMolding]: foaming and gas dosage.
+
+  /// [MicrocellularMolding] "FoamDurationTime": how long foaming lasts, in sec. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadFoamDurationTime(double& value);
+  /// [MicrocellularMolding] "StartFoamingType": a code: what makes foaming begin. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadStartFoamingType(int& value);
+  /// [MicrocellularMolding] "VolumeFilled": the filled volume at which foaming begins. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadVolumeFilled(double& value);
+  /// [MicrocellularMolding] "PreInjectedVolume": the volume that is injected before foaming begins.
+  /// Argument: the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadPreInjectedVolume(double& value);
+  /// [MicrocellularMolding] "InitialGasConcentrationType": a code: how the initial gas
+  /// concentration is given. Argument: the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadInitialGasConcentrationType(int& value);
+  /// [MicrocellularMolding] "GasDosageAmount": how much gas is dissolved in the melt. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadGasDosageAmount(double& value);
+  /// [MicrocellularMolding] "GasSaturationPressure": the saturation pressure of the gas, in MPa.
+  /// Argument: the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadGasSaturationPressure(double& value);
+  /// [MicrocellularMolding] "NozzleShutoff": a code: whether the nozzle shuts off. Argument: the
+  /// value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadNozzleShutoff(int& value);
+  /// [MicrocellularMolding] "AdvancedType": a code: which of the advanced values counts. Argument:
+  /// the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadAdvancedType(int& value);
+  /// [MicrocellularMolding] "RamPosition": the ram position, for an advanced type that asks for
+  /// one. Argument: the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadRamPosition(double& value);
+  /// [MicrocellularMolding] "PartWeight": the weight of the part, for an advanced type that asks
+  /// for one. Argument: the value. False, the value untouched: not in the file.
+  bool MicrocellularMolding_ReadPartWeight(double& value);
+
+  // [FlowCTLInfo]: how many melt inlets the run has, and what controls each.
+
+  /// [FlowCTLInfo] "TotalInlet": the number of melt inlets. Argument: the value. False, the value
+  /// untouched: not in the file.
+  bool FlowCTLInfo_ReadTotalInlet(int& value);
+  /// [FlowCTLInfo] "FlowCTL-%d": two control codes of an inlet, the second its control type. What
+  /// the text lacks is 0. Arguments: the first code, the second code, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool FlowCTLInfo_ReadFlowCTL(int& first, int& second, int inlet);
+
+  // [OFGateValve-%d]: the valve of an overflow.
+
+  /// [OFGateValve-%d] "GCId": the identifier of the overflow. Arguments: the value, the overflow.
+  /// False, the value untouched: not in the file.
+  bool OverflowX_ReadOverflowID(int& value, int overflow);
+  /// [OFGateValve-%d] "GCSet": the number of control points of the overflow valve. Arguments: the
+  /// value, the overflow. False, the value untouched: not in the file.
+  bool OverflowX_ReadControlPoint(int& value, int overflow);
+  /// [OFGateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
+  /// and for modes 2 and 3 an integer. For modes 1 and 4 the last integer is -1. What the text
+  /// lacks is 0. Arguments: the value, the integer, the mode, the last integer, the point, the
+  /// overflow. False, outputs untouched: not in the file.
+  bool OverflowX_ReadGateSetting(
+      double& value, int& number, int& mode, int& last, int point, int overflow);
+  /// [OFGateValve-%d] "GC-%d": a control point without its last integer. What the text lacks is 0.
+  /// Arguments: the value, the integer, the mode, the point, the overflow. False, outputs
+  /// untouched: not in the file.
+  bool OverflowX_ReadGateSetting(double& value, int& number, int& mode, int point, int overflow);
 
   // [PartInsertContactAngle]: the contact angle of each part insert group.
 
   /// [PartInsertContactAngle] "GroupCount": the number of groups of part inserts. Argument: the
   /// value. False, the value untouched: not in the file.
   bool PartInsertContactAngle_ReadGroupCount(int& value);
+
+  // [Flow-%ld-Skin2nd]: the filling stage of a co-injection run's second skin.
+
+  /// [Flow-%ld-Skin2nd] "FillTime": the filling time, in sec. Arguments: the value, the inlet.
+  /// False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadFillingTime(double& value, int inlet);
+  /// [Flow-%ld-Skin2nd] "FRSet": the number of points of the flow rate profile. Arguments: the
+  /// value, the inlet. False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadFRSection(int& value, int inlet);
+  /// [Flow-%ld-Skin2nd] "FR-%d": a point of the flow rate profile: how far filling has gone, and
+  /// the flow rate, in cc/sec. Arguments: x, y, the point, the inlet. False, outputs untouched: not
+  /// in the file.
+  bool FlowXSkin2nd_ReadFRProfile(double& x, double& y, int point, int inlet);
+  /// [Flow-%ld-Skin2nd] "IPSet": the number of points of the injection pressure profile. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadIPSection(int& value, int inlet);
+  /// [Flow-%ld-Skin2nd] "IP-%d": a point of the injection pressure profile: how far filling has
+  /// gone, and the pressure, in MPa. Arguments: x, y, the point, the inlet. False, outputs
+  /// untouched: not in the file.
+  bool FlowXSkin2nd_ReadIPProfile(double& x, double& y, int point, int inlet);
+  /// [Flow-%ld-Skin2nd] "Skin2ndEnterType": a code: what makes the second skin enter. Arguments:
+  /// the value, the inlet. False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadSkin2ndEnterType(int& value, int inlet);
+  /// [Flow-%ld-Skin2nd] "Skin2ndEnterSwch": the switch value at which the second skin enters.
+  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadSkin2ndEnterSwch(double& value, int inlet);
+  /// [Flow-%ld-Skin2nd] "Skin2ndEnterTime": the time at which the second skin enters, in sec.
+  /// Arguments: the value, the inlet. False, the value untouched: not in the file.
+  bool FlowXSkin2nd_ReadSkin2ndEnterTime(double& value, int inlet);
+
+  // clang-format on
+  // The members above are made; what follows is written by hand.
+
+  // [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
+
+  /// [AdvancedSetting] "CycleTime": the time from one shot to the next, in sec. A text that holds
+  /// no number is 0. Argument: the value. False, the value untouched: not in the file.
+  bool AdvancedSetting_ReadCycleTime(double& value);
+
+  // [CoolChannel-%d]: a cooling channel.
+
+  /// [CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the
+  /// temperature, the flow rate, an integer. Where "ControlType" of [Cool] is 1 it reads "TCPP-%d",
+  /// with the pressure in the place of the flow rate. What the text lacks is 0. Arguments: the
+  /// real, the coolant system, the temperature, the flow rate or pressure, the integer, the point,
+  /// the channel. False, outputs untouched: not in the file.
+  bool CoolChannelX_ReadControlPointSetting(double& f1, int& system, double& temperature,
+                                            double& flow, int& f5, int point, int channel);
+
+  // [MPreheat_CoolChannel-%d]: a channel that preheats the mold.
+
+  /// [MPreheat_CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system,
+  /// the temperature, the flow rate, an integer. Where "ControlType" of [MoldPreheat] is 1 it reads
+  /// "TCPP-%d", with the pressure in the place of the flow rate. What the text lacks is 0.
+  /// Arguments: the real, the coolant system, the temperature, the flow rate or pressure, the
+  /// integer, the point, the channel. False, outputs untouched: not in the file.
+  bool MoldPreheat_CoolChannelX_ReadControlPointSetting(double& f1, int& system,
+                                                        double& temperature, double& flow, int& f5,
+                                                        int point, int channel);
+
+  // [PartInsertContactAngle]: the contact angle of each part insert group.
+
   /// [PartInsertContactAngle] "%d": a group of part inserts: its name in double quotes, and its
   /// contact angle. The key is the number of the group. A line without two double quotes is as good
   /// as none; an angle that is missing is 0. Arguments: the group, the angle. False, the angle

@@ -65,6 +65,9 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// every locale.
   bool WriteItems(const char* section, const char* key, const char* format, ...);
 
+  // The members of the sections, made by "./dev generate" from the rows of src/blocks.
+  // clang-format off
+
   // [FileHeader]: what the file is, who wrote it and when.
 
   /// [FileHeader] "Name": the name of the file. Argument: the text. False: not stored, the file
@@ -83,17 +86,6 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   qel::IfConstant<Char> FileHeader_WriteType(Char* text) {
     return FileHeader_WriteType(const_cast<char*>(text));
   }
-  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Argument: the
-  /// text. False: not stored, the file unchanged.
-  bool FileHeader_WriteDate(char* text);
-  /// [FileHeader] "Date", from a text that is constant, such as a literal: the same member.
-  template <class Char>
-  qel::IfConstant<Char> FileHeader_WriteDate(Char* text) {
-    return FileHeader_WriteDate(const_cast<char*>(text));
-  }
-  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Writes the local
-  /// date and time of this moment. No arguments. False: not stored, the file unchanged.
-  bool FileHeader_WriteDate();
   /// [FileHeader] "CreateBy": the program that wrote the file. Argument: the text. False: not
   /// stored, the file unchanged.
   bool FileHeader_WriteCreateBy(char* text);
@@ -222,14 +214,8 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// time, else 0. Argument: the value. False: not stored, the file unchanged.
   bool Summary_WriteTransientInletConv(int value);
 
-  // [Unit]: the units in which the file's values are given; they are fixed.
-
-  /// [Unit], whole: "Time" sec, "Temp" oC, "Pres" MPa, "FR" cc/sec, "IP" MPa, "PP" MPa, "Volume"
-  /// cc, in this order. The units are fixed. A store that fails is passed over, and nothing tells
-  /// of it.
-  void WriteUnitBlock();
-
-  // [FlowCTL]: what controls filling, packing, the V/P switch-over and the begin of curing.
+  // [FlowCTL]: what controls filling, packing, the switch-over from velocity to pressure control
+  // (V/P) and the begin of curing.
 
   /// [FlowCTL] "FlowCtrl": a code: which quantity controls filling. Argument: the value. False: not
   /// stored, the file unchanged.
@@ -446,202 +432,6 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// Arguments: x, y, the point, the inlet. False: not stored, the file unchanged.
   bool CureX_WriteUserCPProfile(double x, double y, int point, int inlet);
 
-  // [Project]: the mesh and material files and the volumes of the project.
-
-  /// [Project] "Mesh": the mesh file. Argument: the text. False: not stored, the file unchanged.
-  bool Project_WriteMesh(char* text);
-  /// [Project] "Mesh", from a text that is constant, such as a literal: the same member.
-  template <class Char>
-  qel::IfConstant<Char> Project_WriteMesh(Char* text) {
-    return Project_WriteMesh(const_cast<char*>(text));
-  }
-  /// [Project] "Material": the material file. Argument: the text. False: not stored, the file
-  /// unchanged.
-  bool Project_WriteMaterial(char* text);
-  /// [Project] "Material", from a text that is constant, such as a literal: the same member.
-  template <class Char>
-  qel::IfConstant<Char> Project_WriteMaterial(Char* text) {
-    return Project_WriteMaterial(const_cast<char*>(text));
-  }
-  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False: not stored,
-  /// the file unchanged.
-  bool Project_WriteCavityVolume(double value);
-  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc.
-  /// Argument: the value. False: not stored, the file unchanged.
-  bool Project_WriteCushionVolume(double value);
-
-  // [RamPosition]: profiles over the ram's stroke, and the V/P switch-over by ram position.
-
-  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value.
-  /// False: not stored, the file unchanged.
-  bool RamPosition_WriteRamDirection(int value);
-  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument:
-  /// the value. False: not stored, the file unchanged.
-  bool RamPosition_WriteIsVPSwitch(int value);
-  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument:
-  /// the value. False: not stored, the file unchanged.
-  bool RamPosition_WriteVPSwitchRamPosition(double value);
-  /// [RamPosition] "SuckBack": how far the screw is pulled back after plastication, to relieve the
-  /// melt (suck-back). Argument: the value. False: not stored, the file unchanged.
-  bool RamPosition_WriteSuckBack(double value);
-  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the value.
-  /// False: not stored, the file unchanged.
-  bool RamPosition_WriteRamFRSection(int value);
-  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow
-  /// rate, in cc/sec. Arguments: x, y, the point. False: not stored, the file unchanged.
-  bool RamPosition_WriteRamFRProfile(double x, double y, int point);
-  /// [RamPosition] "RP_FR-%d": the ram position of a flow rate point alone. It becomes the whole
-  /// value of the point. Arguments: the value, the point. False: not stored, the file unchanged.
-  bool RamPosition_WriteRamFRProfile(double value, int point);
-  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument:
-  /// the value. False: not stored, the file unchanged.
-  bool RamPosition_WriteRamIPSection(int value);
-  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the
-  /// pressure, in MPa. Arguments: x, y, the point. False: not stored, the file unchanged.
-  bool RamPosition_WriteRamIPProfile(double x, double y, int point);
-  /// [RamPosition] "RP_IP-%d": the ram position of an injection pressure point alone. It becomes
-  /// the whole value of the point. Arguments: the value, the point. False: not stored, the file
-  /// unchanged.
-  bool RamPosition_WriteRamIPProfile(double value, int point);
-
-  // [GasF-%d]: gas-assisted filling at a gas inlet.
-
-  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False:
-  /// not stored, the file unchanged.
-  bool GasFX_WriteGasTime(double value, int inlet);
-  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the value, the inlet. False:
-  /// not stored, the file unchanged.
-  bool GasFX_WriteGasPressure(double value, int inlet);
-  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the
-  /// value, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGasSwitch(double value, int inlet);
-  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the value, the
-  /// inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteDelayTime(double value, int inlet);
-  /// [GasF-%d] "GRDisplayType": a code: how a front end shows the gas flow rate profile. Arguments:
-  /// the value, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGRDisplayType(int value, int inlet);
-  /// [GasF-%d] "GRProfileType": a code: in which form the gas flow rate profile was entered.
-  /// Arguments: the value, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGRProfileType(int value, int inlet);
-  /// [GasF-%d] "GPDisplayType": a code: how a front end shows the gas pressure profile. Arguments:
-  /// the value, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGPDisplayType(int value, int inlet);
-  /// [GasF-%d] "GPProfileType": a code: in which form the gas pressure profile was entered.
-  /// Arguments: the value, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGPProfileType(int value, int inlet);
-  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. Arguments: the value,
-  /// the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGRSection(int value, int inlet);
-  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
-  /// rate. Arguments: x, y, the point, the inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGRProfile(double x, double y, int point, int inlet);
-  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. Arguments: the value, the
-  /// inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteGPSection(int value, int inlet);
-  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
-  /// pressure, in MPa. Arguments: x, y, the point, the inlet. False: not stored, the file
-  /// unchanged.
-  bool GasFX_WriteGPProfile(double x, double y, int point, int inlet);
-  /// [GasF-%d] "UserGRSet": the number of points of the gas flow rate profile as the user entered
-  /// it. No member of the reader reads it. Arguments: the value, the inlet. False: not stored, the
-  /// file unchanged.
-  bool GasFX_WriteUserGRSection(int value, int inlet);
-  /// [GasF-%d] "UserGR-%d": a point of the gas flow rate profile as the user entered it: x and y.
-  /// No member of the reader reads it. Arguments: x, y, the point, the inlet. False: not stored,
-  /// the file unchanged.
-  bool GasFX_WriteUserGRProfile(double x, double y, int point, int inlet);
-  /// [GasF-%d] "UserGPSet": the number of points of the gas pressure profile as the user entered
-  /// it. No member of the reader reads it. Arguments: the value, the inlet. False: not stored, the
-  /// file unchanged.
-  bool GasFX_WriteUserGPSection(int value, int inlet);
-  /// [GasF-%d] "USerGP-%d": a point of the gas pressure profile as the user entered it, under a key
-  /// with a capital S: x and y. No member of the reader reads it. Arguments: x, y, the point, the
-  /// inlet. False: not stored, the file unchanged.
-  bool GasFX_WriteUserGPProfile(double x, double y, int point, int inlet);
-
-  // [TransientInletConv]: pellet pre-heating and initial conversion where the inlet conversion is
-  // transient.
-
-  /// [TransientInletConv] "InitConversionType": a code: how the initial conversion is given.
-  /// Argument: the value. False: not stored, the file unchanged.
-  bool TransientInletConv_WriteInitConversionType(int value);
-  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its
-  /// conversion) before pre-heating. Argument: the value. False: not stored, the file unchanged.
-  bool TransientInletConv_WriteInitPelletConversion(double value);
-  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. Argument: the value. False:
-  /// not stored, the file unchanged.
-  bool TransientInletConv_WritePelletDiameter(double value);
-  /// [TransientInletConv] "PelletHeight": the height of the pellet. Argument: the value. False: not
-  /// stored, the file unchanged.
-  bool TransientInletConv_WritePelletHeight(double value);
-  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool TransientInletConv_WritePreHeatTime(double value);
-
-  // [ICPackage]: pellet pre-heating and initial conversion of IC package encapsulation.
-
-  /// [ICPackage] "InitConversionType": a code: how the initial conversion is given. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool ICPackage_WriteInitConversionType(int value);
-  /// [ICPackage] "InitConversion": how far the pellet's curing reaction has gone (its conversion)
-  /// before pre-heating. Argument: the value. False: not stored, the file unchanged.
-  bool ICPackage_WriteInitPelletConversion(double value);
-  /// [ICPackage] "PelletDiameter": the diameter of the pellet. Argument: the value. False: not
-  /// stored, the file unchanged.
-  bool ICPackage_WritePelletDiameter(double value);
-  /// [ICPackage] "PelletHeight": the height of the pellet. Argument: the value. False: not stored,
-  /// the file unchanged.
-  bool ICPackage_WritePelletHeight(double value);
-  /// [ICPackage] "PreHeatingTime": how long the pellet is pre-heated, in sec. Argument: the value.
-  /// False: not stored, the file unchanged.
-  bool ICPackage_WritePreHeatTime(double value);
-
-  // [MicrocellularMolding]: foaming and gas dosage.
-
-  /// [MicrocellularMolding] "FoamDurationTime": how long foaming lasts, in sec. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteFoamDurationTime(double value);
-  /// [MicrocellularMolding] "StartFoamingType": a code: what makes foaming begin. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteStartFoamingType(int value);
-  /// [MicrocellularMolding] "VolumeFilled": the filled volume at which foaming begins. Argument:
-  /// the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteVolumeFilled(double value);
-  /// [MicrocellularMolding] "PreInjectedVolume": the volume that is injected before foaming begins.
-  /// Argument: the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WritePreInjectedVolume(double value);
-  /// [MicrocellularMolding] "InitialGasConcentrationType": a code: how the initial gas
-  /// concentration is given. Argument: the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteInitialGasConcentrationType(int value);
-  /// [MicrocellularMolding] "GasDosageAmount": how much gas is dissolved in the melt. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteGasDosageAmount(double value);
-  /// [MicrocellularMolding] "GasSaturationPressure": the saturation pressure of the gas, in MPa.
-  /// Argument: the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteGasSaturationPressure(double value);
-  /// [MicrocellularMolding] "NozzleShutoff": a code: whether the nozzle shuts off. Argument: the
-  /// value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteNozzleShutoff(int value);
-  /// [MicrocellularMolding] "AdvancedType": a code: which of the advanced values counts. Argument:
-  /// the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteAdvancedType(int value);
-  /// [MicrocellularMolding] "RamPosition": the ram position, for an advanced type that asks for
-  /// one. Argument: the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WriteRamPosition(double value);
-  /// [MicrocellularMolding] "PartWeight": the weight of the part, for an advanced type that asks
-  /// for one. Argument: the value. False: not stored, the file unchanged.
-  bool MicrocellularMolding_WritePartWeight(double value);
-
-  // [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
-
-  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a
-  /// vector. Arguments: x, y, z. False: not stored, the file unchanged.
-  bool AdvancedSetting_WriteOpenDirection(double x, double y, double z);
-  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. Argument: the value.
-  /// False: not stored, the file unchanged.
-  bool AdvancedSetting_WriteClampForce(double value);
-
   // [Cool]: cycle times, temperatures and the kind of cooling.
 
   /// [Cool] "CoolTime": the cooling time, in sec. Argument: the value. False: not stored, the file
@@ -692,23 +482,16 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// though the reader then yields one word, and wrong fields behind it. Arguments: the four
   /// properties, the coolant system, the name, the diameter, the channel group, the coolant. False:
   /// not stored, the file unchanged.
-  bool Coolant_WriteCoolant(double p1, double p2, double p3, double p4, int system, char* name,
-                            double f7, int f8, int coolant);
+  bool Coolant_WriteCoolant(
+      double p1, double p2, double p3, double p4, int system, char* name, double f7, int f8,
+      int coolant);
   /// [Coolant] "%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
-  qel::IfConstant<Char> Coolant_WriteCoolant(double p1, double p2, double p3, double p4, int system,
-                                             Char* name, double f7, int f8, int coolant) {
+  qel::IfConstant<Char> Coolant_WriteCoolant(
+      double p1, double p2, double p3, double p4, int system, Char* name, double f7, int f8,
+      int coolant) {
     return Coolant_WriteCoolant(p1, p2, p3, p4, system, const_cast<char*>(name), f7, f8, coolant);
   }
-
-  // [VarCoolCTL]: variable cooling.
-
-  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value.
-  /// False: not stored, the file unchanged.
-  bool VarCoolCTL_WriteCoolantCount(int value);
-  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. Arguments:
-  /// four reals, the integer, the entry. False: not stored, the file unchanged.
-  bool VarCoolCTL_WriteCoolant(double f1, double f2, double f3, double f4, int f5, int entry);
 
   // [CoolChannel-%d]: a cooling channel.
 
@@ -723,16 +506,43 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   bool CoolChannelX_WriteTimeSection(int value, int channel);
   /// [CoolChannel-%d] "TCP-%d": a control point by flow rate: a real, the coolant system, the
   /// temperature, the flow rate, an integer. Arguments: the real, the coolant system, the
-  /// temperature, the flow rate, the integer, the point, the channel. False: not stored, the file
-  /// unchanged.
-  bool CoolChannelX_WriteControlPointSetting(double f1, int system, double temperature, double flow,
-                                             int f5, int point, int channel);
+  /// temperature, the flow rate or pressure, the integer, the point, the channel. False: not
+  /// stored, the file unchanged.
+  bool CoolChannelX_WriteControlPointSetting(
+      double f1, int system, double temperature, double flow, int f5, int point, int channel);
   /// [CoolChannel-%d] "TCPP-%d": a control point by pressure: a real, the coolant system, the
   /// temperature, the pressure, an integer. Arguments: the real, the coolant system, the
-  /// temperature, the pressure, the integer, the point, the channel. False: not stored, the file
-  /// unchanged.
-  bool CoolChannelX_WritePressureControlPointSetting(double f1, int system, double temperature,
-                                                     double flow, int f5, int point, int channel);
+  /// temperature, the flow rate or pressure, the integer, the point, the channel. False: not
+  /// stored, the file unchanged.
+  bool CoolChannelX_WritePressureControlPointSetting(
+      double f1, int system, double temperature, double flow, int f5, int point, int channel);
+
+  // [VarCoolCTL]: variable cooling.
+
+  /// [VarCoolCTL] "CoolantNo": the number of entries of variable cooling. Argument: the value.
+  /// False: not stored, the file unchanged.
+  bool VarCoolCTL_WriteCoolantCount(int value);
+  /// [VarCoolCTL] "Coolant-%d": an entry of variable cooling: four reals and an integer. Arguments:
+  /// four reals, the integer, the entry. False: not stored, the file unchanged.
+  bool VarCoolCTL_WriteCoolant(double f1, double f2, double f3, double f4, int f5, int entry);
+
+  // [GateCTL]: when each gate is open.
+
+  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the value, the
+  /// gate. False: not stored, the file unchanged.
+  bool GateCTL_WriteStartTime(double value, int gate);
+  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the value, the
+  /// gate. False: not stored, the file unchanged.
+  bool GateCTL_WriteEndTime(double value, int gate);
+
+  // [GateValve-%d]: a valve gate.
+
+  /// [GateValve-%d] "GCId": the identifier of the valve gate. Arguments: the value, the valve.
+  /// False: not stored, the file unchanged.
+  bool GateValveX_WriteGateValveID(int value, int valve);
+  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the value,
+  /// the valve. False: not stored, the file unchanged.
+  bool GateValveX_WriteControlPoint(int value, int valve);
 
   // [Machine]: the injection molding machine.
 
@@ -872,18 +682,77 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// Arguments: the length, the width, the height. False: not stored, the file unchanged.
   bool Machine_WriteMachineDimension(double length, double width, double height);
 
+  // [Project]: the mesh and material files and the volumes of the project.
+
+  /// [Project] "Mesh": the mesh file. Argument: the text. False: not stored, the file unchanged.
+  bool Project_WriteMesh(char* text);
+  /// [Project] "Mesh", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> Project_WriteMesh(Char* text) {
+    return Project_WriteMesh(const_cast<char*>(text));
+  }
+  /// [Project] "Material": the material file. Argument: the text. False: not stored, the file
+  /// unchanged.
+  bool Project_WriteMaterial(char* text);
+  /// [Project] "Material", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> Project_WriteMaterial(Char* text) {
+    return Project_WriteMaterial(const_cast<char*>(text));
+  }
+  /// [Project] "CavVol": the volume of the cavity, in cc. Argument: the value. False: not stored,
+  /// the file unchanged.
+  bool Project_WriteCavityVolume(double value);
+  /// [Project] "CushionVol": the volume of the melt cushion that stays before the screw, in cc.
+  /// Argument: the value. False: not stored, the file unchanged.
+  bool Project_WriteCushionVolume(double value);
+
+  // [RamPosition]: profiles over the stroke of the ram, and the switch-over from velocity to
+  // pressure control (V/P) by ram position.
+
+  /// [RamPosition] "RamDir": a code: in which direction ram positions count. Argument: the value.
+  /// False: not stored, the file unchanged.
+  bool RamPosition_WriteRamDirection(int value);
+  /// [RamPosition] "IsVPswitch": 1 where the V/P switch-over is by ram position, else 0. Argument:
+  /// the value. False: not stored, the file unchanged.
+  bool RamPosition_WriteIsVPSwitch(int value);
+  /// [RamPosition] "VPswitchRam": the ram position at which the V/P switch-over comes. Argument:
+  /// the value. False: not stored, the file unchanged.
+  bool RamPosition_WriteVPSwitchRamPosition(double value);
+  /// [RamPosition] "SuckBack": how far the screw is pulled back after plastication, to relieve the
+  /// melt (suck-back). Argument: the value. False: not stored, the file unchanged.
+  bool RamPosition_WriteSuckBack(double value);
+  /// [RamPosition] "RP_FRSet": the number of points of the flow rate profile. Argument: the value.
+  /// False: not stored, the file unchanged.
+  bool RamPosition_WriteRamFRSection(int value);
+  /// [RamPosition] "RP_FR-%d": a point of the flow rate profile: the ram position, and the flow
+  /// rate, in cc/sec. Arguments: x, y, the point. False: not stored, the file unchanged.
+  bool RamPosition_WriteRamFRProfile(double x, double y, int point);
+  /// [RamPosition] "RP_FR-%d": the ram position of a flow rate point alone. It becomes the whole
+  /// value of the point. Arguments: the value, the point. False: not stored, the file unchanged.
+  bool RamPosition_WriteRamFRProfile(double value, int point);
+  /// [RamPosition] "RP_IPSet": the number of points of the injection pressure profile. Argument:
+  /// the value. False: not stored, the file unchanged.
+  bool RamPosition_WriteRamIPSection(int value);
+  /// [RamPosition] "RP_IP-%d": a point of the injection pressure profile: the ram position, and the
+  /// pressure, in MPa. Arguments: x, y, the point. False: not stored, the file unchanged.
+  bool RamPosition_WriteRamIPProfile(double x, double y, int point);
+  /// [RamPosition] "RP_IP-%d": the ram position of an injection pressure point alone. It becomes
+  /// the whole value of the point. Arguments: the value, the point. False: not stored, the file
+  /// unchanged.
+  bool RamPosition_WriteRamIPProfile(double value, int point);
+
   // [Moldbase]: the mold bases, one material line each.
 
   /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three
   /// mechanical values. The name is written as it is given. An empty one is stored, though the
   /// reader then takes a number for it. Arguments: three reals, the name, three reals, the row.
   /// False: not stored, the file unchanged.
-  bool Moldbase_WriteMoldbase(double f1, double f2, double f3, char* name, double f5, double f6,
-                              double f7, int row);
+  bool Moldbase_WriteMoldbase(
+      double f1, double f2, double f3, char* name, double f5, double f6, double f7, int row);
   /// [Moldbase] "%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
-  qel::IfConstant<Char> Moldbase_WriteMoldbase(double f1, double f2, double f3, Char* name,
-                                               double f5, double f6, double f7, int row) {
+  qel::IfConstant<Char> Moldbase_WriteMoldbase(
+      double f1, double f2, double f3, Char* name, double f5, double f6, double f7, int row) {
     return Moldbase_WriteMoldbase(f1, f2, f3, const_cast<char*>(name), f5, f6, f7, row);
   }
 
@@ -893,26 +762,98 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// three mechanical values. The name is written as it is given. An empty one is stored, though
   /// the reader then takes a number for it. Arguments: three reals, the name, three reals, the row.
   /// False: not stored, the file unchanged.
-  bool MoldMetalMaterial_WriteMaterial(double f1, double f2, double f3, char* name, double f5,
-                                       double f6, double f7, int row);
+  bool MoldMetalMaterial_WriteMaterial(
+      double f1, double f2, double f3, char* name, double f5, double f6, double f7, int row);
   /// [MoldMetalMaterial] "%d", from a text that is constant, such as a literal: the same member.
   template <class Char>
-  qel::IfConstant<Char> MoldMetalMaterial_WriteMaterial(double f1, double f2, double f3, Char* name,
-                                                        double f5, double f6, double f7, int row) {
+  qel::IfConstant<Char> MoldMetalMaterial_WriteMaterial(
+      double f1, double f2, double f3, Char* name, double f5, double f6, double f7, int row) {
     return MoldMetalMaterial_WriteMaterial(f1, f2, f3, const_cast<char*>(name), f5, f6, f7, row);
   }
 
-  // [MoldbaseInfo]: numbered mold bases with their names.
+  // [GasF-%d]: gas-assisted filling at a gas inlet.
 
-  /// [MoldbaseInfo] "MB-%d": a mold base: an integer and its name, which stands in double quotes.
-  /// The name is put in double quotes. Arguments: the integer, the name, the mold base. False: not
+  /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False:
+  /// not stored, the file unchanged.
+  bool GasFX_WriteGasTime(double value, int inlet);
+  /// [GasF-%d] "GasPres": the pressure of the gas, in MPa. Arguments: the value, the inlet. False:
+  /// not stored, the file unchanged.
+  bool GasFX_WriteGasPressure(double value, int inlet);
+  /// [GasF-%d] "GasSwch": the switch value at which the injection of gas begins. Arguments: the
+  /// value, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGasSwitch(double value, int inlet);
+  /// [GasF-%d] "DelayTime": how long the injection of gas waits, in sec. Arguments: the value, the
+  /// inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteDelayTime(double value, int inlet);
+  /// [GasF-%d] "GRDisplayType": a code: how a front end shows the gas flow rate profile. Arguments:
+  /// the value, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGRDisplayType(int value, int inlet);
+  /// [GasF-%d] "GRProfileType": a code: in which form the gas flow rate profile was entered.
+  /// Arguments: the value, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGRProfileType(int value, int inlet);
+  /// [GasF-%d] "GPDisplayType": a code: how a front end shows the gas pressure profile. Arguments:
+  /// the value, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGPDisplayType(int value, int inlet);
+  /// [GasF-%d] "GPProfileType": a code: in which form the gas pressure profile was entered.
+  /// Arguments: the value, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGPProfileType(int value, int inlet);
+  /// [GasF-%d] "GRSet": the number of points of the gas flow rate profile. Arguments: the value,
+  /// the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGRSection(int value, int inlet);
+  /// [GasF-%d] "GR-%d": a point of the gas flow rate profile: the time in the stage, and the flow
+  /// rate. Arguments: x, y, the point, the inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGRProfile(double x, double y, int point, int inlet);
+  /// [GasF-%d] "GPSet": the number of points of the gas pressure profile. Arguments: the value, the
+  /// inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteGPSection(int value, int inlet);
+  /// [GasF-%d] "GP-%d": a point of the gas pressure profile: the time in the stage, and the
+  /// pressure, in MPa. Arguments: x, y, the point, the inlet. False: not stored, the file
+  /// unchanged.
+  bool GasFX_WriteGPProfile(double x, double y, int point, int inlet);
+  /// [GasF-%d] "UserGRSet": the number of points of the gas flow rate profile as the user entered
+  /// it. No member of the reader reads it. Arguments: the value, the inlet. False: not stored, the
+  /// file unchanged.
+  bool GasFX_WriteUserGRSection(int value, int inlet);
+  /// [GasF-%d] "UserGR-%d": a point of the gas flow rate profile as the user entered it: x and y.
+  /// No member of the reader reads it. Arguments: x, y, the point, the inlet. False: not stored,
+  /// the file unchanged.
+  bool GasFX_WriteUserGRProfile(double x, double y, int point, int inlet);
+  /// [GasF-%d] "UserGPSet": the number of points of the gas pressure profile as the user entered
+  /// it. No member of the reader reads it. Arguments: the value, the inlet. False: not stored, the
+  /// file unchanged.
+  bool GasFX_WriteUserGPSection(int value, int inlet);
+  /// [GasF-%d] "USerGP-%d": a point of the gas pressure profile as the user entered it, under a key
+  /// with a capital S: x and y. No member of the reader reads it. Arguments: x, y, the point, the
+  /// inlet. False: not stored, the file unchanged.
+  bool GasFX_WriteUserGPProfile(double x, double y, int point, int inlet);
+
+  // [AdvancedSetting]: the mold's opening direction, the clamp force and the cycle time.
+
+  /// [AdvancedSetting] "OpenDirection": the direction in which the mold opens: the x, y and z of a
+  /// vector. Arguments: x, y, z. False: not stored, the file unchanged.
+  bool AdvancedSetting_WriteOpenDirection(double x, double y, double z);
+  /// [AdvancedSetting] "ClampForce": the force that holds the mold shut. Argument: the value.
+  /// False: not stored, the file unchanged.
+  bool AdvancedSetting_WriteClampForce(double value);
+
+  // [TransientInletConv]: pellet pre-heating and initial conversion, where the conversion at the
+  // inlet changes with time.
+
+  /// [TransientInletConv] "InitConversionType": a code: how the initial conversion is given.
+  /// Argument: the value. False: not stored, the file unchanged.
+  bool TransientInletConv_WriteInitConversionType(int value);
+  /// [TransientInletConv] "InitPelletConv": how far the pellet's curing reaction has gone (its
+  /// conversion) before pre-heating. Argument: the value. False: not stored, the file unchanged.
+  bool TransientInletConv_WriteInitPelletConversion(double value);
+  /// [TransientInletConv] "PelletDiameter": the diameter of the pellet. Argument: the value. False:
+  /// not stored, the file unchanged.
+  bool TransientInletConv_WritePelletDiameter(double value);
+  /// [TransientInletConv] "PelletHeight": the height of the pellet. Argument: the value. False: not
   /// stored, the file unchanged.
-  bool MoldbaseInfo_WriteMoldbaseInfo(int number, char* name, int moldbase);
-  /// [MoldbaseInfo] "MB-%d", from a text that is constant, such as a literal: the same member.
-  template <class Char>
-  qel::IfConstant<Char> MoldbaseInfo_WriteMoldbaseInfo(int number, Char* name, int moldbase) {
-    return MoldbaseInfo_WriteMoldbaseInfo(number, const_cast<char*>(name), moldbase);
-  }
+  bool TransientInletConv_WritePelletHeight(double value);
+  /// [TransientInletConv] "PreHeatTime": how long the pellet is pre-heated, in sec. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool TransientInletConv_WritePreHeatTime(double value);
 
   // [MoldThermalBoundaryType]: the heat transfer between melt and mold.
 
@@ -960,6 +901,24 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
     return MoldTemperatureBoundaryType_WriteHTCHotRunner(value, const_cast<char*>(note));
   }
 
+  // [ICPackage]: pellet pre-heating and initial conversion of IC package encapsulation.
+
+  /// [ICPackage] "InitConversionType": a code: how the initial conversion is given. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool ICPackage_WriteInitConversionType(int value);
+  /// [ICPackage] "InitConversion": how far the pellet's curing reaction has gone (its conversion)
+  /// before pre-heating. Argument: the value. False: not stored, the file unchanged.
+  bool ICPackage_WriteInitPelletConversion(double value);
+  /// [ICPackage] "PelletDiameter": the diameter of the pellet. Argument: the value. False: not
+  /// stored, the file unchanged.
+  bool ICPackage_WritePelletDiameter(double value);
+  /// [ICPackage] "PelletHeight": the height of the pellet. Argument: the value. False: not stored,
+  /// the file unchanged.
+  bool ICPackage_WritePelletHeight(double value);
+  /// [ICPackage] "PreHeatingTime": how long the pellet is pre-heated, in sec. Argument: the value.
+  /// False: not stored, the file unchanged.
+  bool ICPackage_WritePreHeatTime(double value);
+
   // [PartingSurface]: the cavity and core sides.
 
   /// [PartingSurface] "CavityPart": the part on the cavity side: an integer and three reals.
@@ -974,51 +933,6 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// [PartingSurface] "CoreMoldbase": the mold base on the core side: an integer and three reals.
   /// Arguments: the integer, three reals. False: not stored, the file unchanged.
   bool PartingSurface_WriteCoreMoldbase(int number, double f2, double f3, double f4);
-
-  // [GateCTL]: when each gate is open.
-
-  /// [GateCTL] "ST-%d": the start time of a gate, when it opens, in sec. Arguments: the value, the
-  /// gate. False: not stored, the file unchanged.
-  bool GateCTL_WriteStartTime(double value, int gate);
-  /// [GateCTL] "ET-%d": the end time of a gate, when it closes, in sec. Arguments: the value, the
-  /// gate. False: not stored, the file unchanged.
-  bool GateCTL_WriteEndTime(double value, int gate);
-
-  // [GateValve-%d]: a valve gate.
-
-  /// [GateValve-%d] "GCId": the identifier of the valve gate. Arguments: the value, the valve.
-  /// False: not stored, the file unchanged.
-  bool GateValveX_WriteGateValveID(int value, int valve);
-  /// [GateValve-%d] "GCSet": the number of control points of the valve gate. Arguments: the value,
-  /// the valve. False: not stored, the file unchanged.
-  bool GateValveX_WriteControlPoint(int value, int valve);
-  /// [GateValve-%d] "GC-%d": a control point without its last integer. Writes three fields,
-  /// whatever the mode. "GCSet" is raised to `point` where it is lower; a valve without "GCSet" has
-  /// one point. Arguments: the value, the integer, the mode, the point, the valve. False: not
-  /// stored whole.
-  bool GateValveX_WriteGateSetting(double value, int number, int mode, int point, int valve);
-  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
-  /// and for modes 2 and 3 an integer. Modes 1 and 4 write the first three fields, 2 and 3 all
-  /// four, any other an empty value. "GCSet" is raised to `point` where it is lower; a valve
-  /// without "GCSet" has one point. Arguments: the value, the integer, the mode, the last integer,
-  /// the point, the valve. False: not stored whole.
-  bool GateValveX_WriteGateSetting(double value, int number, int mode, int last, int point,
-                                   int valve);
-  /// [GateValve-%d] "GC-%d": a control point without its last integer. As
-  /// `GateValveX_WriteGateSetting` with as many values. It goes to the first valve whose "GCId" is
-  /// `id`, among as many as "TotalGateCTL" of [Summary] says; a valve without "GCId" has 0. Where
-  /// there is none, nothing is written. Arguments: the value, the integer, the mode, the point, the
-  /// identifier. False: not stored whole.
-  bool GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int point,
-                                                int id);
-  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
-  /// and for modes 2 and 3 an integer. As `GateValveX_WriteGateSetting` with as many values. It
-  /// goes to the first valve whose "GCId" is `id`, among as many as "TotalGateCTL" of [Summary]
-  /// says; a valve without "GCId" has 0. Where there is none, nothing is written. Arguments: the
-  /// value, the integer, the mode, the last integer, the point, the identifier. False: not stored
-  /// whole.
-  bool GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int last,
-                                                int point, int id);
 
   // [EjectCriteria]: the sensor and criteria nodes that decide ejection.
 
@@ -1048,16 +962,15 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// word back, and of a name with blanks no temperature. An empty name reads back empty.
   /// Arguments: the identifier, the name, the temperature, the insert. False: not stored, the file
   /// unchanged.
-  bool PartInsertInitialTemperature_WritePartInsert(int id, char* name, double temperature,
-                                                    int insert);
+  bool PartInsertInitialTemperature_WritePartInsert(
+      int id, char* name, double temperature, int insert);
   /// [PartInsertInitialTemperature] "PartInsert-%d", from a text that is constant, such as a
   /// literal: the same member.
   template <class Char>
-  qel::IfConstant<Char> PartInsertInitialTemperature_WritePartInsert(int id, Char* name,
-                                                                     double temperature,
-                                                                     int insert) {
-    return PartInsertInitialTemperature_WritePartInsert(id, const_cast<char*>(name), temperature,
-                                                        insert);
+  qel::IfConstant<Char> PartInsertInitialTemperature_WritePartInsert(
+      int id, Char* name, double temperature, int insert) {
+    return PartInsertInitialTemperature_WritePartInsert(
+        id, const_cast<char*>(name), temperature, insert);
   }
 
   // [MoldInsertInitialTemperature]: the initial temperature of each mold insert.
@@ -1073,23 +986,127 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// word back, and of a name with blanks no temperature. An empty name reads back empty.
   /// Arguments: the identifier, the name, the temperature, the insert. False: not stored, the file
   /// unchanged.
-  bool MoldInsertInitialTemperature_WriteMoldInsert(int id, char* name, double temperature,
-                                                    int insert);
+  bool MoldInsertInitialTemperature_WriteMoldInsert(
+      int id, char* name, double temperature, int insert);
   /// [MoldInsertInitialTemperature] "MoldInsert-%d", from a text that is constant, such as a
   /// literal: the same member.
   template <class Char>
-  qel::IfConstant<Char> MoldInsertInitialTemperature_WriteMoldInsert(int id, Char* name,
-                                                                     double temperature,
-                                                                     int insert) {
-    return MoldInsertInitialTemperature_WriteMoldInsert(id, const_cast<char*>(name), temperature,
-                                                        insert);
+  qel::IfConstant<Char> MoldInsertInitialTemperature_WriteMoldInsert(
+      int id, Char* name, double temperature, int insert) {
+    return MoldInsertInitialTemperature_WriteMoldInsert(
+        id, const_cast<char*>(name), temperature, insert);
   }
+
+  // [MoldbaseInfo]: numbered mold bases with their names.
+
+  /// [MoldbaseInfo] "MB-%d": a mold base: an integer and its name, which stands in double quotes.
+  /// The name is put in double quotes. Arguments: the integer, the name, the mold base. False: not
+  /// stored, the file unchanged.
+  bool MoldbaseInfo_WriteMoldbaseInfo(int number, char* name, int moldbase);
+  /// [MoldbaseInfo] "MB-%d", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> MoldbaseInfo_WriteMoldbaseInfo(int number, Char* name, int moldbase) {
+    return MoldbaseInfo_WriteMoldbaseInfo(number, const_cast<char*>(name), moldbase);
+  }
+
+  // [MicrocellularMolding]: foaming and gas dosage.
+
+  /// [MicrocellularMolding] "FoamDurationTime": how long foaming lasts, in sec. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteFoamDurationTime(double value);
+  /// [MicrocellularMolding] "StartFoamingType": a code: what makes foaming begin. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteStartFoamingType(int value);
+  /// [MicrocellularMolding] "VolumeFilled": the filled volume at which foaming begins. Argument:
+  /// the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteVolumeFilled(double value);
+  /// [MicrocellularMolding] "PreInjectedVolume": the volume that is injected before foaming begins.
+  /// Argument: the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WritePreInjectedVolume(double value);
+  /// [MicrocellularMolding] "InitialGasConcentrationType": a code: how the initial gas
+  /// concentration is given. Argument: the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteInitialGasConcentrationType(int value);
+  /// [MicrocellularMolding] "GasDosageAmount": how much gas is dissolved in the melt. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteGasDosageAmount(double value);
+  /// [MicrocellularMolding] "GasSaturationPressure": the saturation pressure of the gas, in MPa.
+  /// Argument: the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteGasSaturationPressure(double value);
+  /// [MicrocellularMolding] "NozzleShutoff": a code: whether the nozzle shuts off. Argument: the
+  /// value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteNozzleShutoff(int value);
+  /// [MicrocellularMolding] "AdvancedType": a code: which of the advanced values counts. Argument:
+  /// the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteAdvancedType(int value);
+  /// [MicrocellularMolding] "RamPosition": the ram position, for an advanced type that asks for
+  /// one. Argument: the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WriteRamPosition(double value);
+  /// [MicrocellularMolding] "PartWeight": the weight of the part, for an advanced type that asks
+  /// for one. Argument: the value. False: not stored, the file unchanged.
+  bool MicrocellularMolding_WritePartWeight(double value);
 
   // [PartInsertContactAngle]: the contact angle of each part insert group.
 
   /// [PartInsertContactAngle] "GroupCount": the number of groups of part inserts. Argument: the
   /// value. False: not stored, the file unchanged.
   bool PartInsertContactAngle_WriteGroupCount(int value);
+
+  // clang-format on
+  // The members above are made; what follows is written by hand.
+
+  // [FileHeader]: what the file is, who wrote it and when.
+
+  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Argument: the
+  /// text. False: not stored, the file unchanged.
+  bool FileHeader_WriteDate(char* text);
+  /// [FileHeader] "Date", from a text that is constant, such as a literal: the same member.
+  template <class Char>
+  qel::IfConstant<Char> FileHeader_WriteDate(Char* text) {
+    return FileHeader_WriteDate(const_cast<char*>(text));
+  }
+  /// [FileHeader] "Date": the date of the last change, as "2026/11/15 09:05:07". Writes the local
+  /// date and time of this moment. No arguments. False: not stored, the file unchanged.
+  bool FileHeader_WriteDate();
+
+  // [Unit]: the units in which the file's values are given; they are fixed.
+
+  /// [Unit], whole: "Time" sec, "Temp" oC, "Pres" MPa, "FR" cc/sec, "IP" MPa, "PP" MPa, "Volume"
+  /// cc, in this order. The units are fixed. A store that fails is passed over, and nothing tells
+  /// of it.
+  void WriteUnitBlock();
+
+  // [GateValve-%d]: a valve gate.
+
+  /// [GateValve-%d] "GC-%d": a control point without its last integer. Writes three fields,
+  /// whatever the mode. "GCSet" is raised to `point` where it is lower; a valve without "GCSet" has
+  /// one point. Arguments: the value, the integer, the mode, the point, the valve. False: not
+  /// stored whole.
+  bool GateValveX_WriteGateSetting(double value, int number, int mode, int point, int valve);
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
+  /// and for modes 2 and 3 an integer. Modes 1 and 4 write the first three fields, 2 and 3 all
+  /// four, any other an empty value. "GCSet" is raised to `point` where it is lower; a valve
+  /// without "GCSet" has one point. Arguments: the value, the integer, the mode, the last integer,
+  /// the point, the valve. False: not stored whole.
+  bool GateValveX_WriteGateSetting(double value, int number, int mode, int last, int point,
+                                   int valve);
+  /// [GateValve-%d] "GC-%d": a control point without its last integer. As
+  /// `GateValveX_WriteGateSetting` with as many values. It goes to the first valve whose "GCId" is
+  /// `id`, among as many as "TotalGateCTL" of [Summary] says; a valve without "GCId" has 0. Where
+  /// there is none, nothing is written. Arguments: the value, the integer, the mode, the point, the
+  /// identifier. False: not stored whole.
+  bool GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int point,
+                                                int id);
+  /// [GateValve-%d] "GC-%d": a control point: the switching value, an integer, the mode (1 to 4),
+  /// and for modes 2 and 3 an integer. As `GateValveX_WriteGateSetting` with as many values. It
+  /// goes to the first valve whose "GCId" is `id`, among as many as "TotalGateCTL" of [Summary]
+  /// says; a valve without "GCId" has 0. Where there is none, nothing is written. Arguments: the
+  /// value, the integer, the mode, the last integer, the point, the identifier. False: not stored
+  /// whole.
+  bool GateValveX_WriteGateSettingByValveGateID(double value, int number, int mode, int last,
+                                                int point, int id);
+
+  // [PartInsertContactAngle]: the contact angle of each part insert group.
+
   /// [PartInsertContactAngle] "%d": a group of part inserts: its name in double quotes, and its
   /// contact angle. The key is the number of the group. The name is put in double quotes; one that
   /// holds a double quote cannot be read back. Arguments: the group, the name, the angle. False:

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "api/forward.h"
-#include "core/session.h"
+#include "api/members.h"
+#include "api/session.h"
 
 /// What the exported reader and writer do with their sessions.
 namespace qel {

@@ -1,7 +1,7 @@
 #include <new>
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
-#include "api/forward.h"
+#include "api/members.h"
 #include "api/ownership.h"
 
 CQELPROReader_Manipulator::CQELPROReader_Manipulator() = default;

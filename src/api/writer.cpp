@@ -2,7 +2,7 @@
 #include <string>
 
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
-#include "api/forward.h"
+#include "api/members.h"
 #include "api/ownership.h"
 #include "platform/format.h"
 #include "refdata/user_file.h"

@@ -26,12 +26,9 @@ inline constexpr Key<Real> kCycleTime{"CycleTime",
 inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
 
 inline constexpr SectionInfo kInfo{
-    kSection, "the mold's opening direction, the clamp force and the cycle time", kKeys,
-    std::size(kKeys)};
+    kSection, "AdvancedSetting", "the mold's opening direction, the clamp force and the cycle time",
+    kKeys};
 
 }  // namespace qel::advanced_setting
 
-class CQELPROBlockIOAdvancedSetting : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOAdvancedSetting() : CQELPROBlockIOBase(qel::advanced_setting::kSection) {}
-};
+using CQELPROBlockIOAdvancedSetting = qel::SectionBlock<qel::advanced_setting::kInfo>;

@@ -57,18 +57,27 @@ class CQELPROBlockIOBase {
   /// Looks the key up and scans its value. How much of it scans does not count: a value that was
   /// found is a success.
   template <class Encoding, class... Values>
-  int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+  int Read(const char* key, qel::Place place, Values&... values) {
     char* text = nullptr;
-    const int result = FindText(key.text, place, text);
+    const int result = FindText(key, place, text);
     if (result == qel::to_int(qel::Result::done)) {
-      qel::scan_together<Encoding>(text, values...);
+      qel::scan_together<Encoding>(text, place.point, values...);
     }
     return result;
   }
 
   template <class Encoding, class... Values>
+  int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+    return Read<Encoding>(key.text, place, values...);
+  }
+
+  template <class Encoding, class... Values>
+  int Write(const char* key, qel::Place place, Values... values) {
+    return StoreText(key, place, Encoding::print(values...), Encoding::kLimit);
+  }
+  template <class Encoding, class... Values>
   int Write(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
-    return StoreText(key.text, place, Encoding::print(values...), Encoding::kLimit);
+    return Write<Encoding>(key.text, place, values...);
   }
 
  protected:
@@ -87,3 +96,16 @@ class CQELPROBlockIOBase {
   char new_name_[kNameSize];  // without a value until then
   CQELPROIO* document_ = nullptr;
 };
+
+namespace qel {
+
+/// The block of a section kind that is served key by key, and by nothing else.
+template <const SectionInfo& info>
+class SectionBlock : public CQELPROBlockIOBase {
+ public:
+  static constexpr const SectionInfo& kInfo = info;
+
+  SectionBlock() : CQELPROBlockIOBase(info.name) {}
+};
+
+}  // namespace qel

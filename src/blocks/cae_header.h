@@ -87,12 +87,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kType,        &kFileVersion, &kFileVersionNumber, &kFileType,           &kSmartSetting,
     &kSettingMode, &kProjectType, &kFlagUNF,           &kFlagEncapsulationCM};
 
-inline constexpr SectionInfo kInfo{kSection, "the release and project that the analysis belongs to",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "CaeHeader",
+                                   "the release and project that the analysis belongs to", kKeys};
 
 }  // namespace qel::cae_header
 
-class CQELPROBlockIOCaeHeader : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCaeHeader() : CQELPROBlockIOBase(qel::cae_header::kSection) {}
-};
+using CQELPROBlockIOCaeHeader = qel::SectionBlock<qel::cae_header::kInfo>;

@@ -1,45 +1,8 @@
 #include "blocks/catalogue.h"
 
-#include "blocks/advanced_setting.h"
-#include "blocks/cae_header.h"
-#include "blocks/co_injection_flow_x.h"
-#include "blocks/cool.h"
-#include "blocks/cool_channel_x.h"
-#include "blocks/cool_ctl.h"
-#include "blocks/coolant.h"
-#include "blocks/cure_x.h"
-#include "blocks/eject_criteria.h"
-#include "blocks/file_header.h"
-#include "blocks/flow_ctl.h"
-#include "blocks/flow_ctl_info.h"
-#include "blocks/flow_x.h"
-#include "blocks/gas_f_x.h"
-#include "blocks/gate_ctl.h"
-#include "blocks/gate_valve_x.h"
-#include "blocks/ic_package.h"
-#include "blocks/machine.h"
-#include "blocks/micro_cellular_molding.h"
-#include "blocks/mold_insert_initial_temperature.h"
-#include "blocks/mold_metal_material.h"
-#include "blocks/mold_preheat.h"
-#include "blocks/mold_preheat_cool_channel_x.h"
-#include "blocks/mold_temperature_bc_x.h"
-#include "blocks/mold_thermal_boundary_type.h"
-#include "blocks/moldbase.h"
-#include "blocks/moldbase_info.h"
 #include "blocks/output.h"
-#include "blocks/overflow.h"
-#include "blocks/pack_x.h"
-#include "blocks/part_insert_contact_angle.h"
-#include "blocks/part_insert_initial_temperature.h"
-#include "blocks/parting_surface.h"
-#include "blocks/project.h"
 #include "blocks/quick_setting.h"
-#include "blocks/ram_position.h"
-#include "blocks/summary.h"
-#include "blocks/transient_inlet_conv.h"
-#include "blocks/unit.h"
-#include "blocks/var_cool_ctl.h"
+#include "blocks/sections.h"
 
 #include <algorithm>
 #include <array>
@@ -54,17 +17,17 @@ namespace {
 template <const auto& stage_keys>
 struct LoaderKeys {
   static constexpr std::size_t kCount = std::ranges::count_if(
-      stage_keys, [](const KeyInfo* key) { return key->elsewhere.loader != nullptr; });
+      stage_keys, [](const KeyInfo* key) { return key->details.loader != nullptr; });
 
   static constexpr std::array<KeyInfo, kCount> rows() {
     std::array<KeyInfo, kCount> taken{};
     std::size_t count = 0;
     for (const KeyInfo* key : stage_keys) {
-      if (key->elsewhere.loader != nullptr) {
+      if (key->details.loader != nullptr) {
         taken[count] = *key;
         taken[count].readers = {};
         taken[count].writers = {};
-        taken[count++].elsewhere = {.loader = key->elsewhere.loader};
+        taken[count++].details = {.loader = key->details.loader};
       }
     }
     return taken;
@@ -81,7 +44,7 @@ struct LoaderKeys {
 
 template <const auto& stage_keys>
 constexpr SectionInfo loader_section(const char* name, const char* subject) {
-  return {name, subject, LoaderKeys<stage_keys>::kKeys.data(), LoaderKeys<stage_keys>::kCount};
+  return {name, nullptr, subject, LoaderKeys<stage_keys>::kKeys};
 }
 
 constexpr SectionInfo kFlowSkin = loader_section<flow_x::kKeys>(
@@ -93,46 +56,9 @@ constexpr SectionInfo kFlowEM = loader_section<flow_x::kKeys>(
 constexpr SectionInfo kPackEM = loader_section<pack_x::kKeys>(
     "[Pack-EM%d]", "the packing stage of a melt entrance (project type 11)");
 
-constexpr const SectionInfo* kSections[] = {
-    &file_header::kInfo,
-    &cae_header::kInfo,
-    &summary::kInfo,
-    &unit::kInfo,
-    &flow_ctl::kInfo,
-    &flow_x::kInfo,
-    &pack_x::kInfo,
-    &cure_x::kInfo,
-    &cool::kInfo,
-    &cool_ctl::kInfo,
-    &coolant::kInfo,
-    &cool_channel_x::kInfo,
-    &var_cool_ctl::kInfo,
-    &gate_ctl::kInfo,
-    &gate_valve_x::kInfo,
-    &machine::kInfo,
-    &project::kInfo,
-    &ram_position::kInfo,
-    &moldbase::kInfo,
-    &mold_metal_material::kInfo,
-    &mold_temperature_bc_x::kInfo,
+// Those without a block come behind the others.
+constexpr const SectionInfo* kWithoutBlock[] = {
     &mold_temperature_bc_x::kPositionalInfo,
-    &gas_f_x::kInfo,
-    &advanced_setting::kInfo,
-    &transient_inlet_conv::kInfo,
-    &mold_thermal_boundary_type::kInfo,
-    &ic_package::kInfo,
-    &parting_surface::kInfo,
-    &eject_criteria::kInfo,
-    &part_insert_initial_temperature::kInfo,
-    &mold_insert_initial_temperature::kInfo,
-    &moldbase_info::kInfo,
-    &mold_preheat::kInfo,
-    &mold_preheat_cool_channel_x::kInfo,
-    &micro_cellular_molding::kInfo,
-    &flow_ctl_info::kInfo,
-    &overflow::kInfo,
-    &part_insert_contact_angle::kInfo,
-    &co_injection_flow_x::kInfo,
     &kFlowSkin,
     &kPackSkin,
     &kFlowEM,
@@ -140,6 +66,13 @@ constexpr const SectionInfo* kSections[] = {
     &quick_setting::kInfo,
     &output::kInfo,
 };
+
+constexpr auto all_sections() {
+  std::array<const SectionInfo*, SectionBlocks::kSections.size() + std::size(kWithoutBlock)> all{};
+  std::ranges::copy(kWithoutBlock, std::ranges::copy(SectionBlocks::kSections, all.begin()).out);
+  return all;
+}
+constexpr auto kSections = all_sections();
 
 // Whether the text is the pattern, with a number as it is printed in the place of "%d" or "%ld".
 bool matches(std::string_view pattern, std::string_view text, int& number) {
@@ -161,9 +94,9 @@ bool matches(std::string_view pattern, std::string_view text, int& number) {
 
 }  // namespace
 
-const SectionInfo* const* Catalogue::begin() const { return std::begin(kSections); }
+const SectionInfo* const* Catalogue::begin() const { return kSections.data(); }
 
-const SectionInfo* const* Catalogue::end() const { return std::end(kSections); }
+const SectionInfo* const* Catalogue::end() const { return kSections.data() + kSections.size(); }
 
 const SectionInfo* find_section(const char* name, int& number) {
   for (const SectionInfo* section : Catalogue()) {
@@ -175,9 +108,9 @@ const SectionInfo* find_section(const char* name, int& number) {
 }
 
 const KeyInfo* find_key(const SectionInfo& section, const char* key, int& number) {
-  for (std::size_t index = 0; index < section.key_count; ++index) {
-    if (matches(section.keys[index]->text, key, number)) {
-      return section.keys[index];
+  for (const KeyInfo* info : section.keys) {
+    if (matches(info->text, key, number)) {
+      return info;
     }
   }
   return nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "blocks/flow_x.h"
+#include "blocks/block.h"
 
 /// [Flow-%ld-Skin2nd]: the filling stage of a co-injection run's second skin.
 namespace qel::co_injection_flow_x {
@@ -42,12 +42,12 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kFillTime,         &kFRSet,           &kFRPoint, &kIPSet, &kIPPoint, &kSkin2ndEnterType,
     &kSkin2ndEnterSwch, &kSkin2ndEnterTime};
 
-inline constexpr SectionInfo kInfo{
-    kSection, "the filling stage of a co-injection run's second skin", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection,
+                                   "CoInjectionFlowX",
+                                   "the filling stage of a co-injection run's second skin",
+                                   kKeys,
+                                   {"inlet", "the inlet"}};
 
 }  // namespace qel::co_injection_flow_x
 
-class CQELPROBlockIOCoInjectionFlowX : public CQELPROBlockIOFlowX {
- public:
-  CQELPROBlockIOCoInjectionFlowX() { SetSectionName(qel::co_injection_flow_x::kSection); }
-};
+using CQELPROBlockIOCoInjectionFlowX = qel::SectionBlock<qel::co_injection_flow_x::kInfo>;

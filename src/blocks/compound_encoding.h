@@ -11,6 +11,12 @@ struct FourRealsAndInteger {
   static constexpr const char* kName = "four reals and an integer";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double, double, int>;
+  static constexpr Argument kArguments[] = {{"f1", "four reals"},
+                                            {"f2", "four reals"},
+                                            {"f3", "four reals"},
+                                            {"f4", "four reals"},
+                                            {"f5", "the integer"}};
+  static constexpr const char* kReading = "What the text lacks is 0.";
   static void scan(const char* text, double& f1, double& f2, double& f3, double& f4, int& f5) {
     fields::clear(f1, f2, f3, f4, f5);
     fields::scan(text, f1, f2, f3, f4, f5);
@@ -25,6 +31,12 @@ struct ControlPoint {
   static constexpr const char* kName = "control point (real, integer, real, real, integer)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, int, double, double, int>;
+  static constexpr Argument kArguments[] = {{"f1", "the real"},
+                                            {"system", "the coolant system"},
+                                            {"temperature", "the temperature"},
+                                            {"flow", "the flow rate or pressure"},
+                                            {"f5", "the integer"}};
+  static constexpr const char* kReading = "What the text lacks is 0.";
   static void scan(const char* text, double& f1, int& system, double& temperature, double& flow,
                    int& f5) {
     fields::clear(f1, system, temperature, flow, f5);
@@ -40,6 +52,11 @@ struct IntegerAndThreeReals {
   static constexpr const char* kName = "integer and three reals";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, double, double, double>;
+  static constexpr Argument kArguments[] = {{"number", "the integer"},
+                                            {"f2", "three reals"},
+                                            {"f3", "three reals"},
+                                            {"f4", "three reals"}};
+  static constexpr const char* kReading = "What the text lacks is 0.";
   static void scan(const char* text, int& number, double& f2, double& f3, double& f4) {
     fields::clear(number, f2, f3, f4);
     fields::scan(text, number, f2, f3, f4);
@@ -54,6 +71,7 @@ struct IntegerAndReal {
   static constexpr const char* kName = "integer and real";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, double>;
+  static constexpr Argument kArguments[] = {{"node", "the node"}, {"value", "the value"}};
   static void scan(const char* text, int& number, double& value) {
     fields::scan(text, number, value);
   }
@@ -66,6 +84,10 @@ struct SizePair {
   static constexpr const char* kName = "pair of sizes (1200x900)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double>;
+  static constexpr Argument kArguments[] = {{"first", "the horizontal size"},
+                                            {"second", "the vertical size"}};
+  static constexpr const char* kReading =
+      "What the text lacks is 0. Any one character may stand between the sizes.";
   static void scan(const char* text, double& first, double& second) {
     char separator = 0;
     fields::clear(first, second);
@@ -81,6 +103,10 @@ struct SizeTriple {
   static constexpr const char* kName = "triple of sizes (5.2x1.4x2.1)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double>;
+  static constexpr Argument kArguments[] = {
+      {"length", "the length"}, {"width", "the width"}, {"height", "the height"}};
+  static constexpr const char* kReading =
+      "What the text lacks is 0. Any one character may stand between the sizes.";
   static void scan(const char* text, double& length, double& width, double& height) {
     char separator = 0;
     fields::clear(length, width, height);
@@ -98,6 +124,8 @@ struct ZoneCount {
   static constexpr const char* kName = "integer, or a sum of two (4+2)";
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<int>;
+  static constexpr Argument kArguments[] = {{"value", "the value"}};
+  static constexpr const char* kReading = "A sum is added up: 4+2 reads as 6.";
   static void scan(const char* text, int& value);
   static std::string print(int value) { return fields::print_one(value); }
 };
@@ -108,6 +136,12 @@ struct RealWithNote {
   static constexpr const char* kName = "real, with a note in parentheses";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double>;
+  static constexpr Argument kArguments[] = {{"value", "the value"}};
+  static constexpr const char* kReading = "The note is passed over.";
+  static constexpr const char* kWriting = "The note, such as W/m^2.K, is put in parentheses.";
+  using Written = std::tuple<double, const char*>;
+  static constexpr Argument kWrittenArguments[] = {{"value", "the coefficient"},
+                                                   {"note", "the note"}};
   static void scan(const char* text, double& value) { fields::scan(text, value); }
   static std::string print(double value, const char* note) {
     return fields::print_one(value) + "\t(" + note + ")";
@@ -120,6 +154,12 @@ struct GatePoint {
   static constexpr const char* kName = "gate control point (real, integer, mode, integer)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, int, int, int>;
+  static constexpr Argument kArguments[] = {{"value", "the value"},
+                                            {"number", "the integer"},
+                                            {"mode", "the mode"},
+                                            {"last", "the last integer"}};
+  static constexpr const char* kReading =
+      "For modes 1 and 4 the last integer is -1. What the text lacks is 0.";
   static void scan(const char* text, double& value, int& number, int& mode, int& last);
   /// Empty for a mode that is none of 1 to 4.
   static std::string print(double value, int number, int mode, int last);
@@ -130,6 +170,9 @@ struct GatePointShort {
   static constexpr const char* kName = "gate control point (real, integer, mode)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, int, int>;
+  static constexpr Argument kArguments[] = {
+      {"value", "the value"}, {"number", "the integer"}, {"mode", "the mode"}};
+  static constexpr const char* kReading = "What the text lacks is 0.";
   static void scan(const char* text, double& value, int& number, int& mode) {
     int dropped = 0;
     GatePoint::scan(text, value, number, mode, dropped);

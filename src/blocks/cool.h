@@ -66,12 +66,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kCoolTime,    &kOpenTime,  &kEjectTemp,   &kAirTemp,     &kInitialMoldbaseTemperature,
     &kCoolantTemp, &kCoolantFR, &kCoolingType, &kControlType, &kAutoSetCoolTime};
 
-inline constexpr SectionInfo kInfo{kSection, "cycle times, temperatures and the kind of cooling",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "Cool",
+                                   "cycle times, temperatures and the kind of cooling", kKeys};
 
 }  // namespace qel::cool
 
-class CQELPROBlockIOCool : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCool() : CQELPROBlockIOBase(qel::cool::kSection) {}
-};
+using CQELPROBlockIOCool = qel::SectionBlock<qel::cool::kInfo>;

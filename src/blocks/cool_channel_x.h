@@ -51,11 +51,9 @@ inline constexpr Key<ControlPoint> kPressureControlPoint{
 inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint,
                                            &kPressureControlPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "a cooling channel", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "CoolChannelX", "a cooling channel", kKeys, {"channel", "the channel"}};
 
 }  // namespace qel::cool_channel_x
 
-class CQELPROBlockIOCoolChannelX : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCoolChannelX() : CQELPROBlockIOBase(qel::cool_channel_x::kSection) {}
-};
+using CQELPROBlockIOCoolChannelX = qel::SectionBlock<qel::cool_channel_x::kInfo>;

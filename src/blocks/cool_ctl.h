@@ -12,36 +12,36 @@ inline constexpr Key<Real> kT{
     {"CoolCTL_ReadCoolantTemperature"},
     {"CoolCTL_WriteCoolantTemperature"},
     "the coolant temperature at an entrance, in oC",
-    {.older = {"GetCoolCTLTemperature", "SetCoolCTLTemperature"},
+    {.number = {"entrance", "the entrance"},
+     .older = {"GetCoolCTLTemperature", "SetCoolCTLTemperature"},
      .adapter = {"SetCoolCTL_WriteCoolantTemperature", "SetCoolingChannelData"}}};
 inline constexpr Key<Real> kF{
     "F-%d",
     {"CoolCTL_ReadCoolantFlowRate"},
     {"CoolCTL_WriteCoolantFlowRate"},
     "the coolant flow rate at an entrance, in cc/sec",
-    {.older = {"GetCoolCTLFlowRate", "SetCoolCTLFlowRate"},
+    {.number = {"entrance", "the entrance"},
+     .older = {"GetCoolCTLFlowRate", "SetCoolCTLFlowRate"},
      .adapter = {"SetCoolCTL_WriteCoolantFlowRate", "SetCoolingChannelData"}}};
-inline constexpr Key<Real> kP{"P-%d",
-                              {"CoolCTL_ReadCoolantPressure"},
-                              {"CoolCTL_WroteCoolantPressure"},
-                              "the coolant pressure at an entrance, in MPa",
-                              {.adapter = {"SetCoolCTL_WroteCoolantPressure"}}};
+inline constexpr Key<Real> kP{
+    "P-%d",
+    {"CoolCTL_ReadCoolantPressure"},
+    {"CoolCTL_WroteCoolantPressure"},
+    "the coolant pressure at an entrance, in MPa",
+    {.number = {"entrance", "the entrance"}, .adapter = {"SetCoolCTL_WroteCoolantPressure"}}};
 inline constexpr Key<Integer> kM{
     "M-%d",
     {"CoolCTL_ReadCoolantSystem"},
     {"CoolCTL_WriteCoolantSystem"},
     "the coolant system of an entrance",
-    {.older = {"GetCoolCTLSystem", "SetCoolCTLSystem"},
+    {.number = {"entrance", "the entrance"},
+     .older = {"GetCoolCTLSystem", "SetCoolCTLSystem"},
      .adapter = {"SetCoolCTL_WriteCoolantSystem", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kT, &kF, &kP, &kM};
 
-inline constexpr SectionInfo kInfo{kSection, "the coolant at each entrance", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "CoolCTL", "the coolant at each entrance", kKeys};
 
 }  // namespace qel::cool_ctl
 
-class CQELPROBlockIOCoolCTL : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCoolCTL() : CQELPROBlockIOBase(qel::cool_ctl::kSection) {}
-};
+using CQELPROBlockIOCoolCTL = qel::SectionBlock<qel::cool_ctl::kInfo>;

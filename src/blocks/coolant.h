@@ -15,17 +15,14 @@ inline constexpr Key<CoolantLine> kCoolant{
     "a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity (erg/(s cm K)), "
     "viscosity "
     "(poise), coolant system, name (one word), channel diameter, channel group",
-    {.older = {"GetCoolant", "SetCoolant"},
+    {.number = {"coolant", "the coolant"},
+     .older = {"GetCoolant", "SetCoolant"},
      .adapter = {"SetCoolant_WriteCoolant", "SetCoolingChannelData"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolant};
 
-inline constexpr SectionInfo kInfo{kSection, "the coolants, one line each", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "Coolant", "the coolants, one line each", kKeys};
 
 }  // namespace qel::coolant
 
-class CQELPROBlockIOCoolant : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCoolant() : CQELPROBlockIOBase(qel::coolant::kSection) {}
-};
+using CQELPROBlockIOCoolant = qel::SectionBlock<qel::coolant::kInfo>;

@@ -96,12 +96,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kCPSet,    &kCPPoint,  &kUserCPSet, &kUserCPPoint, &kCTDisplayType, &kCTProfileType,
     &kCTSet,    &kCTPoint,  &kUserCTSet, &kUserCTPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "the curing stage of an inlet", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "CureX", "the curing stage of an inlet", kKeys, {"inlet", "the inlet"}};
 
 }  // namespace qel::cure_x
 
-class CQELPROBlockIOCureX : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOCureX() : CQELPROBlockIOBase(qel::cure_x::kSection) {}
-};
+using CQELPROBlockIOCureX = qel::SectionBlock<qel::cure_x::kInfo>;

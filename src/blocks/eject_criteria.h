@@ -16,7 +16,8 @@ inline constexpr Key<Integer> kTotalSensorNode{"TotalSensorNode",
 inline constexpr Key<Integer> kSensorNode{"SensorNode-%d",
                                           {"EjectCriteria_ReadSensorNode"},
                                           {"EjectCriteria_WriteSensorNode"},
-                                          "the mesh node of a sensor"};
+                                          "the mesh node of a sensor",
+                                          {.number = {"sensor", "the sensor"}}};
 inline constexpr Key<Integer> kTotalCriteriaNode{"TotalCriteriaNode",
                                                  {"EjectCriteria_ReadTotalCriteriaNode"},
                                                  {"EjectCriteria_WriteTotalCriteriaNode"},
@@ -27,7 +28,7 @@ inline constexpr Key<IntegerAndReal> kCriteriaNode{
     {"EjectCriteria_ReadCriteriaNode"},
     {"EjectCriteria_WriteCriteriaNode"},
     "the mesh node of a criterion, and the criterion's value",
-    {.older = {"GetCriteriaNodeSetting"}}};
+    {.number = {"criterion", "the criterion"}, .older = {"GetCriteriaNodeSetting"}}};
 
 // Only the older object serves this one.
 inline constexpr Key<IntegerAndReal> kSensorNodeOlder{
@@ -40,12 +41,9 @@ inline constexpr Key<IntegerAndReal> kSensorNodeOlder{
 inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode,
                                            &kCriteriaNode, &kSensorNodeOlder};
 
-inline constexpr SectionInfo kInfo{kSection, "the sensor and criteria nodes that decide ejection",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "EjectCriteria",
+                                   "the sensor and criteria nodes that decide ejection", kKeys};
 
 }  // namespace qel::eject_criteria
 
-class CQELPROBlockIOEjectCriteria : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOEjectCriteria() : CQELPROBlockIOBase(qel::eject_criteria::kSection) {}
-};
+using CQELPROBlockIOEjectCriteria = qel::SectionBlock<qel::eject_criteria::kInfo>;

@@ -4,6 +4,7 @@
 #include <string>
 #include <tuple>
 
+#include "blocks/argument.h"
 #include "blocks/fields.h"
 
 /// How the text of an entry becomes typed values and the reverse. Each encoding is one pair of
@@ -14,27 +15,21 @@
 ///   says that it clears its outputs;
 /// - `print` gives the text to store.
 ///
-/// `Values` are the types that `scan` sets. `kLimit` is the size of the text buffer that the format
-/// allows, terminator included; a longer text is not stored.
+/// `Values` are the types that `scan` sets, and `kArguments` how members name them; `Written` and
+/// `kWrittenArguments` are those of `print` where they differ. `kReading` and `kWriting` say in
+/// sentences what a caller of such a member should know. `kLimit` is the size of the text buffer
+/// that the format allows, terminator included; a longer text is not stored.
 namespace qel {
 
 inline constexpr std::size_t kScalarLimit = 4096;
 inline constexpr std::size_t kCompoundLimit = 256;
-
-/// Scans into all outputs together: they keep their values where there is no memory for a name
-/// among them.
-template <class Encoding, class... Values>
-void scan_together(char* text, Values&... values) {
-  std::tuple<Values...> scanned(values...);
-  std::apply([text](Values&... each) { Encoding::scan(text, each...); }, scanned);
-  std::tie(values...) = scanned;
-}
 
 /// "%d"
 struct Integer {
   static constexpr const char* kName = "integer";
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<int>;
+  static constexpr Argument kArguments[] = {{"value", "the value"}};
   static void scan(const char* text, int& value) { fields::scan(text, value); }
   static std::string print(int value) { return fields::print_one(value); }
 };
@@ -44,6 +39,7 @@ struct Real {
   static constexpr const char* kName = "real";
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<double>;
+  static constexpr Argument kArguments[] = {{"value", "the value"}};
   static void scan(const char* text, double& value) { fields::scan(text, value); }
   static std::string print(double value) { return fields::print_one(value); }
 };
@@ -53,6 +49,7 @@ struct Text {
   static constexpr const char* kName = "text";
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<char*>;
+  static constexpr Argument kArguments[] = {{"text", "the text"}};
   static void scan(char* text, char*& value) { value = text; }
   static std::string print(const char* value) { return value; }
 };
@@ -62,6 +59,9 @@ struct IntegerPair {
   static constexpr const char* kName = "integer pair";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, int>;
+  static constexpr Argument kArguments[] = {{"first", "the first code"},
+                                            {"second", "the second code"}};
+  static constexpr const char* kReading = "What the text lacks is 0.";
   static void scan(const char* text, int& first, int& second) {
     fields::clear(first, second);
     fields::scan(text, first, second);
@@ -73,6 +73,7 @@ struct FirstOfIntegerPair {
   static constexpr const char* kName = "integer pair, first kept";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int>;
+  static constexpr Argument kArguments[] = {{"value", "the value"}};
   static void scan(const char* text, int& first) {
     int dropped = 0;
     IntegerPair::scan(text, first, dropped);
@@ -84,6 +85,7 @@ struct RealPair {
   static constexpr const char* kName = "real pair";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double>;
+  static constexpr Argument kArguments[] = {{"x", "x"}, {"y", "y"}};
   static void scan(const char* text, double& x, double& y) { fields::scan(text, x, y); }
   static std::string print(double x, double y) { return fields::print("\t", x, y); }
 };
@@ -93,6 +95,7 @@ struct RealTriple {
   static constexpr const char* kName = "real triple";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double>;
+  static constexpr Argument kArguments[] = {{"x", "x"}, {"y", "y"}, {"z", "z"}};
   static void scan(const char* text, double& x, double& y, double& z) {
     fields::scan(text, x, y, z);
   }

@@ -35,15 +35,13 @@ inline constexpr Key<Text> kRemark{"Remark",
 
 inline constexpr const KeyInfo* kKeys[] = {&kName, &kType, &kDate, &kCreateBy, &kRemark};
 
-inline constexpr SectionInfo kInfo{kSection, "what the file is, who wrote it and when", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "FileHeader",
+                                   "what the file is, who wrote it and when", kKeys};
 
 }  // namespace qel::file_header
 
-class CQELPROBlockIOFileHeader : public CQELPROBlockIOBase {
+class CQELPROBlockIOFileHeader : public qel::SectionBlock<qel::file_header::kInfo> {
  public:
-  CQELPROBlockIOFileHeader() : CQELPROBlockIOBase(qel::file_header::kSection) {}
-
   /// Stamps the local date and time.
   int WriteDate();
 };

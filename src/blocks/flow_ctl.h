@@ -82,35 +82,35 @@ inline constexpr Key<Integer> kCureTempCtrl{"CureTempCtrl",
                                             {"FlowCTL_ReadCureTempCtrl"},
                                             {},
                                             "a code: what controls the temperature of curing"};
-inline constexpr Key<Integer> kCureEnterType{"CureEnterType",
-                                             {"FlowCTL_ReadCureEnterType"},
-                                             {"FlowCTL_WriteCureEnterType"},
-                                             "a code: what makes curing begin",
-                                             {.loader = "set_process_CureEnterType"}};
-inline constexpr Key<Real> kCureEnterSwch{"CureEnterSwch",
-                                          {"FlowCTL_ReadCureEnterSwitch"},
-                                          {"FlowCTL_WriteCureEnterSwitch"},
-                                          "the switch value at which curing begins",
-                                          {.loader = "set_process_CureEnterSwch"}};
-inline constexpr Key<Real> kCureEnterTime{"CureEnterTime",
-                                          {"FlowCTL_ReadCureEnterTime"},
-                                          {"FlowCTL_WriteCureEnterTime"},
-                                          "the time at which curing begins, in sec",
-                                          {.loader = "set_process_CureEnterTime"}};
+inline constexpr Key<Integer> kCureEnterType{
+    "CureEnterType",
+    {"FlowCTL_ReadCureEnterType"},
+    {"FlowCTL_WriteCureEnterType"},
+    "a code: what makes curing begin",
+    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterType"}};
+inline constexpr Key<Real> kCureEnterSwch{
+    "CureEnterSwch",
+    {"FlowCTL_ReadCureEnterSwitch"},
+    {"FlowCTL_WriteCureEnterSwitch"},
+    "the switch value at which curing begins",
+    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterSwch"}};
+inline constexpr Key<Real> kCureEnterTime{
+    "CureEnterTime",
+    {"FlowCTL_ReadCureEnterTime"},
+    {"FlowCTL_WriteCureEnterTime"},
+    "the time at which curing begins, in sec",
+    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterTime"}};
 
 inline constexpr const KeyInfo* kKeys[] = {
     &kFlowCtrl,      &kVPSwitchCtrl,  &kPackingCtrl,   &kMoldTemperature,   &kMeltTemperature,
     &kInjectionTime, &kVolumeFilled,  &kRamPosition,   &kInjectionPressure, &kCureSwitch,
     &kCureTempCtrl,  &kCureEnterType, &kCureEnterSwch, &kCureEnterTime};
 
-inline constexpr SectionInfo kInfo{kSection,
+inline constexpr SectionInfo kInfo{kSection, "FlowCTL",
                                    "what controls filling, packing, the switch-over from velocity "
                                    "to pressure control (V/P) and the begin of curing",
-                                   kKeys, std::size(kKeys)};
+                                   kKeys};
 
 }  // namespace qel::flow_ctl
 
-class CQELPROBlockIOFlowCTL : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOFlowCTL() : CQELPROBlockIOBase(qel::flow_ctl::kSection) {}
-};
+using CQELPROBlockIOFlowCTL = qel::SectionBlock<qel::flow_ctl::kInfo>;

@@ -16,7 +16,8 @@ inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
     "FlowCTL-%d",
     {"FlowCTLInfo_ReadFlowCTL"},
     {},
-    "two control codes of an inlet, the second its control type"};
+    "two control codes of an inlet, the second its control type",
+    {.number = {"inlet", "the inlet"}}};
 
 // Only the loader takes these.
 inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{
@@ -30,11 +31,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet,
                                            &kFlowCTLOfInletBracketed};
 
 inline constexpr SectionInfo kInfo{
-    kSection, "how many melt inlets the run has, and what controls each", kKeys, std::size(kKeys)};
+    kSection, "FlowCTLInfo", "how many melt inlets the run has, and what controls each", kKeys};
 
 }  // namespace qel::flow_ctl_info
 
-class CQELPROBlockIOFlowCTLInfo : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOFlowCTLInfo() : CQELPROBlockIOBase(qel::flow_ctl_info::kSection) {}
-};
+using CQELPROBlockIOFlowCTLInfo = qel::SectionBlock<qel::flow_ctl_info::kInfo>;

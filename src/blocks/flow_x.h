@@ -77,7 +77,9 @@ inline constexpr Key<Real> kInitConv{
     {"FlowX_ReadInitConv", "FlowX_ReadInitConversion"},
     {"FlowX_WriteInitConversion"},
     "how far the resin's curing reaction has gone (its conversion) at the start of filling",
-    {.older = {"GetInitialConversion", "SetInitialConversion"}, .loader = "set_process_InitConv"}};
+    {.reading = "`FlowX_ReadInitConv` and `FlowX_ReadInitConversion` are the same.",
+     .older = {"GetInitialConversion", "SetInitialConversion"},
+     .loader = "set_process_InitConv"}};
 inline constexpr Key<Real> kMaxFR{"MaxFR",
                                   {"FlowX_ReadMaxFR"},
                                   {},
@@ -316,12 +318,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kFluidDelayTime,  &kTimeConstFR,    &kTimeConstIP,    &kTimeConstPP,
     &kEndConv};
 
-inline constexpr SectionInfo kInfo{kSection, "the filling stage of an inlet", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "FlowX", "the filling stage of an inlet", kKeys, {"inlet", "the inlet"}};
 
 }  // namespace qel::flow_x
 
-class CQELPROBlockIOFlowX : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOFlowX() : CQELPROBlockIOBase(qel::flow_x::kSection) {}
-};
+using CQELPROBlockIOFlowX = qel::SectionBlock<qel::flow_x::kInfo>;

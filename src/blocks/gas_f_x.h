@@ -51,51 +51,62 @@ inline constexpr Key<Integer> kGPProfileType{
     {"GasFX_WriteGPProfileType"},
     "a code: in which form the gas pressure profile was entered",
     {.older = {"GetGasGPProfileType"}}};
-inline constexpr Key<Integer> kGRSet{"GRSet",
-                                     {"GasFX_ReadGRSection", "GasFX_ReadUserGRSection"},
-                                     {"GasFX_WriteGRSection"},
-                                     "the number of points of the gas flow rate profile",
-                                     {.older = {"GetGasFRSection", "SetGasFRSection"}}};
+inline constexpr Key<Integer> kGRSet{
+    "GRSet",
+    {"GasFX_ReadGRSection", "GasFX_ReadUserGRSection"},
+    {"GasFX_WriteGRSection"},
+    "the number of points of the gas flow rate profile",
+    {.reading = "In spite of its name `GasFX_ReadUserGRSection` reads this key, too: what the user "
+                "entered is read with `ReadString`.",
+     .older = {"GetGasFRSection", "SetGasFRSection"}}};
 inline constexpr Key<RealPair> kGRPoint{
     "GR-%d",
     {"GasFX_ReadGRProfile", "GasFX_ReadUserGRProfile"},
     {"GasFX_WriteGRProfile"},
     "a point of the gas flow rate profile: the time in the stage, and the flow rate",
-    {.older = {"GetGasFRProfile", "SetGasFRProfile"}}};
-inline constexpr Key<Integer> kGPSet{"GPSet",
-                                     {"GasFX_ReadGPSection", "GasFX_ReadUserGPSection"},
-                                     {"GasFX_WriteGPSection"},
-                                     "the number of points of the gas pressure profile",
-                                     {.older = {"GetGasGPSection", "SetGasGPSection"}}};
+    {.reading = "In spite of its name `GasFX_ReadUserGRProfile` reads this key, too: what the user "
+                "entered is read with `ReadString`.",
+     .older = {"GetGasFRProfile", "SetGasFRProfile"}}};
+inline constexpr Key<Integer> kGPSet{
+    "GPSet",
+    {"GasFX_ReadGPSection", "GasFX_ReadUserGPSection"},
+    {"GasFX_WriteGPSection"},
+    "the number of points of the gas pressure profile",
+    {.reading = "In spite of its name `GasFX_ReadUserGPSection` reads this key, too: what the user "
+                "entered is read with `ReadString`.",
+     .older = {"GetGasGPSection", "SetGasGPSection"}}};
 inline constexpr Key<RealPair> kGPPoint{
     "GP-%d",
     {"GasFX_ReadGPProfile", "GasFX_ReadUserGPProfile"},
     {"GasFX_WriteGPProfile"},
     "a point of the gas pressure profile: the time in the stage, and the pressure, in MPa",
-    {.older = {"GetGasGPProfile", "SetGasGPProfile"}}};
+    {.reading = "In spite of its name `GasFX_ReadUserGPProfile` reads this key, too: what the user "
+                "entered is read with `ReadString`.",
+     .older = {"GetGasGPProfile", "SetGasGPProfile"}}};
 inline constexpr Key<Integer> kUserGRSet{
     "UserGRSet",
     {},
     {"GasFX_WriteUserGRSection"},
     "the number of points of the gas flow rate profile as the user entered it",
-    {.older = {"GetUserGasFRSection"}}};
+    {.writing = "No member of the reader reads it.", .older = {"GetUserGasFRSection"}}};
 inline constexpr Key<RealPair> kUserGRPoint{
     "UserGR-%d",
     {},
     {"GasFX_WriteUserGRProfile"},
     "a point of the gas flow rate profile as the user entered it: x and y",
-    {.older = {"GetUserGasFRProfile"}}};
+    {.writing = "No member of the reader reads it.", .older = {"GetUserGasFRProfile"}}};
 inline constexpr Key<Integer> kUserGPSet{
     "UserGPSet",
     {},
     {"GasFX_WriteUserGPSection"},
     "the number of points of the gas pressure profile as the user entered it",
-    {.older = {"GetUserGasGPSection"}}};
+    {.writing = "No member of the reader reads it.", .older = {"GetUserGasGPSection"}}};
 inline constexpr Key<RealPair> kUSerGPPoint{"USerGP-%d",
                                             {},
                                             {"GasFX_WriteUserGPProfile"},
                                             "a point of the gas pressure profile as the user "
-                                            "entered it, under a key with a capital S: x and y"};
+                                            "entered it, under a key with a capital S: x and y",
+                                            {.writing = "No member of the reader reads it."}};
 
 // Only the older object serves this one.
 inline constexpr Key<RealPair> kUserGPPointOlder{
@@ -112,12 +123,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kGPSet,         &kGPPoint,         &kUserGRSet,     &kUserGRPoint, &kUserGPSet,
     &kUSerGPPoint,   &kUserGPPointOlder};
 
-inline constexpr SectionInfo kInfo{kSection, "gas-assisted filling at a gas inlet", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "GasFX", "gas-assisted filling at a gas inlet", kKeys, {"inlet", "the inlet"}};
 
 }  // namespace qel::gas_f_x
 
-class CQELPROBlockIOGasFX : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOGasFX() : CQELPROBlockIOBase(qel::gas_f_x::kSection) {}
-};
+using CQELPROBlockIOGasFX = qel::SectionBlock<qel::gas_f_x::kInfo>;

@@ -12,26 +12,25 @@ inline constexpr Key<Integer> kAutoShutOffValveGateEOP{
     {"GateCTL_ReadAutoShutOffValveGateEOP"},
     {},
     "1 where valve gates shut at the end of packing"};
-inline constexpr Key<Real> kST{
-    "ST-%d",
-    {"GateCTL_ReadStartTime"},
-    {"GateCTL_WriteStartTime"},
-    "the start time of a gate, when it opens, in sec",
-    {.older = {"GetValveGateStartTime", "SetValveGateStartTime"}, .adapter = {"SetGateCTL_Time"}}};
-inline constexpr Key<Real> kET{
-    "ET-%d",
-    {"GateCTL_ReadEndTime"},
-    {"GateCTL_WriteEndTime"},
-    "the end time of a gate, when it closes, in sec",
-    {.older = {"GetValveGateEndTime", "SetValveGateEndTime"}, .adapter = {"SetGateCTL_Time"}}};
+inline constexpr Key<Real> kST{"ST-%d",
+                               {"GateCTL_ReadStartTime"},
+                               {"GateCTL_WriteStartTime"},
+                               "the start time of a gate, when it opens, in sec",
+                               {.number = {"gate", "the gate"},
+                                .older = {"GetValveGateStartTime", "SetValveGateStartTime"},
+                                .adapter = {"SetGateCTL_Time"}}};
+inline constexpr Key<Real> kET{"ET-%d",
+                               {"GateCTL_ReadEndTime"},
+                               {"GateCTL_WriteEndTime"},
+                               "the end time of a gate, when it closes, in sec",
+                               {.number = {"gate", "the gate"},
+                                .older = {"GetValveGateEndTime", "SetValveGateEndTime"},
+                                .adapter = {"SetGateCTL_Time"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kAutoShutOffValveGateEOP, &kST, &kET};
 
-inline constexpr SectionInfo kInfo{kSection, "when each gate is open", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "GateCTL", "when each gate is open", kKeys};
 
 }  // namespace qel::gate_ctl
 
-class CQELPROBlockIOGateCTL : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOGateCTL() : CQELPROBlockIOBase(qel::gate_ctl::kSection) {}
-};
+using CQELPROBlockIOGateCTL = qel::SectionBlock<qel::gate_ctl::kInfo>;

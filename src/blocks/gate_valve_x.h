@@ -36,14 +36,13 @@ inline constexpr Key<GatePointShort> kGCPointShort{
 
 inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
 
-inline constexpr SectionInfo kInfo{kSection, "a valve gate", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "GateValveX", "a valve gate", kKeys, {"valve", "the valve"}};
 
 }  // namespace qel::gate_valve_x
 
-class CQELPROBlockIOGateValveX : public CQELPROBlockIOBase {
+class CQELPROBlockIOGateValveX : public qel::SectionBlock<qel::gate_valve_x::kInfo> {
  public:
-  CQELPROBlockIOGateValveX() : CQELPROBlockIOBase(qel::gate_valve_x::kSection) {}
-
   /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the
   /// point's number where it is lower; a valve without "GCSet" has one point. The document's path
   /// is looked at as it stands on disk.

@@ -38,12 +38,9 @@ inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitConversio
                                            &kPelletHeight, &kPreHeatingTime};
 
 inline constexpr SectionInfo kInfo{
-    kSection, "pellet pre-heating and initial conversion of IC package encapsulation", kKeys,
-    std::size(kKeys)};
+    kSection, "ICPackage", "pellet pre-heating and initial conversion of IC package encapsulation",
+    kKeys};
 
 }  // namespace qel::ic_package
 
-class CQELPROBlockIOICPackage : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOICPackage() : CQELPROBlockIOBase(qel::ic_package::kSection) {}
-};
+using CQELPROBlockIOICPackage = qel::SectionBlock<qel::ic_package::kInfo>;

@@ -2,53 +2,106 @@
 
 #include <array>
 #include <cstddef>
-#include <iterator>
+#include <span>
+#include <string_view>
 #include <vector>
 
+#include "blocks/argument.h"
 #include "blocks/field.h"
+#include "blocks/type_name.h"
 
 namespace qel {
 
 /// The names of the members that serve a key; most keys have one, some none, a few several.
 using Members = std::array<const char*, 4>;
 
-/// What else touches a key, beside the members of the reader and the writer.
-struct Elsewhere {
+/// What else there is to say of a key, beside the members of the reader and the writer.
+struct Details {
+  Argument number{"point", "the point"};  ///< Of a numbered key.
+  Argument unused{};                      ///< A number that the members take and nobody looks at.
+  const char* reading = "";               ///< What else a member that reads does, in sentences.
+  const char* writing = "";
   Members older{};    ///< Members of CPROIO_Manipulator.
   Members adapter{};  ///< Members of CQEL_ProcessAdapter.
-  const char* loader =
-      nullptr;  ///< Which function takes the value when CQELProcessData_Manipulator builds a
-                ///< process; null where none does.
+  /// Which function takes the value when CQELProcessData_Manipulator builds a process; null where
+  /// none does.
+  const char* loader = nullptr;
   Members value_reader{};  ///< Members of CQELProcessValueReader.
 };
 
-/// One key of a section as everything but its encoding sees it: the catalogue, the tool and the
-/// documents run from this.
+/// What members and documents need to know of an encoding.
+struct EncodingInfo {
+  std::string_view type;
+  const char* name;
+  std::span<const FieldArgument> read;
+  std::span<const FieldArgument> written;
+  const char* reading;  ///< What a caller of a member that reads should know; or empty.
+  const char* writing;
+  /// The fields of a text as a reading member gives them.
+  std::vector<Field> (*fields)(const char* text, int number);
+};
+
+template <class Encoding>
+constexpr auto written_arguments() {
+  if constexpr (requires { Encoding::kWrittenArguments; }) {
+    return field_arguments<typename Encoding::Written>(Encoding::kWrittenArguments);
+  } else {
+    return field_arguments<typename Encoding::Values>(Encoding::kArguments);
+  }
+}
+
+template <class Encoding>
+constexpr const char* reading_of() {
+  if constexpr (requires { Encoding::kReading; }) {
+    return Encoding::kReading;
+  } else {
+    return "";
+  }
+}
+
+template <class Encoding>
+constexpr const char* writing_of() {
+  if constexpr (requires { Encoding::kWriting; }) {
+    return Encoding::kWriting;
+  } else {
+    return "";
+  }
+}
+
+template <class Encoding>
+struct EncodingRow {
+  static constexpr auto kRead = field_arguments<typename Encoding::Values>(Encoding::kArguments);
+  static constexpr auto kWritten = written_arguments<Encoding>();
+  static constexpr EncodingInfo kInfo{
+      type_name<Encoding>(),  Encoding::kName,     kRead, kWritten, reading_of<Encoding>(),
+      writing_of<Encoding>(), &fields_of<Encoding>};
+};
+
+/// One key of a section as everything but its encoding sees it: the members, the tool and the
+/// documents are made from this.
 struct KeyInfo {
-  const char* text;      ///< As it stands in the file; with "%d" where the point number goes.
-  Members readers;       ///< Members of CQELPROReader_Manipulator.
-  Members writers;       ///< Members of CQELPROWriter_Manipulator.
-  const char* meaning;   ///< What the value is, with its unit where the file states one.
-  const char* encoding;  ///< The encoding's name.
-  std::vector<Field> (*fields)(const char* text,
-                               int number);  ///< The value's fields as a reading member gives them.
-  Elsewhere elsewhere;
+  const char* text;     ///< As it stands in the file; with "%d" where the point number goes.
+  Members readers;      ///< Members of CQELPROReader_Manipulator.
+  Members writers;      ///< Members of CQELPROWriter_Manipulator.
+  const char* meaning;  ///< What the value is, with its unit where the file states one.
+  const EncodingInfo* encoding;
+  Details details;
 };
 
 /// A key with its encoding: the type that scans and prints its values.
 template <class Encoding>
 struct Key : KeyInfo {
-  constexpr Key(const char* key, Members read, Members write, const char* what,
-                Elsewhere others = {})
-      : KeyInfo{key, read, write, what, Encoding::kName, &fields_of<Encoding>, others} {}
+  constexpr Key(const char* key, Members read, Members write, const char* what, Details others = {})
+      : KeyInfo{key, read, write, what, &EncodingRow<Encoding>::kInfo, others} {}
 };
 
 /// One kind of section: its name or pattern, what it holds, and its keys.
 struct SectionInfo {
   const char* name;
+  const char* block;  ///< The class of its block without "CQELPROBlockIO"; null where it has none.
   const char* subject;
-  const KeyInfo* const* keys;
-  std::size_t key_count;
+  std::span<const KeyInfo* const> keys;
+  Argument number{};  ///< What a numbered section is numbered by.
 };
 
 /// The numbers that go into a numbered key and into the name of an indexed section.

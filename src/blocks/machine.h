@@ -339,12 +339,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kMaker,
                                            &kNOZZLEDIAMETER,
                                            &kNOZZLELENGTH};
 
-inline constexpr SectionInfo kInfo{kSection, "the injection molding machine", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "Machine", "the injection molding machine", kKeys};
 
 }  // namespace qel::machine
 
-class CQELPROBlockIOMachine : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMachine() : CQELPROBlockIOBase(qel::machine::kSection) {}
-};
+using CQELPROBlockIOMachine = qel::SectionBlock<qel::machine::kInfo>;

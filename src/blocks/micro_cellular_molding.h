@@ -67,12 +67,9 @@ inline constexpr const KeyInfo* kKeys[] = {&kFoamDurationTime,
                                            &kRamPosition,
                                            &kPartWeight};
 
-inline constexpr SectionInfo kInfo{kSection, "foaming and gas dosage", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MicroCellularMolding", "foaming and gas dosage",
+                                   kKeys};
 
 }  // namespace qel::micro_cellular_molding
 
-class CQELPROBlockIOMicroCellularMolding : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMicroCellularMolding()
-      : CQELPROBlockIOBase(qel::micro_cellular_molding::kSection) {}
-};
+using CQELPROBlockIOMicroCellularMolding = qel::SectionBlock<qel::micro_cellular_molding::kInfo>;

@@ -17,23 +17,22 @@ inline constexpr Key<MoldInsertLine> kMoldInsert{
     "MoldInsert-%d",
     {"MoldInsertInitialTemperature_ReadMoldInsert"},
     {"MoldInsertInitialTemperature_WriteMoldInsert"},
-    "a mold insert: its identifier, its name, its initial temperature, in oC"};
+    "a mold insert: its identifier, its name, its initial temperature, in oC",
+    {.number = {"insert", "the insert"}}};
 inline constexpr Key<MoldInsertLineOfFour> kMoldInsertOfFour{
     "MoldInsert-%d",
     {"MoldInsertInitialTemperature_ReadMoldInsert"},
     {},
     "a mold insert: its identifier, its name, which may hold blanks, its initial temperature, in "
-    "oC, and an integer"};
+    "oC, and an integer",
+    {.number = {"insert", "the insert"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalMoldInsert, &kMoldInsert, &kMoldInsertOfFour};
 
-inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each mold insert", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MoldInsertInitialTemperature",
+                                   "the initial temperature of each mold insert", kKeys};
 
 }  // namespace qel::mold_insert_initial_temperature
 
-class CQELPROBlockIOMoldInsertInitialTemperature : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldInsertInitialTemperature()
-      : CQELPROBlockIOBase(qel::mold_insert_initial_temperature::kSection) {}
-};
+using CQELPROBlockIOMoldInsertInitialTemperature =
+    qel::SectionBlock<qel::mold_insert_initial_temperature::kInfo>;

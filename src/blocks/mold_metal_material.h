@@ -13,16 +13,13 @@ inline constexpr Key<MoldMetalLine> kMaterial{
     {"MoldMetalMaterial_ReadMaterial"},
     {"MoldMetalMaterial_WriteMaterial"},
     "a mold metal: three thermal values, its name, which may hold blanks, three mechanical values",
-    {.older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
+    {.number = {"row", "the row"}, .older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
 
-inline constexpr SectionInfo kInfo{kSection, "the mold metals, one material line each", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MoldMetalMaterial",
+                                   "the mold metals, one material line each", kKeys};
 
 }  // namespace qel::mold_metal_material
 
-class CQELPROBlockIOMoldMetalMaterial : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldMetalMaterial() : CQELPROBlockIOBase(qel::mold_metal_material::kSection) {}
-};
+using CQELPROBlockIOMoldMetalMaterial = qel::SectionBlock<qel::mold_metal_material::kInfo>;

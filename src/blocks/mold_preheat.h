@@ -42,11 +42,8 @@ inline constexpr const KeyInfo* kKeys[] = {&kMoldPreHeatType, &kMoldPreHeatTime,
                                            &kMoldPreHeatTemperature, &kMaxMoldPreHeatTime,
                                            &kControlType};
 
-inline constexpr SectionInfo kInfo{kSection, "preheating of the mold", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MoldPreHeat", "preheating of the mold", kKeys};
 
 }  // namespace qel::mold_preheat
 
-class CQELPROBlockIOMoldPreHeat : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldPreHeat() : CQELPROBlockIOBase(qel::mold_preheat::kSection) {}
-};
+using CQELPROBlockIOMoldPreHeat = qel::SectionBlock<qel::mold_preheat::kInfo>;

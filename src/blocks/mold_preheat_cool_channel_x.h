@@ -1,6 +1,7 @@
 #pragma once
 
-#include "blocks/cool_channel_x.h"
+#include "blocks/block.h"
+#include "blocks/compound_encoding.h"
 
 /// [MPreheat_CoolChannel-%d]: a channel that preheats the mold.
 namespace qel::mold_preheat_cool_channel_x {
@@ -43,14 +44,13 @@ inline constexpr Key<ControlPoint> kPressureControlPoint{
 inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint,
                                            &kPressureControlPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "a channel that preheats the mold", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection,
+                                   "MoldPreHeatCoolChannelX",
+                                   "a channel that preheats the mold",
+                                   kKeys,
+                                   {"channel", "the channel"}};
 
 }  // namespace qel::mold_preheat_cool_channel_x
 
-class CQELPROBlockIOMoldPreHeatCoolChannelX : public CQELPROBlockIOCoolChannelX {
- public:
-  CQELPROBlockIOMoldPreHeatCoolChannelX() {
-    SetSectionName(qel::mold_preheat_cool_channel_x::kSection);
-  }
-};
+using CQELPROBlockIOMoldPreHeatCoolChannelX =
+    qel::SectionBlock<qel::mold_preheat_cool_channel_x::kInfo>;

@@ -15,7 +15,7 @@ int CQELPROBlockIOMoldTemperatureBCX::ReadBC(int& first, char*& name, int& secon
   char* text = nullptr;
   const int result = document()->GetValue(this->name(), "", text, line);
   if (result == to_int(Result::done)) {
-    qel::scan_together<qel::PositionalHeader>(text, first, name, second);
+    qel::scan_together<qel::PositionalHeader>(text, line, first, name, second);
   }
   return result;
 }

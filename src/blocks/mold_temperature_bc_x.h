@@ -33,8 +33,11 @@ inline constexpr Key<RealPair> kBCPoint{
 
 inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "a mold temperature boundary condition", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection,
+                                   "MoldTemperatureBCX",
+                                   "a mold temperature boundary condition",
+                                   kKeys,
+                                   {"bc", "the condition"}};
 
 inline constexpr Key<PositionalHeader> kHeaderLine{
     "header line",
@@ -52,9 +55,8 @@ inline constexpr Key<PositionalSetting> kSettingLine{
 inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
 
 inline constexpr SectionInfo kPositionalInfo{
-    "[SURFACE ELEMENT BOUNDARY CONDITION NAME]",
-    "mold temperature boundary conditions, in lines addressed by position", kLines,
-    std::size(kLines)};
+    "[SURFACE ELEMENT BOUNDARY CONDITION NAME]", nullptr,
+    "mold temperature boundary conditions, in lines addressed by position", kLines};
 
 }  // namespace qel::mold_temperature_bc_x
 
@@ -64,6 +66,8 @@ inline constexpr SectionInfo kPositionalInfo{
 /// Callers do their positional work first, or in a session of its own.
 class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
  public:
+  static constexpr const qel::SectionInfo& kInfo = qel::mold_temperature_bc_x::kInfo;
+
   CQELPROBlockIOMoldTemperatureBCX()
       : CQELPROBlockIOBase(qel::mold_temperature_bc_x::kPositionalSection) {}
 

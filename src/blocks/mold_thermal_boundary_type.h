@@ -51,13 +51,10 @@ inline constexpr Key<Real> kNuNum{
 inline constexpr const KeyInfo* kKeys[] = {&kType,          &kFlow,     &kPack, &kDetached_HTC,
                                            &kHotRunner_HTC, &kUserMode, &kNuNum};
 
-inline constexpr SectionInfo kInfo{kSection, "the heat transfer between melt and mold", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MoldThermalBoundaryType",
+                                   "the heat transfer between melt and mold", kKeys};
 
 }  // namespace qel::mold_thermal_boundary_type
 
-class CQELPROBlockIOMoldThermalBoundaryType : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldThermalBoundaryType()
-      : CQELPROBlockIOBase(qel::mold_thermal_boundary_type::kSection) {}
-};
+using CQELPROBlockIOMoldThermalBoundaryType =
+    qel::SectionBlock<qel::mold_thermal_boundary_type::kInfo>;

@@ -13,16 +13,13 @@ inline constexpr Key<MoldbaseLine> kMoldbase{
     {"Moldbase_ReadMoldbase"},
     {"Moldbase_WriteMoldbase"},
     "a mold base: three thermal values, its name, which may hold blanks, three mechanical values",
-    {.older = {"GetMoldbase", "SetMoldbase"}}};
+    {.number = {"row", "the row"}, .older = {"GetMoldbase", "SetMoldbase"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 
-inline constexpr SectionInfo kInfo{kSection, "the mold bases, one material line each", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "Moldbase", "the mold bases, one material line each",
+                                   kKeys};
 
 }  // namespace qel::moldbase
 
-class CQELPROBlockIOMoldbase : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldbase() : CQELPROBlockIOBase(qel::moldbase::kSection) {}
-};
+using CQELPROBlockIOMoldbase = qel::SectionBlock<qel::moldbase::kInfo>;

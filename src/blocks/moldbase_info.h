@@ -12,16 +12,14 @@ inline constexpr Key<IntegerAndQuotedName> kMoldbase{
     "MB-%d",
     {"MoldbaseInfo_ReadMoldbaseInfo"},
     {"MoldbaseInfo_WriteMoldbaseInfo"},
-    "a mold base: an integer and its name, which stands in double quotes"};
+    "a mold base: an integer and its name, which stands in double quotes",
+    {.number = {"moldbase", "the mold base"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
 
-inline constexpr SectionInfo kInfo{kSection, "numbered mold bases with their names", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "MoldbaseInfo", "numbered mold bases with their names",
+                                   kKeys};
 
 }  // namespace qel::moldbase_info
 
-class CQELPROBlockIOMoldbaseInfo : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOMoldbaseInfo() : CQELPROBlockIOBase(qel::moldbase_info::kSection) {}
-};
+using CQELPROBlockIOMoldbaseInfo = qel::SectionBlock<qel::moldbase_info::kInfo>;

@@ -14,6 +14,15 @@ struct CoolantLine {
   static constexpr const char* kName = "coolant (four reals, integer, word, real, integer)";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double, double, int, char*, double, int>;
+  static constexpr Argument kArguments[] = {
+      {"p1", "the four properties"},    {"p2", "the four properties"},
+      {"p3", "the four properties"},    {"p4", "the four properties"},
+      {"system", "the coolant system"}, {"name", "the name"},
+      {"f7", "the diameter"},           {"f8", "the channel group"}};
+  static constexpr const char* kReading = "What the text lacks is 0, the name null.";
+  static constexpr const char* kWriting =
+      "The name is written as it is given. One that is empty or holds a blank is stored, though "
+      "the reader then yields one word, and wrong fields behind it.";
   static void scan(const char* text, double& p1, double& p2, double& p3, double& p4, int& system,
                    char*& name, double& f7, int& f8);
   static std::string print(double p1, double p2, double p3, double p4, int system, const char* name,
@@ -31,6 +40,14 @@ struct CoolantLine {
 struct MaterialLine {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double, char*, double, double, double>;
+  static constexpr Argument kArguments[] = {
+      {"f1", "three reals"}, {"f2", "three reals"}, {"f3", "three reals"}, {"name", "the name"},
+      {"f5", "three reals"}, {"f6", "three reals"}, {"f7", "three reals"}};
+  static constexpr const char* kReading =
+      "A line of fewer than eight words has a name of one word. What the text lacks is 0.";
+  static constexpr const char* kWriting =
+      "The name is written as it is given. An empty one is stored, though the reader then takes a "
+      "number for it.";
   static std::string print(double f1, double f2, double f3, const char* name, double f5, double f6,
                            double f7) {
     return fields::print("\t", f1, f2, f3, name, f5, f6, f7);
@@ -53,6 +70,10 @@ struct IntegerAndQuotedName {
   static constexpr const char* kName = "integer and name in double quotes";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*>;
+  static constexpr Argument kArguments[] = {{"number", "the integer"}, {"name", "the name"}};
+  static constexpr const char* kReading =
+      "The name is all between the first and the last double quote. What the text lacks is 0.";
+  static constexpr const char* kWriting = "The name is put in double quotes.";
   static void scan(const char* text, int& number, char*& name);
   static std::string print(int number, const char* name) {
     return fields::print_one(number) + "\t\"" + name + "\"";
@@ -65,6 +86,17 @@ struct IntegerAndQuotedName {
 struct InsertLine {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, double>;
+  static constexpr Argument kArguments[] = {
+      {"id", "the identifier"}, {"name", "the name"}, {"temperature", "the temperature"}};
+  static constexpr const char* kReading =
+      "Of a name with blanks it hands out the first word, and the temperature is 0. A name that is "
+      "empty between two tabs is an empty text. What the text lacks is 0.";
+  static constexpr const char* kWriting =
+      "The name is written whole, blanks and all, and may be empty. The reader's form of four "
+      "outputs gives its words back, one blank between them, where the temperature without its "
+      "fraction is above `insert`; otherwise it takes the temperature for the fourth field, and "
+      "the name's last word for the temperature. The other form gives the first word back, and of "
+      "a name with blanks no temperature. An empty name reads back empty.";
   static std::string print(int id, const char* name, double temperature) {
     return fields::print("\t", id, name, temperature);
   }
@@ -91,6 +123,15 @@ struct MoldInsertLine : InsertLine {
 struct InsertLineOfFour {
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, double, int>;
+  static constexpr Argument kArguments[] = {{"id", "the identifier"},
+                                            {"name", "the name"},
+                                            {"temperature", "the temperature"},
+                                            {"fourth", "the fourth field"}};
+  static constexpr const char* kReading =
+      "Four pieces between tabs are the four fields, whatever is empty; three of which the second "
+      "is empty and the third a number leave out the fourth, which is `insert` then. Otherwise a "
+      "last word that is an integer not above `insert` is the fourth field, and one above it the "
+      "temperature; the fourth is `insert` then. What the text lacks is 0.";
 };
 struct PartInsertLineOfFour : InsertLineOfFour {
   static constexpr const char* kName = "part insert (integer, name, real, integer)";
@@ -109,6 +150,7 @@ struct ContactAngle {
   static constexpr const char* kName = "name in double quotes and angle";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<std::string, double>;
+  static constexpr Argument kArguments[] = {{"name", "the name"}, {"angle", "the angle"}};
   static bool scan(const char* text, std::string& name, double& angle);
   static std::string print(const char* name, double angle) {
     return std::string("\"") + name + "\"\t" + fields::print_one(angle);

@@ -26,6 +26,6 @@ inline constexpr Key<Real> kTimePack{"TimePack",
 
 inline constexpr const KeyInfo* kKeys[] = {&kTimeStep, &kTimeFill, &kTimePack};
 
-inline constexpr SectionInfo kInfo{kSection, "when results are put out", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, nullptr, "when results are put out", kKeys};
 
 }  // namespace qel::output

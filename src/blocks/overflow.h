@@ -27,11 +27,9 @@ inline constexpr Key<GatePointShort> kGCPointShort{
 
 inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
 
-inline constexpr SectionInfo kInfo{kSection, "the valve of an overflow", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "Overflow", "the valve of an overflow", kKeys, {"overflow", "the overflow"}};
 
 }  // namespace qel::overflow
 
-class CQELPROBlockIOOverflow : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOOverflow() : CQELPROBlockIOBase(qel::overflow::kSection) {}
-};
+using CQELPROBlockIOOverflow = qel::SectionBlock<qel::overflow::kInfo>;

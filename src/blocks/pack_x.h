@@ -120,12 +120,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kUserPPPoint,   &kMaxPressSlop,     &kShutoff,  &kMaterialType,     &kFluidPres,
     &kFluidMaxFR,    &kFluidProfileType, &kFluidSet, &kFluidPoint};
 
-inline constexpr SectionInfo kInfo{kSection, "the packing stage of an inlet", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "PackX", "the packing stage of an inlet", kKeys, {"inlet", "the inlet"}};
 
 }  // namespace qel::pack_x
 
-class CQELPROBlockIOPackX : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOPackX() : CQELPROBlockIOBase(qel::pack_x::kSection) {}
-};
+using CQELPROBlockIOPackX = qel::SectionBlock<qel::pack_x::kInfo>;

@@ -16,20 +16,19 @@ inline constexpr Key<ContactAngle> kGroup{
     "%d",
     {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
     {"PartInsertContactAngle_WriteGroup"},
-    "a group of part inserts: its name in double quotes, and its contact angle"};
+    "a group of part inserts: its name in double quotes, and its contact angle",
+    {.number = {"group", "the group"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
 
-inline constexpr SectionInfo kInfo{kSection, "the contact angle of each part insert group", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "PartInsertContactAngle",
+                                   "the contact angle of each part insert group", kKeys};
 
 }  // namespace qel::part_insert_contact_angle
 
-class CQELPROBlockIOPartInsertContactAngle : public CQELPROBlockIOBase {
+class CQELPROBlockIOPartInsertContactAngle
+    : public qel::SectionBlock<qel::part_insert_contact_angle::kInfo> {
  public:
-  CQELPROBlockIOPartInsertContactAngle()
-      : CQELPROBlockIOBase(qel::part_insert_contact_angle::kSection) {}
-
   /// Fails for a line without two double quotes.
   int ReadAngle(int group, double& angle);
   /// The first group whose name is exactly this one, among the groups that "GroupCount" says there

@@ -19,23 +19,21 @@ inline constexpr Key<PartInsertLine> kPartInsert{
     {"PartInsertInitialTemperature_ReadPartInsert"},
     {"PartInsertInitialTemperature_WritePartInsert"},
     "a part insert: its identifier, its name, its initial temperature, in oC",
-    {.older = {"GetPartInsertSetting"}}};
+    {.number = {"insert", "the insert"}, .older = {"GetPartInsertSetting"}}};
 inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
     "PartInsert-%d",
     {"PartInsertInitialTemperature_ReadPartInsert"},
     {},
     "a part insert: its identifier, its name, which may hold blanks, its initial temperature, in "
-    "oC, and an integer"};
+    "oC, and an integer",
+    {.number = {"insert", "the insert"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
 
-inline constexpr SectionInfo kInfo{kSection, "the initial temperature of each part insert", kKeys,
-                                   std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "PartInsertInitialTemperature",
+                                   "the initial temperature of each part insert", kKeys};
 
 }  // namespace qel::part_insert_initial_temperature
 
-class CQELPROBlockIOPartInsertInitialTemperature : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOPartInsertInitialTemperature()
-      : CQELPROBlockIOBase(qel::part_insert_initial_temperature::kSection) {}
-};
+using CQELPROBlockIOPartInsertInitialTemperature =
+    qel::SectionBlock<qel::part_insert_initial_temperature::kInfo>;

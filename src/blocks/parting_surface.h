@@ -50,11 +50,8 @@ inline constexpr Key<IntegerAndThreeReals> kCoreMoldBase{
 inline constexpr const KeyInfo* kKeys[] = {&kCavityPart,   &kCavityMoldbase, &kCorePart,
                                            &kCoreMoldbase, &kCavityMoldBase, &kCoreMoldBase};
 
-inline constexpr SectionInfo kInfo{kSection, "the cavity and core sides", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "PartingSurface", "the cavity and core sides", kKeys};
 
 }  // namespace qel::parting_surface
 
-class CQELPROBlockIOPartingSurface : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOPartingSurface() : CQELPROBlockIOBase(qel::parting_surface::kSection) {}
-};
+using CQELPROBlockIOPartingSurface = qel::SectionBlock<qel::parting_surface::kInfo>;

@@ -12,6 +12,8 @@ struct PositionalHeader {
   static constexpr const char* kName = "line of integer, name, integer";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, char*, int>;
+  static constexpr Argument kArguments[] = {
+      {"first", "the number of settings"}, {"name", "the name"}, {"second", "the integer"}};
   static void scan(const char* text, int& first, char*& name, int& second);
   static std::string print(int first, const char* name, int second) {
     return fields::print("\t", first, name, second);
@@ -24,6 +26,7 @@ struct PositionalSetting {
   static constexpr const char* kName = "line of integer = two reals, the integer dropped";
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double>;
+  static constexpr Argument kArguments[] = {{"a", "the two reals"}, {"b", "the two reals"}};
   static void scan(const char* text, double& a, double& b) {
     int number = 0;
     fields::Separator separator;

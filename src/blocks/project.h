@@ -38,13 +38,9 @@ inline constexpr Key<Real> kClampFaceArea{"ClampFaceArea",
 inline constexpr const KeyInfo* kKeys[] = {&kMesh,   &kMaterial,   &kMeshID,
                                            &kCavVol, &kCushionVol, &kClampFaceArea};
 
-inline constexpr SectionInfo kInfo{kSection,
-                                   "the mesh and material files and the volumes of the project",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "Project", "the mesh and material files and the volumes of the project", kKeys};
 
 }  // namespace qel::project
 
-class CQELPROBlockIOProject : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOProject() : CQELPROBlockIOBase(qel::project::kSection) {}
-};
+using CQELPROBlockIOProject = qel::SectionBlock<qel::project::kInfo>;

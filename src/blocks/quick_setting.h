@@ -83,7 +83,7 @@ inline constexpr const KeyInfo* kKeys[] = {&kScrewDirection, &kProfileType,    &
                                            &kPi_Setting,     &kPp_Section,     &kPp_Setting};
 
 inline constexpr SectionInfo kInfo{
-    kSection, "the quick setting: profiles of flow rate, injection pressure and packing pressure",
-    kKeys, std::size(kKeys)};
+    kSection, nullptr,
+    "the quick setting: profiles of flow rate, injection pressure and packing pressure", kKeys};
 
 }  // namespace qel::quick_setting

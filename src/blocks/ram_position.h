@@ -45,7 +45,8 @@ inline constexpr Key<Real> kRP_FRSingle{"RP_FR-%d",
                                         {"RamPosition_ReadRamFRProfile"},
                                         {"RamPosition_WriteRamFRProfile"},
                                         "the ram position of a flow rate point alone",
-                                        {.loader = "GetFlowRateRamPosition_mod"}};
+                                        {.writing = "It becomes the whole value of the point.",
+                                         .loader = "GetFlowRateRamPosition_mod"}};
 inline constexpr Key<Integer> kRP_IPSet{"RP_IPSet",
                                         {"RamPosition_ReadRamIPSection"},
                                         {"RamPosition_WriteRamIPSection"},
@@ -62,20 +63,18 @@ inline constexpr Key<Real> kRP_IPSingle{"RP_IP-%d",
                                         {"RamPosition_ReadRamIPProfile"},
                                         {"RamPosition_WriteRamIPProfile"},
                                         "the ram position of an injection pressure point alone",
-                                        {.loader = "GetInjectionPressureRamPosition_mod"}};
+                                        {.writing = "It becomes the whole value of the point.",
+                                         .loader = "GetInjectionPressureRamPosition_mod"}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kRamDir,     &kIsVPswitch, &kVPswitchRam, &kSuckBack,
                                            &kRP_FRSet,   &kRP_FRPoint, &kRP_FRSingle, &kRP_IPSet,
                                            &kRP_IPPoint, &kRP_IPSingle};
 
-inline constexpr SectionInfo kInfo{kSection,
+inline constexpr SectionInfo kInfo{kSection, "RamPosition",
                                    "profiles over the stroke of the ram, and the switch-over from "
                                    "velocity to pressure control (V/P) by ram position",
-                                   kKeys, std::size(kKeys)};
+                                   kKeys};
 
 }  // namespace qel::ram_position
 
-class CQELPROBlockIORamPosition : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIORamPosition() : CQELPROBlockIOBase(qel::ram_position::kSection) {}
-};
+using CQELPROBlockIORamPosition = qel::SectionBlock<qel::ram_position::kInfo>;

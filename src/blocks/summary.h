@@ -134,13 +134,9 @@ inline constexpr const KeyInfo* kKeys[] = {
     &kTotalNodeMMM,   &kSymVolRatio,    &kTotalNodeHR, &kIsTransientInletConv, &kTotalOverFlowCTL,
     &kTotalSTLNodeEC, &kTotalSTLNodeHR, &kTotalGrpCCL, &kTotalGrpCCS,          &kNoOutput};
 
-inline constexpr SectionInfo kInfo{kSection,
-                                   "counts of the model, by which the other sections are numbered",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "Summary", "counts of the model, by which the other sections are numbered", kKeys};
 
 }  // namespace qel::summary
 
-class CQELPROBlockIOSummary : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOSummary() : CQELPROBlockIOBase(qel::summary::kSection) {}
-};
+using CQELPROBlockIOSummary = qel::SectionBlock<qel::summary::kInfo>;

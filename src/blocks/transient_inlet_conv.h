@@ -37,14 +37,11 @@ inline constexpr Key<Real> kPreHeatTime{"PreHeatTime",
 inline constexpr const KeyInfo* kKeys[] = {&kInitConversionType, &kInitPelletConv, &kPelletDiameter,
                                            &kPelletHeight, &kPreHeatTime};
 
-inline constexpr SectionInfo kInfo{kSection,
+inline constexpr SectionInfo kInfo{kSection, "TransientInletConv",
                                    "pellet pre-heating and initial conversion, where the "
                                    "conversion at the inlet changes with time",
-                                   kKeys, std::size(kKeys)};
+                                   kKeys};
 
 }  // namespace qel::transient_inlet_conv
 
-class CQELPROBlockIOTransientInletConv : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOTransientInletConv() : CQELPROBlockIOBase(qel::transient_inlet_conv::kSection) {}
-};
+using CQELPROBlockIOTransientInletConv = qel::SectionBlock<qel::transient_inlet_conv::kInfo>;

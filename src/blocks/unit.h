@@ -47,16 +47,13 @@ inline constexpr Key<Text> kVolum{
 inline constexpr const KeyInfo* kKeys[] = {&kTime, &kTemp, &kPres,   &kFR,
                                            &kIP,   &kPP,   &kVolume, &kVolum};
 
-inline constexpr SectionInfo kInfo{kSection,
-                                   "the units in which the file's values are given; they are fixed",
-                                   kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{
+    kSection, "Unit", "the units in which the file's values are given; they are fixed", kKeys};
 
 }  // namespace qel::unit
 
-class CQELPROBlockIOUnit : public CQELPROBlockIOBase {
+class CQELPROBlockIOUnit : public qel::SectionBlock<qel::unit::kInfo> {
  public:
-  CQELPROBlockIOUnit() : CQELPROBlockIOBase(qel::unit::kSection) {}
-
   /// How many entries the writer gives the section, and the writing of one of them, in their order
   /// from 0.
   static constexpr std::size_t kUnits = 7;

@@ -18,15 +18,12 @@ inline constexpr Key<FourRealsAndInteger> kCoolant{
     {"VarCoolCTL_ReadCoolant"},
     {"VarCoolCTL_WriteCoolant"},
     "an entry of variable cooling: four reals and an integer",
-    {.older = {"GetCoolant", "SetCoolant"}}};
+    {.number = {"entry", "the entry"}, .older = {"GetCoolant", "SetCoolant"}}};
 
 inline constexpr const KeyInfo* kKeys[] = {&kCoolantNo, &kCoolant};
 
-inline constexpr SectionInfo kInfo{kSection, "variable cooling", kKeys, std::size(kKeys)};
+inline constexpr SectionInfo kInfo{kSection, "VarCoolCTL", "variable cooling", kKeys};
 
 }  // namespace qel::var_cool_ctl
 
-class CQELPROBlockIOVarCoolCTL : public CQELPROBlockIOBase {
- public:
-  CQELPROBlockIOVarCoolCTL() : CQELPROBlockIOBase(qel::var_cool_ctl::kSection) {}
-};
+using CQELPROBlockIOVarCoolCTL = qel::SectionBlock<qel::var_cool_ctl::kInfo>;

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <string>
 
-#include "core/session.h"
+#include "api/session.h"
 #include "support/line_break.h"
 #include "support/scratch.h"
 

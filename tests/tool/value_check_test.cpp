@@ -20,8 +20,8 @@ std::string unread(const char* section, const char* key, const std::string& text
 
 TEST(ValueCheck, KnowsEveryEncodingOfTheCatalogue) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
-    for (std::size_t key = 0; key < section->key_count; ++key) {
-      EXPECT_TRUE(is_checked(section->keys[key]->encoding)) << section->keys[key]->encoding;
+    for (const qel::KeyInfo* key : section->keys) {
+      EXPECT_TRUE(is_checked(key->encoding->name)) << key->encoding->name;
     }
   }
 }

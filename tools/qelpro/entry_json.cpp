@@ -28,9 +28,9 @@ Json typed_entry(const std::string& key, const TextLine& line, const std::string
   std::string note = limit_of(line);
   if (known != nullptr) {
     entry["meaning"] = known->meaning;
-    entry["encoding"] = known->encoding;
+    entry["encoding"] = known->encoding->name;
     Json values = Json::array();
-    for (const qel::Field& field : known->fields(text.c_str(), reading.number)) {
+    for (const qel::Field& field : known->encoding->fields(text.c_str(), reading.number)) {
       values.push_back(field_of(field));
     }
     entry["values"] = std::move(values);

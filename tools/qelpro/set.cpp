@@ -36,7 +36,7 @@ void check_encoding(const std::string& section, const std::string& key, const st
       reading_of(qel::find_section(section.c_str(), number), key, qel::text::index_value(value));
   if (reading.unread) {
     throw Failure(kUsage, "\"" + value + "\" would not be read back whole: " + *reading.unread +
-                              " (it is read as: " + reading.key->encoding +
+                              " (it is read as: " + reading.key->encoding->name +
                               "); --force stores it nevertheless");
   }
 }

@@ -319,7 +319,7 @@ bool is_checked(std::string_view encoding) {
 }
 
 std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number) {
-  const std::string_view encoding = key.encoding;
+  const std::string_view encoding = key.encoding->name;
   if (is_material(encoding)) {
     return material(text);
   }
@@ -350,7 +350,7 @@ Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::s
   }
   reading.unread = unread_part(*reading.key, text, reading.number);
   const std::string_view pattern = reading.key->text;
-  for (std::size_t index = 0; reading.unread && index < section->key_count; ++index) {
+  for (std::size_t index = 0; reading.unread && index < section->keys.size(); ++index) {
     const qel::KeyInfo& other = *section->keys[index];
     if (pattern == other.text && !unread_part(other, text, reading.number)) {
       reading.key = &other;

@@ -33,7 +33,7 @@ std::string contents(const std::string& path) {
 }
 
 std::vector<const qel::KeyInfo*> keys_of(const qel::SectionInfo& section) {
-  return {section.keys, section.keys + section.key_count};
+  return {section.keys.begin(), section.keys.end()};
 }
 
 // A cell of a table ends at "|".
@@ -73,7 +73,7 @@ std::string together(std::initializer_list<std::string> parts) {
 // The adapter's members that read begin with "Get".
 std::string with_adapter(const qel::Members& own, const qel::KeyInfo& key, bool reading) {
   qel::Members adapter{};
-  std::copy_if(key.elsewhere.adapter.begin(), key.elsewhere.adapter.end(), adapter.begin(),
+  std::copy_if(key.details.adapter.begin(), key.details.adapter.end(), adapter.begin(),
                [reading](const char* name) {
                  return name != nullptr &&
                         (std::string_view(name).substr(0, 3) == "Get") == reading;
@@ -82,7 +82,7 @@ std::string with_adapter(const qel::Members& own, const qel::KeyInfo& key, bool 
 }
 
 std::string loader(const qel::KeyInfo& key) {
-  return key.elsewhere.loader != nullptr ? code(key.elsewhere.loader) : "";
+  return key.details.loader != nullptr ? code(key.details.loader) : "";
 }
 
 void print_sections(std::ostream& to) {
@@ -92,12 +92,12 @@ void print_sections(std::ostream& to) {
        << "\n\n| key | value | encoding | read by | written by | older object | loader "
           "|\n|---|---|---|---|---|---|---|\n";
     for (const qel::KeyInfo* key : keys_of(*section)) {
-      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding
+      to << "| " << code(key->text) << " | " << cell(key->meaning) << " | " << key->encoding->name
          << " | "
          << together({with_adapter(key->readers, *key, true),
-                      members(key->elsewhere.value_reader, "CQELProcessValueReader::")})
-         << " | " << with_adapter(key->writers, *key, false) << " | "
-         << members(key->elsewhere.older) << " | " << loader(*key) << " |\n";
+                      members(key->details.value_reader, "CQELProcessValueReader::")})
+         << " | " << with_adapter(key->writers, *key, false) << " | " << members(key->details.older)
+         << " | " << loader(*key) << " |\n";
     }
   }
 }
@@ -113,16 +113,16 @@ void print_encodings(std::ostream& to) {
   }
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     for (const qel::KeyInfo* key : keys_of(*section)) {
-      if (!told.contains(key->encoding)) {
+      if (!told.contains(key->encoding->name)) {
         throw std::runtime_error(std::string("nothing is told about the encoding ") +
-                                 key->encoding);
+                                 key->encoding->name);
       }
     }
   }
 }
 
 bool is_point(const qel::KeyInfo& key) {
-  return key.encoding == std::string_view(qel::RealPair::kName);
+  return key.encoding->name == std::string_view(qel::RealPair::kName);
 }
 
 // The key that counts the points: its text stands before that of the points.
@@ -156,15 +156,15 @@ void print_shared(std::ostream& to) {
     for (const qel::SectionInfo* section : qel::Catalogue()) {
       for (const qel::KeyInfo* key :
            section->name == stage ? keys_of(*section) : std::vector<const qel::KeyInfo*>{}) {
-        if (key->elsewhere.loader == nullptr ||
-            std::string_view(key->elsewhere.loader).substr(0, 4) != "set_") {
+        if (key->details.loader == nullptr ||
+            std::string_view(key->details.loader).substr(0, 4) != "set_") {
           continue;
         }
-        std::string& listed = keys[key->elsewhere.loader];
+        std::string& listed = keys[key->details.loader];
         listed +=
             (listed.empty() ? "" : ", then ") + code(key->text) + " of " + code(section->name);
-        if (++counts[key->elsewhere.loader] == 2) {
-          order.emplace_back(key->elsewhere.loader);
+        if (++counts[key->details.loader] == 2) {
+          order.emplace_back(key->details.loader);
         }
       }
     }
@@ -181,7 +181,7 @@ void print_older_alone(std::ostream& to) {
     std::set<std::string_view> others;
     for (const qel::KeyInfo* key : keys_of(*section)) {
       if (key->readers.front() != nullptr || key->writers.front() != nullptr ||
-          key->elsewhere.loader != nullptr) {
+          key->details.loader != nullptr) {
         others.insert(key->text);
       }
     }

@@ -1,4 +1,4 @@
-#include "core/session.h"
+#include "api/session.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +20,8 @@ TEST(Session, HoldsOneBlockOfEachKindInTheirOrder) {
   CQELPROReader session;
   const auto blocks = session.Blocks();
   ASSERT_EQ(blocks.size(), 38U);
-  EXPECT_EQ(blocks.front(), &session.file_header);
-  EXPECT_EQ(blocks.back(), &session.co_injection_flow_x);
+  EXPECT_EQ(blocks.front(), &session.block<CQELPROBlockIOFileHeader>());
+  EXPECT_EQ(blocks.back(), &session.block<CQELPROBlockIOCoInjectionFlowX>());
   for (std::size_t i = 1; i < blocks.size(); ++i) {
     EXPECT_TRUE(std::less<>()(blocks[i - 1], blocks[i])) << "block " << i;
   }
@@ -53,7 +53,7 @@ TEST(Session, IsNotAttachedToNothing) {
   CQELPROReader session;
   EXPECT_FALSE(session.AttachDocument(nullptr));
   char* text = nullptr;
-  EXPECT_EQ(session.unit.Read(kProbe, {}, text), -1);
+  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), -1);
 }
 
 TEST(Session, KeepsItsAttachmentWhenItIsGivenNothing) {
@@ -64,7 +64,7 @@ TEST(Session, KeepsItsAttachmentWhenItIsGivenNothing) {
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   EXPECT_FALSE(session.AttachDocument(nullptr));
   char* text = nullptr;
-  EXPECT_EQ(session.unit.Read(kProbe, {}, text), 1);
+  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), 1);
 }
 
 TEST(Session, GivesEachBlockASectionOfItsOwn) {
@@ -75,7 +75,7 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   int number = 0;
   for (CQELPROBlockIOBase* block : session.Blocks()) {
-    if (block == &session.mold_temperature_bc_x) {
+    if (block == &session.block<CQELPROBlockIOMoldTemperatureBCX>()) {
       continue;  // a name that reads as no header is never appended
     }
     EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()), 1)
@@ -83,7 +83,7 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
   }
   number = 0;
   for (CQELPROBlockIOBase* block : session.Blocks()) {
-    if (block == &session.mold_temperature_bc_x) {
+    if (block == &session.block<CQELPROBlockIOMoldTemperatureBCX>()) {
       continue;
     }
     char* text = nullptr;
@@ -100,7 +100,7 @@ TEST(Session, FindsThePositionalSectionByTheFirstTokenOfItsHeader) {
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   char* text = nullptr;
-  ASSERT_EQ(session.mold_temperature_bc_x.Read(kProbe, {}, text), 1);
+  ASSERT_EQ(session.block<CQELPROBlockIOMoldTemperatureBCX>().Read(kProbe, {}, text), 1);
   EXPECT_STREQ(text, "found");
 }
 
@@ -118,7 +118,7 @@ TEST(Session, HoldsNoFileOpenBetweenStores) {
   CQELPROWriter session;
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
-  ASSERT_EQ(session.unit.Write(kProbe, {}, "1"), 1);
+  ASSERT_EQ(session.block<CQELPROBlockIOUnit>().Write(kProbe, {}, "1"), 1);
   EXPECT_EQ(bytes_of(path), native("\n[Unit]\nProbe                = 1\n"))
       << "complete after each write";
   std::FILE* stream = nullptr;

@@ -4,7 +4,7 @@
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
-#include "core/session.h"
+#include "api/session.h"
 
 /// What every exported section member does: hand its arguments to the session's block of that
 /// section.
@@ -33,19 +33,24 @@ bool attempt(Work work) noexcept {
   }
 }
 
+/// Whether the work of a session's block was done.
+template <class Block, class Work>
+bool done_by(Session* session, Work work) {
+  return session != nullptr && attempt([&] { return is_done(work(session->block<Block>())); });
+}
+
 template <class Block, class Encoding, class... Values>
-bool read(Session* session, Block Session::*block, const Key<Encoding>& key, Place place,
-          Values&... values) {
-  return session != nullptr &&
-         attempt([&] { return is_done((session->*block).Read(key, place, values...)); });
+bool read(Session* session, const char* key, Place place, Values&... values) {
+  return done_by<Block>(
+      session, [&](Block& block) { return block.template Read<Encoding>(key, place, values...); });
 }
 
 /// A null text is never written.
 template <class Block, class Encoding, class... Values>
-bool write(Session* session, Block Session::*block, const Key<Encoding>& key, Place place,
-           Values... values) {
-  return session != nullptr && !(is_null(values) || ...) &&
-         attempt([&] { return is_done((session->*block).Write(key, place, values...)); });
+bool write(Session* session, const char* key, Place place, Values... values) {
+  return !(is_null(values) || ...) && done_by<Block>(session, [&](Block& block) {
+    return block.template Write<Encoding>(key, place, values...);
+  });
 }
 
 }  // namespace qel

@@ -1,0 +1,201 @@
+#include "api/members.h"
+#include "platform/number.h"
+
+// The section members that do more than hand one key to their block. All others are made from the
+// rows of src/blocks.
+
+using namespace qel;
+
+// [FileHeader]
+
+bool CQELPROWriter_Manipulator::FileHeader_WriteDate(char* text) {
+  return write<CQELPROBlockIOFileHeader, Text>(session_, file_header::kDate.text, {}, text);
+}
+
+bool CQELPROWriter_Manipulator::FileHeader_WriteDate() {
+  return done_by<CQELPROBlockIOFileHeader>(session_,
+                                           [&](auto& block) { return block.WriteDate(); });
+}
+
+// [Unit]
+
+void CQELPROWriter_Manipulator::WriteUnitBlock() {
+  // Every entry is written, whatever becomes of those before it.
+  for (std::size_t number = 0; number < CQELPROBlockIOUnit::kUnits; ++number) {
+    done_by<CQELPROBlockIOUnit>(session_, [&](auto& block) { return block.WriteUnit(number); });
+  }
+}
+
+// The control points of the channels: which of a channel's two lists holds them stands elsewhere.
+
+namespace {
+
+const char* control_point(int control) {
+  using namespace cool_channel_x;
+  return control == kControlByPressure ? kPressureControlPoint.text : kFlowControlPoint.text;
+}
+
+}  // namespace
+
+bool CQELPROReader_Manipulator::CoolChannelX_ReadControlPointSetting(double& f1, int& system,
+                                                                     double& temperature,
+                                                                     double& flow, int& f5,
+                                                                     int point, int channel) {
+  int control = 0;
+  Cool_ReadControlType(control);
+  return read<CQELPROBlockIOCoolChannelX, ControlPoint>(session_, control_point(control),
+                                                        at_point(point, channel), f1, system,
+                                                        temperature, flow, f5);
+}
+
+bool CQELPROReader_Manipulator::MoldPreheat_CoolChannelX_ReadControlPointSetting(
+    double& f1, int& system, double& temperature, double& flow, int& f5, int point, int channel) {
+  int control = 0;
+  Cool_ReadMoldPreheat_ControlType(control);
+  return read<CQELPROBlockIOMoldPreHeatCoolChannelX, ControlPoint>(session_, control_point(control),
+                                                                   at_point(point, channel), f1,
+                                                                   system, temperature, flow, f5);
+}
+
+// [GateValve-%d]
+
+bool CQELPROWriter_Manipulator::GateValveX_WriteGateSetting(double value, int number, int mode,
+                                                            int point, int valve) {
+  return done_by<CQELPROBlockIOGateValveX>(session_, [&](auto& block) {
+    return block.WriteGateSetting(GatePointShort::print(value, number, mode), point, valve);
+  });
+}
+
+bool CQELPROWriter_Manipulator::GateValveX_WriteGateSetting(double value, int number, int mode,
+                                                            int last, int point, int valve) {
+  return done_by<CQELPROBlockIOGateValveX>(session_, [&](auto& block) {
+    return block.WriteGateSetting(GatePoint::print(value, number, mode, last), point, valve);
+  });
+}
+
+bool CQELPROWriter_Manipulator::GateValveX_WriteGateSettingByValveGateID(double value, int number,
+                                                                         int mode, int point,
+                                                                         int id) {
+  return done_by<CQELPROBlockIOGateValveX>(session_, [&](auto& block) {
+    return block.WriteGateSettingByValveGateID(GatePointShort::print(value, number, mode), point,
+                                               id);
+  });
+}
+
+bool CQELPROWriter_Manipulator::GateValveX_WriteGateSettingByValveGateID(double value, int number,
+                                                                         int mode, int last,
+                                                                         int point, int id) {
+  return done_by<CQELPROBlockIOGateValveX>(session_, [&](auto& block) {
+    return block.WriteGateSettingByValveGateID(GatePoint::print(value, number, mode, last), point,
+                                               id);
+  });
+}
+
+// [AdvancedSetting]
+
+bool CQELPROReader_Manipulator::AdvancedSetting_ReadCycleTime(double& value) {
+  char* text = nullptr;
+  if (!ReadString(advanced_setting::kSection, advanced_setting::kCycleTime.text, text, nullptr,
+                  0)) {
+    return false;
+  }
+  value = platform::to_real(text);
+  return true;
+}
+
+// [PartInsertContactAngle]
+
+bool CQELPROReader_Manipulator::PartInsertContactAngle_ReadAngle(int group, double& angle) {
+  return done_by<CQELPROBlockIOPartInsertContactAngle>(
+      session_, [&](auto& block) { return block.ReadAngle(group, angle); });
+}
+
+bool CQELPROReader_Manipulator::PartInsertContactAngle_ReadAngle(const char* name, double& angle) {
+  return name != nullptr &&
+         done_by<CQELPROBlockIOPartInsertContactAngle>(
+             session_, [&](auto& block) { return block.ReadAngle(name, angle); });
+}
+
+bool CQELPROWriter_Manipulator::PartInsertContactAngle_WriteGroup(int group, const char* name,
+                                                                  double angle) {
+  return write<CQELPROBlockIOPartInsertContactAngle, ContactAngle>(
+      session_, part_insert_contact_angle::kGroup.text, at_point(group), name, angle);
+}
+
+// [MoldTemperatureBC-%d] and the positional section
+
+namespace {
+
+template <class Encoding, class... Values>
+bool read_numbered(Session* session, const Key<Encoding>& key, Place place, Values&... values) {
+  return done_by<CQELPROBlockIOMoldTemperatureBCX>(
+      session, [&](auto& block) { return block.ReadNumbered(key, place, values...); });
+}
+
+template <class Encoding, class... Values>
+bool write_numbered(Session* session, const Key<Encoding>& key, Place place, Values... values) {
+  return !(is_null(values) || ...) &&
+         done_by<CQELPROBlockIOMoldTemperatureBCX>(
+             session, [&](auto& block) { return block.WriteNumbered(key, place, values...); });
+}
+
+}  // namespace
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadName(char*& text, int bc) {
+  return read_numbered(session_, mold_temperature_bc_x::kBCName, in_section(bc), text);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadDisplayType(int& value, int bc) {
+  return read_numbered(session_, mold_temperature_bc_x::kBCDisplayType, in_section(bc), value);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadNodeCount(int& value, int bc) {
+  return read_numbered(session_, mold_temperature_bc_x::kBCNodeCount, in_section(bc), value);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBCProfile(double& x, double& y, int point,
+                                                                 int bc) {
+  return read_numbered(session_, mold_temperature_bc_x::kBCPoint, at_point(point, bc), x, y);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBC(int& first, char*& name, int& second,
+                                                          int line) {
+  return done_by<CQELPROBlockIOMoldTemperatureBCX>(
+      session_, [&](auto& block) { return block.ReadBC(first, name, second, line); });
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBCSetting(double& a, double& b, int setting,
+                                                                 int bc, int offset) {
+  return done_by<CQELPROBlockIOMoldTemperatureBCX>(
+      session_, [&](auto& block) { return block.ReadBCSetting(a, b, setting, bc, offset); });
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteName(char* text, int bc) {
+  return write_numbered(session_, mold_temperature_bc_x::kBCName, in_section(bc), text);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteDisplayType(int value, int bc) {
+  return write_numbered(session_, mold_temperature_bc_x::kBCDisplayType, in_section(bc), value);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteNodeCount(int value, int bc) {
+  return write_numbered(session_, mold_temperature_bc_x::kBCNodeCount, in_section(bc), value);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBCProfile(double x, double y, int point,
+                                                                  int bc) {
+  return write_numbered(session_, mold_temperature_bc_x::kBCPoint, at_point(point, bc), x, y);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBC(int first, char* name, int second,
+                                                           int line) {
+  return name != nullptr && done_by<CQELPROBlockIOMoldTemperatureBCX>(session_, [&](auto& block) {
+           return block.WriteBC(first, name, second, line);
+         });
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBCSetting(double a, double b, int setting,
+                                                                  int bc, int offset) {
+  return done_by<CQELPROBlockIOMoldTemperatureBCX>(
+      session_, [&](auto& block) { return block.WriteBCSetting(a, b, setting, bc, offset); });
+}
