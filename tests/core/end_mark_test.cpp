@@ -39,9 +39,9 @@ TEST_F(EndMark, IsNoPartOfAHeaderThatEndsTheFile) {
 
 TEST_F(EndMark, IsLookedForBehindANulToo) {
   using namespace std::string_literals;
-  write("[A]\x1A\0b\x1A"s);  // the line's text ends at the NUL, the file behind it
+  write("[B]\n[A]\x1A\0b\x1A"s);  // the line's text ends at the NUL, the file behind it
   EXPECT_EQ(document.SetValue("[A]", "y", "2", kByKey), kDone);
-  EXPECT_EQ(bytes_of(path), "[A]\x1A\0b\n[A]\ny                    = 2\n"s);
+  EXPECT_EQ(bytes_of(path), "[B]\n[A]\x1A\0b\n[A]\ny                    = 2\n"s);
   read(bytes_of(path));
   EXPECT_EQ(look(document, "[A]", "y"), "2");
 }

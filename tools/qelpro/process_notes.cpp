@@ -148,8 +148,8 @@ class Diagnosis {
                                     std::string_view value) {
     int number = 0;
     const Reading reading = reading_of(qel::find_section(section.c_str(), number), key, value);
-    if (reading.unread ||
-        (reading.key != nullptr && std::string_view(reading.key->encoding->name) != qel::Real::kName)) {
+    if (reading.unread || (reading.key != nullptr &&
+                           std::string_view(reading.key->encoding->name) != qel::Real::kName)) {
       return reading.unread;
     }
     if constexpr (std::is_same_v<Setter, unsigned int>) {
