@@ -746,6 +746,30 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   bool MoldMetalMaterial_ReadMaterial(
       double& f1, double& f2, double& f3, char*& name, double& f5, double& f6, double& f7, int row);
 
+  // [MoldTemperatureBC-%d]: a mold temperature boundary condition.
+
+  /// [MoldTemperatureBC-%d] "BCName": the name of the boundary condition. From now on this reader
+  /// finds no positional line (`MoldTemperatureBCX_ReadBC`, `MoldTemperatureBCX_ReadBCSetting`):
+  /// read those first, or through a reader of their own. Arguments: the text, the condition. The
+  /// text is valid until the thread's next read. False, the text untouched: not in the file.
+  bool MoldTemperatureBCX_ReadName(char*& text, int bc);
+  /// [MoldTemperatureBC-%d] "BCDisplayType": a code: how a front end shows the boundary condition.
+  /// From now on this reader finds no positional line (`MoldTemperatureBCX_ReadBC`,
+  /// `MoldTemperatureBCX_ReadBCSetting`): read those first, or through a reader of their own.
+  /// Arguments: the value, the condition. False, the value untouched: not in the file.
+  bool MoldTemperatureBCX_ReadDisplayType(int& value, int bc);
+  /// [MoldTemperatureBC-%d] "BCNodeCount": the number of mesh nodes of the boundary condition. From
+  /// now on this reader finds no positional line (`MoldTemperatureBCX_ReadBC`,
+  /// `MoldTemperatureBCX_ReadBCSetting`): read those first, or through a reader of their own.
+  /// Arguments: the value, the condition. False, the value untouched: not in the file.
+  bool MoldTemperatureBCX_ReadNodeCount(int& value, int bc);
+  /// [MoldTemperatureBC-%d] "BC-%d": a point of the boundary condition's profile: the time, and the
+  /// temperature, in oC. From now on this reader finds no positional line
+  /// (`MoldTemperatureBCX_ReadBC`, `MoldTemperatureBCX_ReadBCSetting`): read those first, or
+  /// through a reader of their own. Arguments: x, y, the point, the condition. False, outputs
+  /// untouched: not in the file.
+  bool MoldTemperatureBCX_ReadBCProfile(double& x, double& y, int point, int bc);
+
   // [GasF-%d]: gas-assisted filling at a gas inlet.
 
   /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False,
@@ -1144,31 +1168,6 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// says; a group that is missing, or has no quoted name, ends the search. Arguments: the name,
   /// the angle. False, the angle untouched: not in the file.
   bool PartInsertContactAngle_ReadAngle(const char* name, double& angle);
-
-  // [MoldTemperatureBC-%d]: a mold temperature boundary condition. These members rename the block
-  // for the rest of the session: do positional reads (below) first, or through a reader of their
-  // own.
-
-  /// [MoldTemperatureBC-%d] "BCName": the name of the boundary condition. From now on this reader
-  /// finds no positional line (`MoldTemperatureBCX_ReadBC`, `MoldTemperatureBCX_ReadBCSetting`).
-  /// Arguments: the text, the condition. The text is valid until the thread's next read. False, the
-  /// text untouched: not in the file.
-  bool MoldTemperatureBCX_ReadName(char*& text, int bc);
-  /// [MoldTemperatureBC-%d] "BCDisplayType": a code: how a front end shows the boundary condition.
-  /// From now on this reader finds no positional line (`MoldTemperatureBCX_ReadBC`,
-  /// `MoldTemperatureBCX_ReadBCSetting`). Arguments: the value, the condition. False, the value
-  /// untouched: not in the file.
-  bool MoldTemperatureBCX_ReadDisplayType(int& value, int bc);
-  /// [MoldTemperatureBC-%d] "BCNodeCount": the number of mesh nodes of the boundary condition. From
-  /// now on this reader finds no positional line (`MoldTemperatureBCX_ReadBC`,
-  /// `MoldTemperatureBCX_ReadBCSetting`). Arguments: the value, the condition. False, the value
-  /// untouched: not in the file.
-  bool MoldTemperatureBCX_ReadNodeCount(int& value, int bc);
-  /// [MoldTemperatureBC-%d] "BC-%d": a point of the boundary condition's profile: the time, and the
-  /// temperature, in oC. From now on this reader finds no positional line
-  /// (`MoldTemperatureBCX_ReadBC`, `MoldTemperatureBCX_ReadBCSetting`). Arguments: x, y, the point,
-  /// the condition. False, outputs untouched: not in the file.
-  bool MoldTemperatureBCX_ReadBCProfile(double& x, double& y, int point, int bc);
 
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1: first one
   // header line for each boundary condition, then the setting lines of all of them, one condition

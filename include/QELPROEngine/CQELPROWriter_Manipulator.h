@@ -771,6 +771,37 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
     return MoldMetalMaterial_WriteMaterial(f1, f2, f3, const_cast<char*>(name), f5, f6, f7, row);
   }
 
+  // [MoldTemperatureBC-%d]: a mold temperature boundary condition.
+
+  /// [MoldTemperatureBC-%d] "BCName": the name of the boundary condition. From now on this writer
+  /// begins a new section for positional lines (`MoldTemperatureBCX_WriteBC`,
+  /// `MoldTemperatureBCX_WriteBCSetting`): write those first, or through a writer of their own.
+  /// Arguments: the text, the condition. False: not stored, the file unchanged.
+  bool MoldTemperatureBCX_WriteName(char* text, int bc);
+  /// [MoldTemperatureBC-%d] "BCName", from a text that is constant, such as a literal: the same
+  /// member.
+  template <class Char>
+  qel::IfConstant<Char> MoldTemperatureBCX_WriteName(Char* text, int bc) {
+    return MoldTemperatureBCX_WriteName(const_cast<char*>(text), bc);
+  }
+  /// [MoldTemperatureBC-%d] "BCDisplayType": a code: how a front end shows the boundary condition.
+  /// From now on this writer begins a new section for positional lines
+  /// (`MoldTemperatureBCX_WriteBC`, `MoldTemperatureBCX_WriteBCSetting`): write those first, or
+  /// through a writer of their own. Arguments: the value, the condition. False: not stored, the
+  /// file unchanged.
+  bool MoldTemperatureBCX_WriteDisplayType(int value, int bc);
+  /// [MoldTemperatureBC-%d] "BCNodeCount": the number of mesh nodes of the boundary condition. From
+  /// now on this writer begins a new section for positional lines (`MoldTemperatureBCX_WriteBC`,
+  /// `MoldTemperatureBCX_WriteBCSetting`): write those first, or through a writer of their own.
+  /// Arguments: the value, the condition. False: not stored, the file unchanged.
+  bool MoldTemperatureBCX_WriteNodeCount(int value, int bc);
+  /// [MoldTemperatureBC-%d] "BC-%d": a point of the boundary condition's profile: the time, and the
+  /// temperature, in oC. From now on this writer begins a new section for positional lines
+  /// (`MoldTemperatureBCX_WriteBC`, `MoldTemperatureBCX_WriteBCSetting`): write those first, or
+  /// through a writer of their own. Arguments: x, y, the point, the condition. False: not stored,
+  /// the file unchanged.
+  bool MoldTemperatureBCX_WriteBCProfile(double x, double y, int point, int bc);
+
   // [GasF-%d]: gas-assisted filling at a gas inlet.
 
   /// [GasF-%d] "GasTime": how long gas is injected, in sec. Arguments: the value, the inlet. False:
@@ -1112,37 +1143,6 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// holds a double quote cannot be read back. Arguments: the group, the name, the angle. False:
   /// not stored, the file unchanged.
   bool PartInsertContactAngle_WriteGroup(int group, const char* name, double angle);
-
-  // [MoldTemperatureBC-%d]: a mold temperature boundary condition. These members rename the block
-  // for the rest of the session: do positional writes (below) first, or through a writer of their
-  // own.
-
-  /// [MoldTemperatureBC-%d] "BCName": the name of the boundary condition. From now on this writer
-  /// begins a new section for positional lines (`MoldTemperatureBCX_WriteBC`,
-  /// `MoldTemperatureBCX_WriteBCSetting`). Arguments: the text, the condition. False: not stored,
-  /// the file unchanged.
-  bool MoldTemperatureBCX_WriteName(char* text, int bc);
-  /// [MoldTemperatureBC-%d] "BCName", from a text that is constant, such as a literal: the same
-  /// member.
-  template <class Char>
-  qel::IfConstant<Char> MoldTemperatureBCX_WriteName(Char* text, int bc) {
-    return MoldTemperatureBCX_WriteName(const_cast<char*>(text), bc);
-  }
-  /// [MoldTemperatureBC-%d] "BCDisplayType": a code: how a front end shows the boundary condition.
-  /// From now on this writer begins a new section for positional lines
-  /// (`MoldTemperatureBCX_WriteBC`, `MoldTemperatureBCX_WriteBCSetting`). Arguments: the value, the
-  /// condition. False: not stored, the file unchanged.
-  bool MoldTemperatureBCX_WriteDisplayType(int value, int bc);
-  /// [MoldTemperatureBC-%d] "BCNodeCount": the number of mesh nodes of the boundary condition. From
-  /// now on this writer begins a new section for positional lines (`MoldTemperatureBCX_WriteBC`,
-  /// `MoldTemperatureBCX_WriteBCSetting`). Arguments: the value, the condition. False: not stored,
-  /// the file unchanged.
-  bool MoldTemperatureBCX_WriteNodeCount(int value, int bc);
-  /// [MoldTemperatureBC-%d] "BC-%d": a point of the boundary condition's profile: the time, and the
-  /// temperature, in oC. From now on this writer begins a new section for positional lines
-  /// (`MoldTemperatureBCX_WriteBC`, `MoldTemperatureBCX_WriteBCSetting`). Arguments: x, y, the
-  /// point, the condition. False: not stored, the file unchanged.
-  bool MoldTemperatureBCX_WriteBCProfile(double x, double y, int point, int bc);
 
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1; see the reader.
 

@@ -9,7 +9,8 @@ using namespace qel;
 // [FileHeader]
 
 bool CQELPROWriter_Manipulator::FileHeader_WriteDate(char* text) {
-  return write<CQELPROBlockIOFileHeader, Text>(session_, file_header::kDate.text, {}, text);
+  return write<CQELPROBlockIOFileHeader, Text>(session_, key_of(file_header::kKeys, "Date"), {},
+                                               text);
 }
 
 bool CQELPROWriter_Manipulator::FileHeader_WriteDate() {
@@ -31,8 +32,8 @@ void CQELPROWriter_Manipulator::WriteUnitBlock() {
 namespace {
 
 const char* control_point(int control) {
-  using namespace cool_channel_x;
-  return control == kControlByPressure ? kPressureControlPoint.text : kFlowControlPoint.text;
+  return control == cool_channel_x::kControlByPressure ? key_of(cool_channel_x::kKeys, "TCPP-%d")
+                                                       : key_of(cool_channel_x::kKeys, "TCP-%d");
 }
 
 }  // namespace
@@ -95,8 +96,8 @@ bool CQELPROWriter_Manipulator::GateValveX_WriteGateSettingByValveGateID(double 
 
 bool CQELPROReader_Manipulator::AdvancedSetting_ReadCycleTime(double& value) {
   char* text = nullptr;
-  if (!ReadString(advanced_setting::kSection, advanced_setting::kCycleTime.text, text, nullptr,
-                  0)) {
+  if (!ReadString(advanced_setting::kSection, key_of(advanced_setting::kKeys, "CycleTime"), text,
+                  nullptr, 0)) {
     return false;
   }
   value = platform::to_real(text);
@@ -119,44 +120,10 @@ bool CQELPROReader_Manipulator::PartInsertContactAngle_ReadAngle(const char* nam
 bool CQELPROWriter_Manipulator::PartInsertContactAngle_WriteGroup(int group, const char* name,
                                                                   double angle) {
   return write<CQELPROBlockIOPartInsertContactAngle, ContactAngle>(
-      session_, part_insert_contact_angle::kGroup.text, at_point(group), name, angle);
+      session_, key_of(part_insert_contact_angle::kKeys, "%d"), at_point(group), name, angle);
 }
 
-// [MoldTemperatureBC-%d] and the positional section
-
-namespace {
-
-template <class Encoding, class... Values>
-bool read_numbered(Session* session, const Key<Encoding>& key, Place place, Values&... values) {
-  return done_by<CQELPROBlockIOMoldTemperatureBCX>(
-      session, [&](auto& block) { return block.ReadNumbered(key, place, values...); });
-}
-
-template <class Encoding, class... Values>
-bool write_numbered(Session* session, const Key<Encoding>& key, Place place, Values... values) {
-  return !(is_null(values) || ...) &&
-         done_by<CQELPROBlockIOMoldTemperatureBCX>(
-             session, [&](auto& block) { return block.WriteNumbered(key, place, values...); });
-}
-
-}  // namespace
-
-bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadName(char*& text, int bc) {
-  return read_numbered(session_, mold_temperature_bc_x::kBCName, in_section(bc), text);
-}
-
-bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadDisplayType(int& value, int bc) {
-  return read_numbered(session_, mold_temperature_bc_x::kBCDisplayType, in_section(bc), value);
-}
-
-bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadNodeCount(int& value, int bc) {
-  return read_numbered(session_, mold_temperature_bc_x::kBCNodeCount, in_section(bc), value);
-}
-
-bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBCProfile(double& x, double& y, int point,
-                                                                 int bc) {
-  return read_numbered(session_, mold_temperature_bc_x::kBCPoint, at_point(point, bc), x, y);
-}
+// The positional section
 
 bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBC(int& first, char*& name, int& second,
                                                           int line) {
@@ -168,23 +135,6 @@ bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBCSetting(double& a, doub
                                                                  int bc, int offset) {
   return done_by<CQELPROBlockIOMoldTemperatureBCX>(
       session_, [&](auto& block) { return block.ReadBCSetting(a, b, setting, bc, offset); });
-}
-
-bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteName(char* text, int bc) {
-  return write_numbered(session_, mold_temperature_bc_x::kBCName, in_section(bc), text);
-}
-
-bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteDisplayType(int value, int bc) {
-  return write_numbered(session_, mold_temperature_bc_x::kBCDisplayType, in_section(bc), value);
-}
-
-bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteNodeCount(int value, int bc) {
-  return write_numbered(session_, mold_temperature_bc_x::kBCNodeCount, in_section(bc), value);
-}
-
-bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBCProfile(double x, double y, int point,
-                                                                  int bc) {
-  return write_numbered(session_, mold_temperature_bc_x::kBCPoint, at_point(point, bc), x, y);
 }
 
 bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBC(int first, char* name, int second,

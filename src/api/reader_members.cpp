@@ -827,6 +827,28 @@ bool CQELPROReader_Manipulator::MoldMetalMaterial_ReadMaterial(
       session_, "%d", at_point(row), f1, f2, f3, name, f5, f6, f7);
 }
 
+// [MoldTemperatureBC-%d]
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadName(char*& text, int bc) {
+  return read<CQELPROBlockIOMoldTemperatureBCX, Text>(session_, "BCName", in_section(bc), text);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadDisplayType(int& value, int bc) {
+  return read<CQELPROBlockIOMoldTemperatureBCX, Integer>(
+      session_, "BCDisplayType", in_section(bc), value);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadNodeCount(int& value, int bc) {
+  return read<CQELPROBlockIOMoldTemperatureBCX, Integer>(
+      session_, "BCNodeCount", in_section(bc), value);
+}
+
+bool CQELPROReader_Manipulator::MoldTemperatureBCX_ReadBCProfile(
+    double& x, double& y, int point, int bc) {
+  return read<CQELPROBlockIOMoldTemperatureBCX, RealPair>(
+      session_, "BC-%d", at_point(point, bc), x, y);
+}
+
 // [GasF-%d]
 
 bool CQELPROReader_Manipulator::GasFX_ReadGasTime(double& value, int inlet) {

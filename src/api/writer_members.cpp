@@ -722,6 +722,28 @@ bool CQELPROWriter_Manipulator::MoldMetalMaterial_WriteMaterial(
       session_, "%d", at_point(row), f1, f2, f3, name, f5, f6, f7);
 }
 
+// [MoldTemperatureBC-%d]
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteName(char* text, int bc) {
+  return write<CQELPROBlockIOMoldTemperatureBCX, Text>(session_, "BCName", in_section(bc), text);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteDisplayType(int value, int bc) {
+  return write<CQELPROBlockIOMoldTemperatureBCX, Integer>(
+      session_, "BCDisplayType", in_section(bc), value);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteNodeCount(int value, int bc) {
+  return write<CQELPROBlockIOMoldTemperatureBCX, Integer>(
+      session_, "BCNodeCount", in_section(bc), value);
+}
+
+bool CQELPROWriter_Manipulator::MoldTemperatureBCX_WriteBCProfile(
+    double x, double y, int point, int bc) {
+  return write<CQELPROBlockIOMoldTemperatureBCX, RealPair>(
+      session_, "BC-%d", at_point(point, bc), x, y);
+}
+
 // [GasF-%d]
 
 bool CQELPROWriter_Manipulator::GasFX_WriteGasTime(double value, int inlet) {

@@ -7,23 +7,22 @@ namespace qel::advanced_setting {
 
 inline constexpr char kSection[] = "[AdvancedSetting]";
 
-inline constexpr Key<RealTriple> kOpenDirection{
-    "OpenDirection",
-    {"AdvancedSetting_ReadOpenDirection"},
-    {"AdvancedSetting_WriteOpenDirection"},
-    "the direction in which the mold opens: the x, y and z of a vector",
-    {.older = {"GetMoldOpenDirection", "SetMoldOpenDirection"}}};
-inline constexpr Key<Real> kClampForce{"ClampForce",
-                                       {"AdvancedSetting_ReadClampForce"},
-                                       {"AdvancedSetting_WriteClampForce"},
-                                       "the force that holds the mold shut",
-                                       {.older = {"GetMoldClampingForce", "SetMoldClampingForce"}}};
-inline constexpr Key<Real> kCycleTime{"CycleTime",
-                                      {"AdvancedSetting_ReadCycleTime"},
-                                      {},
-                                      "the time from one shot to the next, in sec"};
-
-inline constexpr const KeyInfo* kKeys[] = {&kOpenDirection, &kClampForce, &kCycleTime};
+inline constexpr KeyInfo kKeys[] = {
+    Key<RealTriple>{"OpenDirection",
+                    {"AdvancedSetting_ReadOpenDirection"},
+                    {"AdvancedSetting_WriteOpenDirection"},
+                    "the direction in which the mold opens: the x, y and z of a vector",
+                    {.older = {"GetMoldOpenDirection", "SetMoldOpenDirection"}}},
+    Key<Real>{"ClampForce",
+              {"AdvancedSetting_ReadClampForce"},
+              {"AdvancedSetting_WriteClampForce"},
+              "the force that holds the mold shut",
+              {.older = {"GetMoldClampingForce", "SetMoldClampingForce"}}},
+    Key<Real>{"CycleTime",
+              {"AdvancedSetting_ReadCycleTime"},
+              {},
+              "the time from one shot to the next, in sec"},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "AdvancedSetting", "the mold's opening direction, the clamp force and the cycle time",

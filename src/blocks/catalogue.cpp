@@ -17,29 +17,22 @@ namespace {
 template <const auto& stage_keys>
 struct LoaderKeys {
   static constexpr std::size_t kCount = std::ranges::count_if(
-      stage_keys, [](const KeyInfo* key) { return key->details.loader != nullptr; });
+      stage_keys, [](const KeyInfo& key) { return key.details.loader != nullptr; });
 
   static constexpr std::array<KeyInfo, kCount> rows() {
     std::array<KeyInfo, kCount> taken{};
     std::size_t count = 0;
-    for (const KeyInfo* key : stage_keys) {
-      if (key->details.loader != nullptr) {
-        taken[count] = *key;
+    for (const KeyInfo& key : stage_keys) {
+      if (key.details.loader != nullptr) {
+        taken[count] = key;
         taken[count].readers = {};
         taken[count].writers = {};
-        taken[count++].details = {.loader = key->details.loader};
+        taken[count++].details = {.loader = key.details.loader};
       }
     }
     return taken;
   }
-  static constexpr std::array<KeyInfo, kCount> kRows = rows();
-
-  static constexpr std::array<const KeyInfo*, kCount> pointers() {
-    std::array<const KeyInfo*, kCount> all{};
-    std::ranges::transform(kRows, all.begin(), [](const KeyInfo& row) { return &row; });
-    return all;
-  }
-  static constexpr std::array<const KeyInfo*, kCount> kKeys = pointers();
+  static constexpr std::array<KeyInfo, kCount> kKeys = rows();
 };
 
 template <const auto& stage_keys>
@@ -108,9 +101,9 @@ const SectionInfo* find_section(const char* name, int& number) {
 }
 
 const KeyInfo* find_key(const SectionInfo& section, const char* key, int& number) {
-  for (const KeyInfo* info : section.keys) {
-    if (matches(info->text, key, number)) {
-      return info;
+  for (const KeyInfo& info : section.keys) {
+    if (matches(info.text, key, number)) {
+      return &info;
     }
   }
   return nullptr;

@@ -11,45 +11,43 @@ inline constexpr int kControlByPressure = 1;
 
 inline constexpr char kSection[] = "[CoolChannel-%d]";
 
-inline constexpr Key<Real> kDiameter{
-    "Diameter",
-    {"CoolChannelX_ReadDiameter"},
-    {"CoolChannelX_WriteDiameter"},
-    "the diameter of the channel",
-    {.older = {"GetCoolChannelDiameter", "SetCoolChannelDiameter"},
-     .adapter = {"SetCoolChannelX_WriteDiameter", "SetCoolingChannelData"}}};
-inline constexpr Key<Integer> kGroupID{
-    "GroupID",
-    {"CoolChannelX_ReadGroupID"},
-    {"CoolChannelX_WriteGroupID"},
-    "the group that the channel belongs to",
-    {.older = {"GetCoolChannelGroupID", "SetCoolChannelGroupID"},
-     .adapter = {"SetCoolChannelX_WriteGroupID", "SetCoolingChannelData"}}};
-inline constexpr Key<Integer> kTimeSet{
-    "TimeSet",
-    {"CoolChannelX_ReadTimeSection"},
-    {"CoolChannelX_WriteTimeSection"},
-    "the number of control points of the channel",
-    {.older = {"GetCoolChannelTimeSet", "SetCoolChannelTimeSet"},
-     .adapter = {"SetCoolChannelX_WriteTimeSection", "SetCoolingChannelData"}}};
-inline constexpr Key<ControlPoint> kFlowControlPoint{
-    "TCP-%d",
-    {"CoolChannelX_ReadControlPointSetting"},
-    {"CoolChannelX_WriteControlPointSetting"},
-    "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, an "
-    "integer",
-    {.older = {"GetCoolChannelControlPoint", "SetcoolChannelControlPoint"},
-     .adapter = {"SetCoolChannelX_WriteControlPointSetting", "SetCoolingChannelData"}}};
-inline constexpr Key<ControlPoint> kPressureControlPoint{
-    "TCPP-%d",
-    {"CoolChannelX_ReadPressureControlPointSetting", "CoolChannelX_ReadControlPointSetting"},
-    {"CoolChannelX_WritePressureControlPointSetting"},
-    "a control point by pressure: a real, the coolant system, the temperature, the pressure, an "
-    "integer",
-    {.adapter = {"SetCoolChannelX_WritePressureControlPointSetting", "SetCoolingChannelData"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint,
-                                           &kPressureControlPoint};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Real>{"Diameter",
+              {"CoolChannelX_ReadDiameter"},
+              {"CoolChannelX_WriteDiameter"},
+              "the diameter of the channel",
+              {.older = {"GetCoolChannelDiameter", "SetCoolChannelDiameter"},
+               .adapter = {"SetCoolChannelX_WriteDiameter", "SetCoolingChannelData"}}},
+    Key<Integer>{"GroupID",
+                 {"CoolChannelX_ReadGroupID"},
+                 {"CoolChannelX_WriteGroupID"},
+                 "the group that the channel belongs to",
+                 {.older = {"GetCoolChannelGroupID", "SetCoolChannelGroupID"},
+                  .adapter = {"SetCoolChannelX_WriteGroupID", "SetCoolingChannelData"}}},
+    Key<Integer>{"TimeSet",
+                 {"CoolChannelX_ReadTimeSection"},
+                 {"CoolChannelX_WriteTimeSection"},
+                 "the number of control points of the channel",
+                 {.older = {"GetCoolChannelTimeSet", "SetCoolChannelTimeSet"},
+                  .adapter = {"SetCoolChannelX_WriteTimeSection", "SetCoolingChannelData"}}},
+    Key<ControlPoint>{
+        "TCP-%d",
+        {"CoolChannelX_ReadControlPointSetting"},
+        {"CoolChannelX_WriteControlPointSetting"},
+        "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, "
+        "an "
+        "integer",
+        {.older = {"GetCoolChannelControlPoint", "SetcoolChannelControlPoint"},
+         .adapter = {"SetCoolChannelX_WriteControlPointSetting", "SetCoolingChannelData"}}},
+    Key<ControlPoint>{
+        "TCPP-%d",
+        {"CoolChannelX_ReadPressureControlPointSetting", "CoolChannelX_ReadControlPointSetting"},
+        {"CoolChannelX_WritePressureControlPointSetting"},
+        "a control point by pressure: a real, the coolant system, the temperature, the pressure, "
+        "an "
+        "integer",
+        {.adapter = {"SetCoolChannelX_WritePressureControlPointSetting", "SetCoolingChannelData"}}},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "CoolChannelX", "a cooling channel", kKeys, {"channel", "the channel"}};

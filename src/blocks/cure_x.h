@@ -7,94 +7,82 @@ namespace qel::cure_x {
 
 inline constexpr char kSection[] = "[Cure-%d]";
 
-inline constexpr Key<Real> kCureTime{
-    "CureTime",
-    {"CureX_ReadCureTime"},
-    {"CureX_WriteCureTime"},
-    "the curing time, in sec",
-    {.older = {"GetCureTime", "SetCureTime"}, .loader = "set_process_PackTime"}};
-inline constexpr Key<Real> kCurePres{
-    "CurePres",
-    {"CureX_ReadCurePressure"},
-    {"CureX_WriteCurePressure"},
-    "the curing pressure, in MPa",
-    {.older = {"GetCurePressure", "SetCurePressure"}, .loader = "set_process_PackPres"}};
-inline constexpr Key<Real> kCureTemp{
-    "CureTemp", {"CureX_ReadCureTemperature"}, {}, "the curing temperature, in oC"};
-inline constexpr Key<Real> kCureSwch{
-    "CureSwch",
-    {"CureX_ReadCureSwitch"},
-    {"CureX_WriteCureSwitch"},
-    "the switch value at which curing takes over from packing",
-    {.older = {"GetCureSwitch", "SetCureSwitch"}, .loader = "set_process_PackSwch"}};
-inline constexpr Key<Integer> kCPDisplayType{
-    "CPDisplayType",
-    {"CureX_ReadCPDisplayType"},
-    {"CureX_WriteCPDisplayType"},
-    "a code: how a front end shows the curing pressure profile",
-    {.older = {"GetCPDisplayType"}, .loader = "set_process_PPDisplayType"}};
-inline constexpr Key<Integer> kPPProfileType{
-    "PPProfileType",
-    {"CureX_ReadCPProfileType"},
-    {"CureX_WriteCPProfileType"},
-    "a code: in which form the curing pressure profile was entered; the key is the packing stage's",
-    {.loader = "set_process_PPProfileType"}};
-inline constexpr Key<Integer> kCPSet{
-    "CPSet",
-    {"CureX_ReadCPSection"},
-    {"CureX_WriteCPSection"},
-    "the number of points of the curing pressure profile",
-    {.older = {"GetCPSection", "SetCPSection"}, .loader = "GetPackingPressureProfile_mod"}};
-inline constexpr Key<RealPair> kCPPoint{
-    "CP-%d",
-    {"CureX_ReadCPProfile"},
-    {"CureX_WriteCPProfile"},
-    "a point of the curing pressure profile: the time in the stage, and the pressure, in MPa",
-    {.older = {"GetCPProfile", "SetCPProfile"}, .loader = "GetPackingPressureProfile_mod"}};
-inline constexpr Key<Integer> kUserCPSet{
-    "UserCPSet",
-    {"CureX_ReadUserCPSection"},
-    {"CureX_WriteUserCPSection"},
-    "the number of points of the curing pressure profile as the user entered it",
-    {.older = {"GetUserCPSection"}}};
-inline constexpr Key<RealPair> kUserCPPoint{
-    "UserCP-%d",
-    {"CureX_ReadUserCPProfile"},
-    {"CureX_WriteUserCPProfile"},
-    "a point of the curing pressure profile as the user entered it: x and y",
-    {.older = {"GetUserCPProfile"}}};
-inline constexpr Key<Integer> kCTDisplayType{
-    "CTDisplayType",
-    {"CureX_ReadCTDisplayType"},
-    {},
-    "a code: how a front end shows the curing temperature profile"};
-inline constexpr Key<Integer> kCTProfileType{
-    "CTProfileType",
-    {"CureX_ReadCTProfileType"},
-    {},
-    "a code: in which form the curing temperature profile was entered"};
-inline constexpr Key<Integer> kCTSet{
-    "CTSet", {"CureX_ReadCTSection"}, {}, "the number of points of the curing temperature profile"};
-inline constexpr Key<RealPair> kCTPoint{
-    "CT-%d",
-    {"CureX_ReadCTProfile"},
-    {},
-    "a point of the curing temperature profile: the time in the stage, and the temperature, in oC"};
-inline constexpr Key<Integer> kUserCTSet{
-    "UserCTSet",
-    {"CureX_ReadUserCTSection"},
-    {},
-    "the number of points of the curing temperature profile as the user entered it"};
-inline constexpr Key<RealPair> kUserCTPoint{
-    "UserCT-%d",
-    {"CureX_ReadUserCTProfile"},
-    {},
-    "a point of the curing temperature profile as the user entered it: x and y"};
-
-inline constexpr const KeyInfo* kKeys[] = {
-    &kCureTime, &kCurePres, &kCureTemp,  &kCureSwch,    &kCPDisplayType, &kPPProfileType,
-    &kCPSet,    &kCPPoint,  &kUserCPSet, &kUserCPPoint, &kCTDisplayType, &kCTProfileType,
-    &kCTSet,    &kCTPoint,  &kUserCTSet, &kUserCTPoint};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Real>{"CureTime",
+              {"CureX_ReadCureTime"},
+              {"CureX_WriteCureTime"},
+              "the curing time, in sec",
+              {.older = {"GetCureTime", "SetCureTime"}, .loader = "set_process_PackTime"}},
+    Key<Real>{"CurePres",
+              {"CureX_ReadCurePressure"},
+              {"CureX_WriteCurePressure"},
+              "the curing pressure, in MPa",
+              {.older = {"GetCurePressure", "SetCurePressure"}, .loader = "set_process_PackPres"}},
+    Key<Real>{"CureTemp", {"CureX_ReadCureTemperature"}, {}, "the curing temperature, in oC"},
+    Key<Real>{"CureSwch",
+              {"CureX_ReadCureSwitch"},
+              {"CureX_WriteCureSwitch"},
+              "the switch value at which curing takes over from packing",
+              {.older = {"GetCureSwitch", "SetCureSwitch"}, .loader = "set_process_PackSwch"}},
+    Key<Integer>{"CPDisplayType",
+                 {"CureX_ReadCPDisplayType"},
+                 {"CureX_WriteCPDisplayType"},
+                 "a code: how a front end shows the curing pressure profile",
+                 {.older = {"GetCPDisplayType"}, .loader = "set_process_PPDisplayType"}},
+    Key<Integer>{"PPProfileType",
+                 {"CureX_ReadCPProfileType"},
+                 {"CureX_WriteCPProfileType"},
+                 "a code: in which form the curing pressure profile was entered; the key is the "
+                 "packing stage's",
+                 {.loader = "set_process_PPProfileType"}},
+    Key<Integer>{
+        "CPSet",
+        {"CureX_ReadCPSection"},
+        {"CureX_WriteCPSection"},
+        "the number of points of the curing pressure profile",
+        {.older = {"GetCPSection", "SetCPSection"}, .loader = "GetPackingPressureProfile_mod"}},
+    Key<RealPair>{
+        "CP-%d",
+        {"CureX_ReadCPProfile"},
+        {"CureX_WriteCPProfile"},
+        "a point of the curing pressure profile: the time in the stage, and the pressure, in MPa",
+        {.older = {"GetCPProfile", "SetCPProfile"}, .loader = "GetPackingPressureProfile_mod"}},
+    Key<Integer>{"UserCPSet",
+                 {"CureX_ReadUserCPSection"},
+                 {"CureX_WriteUserCPSection"},
+                 "the number of points of the curing pressure profile as the user entered it",
+                 {.older = {"GetUserCPSection"}}},
+    Key<RealPair>{"UserCP-%d",
+                  {"CureX_ReadUserCPProfile"},
+                  {"CureX_WriteUserCPProfile"},
+                  "a point of the curing pressure profile as the user entered it: x and y",
+                  {.older = {"GetUserCPProfile"}}},
+    Key<Integer>{"CTDisplayType",
+                 {"CureX_ReadCTDisplayType"},
+                 {},
+                 "a code: how a front end shows the curing temperature profile"},
+    Key<Integer>{"CTProfileType",
+                 {"CureX_ReadCTProfileType"},
+                 {},
+                 "a code: in which form the curing temperature profile was entered"},
+    Key<Integer>{"CTSet",
+                 {"CureX_ReadCTSection"},
+                 {},
+                 "the number of points of the curing temperature profile"},
+    Key<RealPair>{"CT-%d",
+                  {"CureX_ReadCTProfile"},
+                  {},
+                  "a point of the curing temperature profile: the time in the stage, and the "
+                  "temperature, in oC"},
+    Key<Integer>{"UserCTSet",
+                 {"CureX_ReadUserCTSection"},
+                 {},
+                 "the number of points of the curing temperature profile as the user entered it"},
+    Key<RealPair>{"UserCT-%d",
+                  {"CureX_ReadUserCTProfile"},
+                  {},
+                  "a point of the curing temperature profile as the user entered it: x and y"},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "CureX", "the curing stage of an inlet", kKeys, {"inlet", "the inlet"}};

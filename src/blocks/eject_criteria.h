@@ -8,38 +8,35 @@ namespace qel::eject_criteria {
 
 inline constexpr char kSection[] = "[EjectCriteria]";
 
-inline constexpr Key<Integer> kTotalSensorNode{"TotalSensorNode",
-                                               {"EjectCriteria_ReadTotalSensorNode"},
-                                               {"EjectCriteria_WriteTotalSensorNode"},
-                                               "the number of sensor nodes",
-                                               {.older = {"GetTotalSensorNode"}}};
-inline constexpr Key<Integer> kSensorNode{"SensorNode-%d",
-                                          {"EjectCriteria_ReadSensorNode"},
-                                          {"EjectCriteria_WriteSensorNode"},
-                                          "the mesh node of a sensor",
-                                          {.number = {"sensor", "the sensor"}}};
-inline constexpr Key<Integer> kTotalCriteriaNode{"TotalCriteriaNode",
-                                                 {"EjectCriteria_ReadTotalCriteriaNode"},
-                                                 {"EjectCriteria_WriteTotalCriteriaNode"},
-                                                 "the number of criteria nodes",
-                                                 {.older = {"GetTotalCriteriaNode"}}};
-inline constexpr Key<IntegerAndReal> kCriteriaNode{
-    "CriteriaNode-%d",
-    {"EjectCriteria_ReadCriteriaNode"},
-    {"EjectCriteria_WriteCriteriaNode"},
-    "the mesh node of a criterion, and the criterion's value",
-    {.number = {"criterion", "the criterion"}, .older = {"GetCriteriaNodeSetting"}}};
-
-// Only the older object serves this one.
-inline constexpr Key<IntegerAndReal> kSensorNodeOlder{
-    "SensorNode-%d",
-    {},
-    {},
-    "the mesh node of a sensor and a real that the older object alone reads",
-    {.older = {"GetSensorNodeSetting"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kTotalSensorNode, &kSensorNode, &kTotalCriteriaNode,
-                                           &kCriteriaNode, &kSensorNodeOlder};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"TotalSensorNode",
+                 {"EjectCriteria_ReadTotalSensorNode"},
+                 {"EjectCriteria_WriteTotalSensorNode"},
+                 "the number of sensor nodes",
+                 {.older = {"GetTotalSensorNode"}}},
+    Key<Integer>{"SensorNode-%d",
+                 {"EjectCriteria_ReadSensorNode"},
+                 {"EjectCriteria_WriteSensorNode"},
+                 "the mesh node of a sensor",
+                 {.number = {"sensor", "the sensor"}}},
+    Key<Integer>{"TotalCriteriaNode",
+                 {"EjectCriteria_ReadTotalCriteriaNode"},
+                 {"EjectCriteria_WriteTotalCriteriaNode"},
+                 "the number of criteria nodes",
+                 {.older = {"GetTotalCriteriaNode"}}},
+    Key<IntegerAndReal>{
+        "CriteriaNode-%d",
+        {"EjectCriteria_ReadCriteriaNode"},
+        {"EjectCriteria_WriteCriteriaNode"},
+        "the mesh node of a criterion, and the criterion's value",
+        {.number = {"criterion", "the criterion"}, .older = {"GetCriteriaNodeSetting"}}},
+    // Only the older object serves this one.
+    Key<IntegerAndReal>{"SensorNode-%d",
+                        {},
+                        {},
+                        "the mesh node of a sensor and a real that the older object alone reads",
+                        {.older = {"GetSensorNodeSetting"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "EjectCriteria",
                                    "the sensor and criteria nodes that decide ejection", kKeys};

@@ -9,5 +9,5 @@ int CQELPROBlockIOFileHeader::WriteDate() {
   char text[qel::kCompoundLimit];
   std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day,
                 now.hour, now.minute, now.second);
-  return Write(qel::file_header::kDate, {}, text);
+  return Write<qel::Text>(qel::key_of(qel::file_header::kKeys, "Date"), {}, text);
 }

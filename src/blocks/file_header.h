@@ -7,33 +7,33 @@ namespace qel::file_header {
 
 inline constexpr char kSection[] = "[FileHeader]";
 
-inline constexpr Key<Text> kName{"Name",
-                                 {"FileHeader_ReadName"},
-                                 {"FileHeader_WriteName"},
-                                 "the name of the file",
-                                 {.older = {"GetFileName", "SetFileName"}}};
-inline constexpr Key<Text> kType{"Type",
-                                 {"FileHeader_ReadType"},
-                                 {"FileHeader_WriteType"},
-                                 "the file's type, \"PRO\"",
-                                 {.older = {"SetType"}}};
-inline constexpr Key<Text> kDate{"Date",
-                                 {"FileHeader_ReadDate"},
-                                 {"FileHeader_WriteDate", "FileHeader_WriteDate"},
-                                 "the date of the last change, as \"2026/11/15 09:05:07\"",
-                                 {.older = {"GetFileDate", "SetFileDate"}}};
-inline constexpr Key<Text> kCreateBy{"CreateBy",
-                                     {"FileHeader_ReadCreateBy"},
-                                     {"FileHeader_WriteCreateBy"},
-                                     "the program that wrote the file",
-                                     {.older = {"SetCreateBy"}}};
-inline constexpr Key<Text> kRemark{"Remark",
-                                   {"FileHeader_ReadRemark"},
-                                   {"FileHeader_WriteRemark"},
-                                   "a remark about the file",
-                                   {.older = {"SetRemark"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kName, &kType, &kDate, &kCreateBy, &kRemark};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Text>{"Name",
+              {"FileHeader_ReadName"},
+              {"FileHeader_WriteName"},
+              "the name of the file",
+              {.older = {"GetFileName", "SetFileName"}}},
+    Key<Text>{"Type",
+              {"FileHeader_ReadType"},
+              {"FileHeader_WriteType"},
+              "the file's type, \"PRO\"",
+              {.older = {"SetType"}}},
+    Key<Text>{"Date",
+              {"FileHeader_ReadDate"},
+              {"FileHeader_WriteDate", "FileHeader_WriteDate"},
+              "the date of the last change, as \"2026/11/15 09:05:07\"",
+              {.older = {"GetFileDate", "SetFileDate"}}},
+    Key<Text>{"CreateBy",
+              {"FileHeader_ReadCreateBy"},
+              {"FileHeader_WriteCreateBy"},
+              "the program that wrote the file",
+              {.older = {"SetCreateBy"}}},
+    Key<Text>{"Remark",
+              {"FileHeader_ReadRemark"},
+              {"FileHeader_WriteRemark"},
+              "a remark about the file",
+              {.older = {"SetRemark"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "FileHeader",
                                    "what the file is, who wrote it and when", kKeys};

@@ -8,103 +8,90 @@ namespace qel::flow_ctl {
 
 inline constexpr char kSection[] = "[FlowCTL]";
 
-inline constexpr Key<Integer> kFlowCtrl{
-    "FlowCtrl",
-    {"FlowCTL_ReadFlowCtrl"},
-    {"FlowCTL_WriteFlowCtrl"},
-    "a code: which quantity controls filling",
-    {.older = {"GetFlowCTLFlowCtrl"}, .loader = "set_process_FlowCtrl"}};
-inline constexpr Key<Integer> kVPSwitchCtrl{
-    "VPSwitchCtrl",
-    {"FlowCTL_ReadVPSwitchCtrl"},
-    {"FlowCTL_WriteVPSwitchCtrl"},
-    "the criterion of the V/P switch-over: 0 filled volume, 1 ram position, 2 injection pressure, "
-    "3 a further one over the filled volume",
-    {.older = {"GetFlowCTLVPSwitchCtrl"},
-     .loader = "set_process_VPSwitchCtrl",
-     .value_reader = {"GetVPSwitch"}}};
-inline constexpr Key<Integer> kPackingCtrl{
-    "PackingCtrl",
-    {"FlowCTL_ReadPackingCtrl"},
-    {"FlowCTL_WritePackingCtrl"},
-    "a code: which quantity controls packing",
-    {.older = {"GetFlowCTLPackingCtrl"}, .loader = "set_process_PackingCtrl"}};
-inline constexpr Key<Real> kMoldTemperature{"MoldTemperature",
-                                            {"FlowCTL_ReadMoldTemperature"},
-                                            {"FlowCTL_WriteMoldTemperature"},
-                                            "the mold temperature, in oC",
-                                            {.older = {"GetFlowCTLMoldTemperature"},
-                                             .adapter = {"GetMaterialTemperature"},
-                                             .loader = "set_process_MoldTemperature"}};
-inline constexpr Key<Real> kMeltTemperature{"MeltTemperature",
-                                            {"FlowCTL_ReadMeltTemperature"},
-                                            {"FlowCTL_WriteMeltTemperature"},
-                                            "the melt temperature, in oC",
-                                            {.older = {"GetFlowCTLMeltTemperature"},
-                                             .adapter = {"GetMaterialTemperature"},
-                                             .loader = "set_process_MeltTemperature"}};
-inline constexpr Key<Real> kInjectionTime{
-    "InjectionTime",
-    {"FlowCTL_ReadInjectionTime"},
-    {"FlowCTL_WriteInjectionTime"},
-    "the injection time, in sec",
-    {.older = {"GetFlowCTLInjectionTime"}, .loader = "set_process_InjectionTime"}};
-inline constexpr Key<Real> kVolumeFilled{
-    "VolumeFilled",
-    {"FlowCTL_ReadVolumeFilled"},
-    {"FlowCTL_WriteVolumeFilled"},
-    "how much is filled when the V/P switch-over comes, for the criteria 0 and 3",
-    {.older = {"GetFlowCTLVolumeFilled"},
-     .loader = "set_process_VolumeFilled",
-     .value_reader = {"GetVPSwitch"}}};
-inline constexpr Key<Real> kRamPosition{
-    "RamPosition",
-    {"FlowCTL_ReadRamPosition"},
-    {"FlowCTL_WriteRamPosition"},
-    "the ram position at which the V/P switch-over comes, for criterion 1",
-    {.older = {"GetFlowCTLRamPosition"},
-     .loader = "set_process_RamPosition",
-     .value_reader = {"GetVPSwitch"}}};
-inline constexpr Key<Real> kInjectionPressure{
-    "InjectionPressure",
-    {"FlowCTL_ReadInjectionPressure"},
-    {"FlowCTL_WriteInjectionPressure"},
-    "the injection pressure at which the V/P switch-over comes, in MPa, for criterion 2",
-    {.older = {"GetFlowCTLInjectionPressure"},
-     .loader = "set_process_InjectionPressure",
-     .value_reader = {"GetVPSwitch"}}};
-inline constexpr Key<Real> kCureSwitch{
-    "CureSwitch",
-    {"FlowCTL_ReadCureSwitch"},
-    {"FlowCTL_WriteCureSwitch"},
-    "the switch value at which curing begins, beside the three of \"CureEnter\""};
-inline constexpr Key<Integer> kCureTempCtrl{"CureTempCtrl",
-                                            {"FlowCTL_ReadCureTempCtrl"},
-                                            {},
-                                            "a code: what controls the temperature of curing"};
-inline constexpr Key<Integer> kCureEnterType{
-    "CureEnterType",
-    {"FlowCTL_ReadCureEnterType"},
-    {"FlowCTL_WriteCureEnterType"},
-    "a code: what makes curing begin",
-    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterType"}};
-inline constexpr Key<Real> kCureEnterSwch{
-    "CureEnterSwch",
-    {"FlowCTL_ReadCureEnterSwitch"},
-    {"FlowCTL_WriteCureEnterSwitch"},
-    "the switch value at which curing begins",
-    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterSwch"}};
-inline constexpr Key<Real> kCureEnterTime{
-    "CureEnterTime",
-    {"FlowCTL_ReadCureEnterTime"},
-    {"FlowCTL_WriteCureEnterTime"},
-    "the time at which curing begins, in sec",
-    {.unused = {"index", "an index"}, .loader = "set_process_CureEnterTime"}};
-
-inline constexpr const KeyInfo* kKeys[] = {
-    &kFlowCtrl,      &kVPSwitchCtrl,  &kPackingCtrl,   &kMoldTemperature,   &kMeltTemperature,
-    &kInjectionTime, &kVolumeFilled,  &kRamPosition,   &kInjectionPressure, &kCureSwitch,
-    &kCureTempCtrl,  &kCureEnterType, &kCureEnterSwch, &kCureEnterTime};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"FlowCtrl",
+                 {"FlowCTL_ReadFlowCtrl"},
+                 {"FlowCTL_WriteFlowCtrl"},
+                 "a code: which quantity controls filling",
+                 {.older = {"GetFlowCTLFlowCtrl"}, .loader = "set_process_FlowCtrl"}},
+    Key<Integer>{"VPSwitchCtrl",
+                 {"FlowCTL_ReadVPSwitchCtrl"},
+                 {"FlowCTL_WriteVPSwitchCtrl"},
+                 "the criterion of the V/P switch-over: 0 filled volume, 1 ram position, 2 "
+                 "injection pressure, "
+                 "3 a further one over the filled volume",
+                 {.older = {"GetFlowCTLVPSwitchCtrl"},
+                  .loader = "set_process_VPSwitchCtrl",
+                  .value_reader = {"GetVPSwitch"}}},
+    Key<Integer>{"PackingCtrl",
+                 {"FlowCTL_ReadPackingCtrl"},
+                 {"FlowCTL_WritePackingCtrl"},
+                 "a code: which quantity controls packing",
+                 {.older = {"GetFlowCTLPackingCtrl"}, .loader = "set_process_PackingCtrl"}},
+    Key<Real>{"MoldTemperature",
+              {"FlowCTL_ReadMoldTemperature"},
+              {"FlowCTL_WriteMoldTemperature"},
+              "the mold temperature, in oC",
+              {.older = {"GetFlowCTLMoldTemperature"},
+               .adapter = {"GetMaterialTemperature"},
+               .loader = "set_process_MoldTemperature"}},
+    Key<Real>{"MeltTemperature",
+              {"FlowCTL_ReadMeltTemperature"},
+              {"FlowCTL_WriteMeltTemperature"},
+              "the melt temperature, in oC",
+              {.older = {"GetFlowCTLMeltTemperature"},
+               .adapter = {"GetMaterialTemperature"},
+               .loader = "set_process_MeltTemperature"}},
+    Key<Real>{"InjectionTime",
+              {"FlowCTL_ReadInjectionTime"},
+              {"FlowCTL_WriteInjectionTime"},
+              "the injection time, in sec",
+              {.older = {"GetFlowCTLInjectionTime"}, .loader = "set_process_InjectionTime"}},
+    Key<Real>{"VolumeFilled",
+              {"FlowCTL_ReadVolumeFilled"},
+              {"FlowCTL_WriteVolumeFilled"},
+              "how much is filled when the V/P switch-over comes, for the criteria 0 and 3",
+              {.older = {"GetFlowCTLVolumeFilled"},
+               .loader = "set_process_VolumeFilled",
+               .value_reader = {"GetVPSwitch"}}},
+    Key<Real>{"RamPosition",
+              {"FlowCTL_ReadRamPosition"},
+              {"FlowCTL_WriteRamPosition"},
+              "the ram position at which the V/P switch-over comes, for criterion 1",
+              {.older = {"GetFlowCTLRamPosition"},
+               .loader = "set_process_RamPosition",
+               .value_reader = {"GetVPSwitch"}}},
+    Key<Real>{"InjectionPressure",
+              {"FlowCTL_ReadInjectionPressure"},
+              {"FlowCTL_WriteInjectionPressure"},
+              "the injection pressure at which the V/P switch-over comes, in MPa, for criterion 2",
+              {.older = {"GetFlowCTLInjectionPressure"},
+               .loader = "set_process_InjectionPressure",
+               .value_reader = {"GetVPSwitch"}}},
+    Key<Real>{"CureSwitch",
+              {"FlowCTL_ReadCureSwitch"},
+              {"FlowCTL_WriteCureSwitch"},
+              "the switch value at which curing begins, beside the three of \"CureEnter\""},
+    Key<Integer>{"CureTempCtrl",
+                 {"FlowCTL_ReadCureTempCtrl"},
+                 {},
+                 "a code: what controls the temperature of curing"},
+    Key<Integer>{"CureEnterType",
+                 {"FlowCTL_ReadCureEnterType"},
+                 {"FlowCTL_WriteCureEnterType"},
+                 "a code: what makes curing begin",
+                 {.unused = {"index", "an index"}, .loader = "set_process_CureEnterType"}},
+    Key<Real>{"CureEnterSwch",
+              {"FlowCTL_ReadCureEnterSwitch"},
+              {"FlowCTL_WriteCureEnterSwitch"},
+              "the switch value at which curing begins",
+              {.unused = {"index", "an index"}, .loader = "set_process_CureEnterSwch"}},
+    Key<Real>{"CureEnterTime",
+              {"FlowCTL_ReadCureEnterTime"},
+              {"FlowCTL_WriteCureEnterTime"},
+              "the time at which curing begins, in sec",
+              {.unused = {"index", "an index"}, .loader = "set_process_CureEnterTime"}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "FlowCTL",
                                    "what controls filling, packing, the switch-over from velocity "

@@ -7,28 +7,25 @@ namespace qel::flow_ctl_info {
 
 inline constexpr char kSection[] = "[FlowCTLInfo]";
 
-inline constexpr Key<Integer> kTotalInlet{"TotalInlet",
-                                          {"FlowCTLInfo_ReadTotalInlet"},
-                                          {},
-                                          "the number of melt inlets",
-                                          {.loader = "AppendFlowPackProcess"}};
-inline constexpr Key<IntegerPair> kFlowCTLOfInlet{
-    "FlowCTL-%d",
-    {"FlowCTLInfo_ReadFlowCTL"},
-    {},
-    "two control codes of an inlet, the second its control type",
-    {.number = {"inlet", "the inlet"}}};
-
-// Only the loader takes these.
-inline constexpr Key<IntegerPair> kFlowCTLOfInletBracketed{
-    "FlowCTL-%d]",
-    {},
-    {},
-    "the same two codes as the loader looks for them: the closing bracket belongs to the key",
-    {.loader = "set_process_InletControlType"}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kTotalInlet, &kFlowCTLOfInlet,
-                                           &kFlowCTLOfInletBracketed};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"TotalInlet",
+                 {"FlowCTLInfo_ReadTotalInlet"},
+                 {},
+                 "the number of melt inlets",
+                 {.loader = "AppendFlowPackProcess"}},
+    Key<IntegerPair>{"FlowCTL-%d",
+                     {"FlowCTLInfo_ReadFlowCTL"},
+                     {},
+                     "two control codes of an inlet, the second its control type",
+                     {.number = {"inlet", "the inlet"}}},
+    // Only the loader takes these.
+    Key<IntegerPair>{
+        "FlowCTL-%d]",
+        {},
+        {},
+        "the same two codes as the loader looks for them: the closing bracket belongs to the key",
+        {.loader = "set_process_InletControlType"}},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "FlowCTLInfo", "how many melt inlets the run has, and what controls each", kKeys};

@@ -5,7 +5,6 @@
 #include "blocks/summary.h"
 
 using qel::Integer;
-using qel::Key;
 using qel::Result;
 using qel::Snapshot;
 
@@ -24,19 +23,20 @@ std::string section_of(int valve) {
   return std::string(qel::NumberedName(qel::gate_valve_x::kSection, valve).str());
 }
 
-int integer(Snapshot& file, const std::string& section, const Key<Integer>& key, int otherwise) {
-  if (const auto text = file.value(section, key.text)) {
+int integer(Snapshot& file, const std::string& section, const char* key, int otherwise) {
+  if (const auto text = file.value(section, key)) {
     Integer::scan(std::string(*text).c_str(), otherwise);
   }
   return otherwise;
 }
 
 int identifier(Snapshot& file, int valve) {
-  return integer(file, section_of(valve), qel::gate_valve_x::kGCId, 0);
+  return integer(file, section_of(valve), qel::key_of(qel::gate_valve_x::kKeys, "GCId"), 0);
 }
 
 std::optional<int> find_valve(Snapshot& file, int id) {
-  const int total = integer(file, qel::summary::kSection, qel::summary::kTotalGateCTL, 0);
+  const int total =
+      integer(file, qel::summary::kSection, qel::key_of(qel::summary::kKeys, "TotalGateCTL"), 0);
   if (id == 0) {
     // A valve without an identifier counts, so that the search ends behind the valves that the file
     // holds.
@@ -59,13 +59,15 @@ std::optional<int> find_valve(Snapshot& file, int id) {
 
 int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve,
                                                Snapshot& file) {
-  const int count = integer(file, section_of(valve), qel::gate_valve_x::kGCSet, 1);
-  const qel::NumberedName key(qel::gate_valve_x::kGCPoint.text, point);
+  const int count =
+      integer(file, section_of(valve), qel::key_of(qel::gate_valve_x::kKeys, "GCSet"), 1);
+  const qel::NumberedName key(qel::key_of(qel::gate_valve_x::kKeys, "GC-%d"), point);
   const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
   if (result != to_int(Result::done) || count >= point) {
     return result;
   }
-  return Write(qel::gate_valve_x::kGCSet, qel::in_section(valve), point);
+  return Write<Integer>(qel::key_of(qel::gate_valve_x::kKeys, "GCSet"), qel::in_section(valve),
+                        point);
 }
 
 int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve) {

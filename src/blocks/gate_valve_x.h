@@ -2,39 +2,38 @@
 
 #include "blocks/block.h"
 #include "blocks/compound_encoding.h"
-#include "core/snapshot.h"
+#include "text/snapshot.h"
 
 /// [GateValve-%d]: a valve gate.
 namespace qel::gate_valve_x {
 
 inline constexpr char kSection[] = "[GateValve-%d]";
 
-inline constexpr Key<Integer> kGCId{"GCId",
-                                    {"GeteValveX_ReadValveGateID"},
-                                    {"GateValveX_WriteGateValveID"},
-                                    "the identifier of the valve gate"};
-inline constexpr Key<Integer> kGCSet{"GCSet",
-                                     {"GateValveX_ReadControlPoint"},
-                                     {"GateValveX_WriteControlPoint"},
-                                     "the number of control points of the valve gate",
-                                     {.older = {"GetValveGateControlNo", "SetValveGateControlNo"},
-                                      .adapter = {"SetGateValveX_ControlPoint"}}};
-inline constexpr Key<GatePoint> kGCPoint{
-    "GC-%d",
-    {"GateValveX_ReadGateSetting"},
-    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an "
-    "integer",
-    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch", "GetValveGateControlData",
-               "SetValveGateControlData"},
-     .adapter = {"SetGateValveX_GateSetting"}}};
-inline constexpr Key<GatePointShort> kGCPointShort{
-    "GC-%d",
-    {"GateValveX_ReadGateSetting"},
-    {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-    "a control point without its last integer"};
-
-inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"GCId",
+                 {"GeteValveX_ReadValveGateID"},
+                 {"GateValveX_WriteGateValveID"},
+                 "the identifier of the valve gate"},
+    Key<Integer>{"GCSet",
+                 {"GateValveX_ReadControlPoint"},
+                 {"GateValveX_WriteControlPoint"},
+                 "the number of control points of the valve gate",
+                 {.older = {"GetValveGateControlNo", "SetValveGateControlNo"},
+                  .adapter = {"SetGateValveX_ControlPoint"}}},
+    Key<GatePoint>{"GC-%d",
+                   {"GateValveX_ReadGateSetting"},
+                   {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
+                   "a control point: the switching value, an integer, the mode (1 to 4), and for "
+                   "modes 2 and 3 an "
+                   "integer",
+                   {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch",
+                              "GetValveGateControlData", "SetValveGateControlData"},
+                    .adapter = {"SetGateValveX_GateSetting"}}},
+    Key<GatePointShort>{"GC-%d",
+                        {"GateValveX_ReadGateSetting"},
+                        {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
+                        "a control point without its last integer"},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "GateValveX", "a valve gate", kKeys, {"valve", "the valve"}};

@@ -100,9 +100,20 @@ struct SectionInfo {
   const char* name;
   const char* block;  ///< The class of its block without "CQELPROBlockIO"; null where it has none.
   const char* subject;
-  std::span<const KeyInfo* const> keys;
+  std::span<const KeyInfo> keys;
   Argument number{};  ///< What a numbered section is numbered by.
 };
+
+/// The text of a row's key. A row that is not there does not compile.
+template <std::size_t count>
+consteval const char* key_of(const KeyInfo (&keys)[count], std::string_view text) {
+  for (const KeyInfo& key : keys) {
+    if (key.text == text) {
+      return key.text;
+    }
+  }
+  throw "no row of that key";
+}
 
 /// The numbers that go into a numbered key and into the name of an indexed section.
 struct Place {

@@ -8,26 +8,24 @@ namespace qel::mold_insert_initial_temperature {
 
 inline constexpr char kSection[] = "[MoldInsertInitialTemperature]";
 
-inline constexpr Key<Integer> kTotalMoldInsert{
-    "TotalMoldInsert",
-    {"MoldInsertInitialTemperature_ReadTotalMoldInsert"},
-    {"MoldInsertInitialTemperature_WriteTotalMoldInsert"},
-    "the number of mold inserts"};
-inline constexpr Key<MoldInsertLine> kMoldInsert{
-    "MoldInsert-%d",
-    {"MoldInsertInitialTemperature_ReadMoldInsert"},
-    {"MoldInsertInitialTemperature_WriteMoldInsert"},
-    "a mold insert: its identifier, its name, its initial temperature, in oC",
-    {.number = {"insert", "the insert"}}};
-inline constexpr Key<MoldInsertLineOfFour> kMoldInsertOfFour{
-    "MoldInsert-%d",
-    {"MoldInsertInitialTemperature_ReadMoldInsert"},
-    {},
-    "a mold insert: its identifier, its name, which may hold blanks, its initial temperature, in "
-    "oC, and an integer",
-    {.number = {"insert", "the insert"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kTotalMoldInsert, &kMoldInsert, &kMoldInsertOfFour};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"TotalMoldInsert",
+                 {"MoldInsertInitialTemperature_ReadTotalMoldInsert"},
+                 {"MoldInsertInitialTemperature_WriteTotalMoldInsert"},
+                 "the number of mold inserts"},
+    Key<MoldInsertLine>{"MoldInsert-%d",
+                        {"MoldInsertInitialTemperature_ReadMoldInsert"},
+                        {"MoldInsertInitialTemperature_WriteMoldInsert"},
+                        "a mold insert: its identifier, its name, its initial temperature, in oC",
+                        {.number = {"insert", "the insert"}}},
+    Key<MoldInsertLineOfFour>{"MoldInsert-%d",
+                              {"MoldInsertInitialTemperature_ReadMoldInsert"},
+                              {},
+                              "a mold insert: its identifier, its name, which may hold blanks, its "
+                              "initial temperature, in "
+                              "oC, and an integer",
+                              {.number = {"insert", "the insert"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "MoldInsertInitialTemperature",
                                    "the initial temperature of each mold insert", kKeys};

@@ -8,14 +8,15 @@ namespace qel::mold_metal_material {
 
 inline constexpr char kSection[] = "[MoldMetalMaterial]";
 
-inline constexpr Key<MoldMetalLine> kMaterial{
-    "%d",
-    {"MoldMetalMaterial_ReadMaterial"},
-    {"MoldMetalMaterial_WriteMaterial"},
-    "a mold metal: three thermal values, its name, which may hold blanks, three mechanical values",
-    {.number = {"row", "the row"}, .older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kMaterial};
+inline constexpr KeyInfo kKeys[] = {
+    Key<MoldMetalLine>{
+        "%d",
+        {"MoldMetalMaterial_ReadMaterial"},
+        {"MoldMetalMaterial_WriteMaterial"},
+        "a mold metal: three thermal values, its name, which may hold blanks, three mechanical "
+        "values",
+        {.number = {"row", "the row"}, .older = {"GetMoldMetalMaterial", "SetMoldMetalMaterial"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "MoldMetalMaterial",
                                    "the mold metals, one material line each", kKeys};

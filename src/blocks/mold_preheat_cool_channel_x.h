@@ -8,41 +8,38 @@ namespace qel::mold_preheat_cool_channel_x {
 
 inline constexpr char kSection[] = "[MPreheat_CoolChannel-%d]";
 
-inline constexpr Key<Real> kDiameter{
-    "Diameter",
-    {"MoldPreheat_CoolChannelX_ReadDiameter"},
-    {},
-    "the diameter of the channel",
-    {.older = {"GetMPreheatCoolChannelDiameter", "SetMPreheatCoolChannelDiameter"}}};
-inline constexpr Key<Integer> kGroupID{
-    "GroupID",
-    {"MoldPreheat_CoolChannelX_ReadGroupID"},
-    {},
-    "the group that the channel belongs to",
-    {.older = {"GetMPreheatCoolChannelGroupID", "SetMPreheatCoolChannelGroupID"}}};
-inline constexpr Key<Integer> kTimeSet{
-    "TimeSet",
-    {"MoldPreheat_CoolChannelX_ReadTimeSection"},
-    {},
-    "the number of control points of the channel",
-    {.older = {"GetMPreheatCoolChannelTimeSet", "SetMPreheatCoolChannelTimeSet"}}};
-inline constexpr Key<ControlPoint> kFlowControlPoint{
-    "TCP-%d",
-    {"MoldPreheat_CoolChannelX_ReadControlPointSetting"},
-    {},
-    "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, an "
-    "integer",
-    {.older = {"GetMPreheatCoolChannelControlPoint", "SetMPreheatCoolChannelControlPoint"}}};
-inline constexpr Key<ControlPoint> kPressureControlPoint{
-    "TCPP-%d",
-    {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting",
-     "MoldPreheat_CoolChannelX_ReadControlPointSetting"},
-    {},
-    "a control point by pressure: a real, the coolant system, the temperature, the pressure, an "
-    "integer"};
-
-inline constexpr const KeyInfo* kKeys[] = {&kDiameter, &kGroupID, &kTimeSet, &kFlowControlPoint,
-                                           &kPressureControlPoint};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Real>{"Diameter",
+              {"MoldPreheat_CoolChannelX_ReadDiameter"},
+              {},
+              "the diameter of the channel",
+              {.older = {"GetMPreheatCoolChannelDiameter", "SetMPreheatCoolChannelDiameter"}}},
+    Key<Integer>{"GroupID",
+                 {"MoldPreheat_CoolChannelX_ReadGroupID"},
+                 {},
+                 "the group that the channel belongs to",
+                 {.older = {"GetMPreheatCoolChannelGroupID", "SetMPreheatCoolChannelGroupID"}}},
+    Key<Integer>{"TimeSet",
+                 {"MoldPreheat_CoolChannelX_ReadTimeSection"},
+                 {},
+                 "the number of control points of the channel",
+                 {.older = {"GetMPreheatCoolChannelTimeSet", "SetMPreheatCoolChannelTimeSet"}}},
+    Key<ControlPoint>{
+        "TCP-%d",
+        {"MoldPreheat_CoolChannelX_ReadControlPointSetting"},
+        {},
+        "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, "
+        "an "
+        "integer",
+        {.older = {"GetMPreheatCoolChannelControlPoint", "SetMPreheatCoolChannelControlPoint"}}},
+    Key<ControlPoint>{"TCPP-%d",
+                      {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting",
+                       "MoldPreheat_CoolChannelX_ReadControlPointSetting"},
+                      {},
+                      "a control point by pressure: a real, the coolant system, the temperature, "
+                      "the pressure, an "
+                      "integer"},
+};
 
 inline constexpr SectionInfo kInfo{kSection,
                                    "MoldPreHeatCoolChannelX",

@@ -12,26 +12,39 @@ inline constexpr char kSection[] = "[MoldTemperatureBC-%d]";
 /// lookups find it by its first token.
 inline constexpr char kPositionalSection[] = "[SURFACE";
 
-inline constexpr Key<Text> kBCName{"BCName",
-                                   {"MoldTemperatureBCX_ReadName"},
-                                   {"MoldTemperatureBCX_WriteName"},
-                                   "the name of the boundary condition"};
-inline constexpr Key<Integer> kBCDisplayType{
-    "BCDisplayType",
-    {"MoldTemperatureBCX_ReadDisplayType"},
-    {"MoldTemperatureBCX_WriteDisplayType"},
-    "a code: how a front end shows the boundary condition"};
-inline constexpr Key<Integer> kBCNodeCount{"BCNodeCount",
-                                           {"MoldTemperatureBCX_ReadNodeCount"},
-                                           {"MoldTemperatureBCX_WriteNodeCount"},
-                                           "the number of mesh nodes of the boundary condition"};
-inline constexpr Key<RealPair> kBCPoint{
-    "BC-%d",
-    {"MoldTemperatureBCX_ReadBCProfile"},
-    {"MoldTemperatureBCX_WriteBCProfile"},
-    "a point of the boundary condition's profile: the time, and the temperature, in oC"};
+// Every member of the numbered section renames the block for the rest of its session.
+inline constexpr Details kRenames{
+    .reading =
+        "From now on this reader finds no positional line (`MoldTemperatureBCX_ReadBC`, "
+        "`MoldTemperatureBCX_ReadBCSetting`): read those first, or through a reader of their own.",
+    .writing =
+        "From now on this writer begins a new section for positional lines "
+        "(`MoldTemperatureBCX_WriteBC`, `MoldTemperatureBCX_WriteBCSetting`): write those first, "
+        "or through a writer of their own."};
 
-inline constexpr const KeyInfo* kKeys[] = {&kBCName, &kBCDisplayType, &kBCNodeCount, &kBCPoint};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Text>{"BCName",
+              {"MoldTemperatureBCX_ReadName"},
+              {"MoldTemperatureBCX_WriteName"},
+              "the name of the boundary condition",
+              kRenames},
+    Key<Integer>{"BCDisplayType",
+                 {"MoldTemperatureBCX_ReadDisplayType"},
+                 {"MoldTemperatureBCX_WriteDisplayType"},
+                 "a code: how a front end shows the boundary condition",
+                 kRenames},
+    Key<Integer>{"BCNodeCount",
+                 {"MoldTemperatureBCX_ReadNodeCount"},
+                 {"MoldTemperatureBCX_WriteNodeCount"},
+                 "the number of mesh nodes of the boundary condition",
+                 kRenames},
+    Key<RealPair>{
+        "BC-%d",
+        {"MoldTemperatureBCX_ReadBCProfile"},
+        {"MoldTemperatureBCX_WriteBCProfile"},
+        "a point of the boundary condition's profile: the time, and the temperature, in oC",
+        kRenames},
+};
 
 inline constexpr SectionInfo kInfo{kSection,
                                    "MoldTemperatureBCX",
@@ -39,20 +52,20 @@ inline constexpr SectionInfo kInfo{kSection,
                                    kKeys,
                                    {"bc", "the condition"}};
 
-inline constexpr Key<PositionalHeader> kHeaderLine{
-    "header line",
-    {"MoldTemperatureBCX_ReadBC"},
-    {"MoldTemperatureBCX_WriteBC"},
-    "one for each boundary condition: the number of its setting lines, its name, and an integer",
-    {.older = {"GetBCCountName", "SetBCCountName", "GetBCSetting"}}};
-inline constexpr Key<PositionalSetting> kSettingLine{
-    "setting line",
-    {"MoldTemperatureBCX_ReadBCSetting"},
-    {"MoldTemperatureBCX_WriteBCSetting"},
-    "behind all header lines, one condition after the other: a number, \"=\", and two reals",
-    {.older = {"GetBCProfile", "SetBCProfile"}}};
-
-inline constexpr const KeyInfo* kLines[] = {&kHeaderLine, &kSettingLine};
+inline constexpr KeyInfo kLines[] = {
+    Key<PositionalHeader>{"header line",
+                          {"MoldTemperatureBCX_ReadBC"},
+                          {"MoldTemperatureBCX_WriteBC"},
+                          "one for each boundary condition: the number of its setting lines, its "
+                          "name, and an integer",
+                          {.older = {"GetBCCountName", "SetBCCountName", "GetBCSetting"}}},
+    Key<PositionalSetting>{
+        "setting line",
+        {"MoldTemperatureBCX_ReadBCSetting"},
+        {"MoldTemperatureBCX_WriteBCSetting"},
+        "behind all header lines, one condition after the other: a number, \"=\", and two reals",
+        {.older = {"GetBCProfile", "SetBCProfile"}}},
+};
 
 inline constexpr SectionInfo kPositionalInfo{
     "[SURFACE ELEMENT BOUNDARY CONDITION NAME]", nullptr,
@@ -73,14 +86,14 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
 
   /// Keys of the numbered section.
   template <class Encoding, class... Values>
-  int ReadNumbered(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+  int Read(const char* key, qel::Place place, Values&... values) {
     SetSectionName(qel::mold_temperature_bc_x::kSection);
-    return Read(key, place, values...);
+    return CQELPROBlockIOBase::Read<Encoding>(key, place, values...);
   }
   template <class Encoding, class... Values>
-  int WriteNumbered(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
+  int Write(const char* key, qel::Place place, Values... values) {
     SetSectionName(qel::mold_temperature_bc_x::kSection);
-    return Write(key, place, values...);
+    return CQELPROBlockIOBase::Write<Encoding>(key, place, values...);
   }
 
   /// Header line number `line` of the positional section: how many setting lines the condition has,

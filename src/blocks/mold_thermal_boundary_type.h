@@ -8,48 +8,44 @@ namespace qel::mold_thermal_boundary_type {
 
 inline constexpr char kSection[] = "[MoldThermalBoundaryType]";
 
-inline constexpr Key<Integer> kType{
-    "Type",
-    {"MoldTemperatureBoundaryType_ReadHTCType"},
-    {"MoldTemperatureBoundaryType_WriteHTCType"},
-    "a code: how the heat transfer between melt and mold is given",
-    {.older = {"GetMoldThermalBoundaryType", "SetMoldThermalBoundaryType"},
-     .loader = "set_process_HTC_HeatTransferType"}};
-inline constexpr Key<RealWithNote> kFlow{
-    "Flow",
-    {"MoldTemperatureBoundaryType_ReadHTCFlow"},
-    {"MoldTemperatureBoundaryType_WriteHTCFlow"},
-    "the heat transfer coefficient in filling, with a note such as its unit",
-    {.older = {"GetFlowHeatTransferCoefficient", "SetFlowHeatTransferCoefficient"},
-     .loader = "set_process_HTC_Flow"}};
-inline constexpr Key<RealWithNote> kPack{
-    "Pack",
-    {"MoldTemperatureBoundaryType_ReadHTCPack"},
-    {"MoldTemperatureBoundaryType_WriteHTCPack"},
-    "the heat transfer coefficient in packing, with a note such as its unit",
-    {.older = {"GetPackHeatTransferCoefficient", "SetPackHeatTransferCoefficient"},
-     .loader = "set_process_HTC_Pack"}};
-inline constexpr Key<RealWithNote> kDetached_HTC{"Detached_HTC",
-                                                 {"MoldTemperatureBoundaryType_ReadHTCDetached"},
-                                                 {"MoldTemperatureBoundaryType_WriteHTCDetached"},
-                                                 "the heat transfer coefficient where the part has "
-                                                 "come off the mold, with a note such as its unit",
-                                                 {.loader = "set_process_HTC_Detached"}};
-inline constexpr Key<RealWithNote> kHotRunner_HTC{
-    "HotRunner_HTC",
-    {"MoldTemperatureBoundaryType_ReadHTCHotRunner"},
-    {"MoldTemperatureBoundaryType_WriteHTCHotRunner"},
-    "the heat transfer coefficient in the hot runner, with a note such as its unit",
-    {.loader = "set_process_HTC_HotRunner"}};
-
-// Only the loader takes these.
-inline constexpr Key<Integer> kUserMode{
-    "UserMode", {}, {}, "a code of the user's mode", {.loader = "set_process_HTC_UserMode"}};
-inline constexpr Key<Real> kNuNum{
-    "NuNum", {}, {}, "the Nusselt number", {.loader = "set_process_HTC_NuNum"}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kType,          &kFlow,     &kPack, &kDetached_HTC,
-                                           &kHotRunner_HTC, &kUserMode, &kNuNum};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"Type",
+                 {"MoldTemperatureBoundaryType_ReadHTCType"},
+                 {"MoldTemperatureBoundaryType_WriteHTCType"},
+                 "a code: how the heat transfer between melt and mold is given",
+                 {.older = {"GetMoldThermalBoundaryType", "SetMoldThermalBoundaryType"},
+                  .loader = "set_process_HTC_HeatTransferType"}},
+    Key<RealWithNote>{
+        "Flow",
+        {"MoldTemperatureBoundaryType_ReadHTCFlow"},
+        {"MoldTemperatureBoundaryType_WriteHTCFlow"},
+        "the heat transfer coefficient in filling, with a note such as its unit",
+        {.older = {"GetFlowHeatTransferCoefficient", "SetFlowHeatTransferCoefficient"},
+         .loader = "set_process_HTC_Flow"}},
+    Key<RealWithNote>{
+        "Pack",
+        {"MoldTemperatureBoundaryType_ReadHTCPack"},
+        {"MoldTemperatureBoundaryType_WriteHTCPack"},
+        "the heat transfer coefficient in packing, with a note such as its unit",
+        {.older = {"GetPackHeatTransferCoefficient", "SetPackHeatTransferCoefficient"},
+         .loader = "set_process_HTC_Pack"}},
+    Key<RealWithNote>{"Detached_HTC",
+                      {"MoldTemperatureBoundaryType_ReadHTCDetached"},
+                      {"MoldTemperatureBoundaryType_WriteHTCDetached"},
+                      "the heat transfer coefficient where the part has "
+                      "come off the mold, with a note such as its unit",
+                      {.loader = "set_process_HTC_Detached"}},
+    Key<RealWithNote>{
+        "HotRunner_HTC",
+        {"MoldTemperatureBoundaryType_ReadHTCHotRunner"},
+        {"MoldTemperatureBoundaryType_WriteHTCHotRunner"},
+        "the heat transfer coefficient in the hot runner, with a note such as its unit",
+        {.loader = "set_process_HTC_HotRunner"}},
+    // Only the loader takes these.
+    Key<Integer>{
+        "UserMode", {}, {}, "a code of the user's mode", {.loader = "set_process_HTC_UserMode"}},
+    Key<Real>{"NuNum", {}, {}, "the Nusselt number", {.loader = "set_process_HTC_NuNum"}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "MoldThermalBoundaryType",
                                    "the heat transfer between melt and mold", kKeys};

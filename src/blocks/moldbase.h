@@ -8,14 +8,14 @@ namespace qel::moldbase {
 
 inline constexpr char kSection[] = "[Moldbase]";
 
-inline constexpr Key<MoldbaseLine> kMoldbase{
-    "%d",
-    {"Moldbase_ReadMoldbase"},
-    {"Moldbase_WriteMoldbase"},
-    "a mold base: three thermal values, its name, which may hold blanks, three mechanical values",
-    {.number = {"row", "the row"}, .older = {"GetMoldbase", "SetMoldbase"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
+inline constexpr KeyInfo kKeys[] = {
+    Key<MoldbaseLine>{"%d",
+                      {"Moldbase_ReadMoldbase"},
+                      {"Moldbase_WriteMoldbase"},
+                      "a mold base: three thermal values, its name, which may hold blanks, three "
+                      "mechanical values",
+                      {.number = {"row", "the row"}, .older = {"GetMoldbase", "SetMoldbase"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "Moldbase", "the mold bases, one material line each",
                                    kKeys};

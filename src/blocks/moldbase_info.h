@@ -8,14 +8,13 @@ namespace qel::moldbase_info {
 
 inline constexpr char kSection[] = "[MoldbaseInfo]";
 
-inline constexpr Key<IntegerAndQuotedName> kMoldbase{
-    "MB-%d",
-    {"MoldbaseInfo_ReadMoldbaseInfo"},
-    {"MoldbaseInfo_WriteMoldbaseInfo"},
-    "a mold base: an integer and its name, which stands in double quotes",
-    {.number = {"moldbase", "the mold base"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kMoldbase};
+inline constexpr KeyInfo kKeys[] = {
+    Key<IntegerAndQuotedName>{"MB-%d",
+                              {"MoldbaseInfo_ReadMoldbaseInfo"},
+                              {"MoldbaseInfo_WriteMoldbaseInfo"},
+                              "a mold base: an integer and its name, which stands in double quotes",
+                              {.number = {"moldbase", "the mold base"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "MoldbaseInfo", "numbered mold bases with their names",
                                    kKeys};

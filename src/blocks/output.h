@@ -8,23 +8,23 @@ namespace qel::output {
 
 inline constexpr char kSection[] = "[Output]";
 
-inline constexpr Key<Integer> kTimeStep{"TimeStep",
-                                        {},
-                                        {},
-                                        "how many time steps lie between two outputs",
-                                        {.older = {"GetOutputTimeStep", "SetOutputTimeStep"}}};
-inline constexpr Key<Real> kTimeFill{"TimeFill",
-                                     {},
-                                     {},
-                                     "the time of output in filling, in sec",
-                                     {.older = {"GetOutputTimeFill", "SetOutputTimeFill"}}};
-inline constexpr Key<Real> kTimePack{"TimePack",
-                                     {},
-                                     {},
-                                     "the time of output in packing, in sec",
-                                     {.older = {"GetOutputTimePack", "SetOutputTimePack"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kTimeStep, &kTimeFill, &kTimePack};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"TimeStep",
+                 {},
+                 {},
+                 "how many time steps lie between two outputs",
+                 {.older = {"GetOutputTimeStep", "SetOutputTimeStep"}}},
+    Key<Real>{"TimeFill",
+              {},
+              {},
+              "the time of output in filling, in sec",
+              {.older = {"GetOutputTimeFill", "SetOutputTimeFill"}}},
+    Key<Real>{"TimePack",
+              {},
+              {},
+              "the time of output in packing, in sec",
+              {.older = {"GetOutputTimePack", "SetOutputTimePack"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, nullptr, "when results are put out", kKeys};
 

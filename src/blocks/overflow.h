@@ -8,24 +8,23 @@ namespace qel::overflow {
 
 inline constexpr char kSection[] = "[OFGateValve-%d]";
 
-inline constexpr Key<Integer> kGCId{
-    "GCId", {"OverflowX_ReadOverflowID"}, {}, "the identifier of the overflow"};
-inline constexpr Key<Integer> kGCSet{"GCSet",
-                                     {"OverflowX_ReadControlPoint"},
-                                     {},
-                                     "the number of control points of the overflow valve",
-                                     {.older = {"GetOverFlowControlNo"}}};
-inline constexpr Key<GatePoint> kGCPoint{
-    "GC-%d",
-    {"OverflowX_ReadGateSetting"},
-    {},
-    "a control point: the switching value, an integer, the mode (1 to 4), and for modes 2 and 3 an "
-    "integer",
-    {.older = {"GetOverFlowTimeSwitch", "GetOverFlowControlData"}}};
-inline constexpr Key<GatePointShort> kGCPointShort{
-    "GC-%d", {"OverflowX_ReadGateSetting"}, {}, "a control point without its last integer"};
-
-inline constexpr const KeyInfo* kKeys[] = {&kGCId, &kGCSet, &kGCPoint, &kGCPointShort};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"GCId", {"OverflowX_ReadOverflowID"}, {}, "the identifier of the overflow"},
+    Key<Integer>{"GCSet",
+                 {"OverflowX_ReadControlPoint"},
+                 {},
+                 "the number of control points of the overflow valve",
+                 {.older = {"GetOverFlowControlNo"}}},
+    Key<GatePoint>{"GC-%d",
+                   {"OverflowX_ReadGateSetting"},
+                   {},
+                   "a control point: the switching value, an integer, the mode (1 to 4), and for "
+                   "modes 2 and 3 an "
+                   "integer",
+                   {.older = {"GetOverFlowTimeSwitch", "GetOverFlowControlData"}}},
+    Key<GatePointShort>{
+        "GC-%d", {"OverflowX_ReadGateSetting"}, {}, "a control point without its last integer"},
+};
 
 inline constexpr SectionInfo kInfo{
     kSection, "Overflow", "the valve of an overflow", kKeys, {"overflow", "the overflow"}};

@@ -73,7 +73,7 @@ class GroupSearch {
 
 int CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name, double& angle) {
   char* text = nullptr;
-  const int result = FindText(kGroup.text, qel::at_point(group), text);
+  const int result = FindText(qel::key_of(kKeys, "%d"), qel::at_point(group), text);
   if (result != to_int(Result::done)) {
     return result;
   }
@@ -88,7 +88,7 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(int group, double& angle) {
 int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& angle) {
   const std::string wanted(name);
   int count = 0;
-  Read(kGroupCount, {}, count);
+  Read<qel::Integer>(qel::key_of(kKeys, "GroupCount"), {}, count);
   if (count < 1) {
     return to_int(Result::absent);
   }

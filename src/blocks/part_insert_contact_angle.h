@@ -8,18 +8,17 @@ namespace qel::part_insert_contact_angle {
 
 inline constexpr char kSection[] = "[PartInsertContactAngle]";
 
-inline constexpr Key<Integer> kGroupCount{"GroupCount",
-                                          {"PartInsertContactAngle_ReadGroupCount"},
-                                          {"PartInsertContactAngle_WriteGroupCount"},
-                                          "the number of groups of part inserts"};
-inline constexpr Key<ContactAngle> kGroup{
-    "%d",
-    {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
-    {"PartInsertContactAngle_WriteGroup"},
-    "a group of part inserts: its name in double quotes, and its contact angle",
-    {.number = {"group", "the group"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kGroupCount, &kGroup};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"GroupCount",
+                 {"PartInsertContactAngle_ReadGroupCount"},
+                 {"PartInsertContactAngle_WriteGroupCount"},
+                 "the number of groups of part inserts"},
+    Key<ContactAngle>{"%d",
+                      {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
+                      {"PartInsertContactAngle_WriteGroup"},
+                      "a group of part inserts: its name in double quotes, and its contact angle",
+                      {.number = {"group", "the group"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "PartInsertContactAngle",
                                    "the contact angle of each part insert group", kKeys};

@@ -8,27 +8,25 @@ namespace qel::part_insert_initial_temperature {
 
 inline constexpr char kSection[] = "[PartInsertInitialTemperature]";
 
-inline constexpr Key<Integer> kTotalPartInsert{
-    "TotalPartInsert",
-    {"PartInsertInitialTemperature_ReadTotalPartInsert"},
-    {"PartInsertInitialTemperature_WriteTotalPartInsert"},
-    "the number of part inserts",
-    {.older = {"GetTotalPartInsert"}}};
-inline constexpr Key<PartInsertLine> kPartInsert{
-    "PartInsert-%d",
-    {"PartInsertInitialTemperature_ReadPartInsert"},
-    {"PartInsertInitialTemperature_WritePartInsert"},
-    "a part insert: its identifier, its name, its initial temperature, in oC",
-    {.number = {"insert", "the insert"}, .older = {"GetPartInsertSetting"}}};
-inline constexpr Key<PartInsertLineOfFour> kPartInsertOfFour{
-    "PartInsert-%d",
-    {"PartInsertInitialTemperature_ReadPartInsert"},
-    {},
-    "a part insert: its identifier, its name, which may hold blanks, its initial temperature, in "
-    "oC, and an integer",
-    {.number = {"insert", "the insert"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kTotalPartInsert, &kPartInsert, &kPartInsertOfFour};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"TotalPartInsert",
+                 {"PartInsertInitialTemperature_ReadTotalPartInsert"},
+                 {"PartInsertInitialTemperature_WriteTotalPartInsert"},
+                 "the number of part inserts",
+                 {.older = {"GetTotalPartInsert"}}},
+    Key<PartInsertLine>{"PartInsert-%d",
+                        {"PartInsertInitialTemperature_ReadPartInsert"},
+                        {"PartInsertInitialTemperature_WritePartInsert"},
+                        "a part insert: its identifier, its name, its initial temperature, in oC",
+                        {.number = {"insert", "the insert"}, .older = {"GetPartInsertSetting"}}},
+    Key<PartInsertLineOfFour>{"PartInsert-%d",
+                              {"PartInsertInitialTemperature_ReadPartInsert"},
+                              {},
+                              "a part insert: its identifier, its name, which may hold blanks, its "
+                              "initial temperature, in "
+                              "oC, and an integer",
+                              {.number = {"insert", "the insert"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "PartInsertInitialTemperature",
                                    "the initial temperature of each part insert", kKeys};

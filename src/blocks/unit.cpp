@@ -5,19 +5,23 @@ using namespace qel::unit;
 namespace {
 
 struct FixedUnit {
-  const qel::Key<qel::Text>& key;
+  const char* key;
   const char* text;
 };
 
 constexpr FixedUnit kFixed[] = {
-    {kTime, "sec\tTime"},      {kTemp, "oC\tTemperature"},      {kPres, "MPa\tPressure"},
-    {kFR, "cc/sec\tFlowRate"}, {kIP, "MPa\tInjectionPressure"}, {kPP, "MPa\tPackPressure"},
-    {kVolume, "cc\tVolume"},
+    {qel::key_of(kKeys, "Time"), "sec\tTime"},
+    {qel::key_of(kKeys, "Temp"), "oC\tTemperature"},
+    {qel::key_of(kKeys, "Pres"), "MPa\tPressure"},
+    {qel::key_of(kKeys, "FR"), "cc/sec\tFlowRate"},
+    {qel::key_of(kKeys, "IP"), "MPa\tInjectionPressure"},
+    {qel::key_of(kKeys, "PP"), "MPa\tPackPressure"},
+    {qel::key_of(kKeys, "Volume"), "cc\tVolume"},
 };
 static_assert(std::size(kFixed) == CQELPROBlockIOUnit::kUnits);
 
 }  // namespace
 
 int CQELPROBlockIOUnit::WriteUnit(std::size_t number) {
-  return Write(kFixed[number].key, {}, kFixed[number].text);
+  return Write<qel::Text>(kFixed[number].key, {}, kFixed[number].text);
 }

@@ -8,19 +8,19 @@ namespace qel::var_cool_ctl {
 
 inline constexpr char kSection[] = "[VarCoolCTL]";
 
-inline constexpr Key<Integer> kCoolantNo{"CoolantNo",
-                                         {"VarCoolCTL_ReadCoolantCount"},
-                                         {"VarCoolCTL_WriteCoolantCount"},
-                                         "the number of entries of variable cooling",
-                                         {.older = {"GetTotalCoolantNo", "SetTotalCoolantNo"}}};
-inline constexpr Key<FourRealsAndInteger> kCoolant{
-    "Coolant-%d",
-    {"VarCoolCTL_ReadCoolant"},
-    {"VarCoolCTL_WriteCoolant"},
-    "an entry of variable cooling: four reals and an integer",
-    {.number = {"entry", "the entry"}, .older = {"GetCoolant", "SetCoolant"}}};
-
-inline constexpr const KeyInfo* kKeys[] = {&kCoolantNo, &kCoolant};
+inline constexpr KeyInfo kKeys[] = {
+    Key<Integer>{"CoolantNo",
+                 {"VarCoolCTL_ReadCoolantCount"},
+                 {"VarCoolCTL_WriteCoolantCount"},
+                 "the number of entries of variable cooling",
+                 {.older = {"GetTotalCoolantNo", "SetTotalCoolantNo"}}},
+    Key<FourRealsAndInteger>{
+        "Coolant-%d",
+        {"VarCoolCTL_ReadCoolant"},
+        {"VarCoolCTL_WriteCoolant"},
+        "an entry of variable cooling: four reals and an integer",
+        {.number = {"entry", "the entry"}, .older = {"GetCoolant", "SetCoolant"}}},
+};
 
 inline constexpr SectionInfo kInfo{kSection, "VarCoolCTL", "variable cooling", kKeys};
 

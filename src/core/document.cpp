@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "core/scan_value.h"
-#include "core/text.h"
+#include "text/text.h"
 
 using qel::Entry;
 using qel::Line;

@@ -1,6 +1,6 @@
 #include "core/lookup.h"
 
-#include "core/text.h"
+#include "text/text.h"
 
 namespace qel {
 namespace {

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string_view>
 
-#include "core/line_scanner.h"
 #include "core/section_index.h"
 #include "platform/random_access.h"
+#include "text/line_scanner.h"
 
 namespace qel {
 

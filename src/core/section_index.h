@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/line_scanner.h"
-#include "core/name_table.h"
+#include "text/line_scanner.h"
+#include "text/name_table.h"
 
 namespace qel {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/text.h"
 #include "platform/line_break.h"
+#include "text/text.h"
 
 namespace qel {
 namespace {

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-#include "core/file_image.h"
 #include "core/lookup.h"
 #include "core/result.h"
 #include "platform/os_file.h"
 #include "platform/random_access.h"
+#include "text/file_image.h"
 
 namespace qel {
 

@@ -9,9 +9,9 @@
 #include "QELG/QELG.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELProcessData_Manipulator.h"
-#include "core/snapshot.h"
 #include "platform/number.h"
 #include "process/items.h"
+#include "text/snapshot.h"
 
 namespace {
 

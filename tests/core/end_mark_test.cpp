@@ -1,6 +1,6 @@
 #include "core/document_fixture.h"
-#include "core/snapshot.h"
 #include "support/line_break.h"
+#include "text/snapshot.h"
 
 // A 0x1A at a file's very end is where other programs' text mode stops: padding, before which
 // stores land.

@@ -1,4 +1,4 @@
-#include "core/file_image.h"
+#include "text/file_image.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include <set>
 
 #include "core/document_fixture.h"
-#include "core/name_hash.h"
+#include "text/name_hash.h"
 
 // Names that someone chose so that a table without a key of its own would take each of them for the
 // next.

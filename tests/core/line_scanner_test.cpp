@@ -1,4 +1,4 @@
-#include "core/line_scanner.h"
+#include "text/line_scanner.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/memory_file.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace {
 

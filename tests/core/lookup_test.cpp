@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/memory_file.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "core/name_table.h"
+#include "text/name_table.h"
 
 #include <gtest/gtest.h>
 

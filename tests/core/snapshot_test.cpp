@@ -1,4 +1,4 @@
-#include "core/snapshot.h"
+#include "text/snapshot.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/memory_file.h"
-#include "core/text.h"
 #include "support/line_break.h"
+#include "text/text.h"
 
 namespace {
 

@@ -20,8 +20,8 @@ std::string unread(const char* section, const char* key, const std::string& text
 
 TEST(ValueCheck, KnowsEveryEncodingOfTheCatalogue) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
-    for (const qel::KeyInfo* key : section->keys) {
-      EXPECT_TRUE(is_checked(key->encoding->name)) << key->encoding->name;
+    for (const qel::KeyInfo& key : section->keys) {
+      EXPECT_TRUE(is_checked(key.encoding->name)) << key.encoding->name;
     }
   }
 }
@@ -66,14 +66,17 @@ TEST(ValueCheck, TellsWhatIsNotRead) {
 }
 
 TEST(ValueCheck, TakesAZeroBeforeASeparatorForANumber) {
-  EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "0x900", 0), std::nullopt);
-  EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "1200", 0), "the separator is missing");
-  EXPECT_EQ(unread_part(qel::machine::kPlatenSize, "1200x", 0), "field 2, a number, is missing");
+  EXPECT_EQ(unread_part(qel::Key<qel::SizePair>{"", {}, {}, ""}, "0x900", 0), std::nullopt);
+  EXPECT_EQ(unread_part(qel::Key<qel::SizePair>{"", {}, {}, ""}, "1200", 0),
+            "the separator is missing");
+  EXPECT_EQ(unread_part(qel::Key<qel::SizePair>{"", {}, {}, ""}, "1200x", 0),
+            "field 2, a number, is missing");
 }
 
 TEST(ValueCheck, TakesAPositionalHeaderLineWithoutItsLastNumber) {
-  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop", 0), std::nullopt);
-  EXPECT_EQ(unread_part(qel::mold_temperature_bc_x::kHeaderLine, "2\ttop\tx", 0),
+  EXPECT_EQ(unread_part(qel::Key<qel::PositionalHeader>{"", {}, {}, ""}, "2\ttop", 0),
+            std::nullopt);
+  EXPECT_EQ(unread_part(qel::Key<qel::PositionalHeader>{"", {}, {}, ""}, "2\ttop\tx", 0),
             "field 3, a whole number, does not begin with \"x\"");
 }
 

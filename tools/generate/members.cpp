@@ -84,10 +84,10 @@ std::string without_region(const std::string& header, std::size_t& begin, std::s
 std::vector<Member> members_of(const ExportedObject& object, const std::string& by_hand) {
   std::vector<Member> members;
   for (const qel::SectionInfo* section : qel::Catalogue()) {
-    for (const qel::KeyInfo* key : section->keys) {
-      for (const char* name : object.writes ? key->writers : key->readers) {
+    for (const qel::KeyInfo& key : section->keys) {
+      for (const char* name : object.writes ? key.writers : key.readers) {
         if (name != nullptr && by_hand.find(" " + std::string(name) + "(") == std::string::npos) {
-          members.push_back(member_of(name, *section, *key, object.writes));
+          members.push_back(member_of(name, *section, key, object.writes));
         }
       }
     }

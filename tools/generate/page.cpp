@@ -14,11 +14,11 @@
 
 #include "blocks/catalogue.h"
 #include "blocks/encoding.h"
-#include "core/text.h"
 #include "encodings.h"
 #include "proio/line_scanner.h"
 #include "refdata/bounded_lines.h"
 #include "refdata/machine_bank.h"
+#include "text/text.h"
 
 namespace {
 
@@ -33,7 +33,11 @@ std::string contents(const std::string& path) {
 }
 
 std::vector<const qel::KeyInfo*> keys_of(const qel::SectionInfo& section) {
-  return {section.keys.begin(), section.keys.end()};
+  std::vector<const qel::KeyInfo*> keys;
+  for (const qel::KeyInfo& key : section.keys) {
+    keys.push_back(&key);
+  }
+  return keys;
 }
 
 // A cell of a table ends at "|".

@@ -20,8 +20,7 @@ std::string joined(const qel::Members& members) {
 
 void print_rows(std::ostream& to) {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
-    for (const qel::KeyInfo* row : section->keys) {
-      const qel::KeyInfo& key = *row;
+    for (const qel::KeyInfo& key : section->keys) {
       to << section->name << '\t' << key.text << '\t' << key.encoding->name << '\t'
          << joined(key.readers) << '\t' << joined(key.writers) << '\t' << joined(key.details.older)
          << '\t' << joined(key.details.adapter) << '\t'

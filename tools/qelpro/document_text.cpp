@@ -4,10 +4,10 @@
 #include <numeric>
 #include <utility>
 
-#include "core/line_scanner.h"
-#include "core/text.h"
 #include "platform/files.h"
 #include "status.h"
+#include "text/line_scanner.h"
+#include "text/text.h"
 
 namespace text = qel::text;
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/text.h"
+#include "text/text.h"
 
 namespace text = qel::text;
 

@@ -3,7 +3,7 @@
 #include <type_traits>
 #include <variant>
 
-#include "core/text.h"
+#include "text/text.h"
 
 namespace {
 

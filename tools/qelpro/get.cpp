@@ -4,11 +4,11 @@
 #include <string>
 
 #include "commands.h"
-#include "core/text.h"
 #include "document_text.h"
 #include "names.h"
 #include "output.h"
 #include "status.h"
+#include "text/text.h"
 
 namespace {
 

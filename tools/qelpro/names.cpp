@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include "core/text.h"
 #include "status.h"
+#include "text/text.h"
 
 namespace text = qel::text;
 

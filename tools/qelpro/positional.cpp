@@ -5,8 +5,8 @@
 
 #include "blocks/catalogue.h"
 #include "blocks/fields.h"
-#include "core/text.h"
 #include "entry_json.h"
+#include "text/text.h"
 #include "value_check.h"
 
 namespace {
@@ -95,7 +95,7 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
     if (kind_of(line) == LineKind::blank || is_setting_line(line.text)) {
       break;
     }
-    visitor.entry(entry_of("line " + std::to_string(headers + 1), line, *row.keys[0]));
+    visitor.entry(entry_of("line " + std::to_string(headers + 1), line, row.keys[0]));
   }
   std::vector<bool> taken(static_cast<std::size_t>(lines) + 1);
   MissingSettings missing(visitor.note);
@@ -111,7 +111,7 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
       taken[static_cast<std::size_t>(before + setting)] = true;
       const std::string name =
           "condition " + std::to_string(condition) + ", setting " + std::to_string(setting);
-      visitor.entry(entry_of(name, line_at(before + setting), *row.keys[1]));
+      visitor.entry(entry_of(name, line_at(before + setting), row.keys[1]));
     }
     if (setting <= count) {
       missing.add(condition, count, setting - 1);

@@ -12,8 +12,8 @@
 #include <variant>
 
 #include "blocks/catalogue.h"
-#include "core/text.h"
 #include "process/items.h"
+#include "text/text.h"
 #include "value_check.h"
 
 namespace {

@@ -7,12 +7,12 @@
 
 #include "blocks/catalogue.h"
 #include "commands.h"
-#include "core/text.h"
 #include "document_text.h"
 #include "entry_edit.h"
 #include "names.h"
 #include "platform/files.h"
 #include "status.h"
+#include "text/text.h"
 #include "value_check.h"
 
 namespace {

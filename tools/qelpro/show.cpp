@@ -8,7 +8,6 @@
 
 #include "blocks/catalogue.h"
 #include "commands.h"
-#include "core/text.h"
 #include "document_text.h"
 #include "entry_json.h"
 #include "json_text.h"
@@ -16,6 +15,7 @@
 #include "output.h"
 #include "positional.h"
 #include "status.h"
+#include "text/text.h"
 
 namespace {
 

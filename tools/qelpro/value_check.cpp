@@ -351,7 +351,7 @@ Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::s
   reading.unread = unread_part(*reading.key, text, reading.number);
   const std::string_view pattern = reading.key->text;
   for (std::size_t index = 0; reading.unread && index < section->keys.size(); ++index) {
-    const qel::KeyInfo& other = *section->keys[index];
+    const qel::KeyInfo& other = section->keys[index];
     if (pattern == other.text && !unread_part(other, text, reading.number)) {
       reading.key = &other;
       reading.unread.reset();

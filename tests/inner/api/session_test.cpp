@@ -100,7 +100,9 @@ TEST(Session, FindsThePositionalSectionByTheFirstTokenOfItsHeader) {
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kReading));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   char* text = nullptr;
-  ASSERT_EQ(session.block<CQELPROBlockIOMoldTemperatureBCX>().Read(kProbe, {}, text), 1);
+  ASSERT_EQ(
+      session.block<CQELPROBlockIOMoldTemperatureBCX>().CQELPROBlockIOBase::Read(kProbe, {}, text),
+      1);
   EXPECT_STREQ(text, "found");
 }
 

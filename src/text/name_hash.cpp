@@ -1,4 +1,4 @@
-#include "core/name_hash.h"
+#include "text/name_hash.h"
 
 #include <bit>
 #include <chrono>

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/name_hash.h"
+#include "text/name_hash.h"
 
 namespace qel {
 

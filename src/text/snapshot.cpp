@@ -1,13 +1,13 @@
-#include "core/snapshot.h"
+#include "text/snapshot.h"
 
 #include <algorithm>
 #include <charconv>
 #include <system_error>
 #include <utility>
 
-#include "core/lookup.h"
-#include "core/text.h"
 #include "platform/os_file.h"
+#include "text/line_scanner.h"
+#include "text/text.h"
 
 namespace qel {
 namespace {

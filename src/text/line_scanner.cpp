@@ -1,9 +1,9 @@
-#include "core/line_scanner.h"
+#include "text/line_scanner.h"
 
 #include <algorithm>
 #include <cstring>
 
-#include "core/text.h"
+#include "text/text.h"
 
 namespace qel {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/name_table.h"
+#include "text/name_table.h"
 
 namespace qel {
 
