@@ -32,7 +32,7 @@ proio platform
 refdata core text platform
 qelg
 EOF
-if found=$(git grep -nE '#include "(text|core|blocks|api|process|platform)/' -- include tests/api tests/process tests/qelg examples); then
+if found=$(git grep -nE '#include "((text|core|blocks|process|platform)/|api/[a-z_]+\.h)' -- include tests/api examples); then
   complain "what is outside includes what is hidden:"$'\n'"$found"
 fi
 

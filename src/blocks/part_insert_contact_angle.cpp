@@ -6,8 +6,6 @@
 #include <string_view>
 
 using qel::Result;
-using namespace qel::part_insert_contact_angle;
-
 namespace {
 
 // Whether a key is a group's number as the members spell it: "1", not "01".
@@ -73,7 +71,8 @@ class GroupSearch {
 
 int CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name, double& angle) {
   char* text = nullptr;
-  const int result = FindText(qel::key_of(kKeys, "%d"), qel::at_point(group), text);
+  const int result = FindText(qel::key_of(qel::part_insert_contact_angle::kKeys, "%d"),
+                              qel::at_point(group), text);
   if (result != to_int(Result::done)) {
     return result;
   }
@@ -88,7 +87,7 @@ int CQELPROBlockIOPartInsertContactAngle::ReadAngle(int group, double& angle) {
 int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& angle) {
   const std::string wanted(name);
   int count = 0;
-  Read<qel::Integer>(qel::key_of(kKeys, "GroupCount"), {}, count);
+  Read<qel::Integer>(qel::key_of(qel::part_insert_contact_angle::kKeys, "GroupCount"), {}, count);
   if (count < 1) {
     return to_int(Result::absent);
   }

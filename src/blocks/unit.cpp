@@ -1,7 +1,5 @@
 #include "blocks/unit.h"
 
-using namespace qel::unit;
-
 namespace {
 
 struct FixedUnit {
@@ -10,13 +8,13 @@ struct FixedUnit {
 };
 
 constexpr FixedUnit kFixed[] = {
-    {qel::key_of(kKeys, "Time"), "sec\tTime"},
-    {qel::key_of(kKeys, "Temp"), "oC\tTemperature"},
-    {qel::key_of(kKeys, "Pres"), "MPa\tPressure"},
-    {qel::key_of(kKeys, "FR"), "cc/sec\tFlowRate"},
-    {qel::key_of(kKeys, "IP"), "MPa\tInjectionPressure"},
-    {qel::key_of(kKeys, "PP"), "MPa\tPackPressure"},
-    {qel::key_of(kKeys, "Volume"), "cc\tVolume"},
+    {qel::key_of(qel::unit::kKeys, "Time"), "sec\tTime"},
+    {qel::key_of(qel::unit::kKeys, "Temp"), "oC\tTemperature"},
+    {qel::key_of(qel::unit::kKeys, "Pres"), "MPa\tPressure"},
+    {qel::key_of(qel::unit::kKeys, "FR"), "cc/sec\tFlowRate"},
+    {qel::key_of(qel::unit::kKeys, "IP"), "MPa\tInjectionPressure"},
+    {qel::key_of(qel::unit::kKeys, "PP"), "MPa\tPackPressure"},
+    {qel::key_of(qel::unit::kKeys, "Volume"), "cc\tVolume"},
 };
 static_assert(std::size(kFixed) == CQELPROBlockIOUnit::kUnits);
 

@@ -8,8 +8,8 @@
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/QELPROEngine.h"
+#include "api/proio/support.h"
 #include "faults/io_calls.h"
-#include "proio/support.h"
 #include "support/scratch.h"
 
 // Every call to the operating system fails once, in turn, in every kind of store. The file is as it

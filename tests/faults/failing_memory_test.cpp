@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "QELG/QELG.h"
+#include "api/proio/support.h"
 #include "faults/allocations.h"
 #include "load/scale.h"
 #include "members/every_call.h"
-#include "proio/support.h"
 #include "support/scratch.h"
 
 // Every allocation of every member fails once, in turn, alone and with all behind it. No exception

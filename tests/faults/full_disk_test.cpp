@@ -6,7 +6,7 @@
 #include <string>
 
 #include "QELPROEngine/QELPROEngine.h"
-#include "proio/support.h"
+#include "api/proio/support.h"
 #include "support/scratch.h"
 
 // Stores into a file system that fills up. Needs the right to mount one.

@@ -12,8 +12,8 @@
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/QELPROEngine.h"
+#include "api/proio/support.h"
 #include "faults/allocations.h"
-#include "proio/support.h"
 #include "support/scratch.h"
 
 // What the members have no list for: making, copying, assigning and destroying the exported

@@ -233,7 +233,8 @@ WriterRow writes(std::string name, bool (Writer::*member)(Arguments...), std::st
   return {std::move(name), std::move(section), std::move(key), std::move(text), takes_text, call};
 }
 
-/// The behaviours of every section member; tests/api/section_members_test.cpp holds them.
+/// The behaviours of every section member; tests/api/reader_writer/section_members_test.cpp holds
+/// them.
 class SectionReader : public testing::TestWithParam<ReaderRow> {};
 class SectionWriter : public testing::TestWithParam<WriterRow> {};
 

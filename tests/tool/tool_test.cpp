@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "proio/support.h"
+#include "api/proio/support.h"
 #include "support/line_break.h"
 #include "support/run.h"
 #include "support/scratch.h"
