@@ -1,6 +1,5 @@
 #include <QELPROEngine/CQELPCSInterpolator.h>
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cmath>
 #include <memory>
@@ -9,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "command_line.h"
 #include "commands.h"
 #include "json_text.h"
 #include "output.h"
@@ -17,15 +17,6 @@
 #include "status.h"
 
 namespace {
-
-struct Arguments {
-  std::vector<std::string> words;  // [FILE] ID TEMPERATURE, or [FILE] with --table
-  std::optional<int> table;
-  std::optional<double> from;
-  std::optional<double> to;
-  std::optional<double> step;
-  bool json = false;
-};
 
 struct Request {
   std::string file;
@@ -45,7 +36,7 @@ std::string own_file() {
   return path.data();
 }
 
-void take_table(const Arguments& arguments, Request& request) {
+void take_table(const CoolantArguments& arguments, Request& request) {
   constexpr double kMostRows = 1e6;
   for (const auto& [given, name] : {std::pair(arguments.from.has_value(), "--from"),
                                     std::pair(arguments.to.has_value(), "--to"),
@@ -84,24 +75,24 @@ void take_point(std::vector<std::string>& words, Request& request) {
   double temperature = 0;
   int coolant = 0;
   // A file's name and a number: the number is the coolant, as far as one can tell.
-  if (words.size() == 2 && !CLI::detail::lexical_cast(words.front(), coolant)) {
-    refuse(CLI::detail::lexical_cast(words.back(), coolant)
+  if (words.size() == 2 && !reads_as(words.front(), coolant)) {
+    refuse(reads_as(words.back(), coolant)
                ? "TEMPERATURE is missing behind \"" + words.back() + "\"; or \"" + words.front() +
                      "\" is no coolant's identifier"
                : "\"" + words.front() + "\" is no coolant's identifier: give a whole number");
   }
-  if (!CLI::detail::lexical_cast(words.back(), temperature)) {
+  if (!reads_as(words.back(), temperature)) {
     refuse("\"" + words.back() + "\" is no temperature");
   }
   words.pop_back();
-  if (!CLI::detail::lexical_cast(words.back(), request.coolant)) {
+  if (!reads_as(words.back(), request.coolant)) {
     refuse("\"" + words.back() + "\" is no coolant's identifier: give a whole number");
   }
   words.pop_back();
   request.temperatures.push_back(temperature);
 }
 
-Request request_of(const Arguments& arguments) {
+Request request_of(const CoolantArguments& arguments) {
   Request request;
   std::vector<std::string> words = arguments.words;
   if (arguments.table) {
@@ -150,7 +141,9 @@ std::string in_columns(const std::vector<double>& numbers) {
   return line.str() + "\n";
 }
 
-int coolant(const Arguments& arguments) {
+}  // namespace
+
+int run_coolant(const CoolantArguments& arguments) {
   const Request request = request_of(arguments);
   const std::string contents = platform::read_file(request.file);
   CQELPCSInterpolator tables;
@@ -179,35 +172,4 @@ int coolant(const Arguments& arguments) {
     answer() << '\n';
   }
   return kDone;
-}
-
-}  // namespace
-
-void add_coolant(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand(
-      "coolant", "Print the four properties of a coolant at a temperature, or a table of them");
-  command
-      ->add_option("FILE ID TEMPERATURE", arguments->words,
-                   "The coolant settings file (the user's own where it is left out), the coolant's "
-                   "identifier, the temperature")
-      ->type_name("...")
-      ->expected(0, -1);
-  command
-      ->add_option("--table", arguments->table,
-                   "The coolant whose properties are printed as a table, a row a temperature")
-      ->type_name("ID");
-  command->add_option("--from", arguments->from, "The table's first temperature")->type_name("T");
-  command->add_option("--to", arguments->to, "The temperature that the table does not exceed")
-      ->type_name("T");
-  command->add_option("--step", arguments->step, "The step between two temperatures")
-      ->type_name("D");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer(
-      "ID is 0, 1 or 2 for the section [Coolant-0], [Coolant-1] or [Coolant-2], and from 6 on the "
-      "section's number plus 3: 6 is [Coolant-3], 7 is\n"
-      "[Coolant-4]. 3, 4 and 5 identify no coolant. An ID that is not found is answered with those "
-      "that are there.\n"
-      "Example: qelpro coolant coolants.pcs 6 25");
-  command->callback([arguments, &status] { status = coolant(*arguments); });
 }

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,12 +10,6 @@
 #include "text/text.h"
 
 namespace {
-
-struct Arguments {
-  std::string file;
-  std::string section;
-  std::string key;
-};
 
 // What a line behind a blank says is not found, though it stands there.
 std::string why_not_found(const DocumentText& document, const TextSection* section,
@@ -39,7 +32,9 @@ std::string why_not_found(const DocumentText& document, const TextSection* secti
   return "not found: the section has no such key";
 }
 
-int get(const Arguments& arguments) {
+}  // namespace
+
+int run_get(const GetArguments& arguments) {
   const std::string section_wanted = section_name(arguments.section);
   const DocumentText document = load_document(arguments.file);
   Where where{arguments.file, 0, section_wanted, arguments.key};
@@ -61,17 +56,4 @@ int get(const Arguments& arguments) {
                              : whole_value(*line))
            << '\n';
   return kDone;
-}
-
-}  // namespace
-
-void add_get(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("get", "Print the value of a key");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
-      ->required();
-  command->add_option("KEY", arguments->key, "The key")->required();
-  command->footer("Example: qelpro get Default.pro Flow-1 FillTime");
-  command->callback([arguments, &status] { status = get(*arguments); });
 }

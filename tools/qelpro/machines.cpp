@@ -1,6 +1,5 @@
 #include <QELPROEngine/CQELMachineIdentification.h>
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,13 +12,6 @@
 #include "status.h"
 
 namespace {
-
-struct Arguments {
-  std::string bank;
-  std::string maker;
-  const CLI::Option* maker_option = nullptr;  // tells an empty maker from none
-  bool json = false;
-};
 
 void list_makers(CQELMachineIdentification& machines, bool json) {
   const char** makers = nullptr;
@@ -79,9 +71,10 @@ void list_grades(CQELMachineIdentification& machines, const std::string& maker, 
       at(bank, "the bank is empty: no line of it is a machine (flag 1 and 22 fields or more)"));
 }
 
-int machines(const Arguments& arguments) {
-  const bool lists_grades = arguments.maker_option->count() != 0;
-  if (lists_grades && arguments.maker.empty()) {
+}  // namespace
+
+int run_machines(const MachinesArguments& arguments) {
+  if (arguments.maker && arguments.maker->empty()) {
     throw Failure(kUsage,
                   "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
   }
@@ -97,30 +90,15 @@ int machines(const Arguments& arguments) {
     throw Failure(kFileError,
                   at(arguments.bank, "cannot be loaded: out of memory, or changed meanwhile"));
   }
-  if (!lists_grades) {
+  if (!arguments.maker) {
     list_makers(machines, arguments.json);
     return kDone;
   }
-  if (machines.GetGradeCount(arguments.maker.c_str()) == 0) {
+  if (machines.GetGradeCount(arguments.maker->c_str()) == 0) {
     throw Failure(kNotFound,
-                  at(arguments.bank, "maker \"" + arguments.maker +
+                  at(arguments.bank, "maker \"" + *arguments.maker +
                                          "\": not found; qelpro machines FILE lists the makers"));
   }
-  list_grades(machines, arguments.maker, arguments.json);
+  list_grades(machines, *arguments.maker, arguments.json);
   return kDone;
-}
-
-}  // namespace
-
-void add_machines(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand(
-      "machines",
-      "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
-  command->add_option("FILE", arguments->bank, "The machine bank")->required();
-  arguments->maker_option =
-      command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer("Example: qelpro machines machines.bank 'Any Maker'");
-  command->callback([arguments, &status] { status = machines(*arguments); });
 }

@@ -1,6 +1,5 @@
 #include <QELPROEngine/CPROIO_Manipulator.h>
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
@@ -13,7 +12,10 @@ namespace {
 // Somewhat more than a default document has.
 constexpr std::size_t kRoom = std::size_t{16} * 1024;
 
-int make(const std::string& path) {
+}  // namespace
+
+int run_new(const NewArguments& arguments) {
+  const std::string& path = arguments.file;
   platform::NewFile file(path, kRoom);
   CPROIO_Manipulator document;
   document.SetFilePath(file.temporary_path().data());
@@ -26,14 +28,4 @@ int make(const std::string& path) {
   }
   file.publish();
   return kDone;
-}
-
-}  // namespace
-
-void add_new(CLI::App& app, int& status) {
-  auto file = std::make_shared<std::string>();
-  CLI::App* command = app.add_subcommand("new", "Make a process file with default values");
-  command->add_option("FILE", *file, "The process file; one that exists is left alone")->required();
-  command->footer("Example: qelpro new Default.pro");
-  command->callback([file, &status] { status = make(*file); });
 }

@@ -1,7 +1,6 @@
 #include <QELG/QELG.h>
 #include <QELPROEngine/CQELProcessData_Manipulator.h>
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,11 +14,6 @@
 #include "status.h"
 
 namespace {
-
-struct Arguments {
-  std::string file;
-  bool json = false;
-};
 
 template <class Source>
 Json value_of(const Source& source, const NamedItem<Source>& item) {
@@ -163,7 +157,9 @@ Json notes_as_json(const std::vector<ProcessNote>& notes) {
   return list;
 }
 
-int show(const Arguments& arguments) {
+}  // namespace
+
+int run_process(const ProcessArguments& arguments) {
   const DocumentText document = load_document(arguments.file);
   if (document.sections().empty()) {
     throw Failure(kFileError, at(arguments.file,
@@ -189,19 +185,4 @@ int show(const Arguments& arguments) {
     print(result);
   }
   return kDone;
-}
-
-}  // namespace
-
-void add_process(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command =
-      app.add_subcommand("process", "Build the simulator process of a file and print it");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer(
-      "What of the file does not reach the process as it stands is told on stderr, and under "
-      "\"notes\" in JSON.\nExample: qelpro process Default.pro "
-      "--json");
-  command->callback([arguments, &status] { status = show(*arguments); });
 }

@@ -1,6 +1,5 @@
 #include <QELPROEngine/CQELPROReader_Manipulator.h>
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <memory>
 #include <string>
@@ -16,14 +15,6 @@
 #include "value_check.h"
 
 namespace {
-
-struct Arguments {
-  std::string file;
-  std::string section;
-  std::string key;
-  std::string value;
-  bool force = false;
-};
 
 // Line breaks at a value's very end are no part of it.
 std::string without_line_breaks_behind(const std::string& value) {
@@ -53,7 +44,7 @@ bool is_read_back(const std::string& file, const std::string& section, const std
          qel::text::index_value(value) == found;
 }
 
-void store(const Arguments& arguments, const std::string& section, const std::string& value) {
+void store(const SetArguments& arguments, const std::string& section, const std::string& value) {
   platform::Replacement file(arguments.file);
   const DocumentText document(arguments.file, file.old_contents());
   const std::string contents = with_entry(document, section, arguments.key, value);
@@ -69,7 +60,9 @@ void store(const Arguments& arguments, const std::string& section, const std::st
   file.commit();
 }
 
-int set(const Arguments& arguments) {
+}  // namespace
+
+int run_set(const SetArguments& arguments) {
   const std::string value = without_line_breaks_behind(arguments.value);
   std::string section;
   try {
@@ -86,23 +79,4 @@ int set(const Arguments& arguments) {
   }
   store(arguments, section, value);
   return kDone;
-}
-
-}  // namespace
-
-void add_set(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand("set", "Change the value of a key, or add it");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
-      ->required();
-  command->add_option("KEY", arguments->key, "The key")->required();
-  command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")
-      ->required();
-  command->add_flag("--force", arguments->force,
-                    "Store a value too that the key's encoding does not read back whole");
-  command->footer(
-      "A value that begins with a dash comes behind '--'.\nExample: qelpro set Default.pro Flow-1 "
-      "FillTime 1.5");
-  command->callback([arguments, &status] { status = set(*arguments); });
 }

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <deque>
 #include <memory>
@@ -18,13 +17,6 @@
 #include "text/text.h"
 
 namespace {
-
-struct Arguments {
-  std::string file;
-  std::string section;
-  const CLI::Option* section_option = nullptr;  // tells an empty section from none
-  bool json = false;
-};
 
 /// Why no lookup takes a value from a line.
 enum class Why : std::uint8_t {
@@ -341,9 +333,10 @@ void print_front(const DocumentText& document, Printer& printer) {
   }
 }
 
-int show(const Arguments& arguments) {
-  const std::string wanted =
-      arguments.section_option->count() != 0 ? section_name(arguments.section) : "";
+}  // namespace
+
+int run_show(const ShowArguments& arguments) {
+  const std::string wanted = arguments.section ? section_name(*arguments.section) : "";
   const DocumentText document = load_document(arguments.file);
   const TextSection* const first = wanted.empty() ? nullptr : document.find(wanted);
   if (!wanted.empty() && first == nullptr) {
@@ -364,19 +357,4 @@ int show(const Arguments& arguments) {
   }
   printer->end();
   return kDone;
-}
-
-}  // namespace
-
-void add_show(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<Arguments>();
-  CLI::App* command = app.add_subcommand(
-      "show",
-      "Print every entry with its meaning and its typed value, and the lines that are never read");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  arguments->section_option = command->add_option("SECTION", arguments->section,
-                                                  "One section, with or without its brackets");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer("Example: qelpro show Default.pro Flow-1");
-  command->callback([arguments, &status] { status = show(*arguments); });
 }

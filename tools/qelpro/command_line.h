@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+/// Takes a command line apart and runs its command. The exit status that the program ends with;
+/// throws a `Failure` for a line that is wrong.
+int run_command_line(int count, char** arguments);
+
+/// Whether a word is a number and nothing else, as it would be for an option.
+bool reads_as(const std::string& word, int& number);
+bool reads_as(const std::string& word, double& number);
