@@ -18,7 +18,7 @@ struct Argument {
 enum class Kind { integer, real, text };
 
 template <class Value>
-constexpr Kind kind_of = std::is_same_v<Value, int>      ? Kind::integer
+constexpr Kind kKindOf = std::is_same_v<Value, int>      ? Kind::integer
                          : std::is_same_v<Value, double> ? Kind::real
                                                          : Kind::text;
 
@@ -32,7 +32,7 @@ constexpr auto field_arguments(const Argument (&arguments)[count]) {
   static_assert(std::tuple_size_v<Values> == count);
   std::array<FieldArgument, count> fields{};
   [&]<std::size_t... index>(std::index_sequence<index...>) {
-    ((fields[index] = {arguments[index], kind_of<std::tuple_element_t<index, Values>>}), ...);
+    ((fields[index] = {arguments[index], kKindOf<std::tuple_element_t<index, Values>>}), ...);
   }
   (std::make_index_sequence<count>());
   return fields;

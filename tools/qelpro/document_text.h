@@ -1,87 +1,17 @@
 #pragma once
 
-#include <cstddef>
-#include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
-/// One line of a process file, as the engine sees it: one that is too long comes as several.
-struct TextLine {
-  std::string_view whole;  ///< Without its line break.
-  std::string_view text;   ///< What the engine takes for the line: up to a NUL byte.
-  std::size_t begin = 0;   ///< Where it stands in the file.
-  std::size_t end = 0;     ///< Behind its line break.
-  std::size_t number = 0;  ///< From 1; lines that stand in one line of the file have its number.
-  bool goes_on = false;    ///< It has no line break, and another line behind it.
-};
+#include "text/sectioned_text.h"
 
-/// A section: its header, and the lines up to the next header.
-struct TextSection {
-  std::string_view
-      name;  ///< The header's first token, or the whole header where that is not bracketed.
-  std::size_t header = 0;  ///< The index of its header among the lines.
-  std::size_t behind = 0;  ///< The index behind its last line.
-  bool repeated =
-      false;  ///< A section that lookups take for the same came before: it is never read.
-};
+using qel::LineKind;
+using qel::SectionedText;
+using qel::TextLine;
+using qel::TextSection;
 
-/// What a line inside or before the sections is.
-enum class LineKind { blank, comment, indented, without_equals, entry };
-LineKind kind_of(const TextLine& line);
+/// The contents of a process file. Throws a `Failure` for UTF-16.
+SectionedText document_text(const std::string& file, std::string contents);
+SectionedText load_document(const std::string& file);
 
 /// What of the line the engine does not read as it stands, for a message; or empty.
 std::string limit_of(const TextLine& line);
-
-/// Whether a name, or a header, is that of the section whose lines are addressed by position.
-/// Lookups find it by its first word.
-bool is_positional(std::string_view section);
-
-/// The text of a process file, its lines and its sections. An UTF-16 text is refused with a
-/// `Failure`: nobody finds a line in it.
-///
-/// Lines may be as short as their line break. Of each no more is kept than where it begins.
-class DocumentText {
- public:
-  DocumentText(const std::string& file, std::string contents);
-  DocumentText(const DocumentText&) = delete;
-  DocumentText& operator=(const DocumentText&) = delete;
-
-  [[nodiscard]] const std::string& contents() const { return contents_; }
-  [[nodiscard]] std::size_t line_count() const { return begins_.size(); }
-  [[nodiscard]] TextLine line(std::size_t index) const;
-  [[nodiscard]] const std::vector<TextSection>& sections() const { return sections_; }
-  /// How many lines stand before the first section.
-  [[nodiscard]] std::size_t lines_before_sections() const {
-    return sections_.empty() ? line_count() : sections_.front().header;
-  }
-
-  /// The text from where the line begins to the next line break: with the lines that it goes on in,
-  /// where it is too long.
-  [[nodiscard]] std::string_view to_line_break(const TextLine& line) const;
-
-  /// The first section of that name, or null.
-  [[nodiscard]] const TextSection* find(std::string_view section) const;
-  /// The line that a lookup of the key in the section takes.
-  [[nodiscard]] std::optional<TextLine> find(const TextSection& section,
-                                             std::string_view key) const;
-
- private:
-  void split();
-  void sort_sections();
-
-  std::string contents_;
-  std::vector<std::size_t> begins_;  // of the lines
-  std::size_t end_ = 0;              // of the last one
-  std::vector<std::size_t>
-      pieces_;  // the indexes of the lines that stand behind another one in one line of the file
-  std::vector<TextSection> sections_;
-  std::vector<std::size_t> by_name_;  // the sections by name, those of one name in the file's order
-};
-
-/// The text behind the first "=" of the line as it stands, without blanks around it. Longer than
-/// what the engine takes where the line has a NUL byte.
-std::string_view whole_value(const TextLine& line);
-
-/// The contents of a process file.
-DocumentText load_document(const std::string& file);

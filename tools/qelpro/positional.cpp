@@ -82,7 +82,7 @@ class MissingSettings {
 
 }  // namespace
 
-void visit_positional_lines(const DocumentText& document, const TextSection& section,
+void visit_positional_lines(const SectionedText& document, const TextSection& section,
                             const PositionalVisitor& visitor) {
   const qel::SectionInfo& row = catalogue_row();
   const auto line_at = [&](std::int64_t position) {
@@ -92,7 +92,7 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
   std::int64_t headers = 0;
   for (; headers < lines; ++headers) {
     const TextLine line = line_at(headers + 1);
-    if (kind_of(line) == LineKind::blank || is_setting_line(line.text)) {
+    if (qel::kind_of(line) == LineKind::blank || is_setting_line(line.text)) {
       break;
     }
     visitor.entry(entry_of("line " + std::to_string(headers + 1), line, row.keys[0]));
@@ -121,7 +121,7 @@ void visit_positional_lines(const DocumentText& document, const TextSection& sec
   missing.flush();
   for (std::int64_t position = headers + 1; position <= lines; ++position) {
     if (!taken[static_cast<std::size_t>(position)] &&
-        kind_of(line_at(position)) != LineKind::blank) {
+        qel::kind_of(line_at(position)) != LineKind::blank) {
       visitor.passed_over(section.header + static_cast<std::size_t>(position));
     }
   }

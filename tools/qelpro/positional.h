@@ -17,5 +17,5 @@ struct PositionalVisitor {
 
 /// Its lines: header lines first, then as many setting lines for each condition as its header line
 /// says and the section holds.
-void visit_positional_lines(const DocumentText& document, const TextSection& section,
+void visit_positional_lines(const SectionedText& document, const TextSection& section,
                             const PositionalVisitor& visitor);

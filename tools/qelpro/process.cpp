@@ -160,7 +160,7 @@ Json notes_as_json(const std::vector<ProcessNote>& notes) {
 }  // namespace
 
 int run_process(const ProcessArguments& arguments) {
-  const DocumentText document = load_document(arguments.file);
+  const SectionedText document = load_document(arguments.file);
   if (document.sections().empty()) {
     throw Failure(kFileError, at(arguments.file,
                                  "no process file: it has no section (a line such as [Flow-1])"));

@@ -64,12 +64,12 @@ struct Entries {
 
 class Diagnosis {
  public:
-  Diagnosis(std::string file, const DocumentText& document)
+  Diagnosis(std::string file, const SectionedText& document)
       : file_(std::move(file)), document_(document) {}
 
   std::vector<ProcessNote> run() {
     for (std::size_t index = 0; index < document_.lines_before_sections(); ++index) {
-      if (const TextLine line = document_.line(index); kind_of(line) == LineKind::entry) {
+      if (const TextLine line = document_.line(index); qel::kind_of(line) == LineKind::entry) {
         add({file_, line.number, "", ""}, "dropped: the line stands before the first section");
       }
     }
@@ -120,7 +120,7 @@ class Diagnosis {
 
   void take_line(const TextLine& line, Entries& entries) {
     const std::string_view key = qel::text::first_token(line.text);
-    switch (kind_of(line)) {
+    switch (qel::kind_of(line)) {
       case LineKind::blank:
       case LineKind::comment:
         return;
@@ -501,13 +501,13 @@ class Diagnosis {
   }
 
   std::string file_;
-  const DocumentText& document_;
+  const SectionedText& document_;
   std::vector<ProcessNote> notes_;
   std::map<std::string, Entries> taken_;
 };
 
 }  // namespace
 
-std::vector<ProcessNote> process_notes(const std::string& file, const DocumentText& document) {
+std::vector<ProcessNote> process_notes(const std::string& file, const SectionedText& document) {
   return Diagnosis(file, document).run();
 }

@@ -15,4 +15,4 @@ struct ProcessNote {
 
 /// The notes of a file in the order in which the loader takes its sections. A diagnosis of its own,
 /// from the rows that the loader has its keys from.
-std::vector<ProcessNote> process_notes(const std::string& file, const DocumentText& document);
+std::vector<ProcessNote> process_notes(const std::string& file, const SectionedText& document);

@@ -7,10 +7,10 @@
 #include "blocks/catalogue.h"
 #include "commands.h"
 #include "document_text.h"
-#include "entry_edit.h"
 #include "names.h"
 #include "platform/files.h"
 #include "status.h"
+#include "text/entry_edit.h"
 #include "text/text.h"
 #include "value_check.h"
 
@@ -46,8 +46,8 @@ bool is_read_back(const std::string& file, const std::string& section, const std
 
 void store(const SetArguments& arguments, const std::string& section, const std::string& value) {
   platform::Replacement file(arguments.file);
-  const DocumentText document(arguments.file, file.old_contents());
-  const std::string contents = with_entry(document, section, arguments.key, value);
+  const SectionedText document = document_text(arguments.file, file.old_contents());
+  const std::string contents = qel::with_entry(document, section, arguments.key, value);
   if (contents == document.contents()) {
     return;
   }

@@ -53,7 +53,7 @@ const char* text_of(Why why) {
 /// over, in the file's order.
 class Printer {
  public:
-  explicit Printer(const DocumentText& document) : document_(document) {}
+  explicit Printer(const SectionedText& document) : document_(document) {}
   Printer(const Printer&) = delete;
   Printer& operator=(const Printer&) = delete;
   virtual ~Printer() = default;
@@ -67,10 +67,10 @@ class Printer {
   virtual void end() = 0;
 
  protected:
-  [[nodiscard]] const DocumentText& document() const { return document_; }
+  [[nodiscard]] const SectionedText& document() const { return document_; }
 
  private:
-  const DocumentText& document_;
+  const SectionedText& document_;
 };
 
 class PlainPrinter : public Printer {
@@ -189,7 +189,7 @@ class JsonPrinter : public Printer {
 
 // Why no lookup takes a value from the line; none for an entry and for a blank line.
 Why why_passed_over(const TextLine& line) {
-  switch (kind_of(line)) {
+  switch (qel::kind_of(line)) {
     case LineKind::comment:
       return Why::comment;
     case LineKind::indented:
@@ -212,7 +212,8 @@ class KnownSections {
       any_ = true;
       last_ = name;
       found_ = qel::find_section(
-          std::string(is_positional(name) ? qel::text::kPositionalHeader : name).c_str(), number);
+          std::string(qel::is_positional(name) ? qel::text::kPositionalHeader : name).c_str(),
+          number);
     }
     return found_;
   }
@@ -224,12 +225,12 @@ class KnownSections {
 };
 
 // The keys of the lines that have no "=".
-std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& document,
+std::set<std::string_view> keys_of_lines_without_equals(const SectionedText& document,
                                                         const TextSection& section) {
   std::set<std::string_view> keys;
   for (std::size_t index = section.header + 1; index < section.behind; ++index) {
     const TextLine line = document.line(index);
-    if (kind_of(line) == LineKind::without_equals) {
+    if (qel::kind_of(line) == LineKind::without_equals) {
       keys.insert(qel::text::first_token(line.text));
     }
   }
@@ -237,14 +238,14 @@ std::set<std::string_view> keys_of_lines_without_equals(const DocumentText& docu
 }
 
 // Those of them that an entry has, too.
-std::set<std::string_view> keys_that_lines_share(const DocumentText& document,
+std::set<std::string_view> keys_that_lines_share(const SectionedText& document,
                                                  const TextSection& section) {
   const std::set<std::string_view> without_equals = keys_of_lines_without_equals(document, section);
   std::set<std::string_view> shared;
   for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.behind;
        ++index) {
     const TextLine line = document.line(index);
-    if (kind_of(line) == LineKind::entry &&
+    if (qel::kind_of(line) == LineKind::entry &&
         without_equals.contains(qel::text::first_token(line.text))) {
       shared.insert(qel::text::first_token(line.text));
     }
@@ -252,13 +253,13 @@ std::set<std::string_view> keys_that_lines_share(const DocumentText& document,
   return shared;
 }
 
-void print_entries(const DocumentText& document, const TextSection& section,
+void print_entries(const SectionedText& document, const TextSection& section,
                    const qel::SectionInfo* known_section, Printer& printer) {
   const std::set<std::string_view> shared = keys_that_lines_share(document, section);
   std::set<std::string_view> keys;
   for (std::size_t index = section.header + 1; index < section.behind; ++index) {
     const TextLine line = document.line(index);
-    const LineKind kind = kind_of(line);
+    const LineKind kind = qel::kind_of(line);
     if (kind == LineKind::blank) {
       continue;
     }
@@ -272,7 +273,7 @@ void print_entries(const DocumentText& document, const TextSection& section,
       printer.passed_over(index, why_passed_over(line));
       continue;
     }
-    const std::string text(whole_value(line));
+    const std::string text(qel::whole_value(line));
     const Reading reading = reading_of(known_section, key, text);
     Json entry = typed_entry(std::string(key), line, text, reading);
     if (has_empty_value && limit_of(line).empty()) {
@@ -285,7 +286,7 @@ void print_entries(const DocumentText& document, const TextSection& section,
   }
 }
 
-void print_section(const DocumentText& document, const TextSection& section,
+void print_section(const SectionedText& document, const TextSection& section,
                    const qel::SectionInfo* known, Printer& printer) {
   Json head = {{"section", std::string(section.name)}, {"known", known != nullptr}};
   if (known != nullptr) {
@@ -302,7 +303,7 @@ void print_section(const DocumentText& document, const TextSection& section,
     printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) +
                  "\" behind the header is not read");
   }
-  if (is_positional(section.name) && !section.repeated) {
+  if (qel::is_positional(section.name) && !section.repeated) {
     visit_positional_lines(
         document, section,
         {[&printer](const Json& entry) { printer.entry(entry); },
@@ -315,10 +316,10 @@ void print_section(const DocumentText& document, const TextSection& section,
 }
 
 // Lines that belong to no section.
-void print_front(const DocumentText& document, Printer& printer) {
+void print_front(const SectionedText& document, Printer& printer) {
   bool any = false;
   for (std::size_t index = 0; index < document.lines_before_sections(); ++index) {
-    const LineKind kind = kind_of(document.line(index));
+    const LineKind kind = qel::kind_of(document.line(index));
     if (kind == LineKind::blank) {
       continue;
     }
@@ -337,7 +338,7 @@ void print_front(const DocumentText& document, Printer& printer) {
 
 int run_show(const ShowArguments& arguments) {
   const std::string wanted = arguments.section ? section_name(*arguments.section) : "";
-  const DocumentText document = load_document(arguments.file);
+  const SectionedText document = load_document(arguments.file);
   const TextSection* const first = wanted.empty() ? nullptr : document.find(wanted);
   if (!wanted.empty() && first == nullptr) {
     throw Failure(kNotFound,

@@ -1,11 +1,10 @@
-#include "entry_edit.h"
+#include "text/entry_edit.h"
 
 #include <optional>
 
 #include "text/text.h"
 
-namespace text = qel::text;
-
+namespace qel {
 namespace {
 
 // As the file's first line ends.
@@ -16,7 +15,7 @@ std::string line_break_of(const std::string& contents) {
 
 // Where a new line at the end goes: in front of blanks and the like that trail the last line and
 // belong to none.
-std::size_t end_of_lines(const DocumentText& document) {
+std::size_t end_of_lines(const SectionedText& document) {
   if (document.line_count() == 0) {
     return document.contents().find_last_not_of(" \x1A") + 1;
   }
@@ -35,7 +34,7 @@ std::string with_lines_at(const std::string& contents, std::size_t place,
 
 }  // namespace
 
-std::string with_entry(const DocumentText& document, const std::string& section,
+std::string with_entry(const SectionedText& document, const std::string& section,
                        const std::string& key, const std::string& value) {
   const std::string& contents = document.contents();
   const std::string line_break = line_break_of(contents);
@@ -54,3 +53,5 @@ std::string with_entry(const DocumentText& document, const std::string& section,
   const std::size_t place = is_last ? end_of_lines(document) : document.line(own->behind).begin;
   return with_lines_at(contents, place, text::plain_entry(key, value) + line_break);
 }
+
+}  // namespace qel
