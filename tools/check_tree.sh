@@ -26,10 +26,11 @@ platform
 text platform
 core text platform
 blocks core text platform
-api blocks core text platform refdata
-process blocks core text platform
-proio platform
-refdata core text platform
+objects
+api objects blocks core text platform refdata
+process objects blocks core text platform
+proio objects platform
+refdata objects text platform
 qelg
 EOF
 if found=$(git grep -nE '#include "((text|core|blocks|process|platform)/|api/[a-z_]+\.h)' -- include tests/api examples); then

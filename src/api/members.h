@@ -5,6 +5,7 @@
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "api/session.h"
+#include "objects/attempt.h"
 
 /// What every exported section member does: hand its arguments to the session's block of that
 /// section.
@@ -19,16 +20,6 @@ bool is_null([[maybe_unused]] Value value) {
   if constexpr (std::is_pointer_v<Value>) {
     return value == nullptr;
   } else {
-    return false;
-  }
-}
-
-/// No exception leaves the library: running out of memory is a failure like any other.
-template <class Work>
-bool attempt(Work work) noexcept {
-  try {
-    return work();
-  } catch (...) {
     return false;
   }
 }

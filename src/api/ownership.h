@@ -2,6 +2,7 @@
 
 #include "api/members.h"
 #include "api/session.h"
+#include "objects/owners.h"
 
 /// What the exported reader and writer do with their sessions.
 namespace qel {
@@ -13,20 +14,6 @@ Kind* make_session() {
     return new Kind;
   } catch (...) {
     return nullptr;
-  }
-}
-
-template <class Kind>
-Kind* share(Kind* session) {
-  if (session != nullptr) {
-    session->AddOwner();
-  }
-  return session;
-}
-
-inline void release(CQELPROIOBase* session) {
-  if (session != nullptr && session->DropOwner()) {
-    delete session;
   }
 }
 

@@ -20,10 +20,6 @@ class CQELPROIOBase {
 
   [[nodiscard]] CQELPROIO& document() { return document_; }
 
-  /// Copies of an exported object share its session; the last owner releases it.
-  void AddOwner() { ++owners_; }
-  [[nodiscard]] bool DropOwner() { return --owners_ == 0; }
-
   /// The block of a section kind.
   template <class Block>
   [[nodiscard]] Block& block() {
@@ -33,10 +29,12 @@ class CQELPROIOBase {
   /// The blocks in the order in which they are attached.
   [[nodiscard]] auto Blocks() { return blocks_.all(); }
 
+  /// Copies of an exported object share its session.
+  std::atomic<int> owners{1};
+
  private:
   qel::SectionBlocks blocks_;
   CQELPROIO document_;
-  std::atomic<int> owners_{1};
 };
 
 class CQELPROReader : public CQELPROIOBase {};

@@ -4,7 +4,7 @@
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "QELPROEngine/CQEL_ProcessAdapter.h"
-#include "core/owners.h"
+#include "objects/owners.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "QELPROEngine/CQELMachineIdentification.h"
-#include "core/owners.h"
+#include "objects/owners.h"
 #include "platform/os_file.h"
 #include "refdata/machine_bank.h"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "QELPROEngine/CQELPCSInterpolator.h"
-#include "core/owners.h"
+#include "objects/owners.h"
 #include "platform/os_file.h"
 #include "refdata/coolant_table.h"
 #include "refdata/user_file.h"

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-/// What copies of an exported object share: a record that counts its owners, of which the last one
+/// What copies of an exported object share: a record that counts its `owners`, of which the last one
 /// deletes it. The copies may come and go on different threads.
 namespace qel {
 
@@ -11,16 +11,16 @@ struct Shared : Record {
   std::atomic<int> owners{1};
 };
 
-template <class Record>
-Shared<Record>* share(Shared<Record>* record) {
+template <class Owned>
+Owned* share(Owned* record) {
   if (record != nullptr) {
     ++record->owners;
   }
   return record;
 }
 
-template <class Record>
-void release(Shared<Record>* record) {
+template <class Owned>
+void release(Owned* record) {
   if (record != nullptr && --record->owners == 0) {
     delete record;
   }
