@@ -224,13 +224,13 @@ TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
 }
 
 TEST(LengthWithoutPadding, TakesBlanksAtTheEndOfTheFileAway) {
-  EXPECT_EQ(length_without_padding("a\n   "), 2U);
-  EXPECT_EQ(length_without_padding("a\n"), 2U);
-  EXPECT_EQ(length_without_padding("a\n b"), 4U);
-  EXPECT_EQ(length_without_padding("a\n \t "), 4U);
-  EXPECT_EQ(length_without_padding("a\n b  "), 4U);
-  EXPECT_EQ(length_without_padding(""), 0U);
-  EXPECT_EQ(length_without_padding("   "), 3U);
+  EXPECT_EQ(text::length_without_padding("a\n   "), 2U);
+  EXPECT_EQ(text::length_without_padding("a\n"), 2U);
+  EXPECT_EQ(text::length_without_padding("a\n b"), 4U);
+  EXPECT_EQ(text::length_without_padding("a\n \t "), 4U);
+  EXPECT_EQ(text::length_without_padding("a\n b  "), 4U);
+  EXPECT_EQ(text::length_without_padding(""), 0U);
+  EXPECT_EQ(text::length_without_padding("   "), 3U);
 }
 
 }  // namespace
