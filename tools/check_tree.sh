@@ -28,7 +28,7 @@ core text platform
 blocks core text platform
 api blocks core text platform refdata
 process blocks core text platform
-proio platform
+proio blocks text platform
 refdata core text platform
 qelg
 EOF

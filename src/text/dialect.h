@@ -15,6 +15,8 @@ struct Dialect {
   /// Whether blanks that trail the last line are part of it, so that only those behind its line
   /// break, or behind an end mark, are padding.
   bool keeps_blanks = false;
+  /// How wide the key of a padded entry is at least.
+  std::size_t key_columns = 20;
 };
 
 }  // namespace qel::text

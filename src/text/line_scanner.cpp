@@ -40,6 +40,7 @@ LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_
       at_(static_cast<std::size_t>(from)),
       at_end_(true),
       may_hold_nul_(may_hold_nul) {
+  drop_end_mark();
   if (from == 0 && contents.substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
     at_ = text::kByteOrderMark.size();
   }
@@ -72,7 +73,15 @@ bool LineScanner::read_more() {
   at_end_ = added < room;
   may_hold_nul_ = may_hold_nul_ || find_byte(behind, added, '\0') != nullptr;
   length_ += added;
+  if (at_end_) {
+    drop_end_mark();
+  }
   return added > 0;
+}
+
+void LineScanner::drop_end_mark() {
+  const std::string_view rest(window_ + at_, available());
+  length_ = at_ + text::without_end_mark(rest, dialect_).size();
 }
 
 // Whether everything from here to the end of the file is padding.
@@ -143,9 +152,6 @@ bool LineScanner::next(Line& line) {
   line.end = line.start + static_cast<std::int64_t>(consumed);
   at_ += consumed;
   line.text = {begin, length};
-  if (line_break == nullptr && at_end_ && available() == 0) {
-    line.text = text::without_end_mark(line.text, dialect_);
-  }
   const char* terminator = may_hold_nul_ ? find_byte(begin, line.text.size(), '\0') : nullptr;
   if (terminator != nullptr) {
     line.text = {begin, static_cast<std::size_t>(terminator - begin)};

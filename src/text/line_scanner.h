@@ -58,6 +58,7 @@ class LineScanner {
 
  private:
   bool read_more();
+  void drop_end_mark();
   bool is_padding(std::size_t begin);
   [[nodiscard]] std::size_t available() const { return length_ - at_; }
   char* block() { return buffer_ != nullptr ? buffer_.get() : few_; }

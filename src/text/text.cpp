@@ -110,11 +110,10 @@ bool is_section_name(std::string_view name) {
 
 bool is_key(std::string_view name) { return is_findable(name) && name.front() != '['; }
 
-std::string padded_entry(std::string_view key, std::string_view value) {
-  constexpr std::size_t kKeyColumns = 20;
+std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect) {
   std::string line(key);
-  if (line.size() < kKeyColumns) {
-    line.append(kKeyColumns - line.size(), ' ');
+  if (line.size() < dialect.key_columns) {
+    line.append(dialect.key_columns - line.size(), ' ');
   }
   return line.append(" = ").append(value);
 }

@@ -66,8 +66,9 @@ bool is_findable(std::string_view name);
 bool is_section_name(std::string_view name);
 bool is_key(std::string_view name);
 
-/// "%-20s = %s", the layout of an entry that is appended or replaced.
-std::string padded_entry(std::string_view key, std::string_view value);
+/// "%-20s = %s", or as wide as the dialect has it: the layout of an entry that is appended or
+/// replaced.
+std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect = {});
 
 /// "%s = %s", the layout of an entry that is inserted into its section.
 std::string plain_entry(std::string_view key, std::string_view value);
