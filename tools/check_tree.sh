@@ -29,7 +29,7 @@ blocks core text platform
 objects
 api objects blocks core text platform refdata
 process objects blocks core text platform
-proio objects platform
+proio objects blocks text platform
 refdata objects text platform
 qelg
 EOF

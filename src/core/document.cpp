@@ -255,48 +255,47 @@ int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned
   return to_int(deliver(*lines, line, target, value, buffer, size));
 }
 
-int CQELPROIO::VisitLines(const char* section, int count,
-                          const std::function<void(const char*)>& visit) {
+// Runs work on the lines behind the section's first header. What is absent because the file could
+// not be read on is a failure of the file.
+template <class Work>
+Result CQELPROIO::scan_section(std::string_view section, Work work) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
-    return to_int(chosen);
+    return chosen;
   }
   LineScanner lines(*file, 0);
   Line line;
-  if (!find_plain_header(lines, view(section), line)) {
-    return to_int(lines.failed() ? Result::no_open : Result::absent);
-  }
-  for (int position = 1; position <= count; ++position) {
-    if (!lines.next(line) || qel::text::is_header(line.text)) {
-      return to_int(lines.failed() ? Result::no_open : Result::absent);
+  const Result result =
+      find_plain_header(lines, section, line) ? work(lines, line) : Result::absent;
+  return lines.failed() && result != Result::done ? Result::no_open : result;
+}
+
+int CQELPROIO::VisitLines(const char* section, int count,
+                          const std::function<void(const char*)>& visit) {
+  return to_int(scan_section(view(section), [&](LineScanner& lines, Line& line) {
+    for (int position = 1; position <= count; ++position) {
+      if (!lines.next(line) || qel::text::is_header(line.text)) {
+        return Result::absent;
+      }
+      visit(std::string(qel::text::index_value(line.text)).c_str());
     }
-    visit(std::string(qel::text::index_value(line.text)).c_str());
-  }
-  return to_int(Result::done);
+    return Result::done;
+  }));
 }
 
 int CQELPROIO::VisitEntries(
     const char* section,
     const std::function<bool(std::string_view key, std::string_view value)>& visit) {
-  OsFile own;
-  RandomAccess* file = nullptr;
-  const Result chosen = choose_file(own, file);
-  if (chosen != Result::done) {
-    return to_int(chosen);
-  }
-  LineScanner lines(*file, 0);
-  Line line;
-  if (!find_plain_header(lines, view(section), line)) {
-    return to_int(lines.failed() ? Result::no_open : Result::absent);
-  }
-  while (lines.next(line)) {
-    if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
-      return to_int(Result::done);
+  return to_int(scan_section(view(section), [&](LineScanner& lines, Line& line) {
+    while (lines.next(line)) {
+      if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
+        return Result::done;
+      }
     }
-  }
-  return to_int(lines.failed() ? Result::no_open : Result::done);
+    return lines.failed() ? Result::no_open : Result::done;
+  }));
 }
 
 int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer,

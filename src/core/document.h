@@ -102,6 +102,8 @@ class CQELPROIO {
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
   qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
+  template <class Work>
+  qel::Result scan_section(std::string_view section, Work work);
   bool open_path(qel::platform::OsFile& file) const;
   bool open_path_for_update(qel::platform::OsFile& file) const;
 

@@ -6,19 +6,9 @@
 #include "core/section_index.h"
 #include "platform/random_access.h"
 #include "text/line_scanner.h"
+#include "text/target.h"
 
 namespace qel {
-
-/// What is looked for: the entry of a key, or the line at a position (1 is the first line behind
-/// the header).
-struct Target {
-  std::string_view section;
-  std::string_view key;
-  int index = kByKey;
-
-  static constexpr int kByKey = -1;
-  [[nodiscard]] bool by_key() const { return index < 0; }
-};
 
 /// The plain scan: a key is searched for from the section's first header to the end of the file,
 /// later sections included.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -8,7 +8,8 @@
 #include "core/result.h"
 #include "platform/os_file.h"
 #include "platform/random_access.h"
-#include "text/file_image.h"
+#include "text/file_edit.h"
+#include "text/line_scanner.h"
 
 namespace qel {
 
@@ -24,10 +25,9 @@ bool is_refused(const Entry& entry);
 /// Stores into one open file. Anything but `Result::done` leaves the file's bytes as they were.
 class Store {
  public:
-  explicit Store(platform::RandomAccess& file) : Store(file, file.size_in_memory()) {}
+  explicit Store(platform::RandomAccess& file) : edit_(file) {}
   /// Into a file that has just been opened.
-  explicit Store(platform::OsFile& file)
-      : Store(file, platform::RandomAccess::in_memory(file.size_when_opened())) {}
+  explicit Store(platform::OsFile& file) : edit_(file) {}
 
   /// Replaces the line that the plain scan finds, or appends the section with the entry. A key that
   /// the plain scan does not find is inserted as `insert` does where `may_insert` says so, and
@@ -43,24 +43,15 @@ class Store {
   Result replace(const Entry& entry);
 
  private:
-  Store(platform::RandomAccess& file, std::int64_t size) : file_(file), size_(size) {}
-  bool load();
-  Result splice(std::size_t at, std::size_t old_end, std::string_view text);
-  Result insert_at(std::size_t at, std::string_view line);
+  Result replace_line(const Line& old, std::string_view line);
+  Result insert_line(std::size_t at, std::string_view line);
   Result append_section(std::string_view header, std::string_view line);
   Result insert_into_section(const Entry& entry);
-  bool overwrite(std::size_t at, std::string_view bytes);
-  void append_line(std::string& text, std::string_view line) const {
-    text.append(line).append(line_break_);
+  [[nodiscard]] std::string with_break(std::string_view line) const {
+    return std::string(line).append(edit_.line_break());
   }
 
-  platform::RandomAccess& file_;
-  std::int64_t size_;
-  FileImage image_;
-  std::string_view contents_;  // what stands in front of the padding
-  std::string_view line_break_;
-  bool shortens_ =
-      false;  // a store leaves blanks where the contents end earlier, a rewrite ends the file there
+  FileEdit edit_;
 };
 
 }  // namespace qel

@@ -2,8 +2,8 @@
 
 #include <atomic>
 
-/// What copies of an exported object share: a record that counts its `owners`, of which the last one
-/// deletes it. The copies may come and go on different threads.
+/// What copies of an exported object share: a record that counts its `owners`, of which the last
+/// one deletes it. The copies may come and go on different threads.
 namespace qel {
 
 template <class Record>

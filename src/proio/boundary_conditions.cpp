@@ -2,13 +2,18 @@
 #include <limits>
 
 #include "platform/os_file.h"
-#include "proio/contents.h"
+#include "proio/dialect.h"
 #include "proio/entries.h"
 #include "proio/line_store.h"
 #include "proio/typed.h"
 #include "proio/words.h"
+#include "text/file_edit.h"
+#include "text/line_scanner.h"
 
 using namespace qel::proio;
+using qel::Line;
+using qel::LineScanner;
+using qel::Target;
 namespace platform = qel::platform;
 
 namespace {
@@ -24,8 +29,8 @@ struct Place {
 
 // `Source` is a file, or the contents of one. What is missing counts 0.
 template <class Source>
-Place place_of(Source& source, std::int64_t contents_end, int condition, int point) {
-  LineScanner head(source);
+Place place_of(Source& source, int condition, int point) {
+  LineScanner head = lines_of(source);
   Buffer text;
   int conditions = 0;
   if (read(head, kConditions, text) == Code::success) {
@@ -33,12 +38,12 @@ Place place_of(Source& source, std::int64_t contents_end, int condition, int poi
   }
   Place place;
   place.line = static_cast<long long>(conditions) + point;
-  LineScanner names(source);
+  LineScanner names = lines_of(source);
   constexpr Target kNextLine{boundary_condition::kSection, {}, 1};
   Line name;
   int k = 1;
   for (bool more = seek_section(names, boundary_condition::kSection); more && k < condition; ++k) {
-    more = seek_line(names, kNextLine, name, contents_end);
+    more = seek_line(names, kNextLine, name);
     if (!more) {
       break;
     }
@@ -91,7 +96,8 @@ bool CPROIO_Manipulator::GetBCCountName(int line, int& count, char*& name) {
 }
 
 bool CPROIO_Manipulator::SetBCCountName(int line, int count, char* name) {
-  return !is_null(name) && attempt([&] { return WriteBC(line, print_items(count, name).c_str()); });
+  return !is_null(name) &&
+         qel::attempt([&] { return WriteBC(line, print_items(count, name).c_str()); });
 }
 
 bool CPROIO_Manipulator::GetBCSetting(int line, int& count, char*& name, int& type) {
@@ -100,17 +106,19 @@ bool CPROIO_Manipulator::GetBCSetting(int line, int& count, char*& name, int& ty
 }
 
 bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
-  return attempt([&] {
+  return qel::attempt([&] {
     platform::OsFile file;
     if (path_ == nullptr || !file.open_for_reading(path_)) {
       return false;
     }
-    const Place place =
-        place_of<platform::RandomAccess>(file, length_without_padding(file), bc, point);
+    const Place place = place_of<platform::RandomAccess>(file, bc, point);
+    if (!place.readable || !place.named || place.line < 1) {
+      return false;
+    }
     Buffer text;
-    if (!place.readable || !place.named || place.line < 1 ||
-        read(file, {boundary_condition::kSection, {}, as_index(place.line)}, text) !=
-            Code::success) {
+    LineScanner lines = lines_of(file);
+    if (read(lines, {boundary_condition::kSection, {}, as_index(place.line)}, text) !=
+        Code::success) {
       return false;
     }
     int number = 0;
@@ -124,7 +132,7 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
 // The place is read from the same contents that the line goes into: a place that rests on a failed
 // read would be that of another line. A file that cannot be written is not reported, as ever.
 bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
-  return attempt([&] {
+  return qel::attempt([&] {
     if (path_ == nullptr) {
       return false;
     }
@@ -133,16 +141,16 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     if (!file.open_for_update(path_) && (point < 1 || !file.create(path_))) {
       return point >= 1;
     }
-    Contents contents(file);
-    if (!contents.load()) {
+    qel::FileEdit edit(file, kDialect);
+    if (!edit.load()) {
       return true;
     }
-    const std::string_view text = contents.text();
-    const Place place = place_of(text, static_cast<std::int64_t>(text.size()), bc, point);
+    const std::string_view text = edit.contents();
+    const Place place = place_of(text, bc, point);
     if (place.line < 1) {
       return false;
     }
-    if (store(contents, {boundary_condition::kSection, {}, as_index(place.line)}, line) &&
+    if (store(edit, {boundary_condition::kSection, {}, as_index(place.line)}, line) &&
         file.close()) {
       SetFileDate();  // the point stands in the file, with a stamp or without
     }

@@ -88,7 +88,7 @@ bool CPROIO_Manipulator::SetPackHeatTransferCoefficient(double value) {
 // a stamp.
 bool CPROIO_Manipulator::SetCoefficient(const Entry& entry, double value) {
   constexpr const char* kUnit = "        (W/m^2.K)";
-  return attempt([&] {
+  return qel::attempt([&] {
     return IsOK(
         Write(SectionOf(entry), KeyOf(entry), (print_item(value) + kUnit).c_str(), false, kByKey));
   });

@@ -19,7 +19,7 @@ void CPROIO_Manipulator::SetFilePath(char* path) {
 }  // NOLINT(readability-non-const-parameter): the constant one looks at the file
 
 bool CPROIO_Manipulator::SetFilePath(const char* path) {
-  const bool can_be_read = path != nullptr && attempt([path] {
+  const bool can_be_read = path != nullptr && qel::attempt([path] {
                              platform::OsFile file;
                              return file.open_for_reading(path);
                            });

@@ -2,23 +2,18 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+
+#include "blocks/mold_temperature_bc_x.h"
+#include "proio/dialect.h"
+#include "text/text.h"
 
 namespace qel::proio {
 namespace {
 
-// A new positional section always gets this header, whatever section was asked for; it is found by
-// its first word.
-constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
-constexpr std::string_view kPositionalSection = "[SURFACE";
+using mold_temperature_bc_x::kPositionalSection;
 
-constexpr std::size_t kKeyColumns = 14;
-constexpr std::string_view kWordEnd = "\t\n =";
 constexpr std::string_view kBlanks = " \t";
-
-std::string_view without_leading_blanks(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return text;
-}
 
 // A line feed inside a value is a line break like any other in the file.
 void append_as_text(std::string& bytes, std::string_view text, std::string_view line_break) {
@@ -35,25 +30,21 @@ void append_as_text(std::string& bytes, std::string_view text, std::string_view 
 }
 
 std::string line_of(const Target& target, std::string_view value, std::string_view line_break) {
-  std::string bytes;
-  if (target.by_key()) {
-    bytes.assign(target.key);
-    bytes.resize(std::max(bytes.size(), kKeyColumns), ' ');
-    bytes.append(" = ");
-  }
+  std::string bytes =
+      target.by_key() ? text::padded_entry(target.key, {}, kDialect) : std::string();
   append_as_text(bytes, value, line_break);
   return bytes.append(line_break);
 }
 
-std::string header_of(const Target& target, std::string_view line_break) {
-  std::string bytes(line_break);
-  return bytes.append(target.by_key() ? target.section : kPositionalHeader).append(line_break);
+// A new positional section always gets the same header, whatever section was asked for.
+bool append_section(FileEdit& edit, const Target& target, std::string_view line) {
+  return edit.append_section(target.by_key() ? target.section : text::kPositionalHeader, line);
 }
 
 // Where the section ends: at the next header, or with the text. Without the empty lines in front of
 // that header, where those are not to belong to it; what goes on a long line is none.
 std::size_t end_of_section(std::string_view text, std::string_view section, bool with_empty_lines) {
-  LineScanner lines(text);
+  LineScanner lines = lines_of(text);
   std::size_t first_empty = text.size();
   Line line;
   for (bool more = seek_section(lines, section); more && lines.next(line);) {
@@ -61,7 +52,7 @@ std::size_t end_of_section(std::string_view text, std::string_view section, bool
     if (is_header(line)) {
       return with_empty_lines ? start : std::min(first_empty, start);
     }
-    if (!line.begins || line.text.find_first_not_of(kBlanks) != std::string_view::npos) {
+    if (line.is_piece || line.text.find_first_not_of(kBlanks) != std::string_view::npos) {
       first_empty = text.size();
     } else {
       first_empty = std::min(first_empty, start);
@@ -71,15 +62,15 @@ std::size_t end_of_section(std::string_view text, std::string_view section, bool
 }
 
 bool ends_in_positional_section(std::string_view text) {
-  LineScanner lines(text);
+  LineScanner lines = lines_of(text);
   return seek_section(lines, kPositionalSection) &&
          end_of_section(text, kPositionalSection, true) == text.size();
 }
 
 // The line goes over one that is there, all of it. A text with line breaks is found where it stands
 // already.
-bool store_over(Contents& contents, const Line& old, std::string line) {
-  const std::string_view text = contents.text();
+bool store_over(FileEdit& edit, const Line& old, std::string_view line) {
+  const std::string_view text = edit.contents();
   const auto begin = static_cast<std::size_t>(old.start);
   auto end = static_cast<std::size_t>(old.end);
   if (text[end - 1] != '\n') {
@@ -88,74 +79,44 @@ bool store_over(Contents& contents, const Line& old, std::string line) {
   if (text.substr(begin, line.size()) == line) {
     end = begin + line.size();
   }
-  return contents.replace(begin, end, std::move(line));
+  return edit.replace(begin, end, line);
 }
 
-bool store_new(Contents& contents, const Target& target, std::string line) {
-  const std::string_view text = contents.text();
+bool store_new(FileEdit& edit, const Target& target, std::string line) {
+  const std::string_view text = edit.contents();
   std::size_t place = text.size();
   if (!target.by_key()) {
     place = end_of_section(text, target.section, true);
   } else if (ends_in_positional_section(text)) {
     place = end_of_section(text, target.section, false);
     if (place == text.size()) {
-      line.insert(0, header_of(target, contents.line_break()));
-      return contents.replace(place, place, std::move(line));
+      return append_section(edit, target, line);
     }
   }
-  // A line behind a last one that has no line break would become part of that one.
-  if (place == text.size() && !text.empty() && text.back() != '\n') {
-    line.insert(0, contents.line_break());
-  }
-  return contents.replace(place, place, std::move(line));
+  return edit.insert(place, std::move(line));
 }
 
 }  // namespace
 
-bool is_match(std::string_view line, std::string_view name) {
-  if (line.substr(0, name.size()) != name ||
-      name.find_first_of(kWordEnd) != std::string_view::npos) {
-    return false;
-  }
-  return line.size() == name.size() || kWordEnd.find(line[name.size()]) != std::string_view::npos;
-}
-
 bool is_header(const Line& line) {
-  const std::string_view text = line.text;
-  if (!line.begins || text.empty() || text.front() != '[') {
-    return false;
-  }
-  if (is_match(text, kPositionalSection)) {
-    return true;
-  }
-  // The brackets may hold blanks; a "=" inside them ends the first word before they close.
-  for (std::size_t at = 1; at < text.size() && text[at] != '='; ++at) {
-    const std::size_t next = text.find_first_not_of(kBlanks, at + 1);
-    if (text[at] == ']' && next != at + 1) {
-      if (next == std::string_view::npos || text[next] != '=') {
-        return true;
-      }
-      break;
-    }
-  }
-  return text[text.find_last_not_of(kBlanks)] == ']';
+  return !line.is_piece &&
+         (text::is_header(line.text) || text::first_token_is(line.text, kPositionalSection));
 }
 
 bool seek_section(LineScanner& lines, std::string_view section) {
   Line line;
-  do {
-    lines.pass_lines_without(section);
-    if (!lines.next(line)) {
-      return false;
+  while (!section.empty() && lines.next_starting_with(section.front(), line)) {
+    if (text::first_token_is(line.text, section)) {
+      return true;
     }
-  } while (!is_match(line.text, section));
-  return true;
+  }
+  return false;
 }
 
-bool seek_line(LineScanner& lines, const Target& target, Line& line, std::int64_t contents_end) {
-  for (int position = 1; lines.next(line) && line.start < contents_end; ++position) {
+bool seek_line(LineScanner& lines, const Target& target, Line& line) {
+  for (int position = 1; lines.next(line); ++position) {
     if (target.by_key()) {
-      if (is_match(line.text, target.key)) {
+      if (text::first_token_is(line.text, target.key)) {
         return true;
       }
     } else if (is_header(line)) {
@@ -167,42 +128,30 @@ bool seek_line(LineScanner& lines, const Target& target, Line& line, std::int64_
   return false;
 }
 
-Code read(LineScanner& lines, const Target& target, Buffer& value, std::int64_t contents_end) {
+Code read(LineScanner& lines, const Target& target, Buffer& value) {
   Line line;
-  if (!seek_section(lines, target.section) || !seek_line(lines, target, line, contents_end)) {
+  if (!seek_section(lines, target.section) || !seek_line(lines, target, line)) {
     return Code::not_found;
   }
-  std::string_view text = line.text;
-  if (target.by_key()) {
-    const std::size_t equals = text.find('=');
-    if (equals == std::string_view::npos) {
-      value.assign({});
-      return Code::success;
-    }
-    text = without_leading_blanks(text.substr(equals + 1));
+  if (target.by_key() && line.text.find('=') == std::string_view::npos) {
+    value.assign({});
+    return Code::success;
   }
-  value.assign(text).append(line.has_break ? "\n" : "");
+  value.assign(target.by_key() ? text::untrimmed_value(line.text) : line.text)
+      .append(line.has_break ? "\n" : "");
   return Code::success;
 }
 
-Code read(platform::RandomAccess& file, const Target& target, Buffer& value) {
-  LineScanner lines(file);
-  // Padding has no leading word, so that it matters to positions alone.
-  return target.by_key() ? read(lines, target, value)
-                         : read(lines, target, value, length_without_padding(file));
-}
-
-bool store(Contents& contents, const Target& target, std::string_view value) {
-  const std::string_view text = contents.text();
-  std::string new_line = line_of(target, value, contents.line_break());
-  LineScanner lines(text);
+bool store(FileEdit& edit, const Target& target, std::string_view value) {
+  const std::string_view text = edit.contents();
+  std::string new_line = line_of(target, value, edit.line_break());
+  LineScanner lines = lines_of(text);
   if (!seek_section(lines, target.section)) {
-    new_line.insert(0, header_of(target, contents.line_break()));
-    return contents.replace(text.size(), text.size(), std::move(new_line));
+    return append_section(edit, target, new_line);
   }
   Line line;
-  return seek_line(lines, target, line) ? store_over(contents, line, std::move(new_line))
-                                        : store_new(contents, target, std::move(new_line));
+  return seek_line(lines, target, line) ? store_over(edit, line, new_line)
+                                        : store_new(edit, target, std::move(new_line));
 }
 
 }  // namespace qel::proio

@@ -2,9 +2,11 @@
 
 #include "platform/os_file.h"
 #include "proio/catalogue.h"
-#include "proio/contents.h"
+#include "proio/dialect.h"
 #include "proio/line_store.h"
 #include "proio/typed.h"
+#include "text/file_edit.h"
+#include "text/text.h"
 
 using namespace qel::proio;
 namespace platform = qel::platform;
@@ -15,14 +17,16 @@ int to_int(Code code) { return static_cast<int>(code); }
 
 // An end mark in a text would be the end of the file for others.
 bool is_storable(const char* value) {
-  return value != nullptr && std::strchr(value, kEndMark) == nullptr;
+  return value != nullptr && std::strchr(value, qel::text::kEndMark) == nullptr;
 }
 
-bool store_into(const char* path, const Target& target, const char* value) {
+bool store_into(const char* path, const qel::Target& target, const char* value) {
   platform::OsFile file;
-  Contents contents(file);
-  return (file.open_for_update(path) || file.create(path)) && contents.load() &&
-         store(contents, target, value) && file.close();
+  if (!file.open_for_update(path) && !file.create(path)) {
+    return false;
+  }
+  qel::FileEdit edit(file, kDialect);
+  return edit.load() && store(edit, target, value) && file.close();
 }
 
 }  // namespace
@@ -48,10 +52,11 @@ bool CPROIO_Manipulator::IsOK(int code) { return code == to_int(Code::success); 
 
 int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value, int index) {
   Code code = Code::no_file;
-  attempt([&] {
+  qel::attempt([&] {
     platform::OsFile file;
     if (path_ != nullptr && file.open_for_reading(path_)) {
-      code = read(file, {section, key, index}, scratch().value);
+      qel::LineScanner lines = lines_of(file);
+      code = read(lines, {section, key, index}, scratch().value);
     }
     return true;
   });
@@ -67,7 +72,7 @@ int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value,
 int CPROIO_Manipulator::Write(const char* section, const char* key, const char* value,
                               bool stampDate, int index) {
   const bool taken =
-      is_storable(value) && attempt([&] {
+      is_storable(value) && qel::attempt([&] {
         if (path_ != nullptr && store_into(path_, {section, key, index}, value) && stampDate) {
           SetFileDate();
         }

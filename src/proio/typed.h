@@ -1,19 +1,10 @@
 #pragma once
 
+#include "objects/attempt.h"
 #include "proio/entry.h"
 #include "proio/items.h"
 
 /// What the accessors are made of: the raw layer, with a value of one or several items.
-
-/// No exception leaves the library: running out of memory is a failure like any other.
-template <class Work>
-bool attempt(Work work) noexcept {
-  try {
-    return work();
-  } catch (...) {
-    return false;
-  }
-}
 
 template <class... Items>
 bool CPROIO_Manipulator::Get(const qel::proio::Entry& entry, Items&&... items) {
@@ -52,7 +43,7 @@ bool CPROIO_Manipulator::Set(const qel::proio::Entry& entry, Items... items) {
   if ((qel::proio::is_null(items) || ...)) {
     return false;
   }
-  return attempt([&] {
+  return qel::attempt([&] {
     return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::proio::print_items(items...).c_str(),
                       true, kByKey));
   });

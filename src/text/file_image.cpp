@@ -22,6 +22,10 @@ void FileImage::cover(Covered& covered, char* at, std::string_view text) {
 
 std::string_view FileImage::compose(std::string_view before, std::size_t from, std::size_t to,
                                     std::string_view behind) {
+  if (before.size() > kRoom || behind.size() > kRoom) {
+    copy_.reserve(before.size() + (to - from) + behind.size());
+    return copy_.assign(before).append(bytes(), from, to - from).append(behind);
+  }
   cover(before_, begin_ + from - before.size(), before);
   cover(behind_, begin_ + to, behind);
   return {before_.at, before.size() + (to - from) + behind.size()};

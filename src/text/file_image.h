@@ -14,7 +14,7 @@ namespace qel {
 /// stands behind it, which need not be moved to be written in one piece.
 class FileImage {
  public:
-  /// How long the texts may be that are put around a part of the file.
+  /// How long the texts may be that are put around a part of the file without a copy of it.
   static constexpr std::size_t kRoom = std::size_t{16} * 1024;
 
   /// The file's bytes, of which there are `size`, as `size_in_memory` tells it. False when they
@@ -24,7 +24,7 @@ class FileImage {
   [[nodiscard]] std::string_view bytes() const { return {begin_, size_}; }
 
   /// The bytes of the file from `from` to `to` with a text in front of them and another behind
-  /// them, in one piece. They stand over other bytes of the image until `restore`.
+  /// them, in one piece. They may stand over other bytes of the image until `restore`.
   std::string_view compose(std::string_view before, std::size_t from, std::size_t to,
                            std::string_view behind);
   void restore();
@@ -41,6 +41,7 @@ class FileImage {
   std::size_t size_ = 0;
   Covered before_;
   Covered behind_;
+  std::string copy_;
 };
 
 }  // namespace qel

@@ -9,7 +9,7 @@ namespace qel {
 namespace {
 
 // The longest line with a line break of two bytes, which counts as one character.
-constexpr std::size_t kLongestInBytes = text::kLongestLine + 1;
+std::size_t longest_in_bytes(const text::Dialect& dialect) { return dialect.longest_line + 1; }
 
 const char* find_byte(const char* begin, std::size_t count, char byte) {
   return static_cast<const char*>(std::memchr(begin, byte, count));
@@ -17,8 +17,9 @@ const char* find_byte(const char* begin, std::size_t count, char byte) {
 
 }  // namespace
 
-LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected)
-    : file_(&file), window_offset_(from), capacity_(expected) {
+LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected,
+                         const text::Dialect& dialect)
+    : dialect_(dialect), file_(&file), window_offset_(from), capacity_(expected) {
   if (capacity_ > sizeof few_) {
     buffer_.reset(new char[capacity_]);
   }
@@ -31,12 +32,15 @@ LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::s
   }
 }
 
-LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_hold_nul)
-    : window_(contents.data()),
+LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_hold_nul,
+                         const text::Dialect& dialect)
+    : dialect_(dialect),
+      window_(contents.data()),
       length_(contents.size()),
       at_(static_cast<std::size_t>(from)),
       at_end_(true),
       may_hold_nul_(may_hold_nul) {
+  drop_end_mark();
   if (from == 0 && contents.substr(0, text::kByteOrderMark.size()) == text::kByteOrderMark) {
     at_ = text::kByteOrderMark.size();
   }
@@ -69,7 +73,15 @@ bool LineScanner::read_more() {
   at_end_ = added < room;
   may_hold_nul_ = may_hold_nul_ || find_byte(behind, added, '\0') != nullptr;
   length_ += added;
+  if (at_end_) {
+    drop_end_mark();
+  }
   return added > 0;
+}
+
+void LineScanner::drop_end_mark() {
+  const std::string_view rest(window_ + at_, available());
+  length_ = at_ + text::without_end_mark(rest, dialect_).size();
 }
 
 // Whether everything from here to the end of the file is padding.
@@ -104,11 +116,13 @@ bool LineScanner::is_padding(std::size_t begin) {
 }
 
 bool LineScanner::next(Line& line) {
-  const auto find_break = [this] {
-    return find_byte(window_ + at_, std::min(available(), kLongestInBytes), '\n');
+  const std::size_t longest = dialect_.longest_line;
+  const std::size_t most = longest_in_bytes(dialect_);
+  const auto find_break = [this, most] {
+    return find_byte(window_ + at_, std::min(available(), most), '\n');
   };
   const char* line_break = find_break();
-  while (line_break == nullptr && available() < kLongestInBytes && read_more()) {
+  while (line_break == nullptr && available() < most && read_more()) {
     line_break = find_break();
   }
   if (available() == 0 || failed_) {
@@ -116,17 +130,18 @@ bool LineScanner::next(Line& line) {
   }
   const char* begin = window_ + at_;
   std::size_t length =
-      line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : text::kLongestLine;
+      line_break != nullptr ? static_cast<std::size_t>(line_break - begin) : longest;
   if (line_break != nullptr && length > 0 && begin[length - 1] == '\r') {
     --length;
   }
   line.is_piece = inside_long_line_;
   std::size_t consumed = 0;
-  if (length < text::kLongestLine) {
+  const bool ends = length < longest;
+  if (ends) {
     consumed = static_cast<std::size_t>(line_break - begin) + 1;
     inside_long_line_ = false;
   } else {
-    consumed = length = std::min(available(), text::kLongestLine);
+    consumed = length = std::min(available(), longest);
     if (!inside_long_line_ && text::kPadding.find(*begin) != std::string_view::npos &&
         is_padding(at_)) {
       return false;
@@ -137,13 +152,11 @@ bool LineScanner::next(Line& line) {
   line.end = line.start + static_cast<std::int64_t>(consumed);
   at_ += consumed;
   line.text = {begin, length};
-  if (line_break == nullptr && at_end_ && available() == 0) {
-    line.text = text::without_end_mark(line.text);
-  }
   const char* terminator = may_hold_nul_ ? find_byte(begin, line.text.size(), '\0') : nullptr;
   if (terminator != nullptr) {
     line.text = {begin, static_cast<std::size_t>(terminator - begin)};
   }
+  line.has_break = ends && terminator == nullptr;
   return true;
 }
 
@@ -180,7 +193,7 @@ bool LineScanner::next_starting_with(char first, Line& line) {
     // The hit is inside that line, or behind what the window holds of it; parts of a long line
     // count as lines.
     const bool in_pieces = hit == nullptr && last_break == std::string_view::npos;
-    while (in_pieces && available() > kLongestInBytes) {
+    while (in_pieces && available() > longest_in_bytes(dialect_)) {
       // None of the pieces begins with the byte, and none needs more of the file: one look at the
       // window was enough for them.
       if (!next(line)) {
@@ -192,12 +205,6 @@ bool LineScanner::next_starting_with(char first, Line& line) {
     }
   }
   return false;
-}
-
-std::size_t length_without_padding(std::string_view contents) {
-  return contents.find('\n') == std::string_view::npos
-             ? text::without_end_mark(contents).size()
-             : text::trim_end(contents, text::kPadding).size();
 }
 
 }  // namespace qel

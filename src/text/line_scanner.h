@@ -5,20 +5,22 @@
 #include <string_view>
 
 #include "platform/random_access.h"
+#include "text/dialect.h"
 
 namespace qel {
 
 struct Line {
   std::int64_t start = 0;
-  std::int64_t end = 0;   ///< The offset behind the line and its line break.
-  std::string_view text;  ///< Without its line break, up to the first NUL byte; valid until the
-                          ///< scanner moves on.
-  bool is_piece = false;  ///< Begins inside a line that is too long, and comes in pieces.
+  std::int64_t end = 0;    ///< The offset behind the line and its line break.
+  std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the
+                           ///< scanner moves on.
+  bool is_piece = false;   ///< Begins inside a line that is too long, and comes in pieces.
+  bool has_break = false;  ///< A line break followed the text, and no NUL byte cut it short.
 };
 
 /// Walks over the lines of a file.
 ///
-/// - A line ends at "\n" or "\r\n". One that is longer than `text::kLongestLine` comes as several
+/// - A line ends at "\n" or "\r\n". One that is longer than the dialect's longest comes as several
 /// lines.
 /// - A byte order mark at the start of the file belongs to no line.
 /// - Blanks behind the last line break are padding that an earlier store left, and no line; so is
@@ -28,10 +30,12 @@ class LineScanner {
  public:
   /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects
   /// to read.
-  LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock);
+  LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock,
+              const text::Dialect& dialect = {});
   /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line
   /// begins. A caller that knows that they hold no NUL byte saves a search of each line.
-  explicit LineScanner(std::string_view contents, std::int64_t from = 0, bool may_hold_nul = true);
+  explicit LineScanner(std::string_view contents, std::int64_t from = 0, bool may_hold_nul = true,
+                       const text::Dialect& dialect = {});
   LineScanner(const LineScanner&) = delete;
   LineScanner& operator=(const LineScanner&) = delete;
 
@@ -54,10 +58,12 @@ class LineScanner {
 
  private:
   bool read_more();
+  void drop_end_mark();
   bool is_padding(std::size_t begin);
   [[nodiscard]] std::size_t available() const { return length_ - at_; }
   char* block() { return buffer_ != nullptr ? buffer_.get() : few_; }
 
+  text::Dialect dialect_;
   platform::RandomAccess* file_ = nullptr;
   const char* window_ = nullptr;
   std::int64_t window_offset_ = 0;
@@ -73,10 +79,5 @@ class LineScanner {
   std::unique_ptr<char[]> buffer_;  // null while a few lines are all that is expected
   char few_[kFew];
 };
-
-/// The length of the contents without the padding that an earlier store left at their end: behind
-/// the last line break, or behind the text of a last line that has none, where blanks belong to no
-/// value either.
-std::size_t length_without_padding(std::string_view contents);
 
 }  // namespace qel

@@ -40,9 +40,13 @@ bool first_token_is(std::string_view line, std::string_view token) {
 }
 
 std::string_view entry_value(std::string_view line) {
+  return without_trailing(untrimmed_value(line));
+}
+
+std::string_view untrimmed_value(std::string_view line) {
   const std::size_t equals = line.find('=');
   return equals == std::string_view::npos ? std::string_view{}
-                                          : index_value(line.substr(equals + 1));
+                                          : without_leading_blanks(line.substr(equals + 1));
 }
 
 std::string_view index_value(std::string_view line) {
@@ -80,9 +84,20 @@ std::string_view trim_end(std::string_view text, std::string_view characters) {
   return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
-std::string_view without_end_mark(std::string_view last_line) {
+std::string_view without_end_mark(std::string_view last_line, const Dialect& dialect) {
   const std::string_view text = trim_end(last_line, kPadding);
-  return last_line.find(kEndMark, text.size()) != std::string_view::npos ? text : last_line;
+  const std::size_t mark = last_line.find(kEndMark, text.size());
+  if (mark == std::string_view::npos) {
+    return last_line;
+  }
+  return dialect.keeps_blanks ? last_line.substr(0, mark) : text;
+}
+
+std::size_t length_without_padding(std::string_view contents, const Dialect& dialect) {
+  const std::string_view text = trim_end(contents, kPadding);
+  const bool ends_there =
+      dialect.keeps_blanks ? text.ends_with('\n') : contents.find('\n') != std::string_view::npos;
+  return ends_there ? text.size() : without_end_mark(contents, dialect).size();
 }
 
 bool is_findable(std::string_view name) {
@@ -95,11 +110,10 @@ bool is_section_name(std::string_view name) {
 
 bool is_key(std::string_view name) { return is_findable(name) && name.front() != '['; }
 
-std::string padded_entry(std::string_view key, std::string_view value) {
-  constexpr std::size_t kKeyColumns = 20;
+std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect) {
   std::string line(key);
-  if (line.size() < kKeyColumns) {
-    line.append(kKeyColumns - line.size(), ' ');
+  if (line.size() < dialect.key_columns) {
+    line.append(dialect.key_columns - line.size(), ' ');
   }
   return line.append(" = ").append(value);
 }

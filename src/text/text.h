@@ -3,12 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "text/dialect.h"
+
 /// The text rules of a process file. A line is given without its line break.
 namespace qel::text {
-
-/// The longest line, its line break counted as one character. A longer one is seen as several
-/// lines.
-inline constexpr std::size_t kLongestLine = 4095;
 
 /// What an editor may put at a file's very start; it belongs to no line.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -26,6 +24,9 @@ bool first_token_is(std::string_view line, std::string_view token);
 /// The text behind the first "=", without leading blanks and trailing blanks, tabs and line breaks.
 /// A line without "=" has an empty value.
 std::string_view entry_value(std::string_view line);
+
+/// The same with all that trails it.
+std::string_view untrimmed_value(std::string_view line);
 
 /// The whole line, trimmed as a value is.
 std::string_view index_value(std::string_view line);
@@ -48,8 +49,14 @@ inline constexpr char kEndMark = '\x1A';
 /// store.
 inline constexpr std::string_view kPadding = " \x1A";
 
-/// The last line of a file, which has no line break, without an end mark and the blanks around it.
-std::string_view without_end_mark(std::string_view last_line);
+/// The last line of a file, which has no line break, without an end mark and the blanks around it;
+/// a dialect may keep those in front of it.
+std::string_view without_end_mark(std::string_view last_line, const Dialect& dialect = {});
+
+/// The length of a file's contents without the padding that an earlier store left at their end:
+/// behind the last line break, or behind the text of a last line that has none, where the dialect
+/// keeps no blanks.
+std::size_t length_without_padding(std::string_view contents, const Dialect& dialect = {});
 
 /// Whether all of a name is first token, so that a line of it can be found.
 bool is_findable(std::string_view name);
@@ -59,8 +66,9 @@ bool is_findable(std::string_view name);
 bool is_section_name(std::string_view name);
 bool is_key(std::string_view name);
 
-/// "%-20s = %s", the layout of an entry that is appended or replaced.
-std::string padded_entry(std::string_view key, std::string_view value);
+/// "%-20s = %s", or as wide as the dialect has it: the layout of an entry that is appended or
+/// replaced.
+std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect = {});
 
 /// "%s = %s", the layout of an entry that is inserted into its section.
 std::string plain_entry(std::string_view key, std::string_view value);

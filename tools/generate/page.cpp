@@ -15,7 +15,7 @@
 #include "blocks/catalogue.h"
 #include "blocks/encoding.h"
 #include "encodings.h"
-#include "proio/line_scanner.h"
+#include "proio/dialect.h"
 #include "refdata/bounded_lines.h"
 #include "refdata/machine_bank.h"
 #include "text/text.h"
@@ -219,7 +219,7 @@ void print_page(const std::string& folder, std::ostream& to) {
       {"EXAMPLE", file(folder + "/example.pro")},
       {"LINE", figure(qel::text::kLongestLine)},
       {"COMPOUND", figure(qel::kCompoundLimit - 1)},
-      {"OLDER_LINE", figure(qel::proio::LineScanner::kLongestLine)},
+      {"OLDER_LINE", figure(qel::proio::kDialect.longest_line)},
       {"REFERENCE_LINE", figure(qel::refdata::BoundedLines::kLongestLine)},
       {"BANK_VERSION", figure(qel::refdata::kBankVersion)},
   };

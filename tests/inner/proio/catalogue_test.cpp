@@ -5,7 +5,6 @@
 #include <string>
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
-#include "proio/line_store.h"
 #include "proio/scratch.h"
 #include "proio/words.h"
 
@@ -83,20 +82,6 @@ TEST(Catalogue, NamesEveryNumberedKeyInItsFixedOrder) {
   for (const int none : {0, 32, -1}) {
     EXPECT_STREQ(qel::proio::key_name(7, none, buffer), "") << none;
   }
-}
-
-TEST(LeadingWord, EndsAtTabLineFeedBlankOrEqualsSign) {
-  using qel::proio::is_match;
-  for (const char* line : {"FillTime", "FillTime = 1", "FillTime=1", "FillTime\t1", "FillTime\n"}) {
-    EXPECT_TRUE(is_match(line, "FillTime")) << line;
-  }
-  for (const char* line :
-       {" FillTime", "FillTimes", "FillTim", "fillTime", "\tFillTime", "=FillTime", ""}) {
-    EXPECT_FALSE(is_match(line, "FillTime")) << line;
-  }
-  EXPECT_TRUE(is_match("[SURFACE ELEMENT BOUNDARY CONDITION NAME]", "[SURFACE"));
-  EXPECT_TRUE(is_match("", ""));
-  EXPECT_TRUE(is_match(" x", ""));
 }
 
 TEST(Buffer, HoldsAtMost127Characters) {

@@ -40,6 +40,15 @@ TEST(FileImage, HasRoomInFrontOfTheFileAndBehindIt) {
   EXPECT_EQ(image.bytes(), "0123456789");
 }
 
+TEST(FileImage, PutsLongerTextsAroundAPart) {
+  FileImage image = image_of("0123456789");
+  const std::string longer(FileImage::kRoom + 1, 'b');
+  EXPECT_EQ(image.compose(longer, 5, 8, "a"), longer + "567a");
+  EXPECT_EQ(image.compose("b", 0, 10, longer), "b0123456789" + longer);
+  image.restore();
+  EXPECT_EQ(image.bytes(), "0123456789");
+}
+
 TEST(FileImage, IsRestoredWhereTheTextsCoverEachOther) {
   FileImage image = image_of("0123456789");
   EXPECT_EQ(image.compose("abcdef", 6, 6, "uvw"), "abcdefuvw");

@@ -224,13 +224,70 @@ TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
 }
 
 TEST(LengthWithoutPadding, TakesBlanksAtTheEndOfTheFileAway) {
-  EXPECT_EQ(length_without_padding("a\n   "), 2U);
-  EXPECT_EQ(length_without_padding("a\n"), 2U);
-  EXPECT_EQ(length_without_padding("a\n b"), 4U);
-  EXPECT_EQ(length_without_padding("a\n \t "), 4U);
-  EXPECT_EQ(length_without_padding("a\n b  "), 4U);
-  EXPECT_EQ(length_without_padding(""), 0U);
-  EXPECT_EQ(length_without_padding("   "), 3U);
+  EXPECT_EQ(text::length_without_padding("a\n   "), 2U);
+  EXPECT_EQ(text::length_without_padding("a\n"), 2U);
+  EXPECT_EQ(text::length_without_padding("a\n b"), 4U);
+  EXPECT_EQ(text::length_without_padding("a\n \t "), 4U);
+  EXPECT_EQ(text::length_without_padding("a\n b  "), 4U);
+  EXPECT_EQ(text::length_without_padding(""), 0U);
+  EXPECT_EQ(text::length_without_padding("   "), 3U);
+}
+
+TEST(LengthWithoutPadding, CountsBlanksThatTrailALineWhereADialectKeepsThem) {
+  constexpr text::Dialect kKeeping{.keeps_blanks = true};
+  for (const std::size_t blanks : {0U, 1U, 4094U, 4095U, 4096U, 4097U, 9000U}) {
+    const std::string padding(blanks, ' ');
+    for (const std::string text : {"", "x\n", "x", "\n", "x\n y"}) {
+      const bool is_padded = !text.empty() && text.back() == '\n';
+      EXPECT_EQ(text::length_without_padding(text + padding, kKeeping),
+                text.size() + (is_padded ? 0 : blanks))
+          << testing::PrintToString(text) << ' ' << blanks;
+    }
+  }
+  EXPECT_EQ(text::length_without_padding("a\n b  \x1A ", kKeeping), 6U);
+  EXPECT_EQ(text::length_without_padding("a\n  \x1A ", kKeeping), 2U);
+}
+
+// The lines of a text as a dialect of short lines has them, over a file as over memory.
+std::vector<Seen> short_lines_of(const std::string& contents) {
+  constexpr text::Dialect kShort{.longest_line = 8, .keeps_blanks = true};
+  LineScanner over_memory(contents, 0, true, kShort);
+  std::vector<Seen> result = all(over_memory);
+  for (const std::size_t block : {std::size_t{1}, std::size_t{7}, LineScanner::kFirstBlock}) {
+    MemoryFile file(contents);
+    LineScanner over_file(file, 0, block, kShort);
+    EXPECT_EQ(all(over_file), result) << "in blocks of " << block;
+  }
+  return result;
+}
+
+TEST(Dialect, SaysWhatALongLineIs) {
+  EXPECT_THAT(short_lines_of("1234567\n1234567\r\n"),
+              ElementsAre(Seen{0, 8, "1234567"}, Seen{8, 17, "1234567"}));
+  EXPECT_THAT(short_lines_of("12345678\n9"),
+              ElementsAre(Seen{0, 8, "12345678"}, Seen{8, 9, ""}, Seen{9, 10, "9"}));
+  EXPECT_THAT(short_lines_of("123456789"), ElementsAre(Seen{0, 8, "12345678"}, Seen{8, 9, "9"}));
+}
+
+TEST(Dialect, LeavesNoEndMarkInAPieceOfALongLine) {
+  EXPECT_THAT(short_lines_of("x\n123456  \x1A"),
+              ElementsAre(Seen{0, 2, "x"}, Seen{2, 10, "123456  "}));
+  EXPECT_THAT(short_lines_of("123456\x1A          \x1A"), ElementsAre(Seen{0, 6, "123456"}));
+  EXPECT_THAT(short_lines_of("123456  "), ElementsAre(Seen{0, 8, "123456  "}));
+}
+
+TEST(Line, TellsWhetherItsBreakFollowsIt) {
+  using namespace std::string_literals;
+  const std::string contents = "a\nb\r\nc\0\n"s + std::string(text::kLongestLine, 'x') + "\nd";
+  LineScanner lines{std::string_view(contents)};
+  std::vector<bool> breaks;
+  std::vector<bool> pieces;
+  for (Line line; lines.next(line);) {
+    breaks.push_back(line.has_break);
+    pieces.push_back(line.is_piece);
+  }
+  EXPECT_THAT(breaks, ElementsAre(true, true, false, false, true, false));
+  EXPECT_THAT(pieces, ElementsAre(false, false, false, false, true, false));
 }
 
 }  // namespace

@@ -36,6 +36,17 @@ TEST(FirstTokenIs, MatchesTheWholeTokenOnly) {
   EXPECT_FALSE(first_token_is("Flo", "Flow"));
 }
 
+TEST(FirstTokenIs, EndsAtTabBlankOrEqualsSign) {
+  for (const char* line : {"FillTime", "FillTime = 1", "FillTime=1", "FillTime\t1"}) {
+    EXPECT_TRUE(first_token_is(line, "FillTime")) << line;
+  }
+  for (const char* line :
+       {" FillTime", "FillTimes", "FillTim", "fillTime", "\tFillTime", "=FillTime", ""}) {
+    EXPECT_FALSE(first_token_is(line, "FillTime")) << line;
+  }
+  EXPECT_TRUE(first_token_is("[SURFACE ELEMENT BOUNDARY CONDITION NAME]", "[SURFACE"));
+}
+
 TEST(FirstTokenIs, TellsUpperFromLowerCase) { EXPECT_FALSE(first_token_is("flow = 1", "Flow")); }
 
 TEST(FirstTokenIs, NeverMatchesAnEmptyText) {
@@ -176,5 +187,24 @@ TEST(PaddedEntry, WritesAKeyOfTwentyColumnsOrMoreWhole) {
 }
 
 TEST(PlainEntry, HasNoPadding) { EXPECT_EQ(plain_entry("FillTime", "1.5"), "FillTime = 1.5"); }
+
+TEST(WithoutEndMark, LeavesTheBlanksInFrontOfItToADialectThatKeepsThem) {
+  const Dialect keeping{.keeps_blanks = true};
+  EXPECT_EQ(without_end_mark("x = 1  \x1A\x1A ", keeping), "x = 1  ");
+  EXPECT_EQ(without_end_mark("x = 1  ", keeping), "x = 1  ");
+  EXPECT_EQ(without_end_mark("  \x1A", keeping), "  ");
+}
+
+TEST(UntrimmedValue, KeepsAllThatTrailsIt) {
+  EXPECT_EQ(untrimmed_value("x =  1 \t"), "1 \t");
+  EXPECT_EQ(untrimmed_value("x =\t1"), "\t1");
+  EXPECT_EQ(untrimmed_value("x = a = b "), "a = b ");
+  EXPECT_EQ(untrimmed_value("x"), "");
+}
+
+TEST(PaddedEntry, IsAsWideAsTheDialectHasIt) {
+  EXPECT_EQ(padded_entry("Key", "1", {.key_columns = 6}), "Key    = 1");
+  EXPECT_EQ(padded_entry("LongerKey", "1", {.key_columns = 6}), "LongerKey = 1");
+}
 
 }  // namespace

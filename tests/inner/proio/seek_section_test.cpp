@@ -1,7 +1,6 @@
-#include "proio/line_scanner.h"
-
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <iterator>
 #include <optional>
 #include <random>
@@ -9,22 +8,26 @@
 #include <string_view>
 
 #include "inner/text/memory_file.h"
+#include "proio/dialect.h"
 #include "proio/line_store.h"
+#include "text/line_scanner.h"
+#include "text/text.h"
 
 namespace {
 
 using namespace std::string_literals;
-using qel::proio::Line;
-using qel::proio::LineScanner;
+using qel::Line;
+using qel::LineScanner;
+using qel::proio::lines_of;
 using qelpro_test::MemoryFile;
 
 constexpr std::string_view kSection = "[A-1]";
 
 // Where the section begins, found by looking at every line.
 std::optional<std::int64_t> by_every_line(const std::string& contents) {
-  LineScanner lines{std::string_view(contents)};
+  LineScanner lines = lines_of(std::string_view(contents));
   for (Line line; lines.next(line);) {
-    if (qel::proio::is_match(line.text, kSection)) {
+    if (qel::text::first_token_is(line.text, kSection)) {
       return line.end;
     }
   }
@@ -41,17 +44,18 @@ std::optional<std::int64_t> behind_section(LineScanner& lines) {
 
 void expect_same(const std::string& contents) {
   std::optional<std::int64_t> expected = by_every_line(contents);
-  if (expected == static_cast<std::int64_t>(contents.size())) {
-    expected = -1;
+  const std::size_t end = qel::text::length_without_padding(contents, qel::proio::kDialect);
+  if (expected == static_cast<std::int64_t>(end)) {
+    expected = -1;  // padding is no line
   }
-  LineScanner in_memory{std::string_view(contents)};
+  LineScanner in_memory = lines_of(std::string_view(contents));
   EXPECT_EQ(behind_section(in_memory), expected);
   MemoryFile file(contents);
-  LineScanner in_file(file);
+  LineScanner in_file = lines_of(file);
   EXPECT_EQ(behind_section(in_file), expected);
 }
 
-TEST(SelfContainedScanner, PassesLinesWithoutASectionsName) {
+TEST(SeekSection, PassesLinesWithoutASectionsName) {
   expect_same("[A-1]\nx = 1\n");
   expect_same("[A-1]");
   expect_same("x\n[A-1]\n");
@@ -62,14 +66,14 @@ TEST(SelfContainedScanner, PassesLinesWithoutASectionsName) {
   expect_same("");
 }
 
-TEST(SelfContainedScanner, FindsASectionInAPieceOfALongLine) {
+TEST(SeekSection, FindsASectionInAPieceOfALongLine) {
   for (const std::size_t before : {126U, 127U, 128U, 254U, 255U}) {
     expect_same("x\n" + std::string(before, 'y') + "[A-1]\nz\n");
     expect_same("x\n[A-1" + std::string(before, 'y') + "[A-1]\nz\n");
   }
 }
 
-TEST(SelfContainedScanner, FindsASectionAtEveryPlaceOfABlock) {
+TEST(SeekSection, FindsASectionAtEveryPlaceOfABlock) {
   constexpr std::size_t kBlock = std::size_t{16} * 1024;
   for (std::size_t place = kBlock - 140; place < kBlock + 10; ++place) {
     const std::string before(place - 101, 'x');
@@ -78,7 +82,7 @@ TEST(SelfContainedScanner, FindsASectionAtEveryPlaceOfABlock) {
   }
 }
 
-TEST(SelfContainedScanner, AgreesWithALookAtEveryLine) {
+TEST(SeekSection, AgreesWithALookAtEveryLine) {
   std::mt19937 random(1);
   constexpr std::string_view kPieces[] = {"[A-1]", "[A-1] ", "[A-1", "[",  "A-1]", "x = 1",
                                           "\n",    "\n",     "\r\n", "\r", " "};
@@ -99,32 +103,10 @@ TEST(SelfContainedScanner, AgreesWithALookAtEveryLine) {
 }
 
 // To look for the name again in every piece would take hours.
-TEST(SelfContainedScanner, LooksForANameOnceInALongLine) {
+TEST(SeekSection, LooksForANameOnceInALongLine) {
   const std::string contents = "x\n" + std::string(std::size_t{20} << 20U, 'y');
-  LineScanner lines{std::string_view(contents)};
+  LineScanner lines = lines_of(std::string_view(contents));
   EXPECT_FALSE(qel::proio::seek_section(lines, kSection));
-}
-
-TEST(SelfContainedScanner, TellsPaddingOfAnyLength) {
-  for (const std::size_t blanks : {0U, 1U, 4094U, 4095U, 4096U, 4097U, 9000U}) {
-    const std::string padding(blanks, ' ');
-    for (const std::string& text : {""s, "x\n"s, "x"s, "\n"s, "x\n y"s}) {
-      MemoryFile file(text + padding);
-      const bool is_padded = !text.empty() && text.back() == '\n';
-      EXPECT_EQ(qel::proio::length_without_padding(file),
-                static_cast<std::int64_t>(text.size() + (is_padded ? 0 : blanks)))
-          << testing::PrintToString(text) << ' ' << blanks;
-      EXPECT_EQ(static_cast<std::int64_t>(
-                    qel::proio::length_without_padding(std::string_view(file.bytes))),
-                qel::proio::length_without_padding(file));
-    }
-  }
-}
-
-TEST(SelfContainedScanner, TellsNoPaddingOfAFileThatCannotBeRead) {
-  MemoryFile file("x\n  ");
-  file.readable = 2;
-  EXPECT_EQ(qel::proio::length_without_padding(file), -1);
 }
 
 }  // namespace

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+
+namespace qel::text {
+
+/// The longest line, its line break counted as one character. A longer one is seen as several
+/// lines.
+inline constexpr std::size_t kLongestLine = 4095;
+
+/// What two kinds of document see differently in the same bytes. The defaults are those of a
+/// process file's document.
+struct Dialect {
+  std::size_t longest_line = kLongestLine;
+  /// Whether blanks that trail the last line are part of it, so that only those behind its line
+  /// break, or behind an end mark, are padding.
+  bool keeps_blanks = false;
+  /// How wide the key of a padded entry is at least.
+  std::size_t key_columns = 20;
+};
+
+}  // namespace qel::text
