@@ -127,7 +127,6 @@ std::pair<int, int> scan_pair(std::string_view text) {
   return pair;
 }
 
-constexpr unsigned int kMostInlets = 4096;  // that a process holds
 constexpr unsigned int kCoInjection = 8;
 constexpr unsigned int kTwoMeltEntrances = 11;
 
@@ -189,7 +188,7 @@ void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& pro
   const unsigned int wanted = count;
   while (count-- != 0 && process.AppendFlowPackProcess() != nullptr) {
   }
-  if (process.GetNumOfInlets() < std::min(wanted, kMostInlets)) {
+  if (process.GetNumOfInlets() < std::min(wanted, QELG_SimulatorProcess::kMostInlets)) {
     throw std::bad_alloc();
   }
 }
