@@ -25,9 +25,9 @@ done <<'EOF'
 platform
 text platform
 core text platform
-blocks core text platform
+blocks core text platform qelg
 api blocks core text platform refdata
-process blocks core text platform
+process blocks core text platform qelg
 proio platform
 refdata core text platform
 qelg

@@ -46,8 +46,6 @@ std::string type_of(qel::Kind kind, bool writes) {
   }
 }
 
-bool is_numbered(std::string_view name) { return name.find('%') != std::string_view::npos; }
-
 Member member_of(const std::string& name, const qel::SectionInfo& section, const qel::KeyInfo& key,
                  bool writes) {
   Member member{name, &section, &key, writes, {}, 0};
@@ -57,8 +55,8 @@ Member member_of(const std::string& name, const qel::SectionInfo& section, const
     member.parameters.push_back({type_of(field.kind, writes), field.name, field.words});
   }
   for (const qel::Argument& number :
-       {is_numbered(key.text) ? key.details.number : qel::Argument(),
-        is_numbered(section.name) ? section.number : qel::Argument()}) {
+       {qel::is_numbered(key.text) ? key.details.number : qel::Argument(),
+        qel::is_numbered(section.name) ? section.number : qel::Argument()}) {
     if (number.name != nullptr) {
       member.parameters.push_back({"int ", number.name, number.words});
     }
@@ -224,8 +222,8 @@ bool takes_text(const Member& member) {
 }
 
 std::string place_of(const Member& member) {
-  const bool point = is_numbered(member.key->text);
-  const bool section = is_numbered(member.section->name);
+  const bool point = qel::is_numbered(member.key->text);
+  const bool section = qel::is_numbered(member.section->name);
   const auto number = member.parameters.begin() + static_cast<std::ptrdiff_t>(member.fields);
   if (point && section) {
     return "at_point(" + number->name + ", " + (number + 1)->name + ")";
