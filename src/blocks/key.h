@@ -105,7 +105,9 @@ struct SectionInfo {
 };
 
 /// Whether a number stands in such a name, and what stands before it.
-constexpr bool is_numbered(std::string_view name) { return name.find('%') != name.npos; }
+constexpr bool is_numbered(std::string_view name) {
+  return name.find('%') != std::string_view::npos;
+}
 constexpr std::string_view prefix_of(std::string_view name) {
   return name.substr(0, name.find('%'));
 }

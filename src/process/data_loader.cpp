@@ -102,8 +102,9 @@ void load_list(Snapshot& file, std::string_view section, const KeyInfo* count_ke
 // What the keys of a section say of the object. `number` is that of numbered keys which are no
 // points of a list.
 template <class Object>
-void load_section(Snapshot& file, std::string_view section, std::span<const KeyInfo> keys,
-                  Object& object, int number = 0) {
+void load_section(Snapshot& file, const char* name, std::span<const KeyInfo> keys, Object& object,
+                  int number = 0) {
+  const std::string_view section = name;
   if (!file.has_section(section)) {
     return;
   }

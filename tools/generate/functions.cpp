@@ -8,7 +8,7 @@ constexpr std::string_view name_of(std::monostate /*nothing*/) { return {}; }
 
 constexpr std::string_view name_of(qel::ProcessItem item) {
   constexpr std::string_view names[] = {
-#define QELG_PROCESS_ITEM(kind, name) "set_process_" #name,
+#define QELG_PROCESS_ITEM(kind, name) std::string_view("set_process_" #name),
 #include "qelg/items.inc"
   };
   return names[static_cast<std::size_t>(item)];
@@ -16,7 +16,7 @@ constexpr std::string_view name_of(qel::ProcessItem item) {
 
 constexpr std::string_view name_of(qel::ProcessList list) {
   constexpr std::string_view names[] = {
-#define QELG_PROCESS_LIST(type, name, title) "Get" #name "_mod",
+#define QELG_PROCESS_LIST(type, name, title) std::string_view("Get" #name "_mod"),
 #include "qelg/items.inc"
   };
   return names[static_cast<std::size_t>(list)];
@@ -24,7 +24,7 @@ constexpr std::string_view name_of(qel::ProcessList list) {
 
 constexpr std::string_view name_of(qel::InletItem item) {
   constexpr std::string_view names[] = {
-#define QELG_INLET_ITEM(kind, name) "set_process_" #name,
+#define QELG_INLET_ITEM(kind, name) std::string_view("set_process_" #name),
 #include "qelg/items.inc"
   };
   return names[static_cast<std::size_t>(item)];
@@ -32,7 +32,7 @@ constexpr std::string_view name_of(qel::InletItem item) {
 
 constexpr std::string_view name_of(qel::InletList list) {
   constexpr std::string_view names[] = {
-#define QELG_INLET_LIST(type, name, title) "Get" #name "_mod",
+#define QELG_INLET_LIST(type, name, title) std::string_view("Get" #name "_mod"),
 #include "qelg/items.inc"
   };
   return names[static_cast<std::size_t>(list)];

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "blocks/catalogue.h"
+#include "lines.h"
 
 namespace {
 
@@ -15,7 +16,6 @@ constexpr std::string_view kBegin =
 constexpr std::string_view kEnd =
     "  // clang-format on\n"
     "  // The members above are made; what follows is written by hand.\n";
-constexpr std::size_t kColumns = 100;
 
 using Words = std::vector<std::string>;
 
@@ -91,23 +91,6 @@ std::vector<Member> members_of(const ExportedObject& object, const std::string& 
     }
   }
   return members;
-}
-
-// The words in lines that begin with `start`.
-std::string wrapped(const std::string& text, const std::string& start) {
-  std::string result;
-  std::string line = start;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find(' ', at), text.size());
-    const std::string word = text.substr(at, end - at);
-    if (line.size() + 1 + word.size() > kColumns) {
-      result += line + "\n";
-      line = start;
-    }
-    line += " " + word;
-    at = end + 1;
-  }
-  return result + line + "\n";
 }
 
 std::string declared(const Parameter& parameter) { return parameter.type + parameter.name; }

@@ -265,7 +265,8 @@ class Diagnosis {
     } else {
       check_value(section, *line, key, kind);
     }
-    const auto [place, first] = given.try_emplace(row.details.loader, section.name, key, line);
+    const auto [place, first] =
+        given.try_emplace(row.details.loader, Giver{section.name, key, line});
     if (!first) {
       const Giver& before = place->second;
       add(section, line, key,
@@ -283,7 +284,7 @@ class Diagnosis {
     }
     const TextLine* line = section.find(count.text);
     const auto [place, first] =
-        given.try_emplace(points.details.loader, section.name, count.text, line);
+        given.try_emplace(points.details.loader, Giver{section.name, count.text, line});
     if (!first) {
       const Giver& before = place->second;
       add(section, line, count.text,
