@@ -108,21 +108,21 @@ void load_section(Snapshot& file, const char* name, std::span<const KeyInfo> key
   if (!file.has_section(section)) {
     return;
   }
-  using Functions = Functions<Object>;
+  using Of = Functions<Object>;
   const KeyInfo* count = nullptr;
   for (const KeyInfo& key : keys) {
-    if (const auto* item = std::get_if<typename Functions::Item>(&key.details.loader)) {
+    if (const auto* item = std::get_if<typename Of::Item>(&key.details.loader)) {
       if (const auto value = file.value(section, NumberedName(key.text, number).str())) {
         std::visit(Convert<Object>{object, key, std::string(*value).c_str()},
-                   Functions::kSetters[static_cast<std::size_t>(*item)]);
+                   Of::kSetters[static_cast<std::size_t>(*item)]);
       }
-    } else if (const auto* list = std::get_if<typename Functions::List>(&key.details.loader)) {
+    } else if (const auto* list = std::get_if<typename Of::List>(&key.details.loader)) {
       if (is_numbered(key.text)) {
         std::visit(
             [&](auto get) {
               load_list(file, section, std::exchange(count, nullptr), key, *(object.*get)());
             },
-            Functions::kLists[static_cast<std::size_t>(*list)]);
+            Of::kLists[static_cast<std::size_t>(*list)]);
       } else {
         count = &key;
       }
