@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <variant>
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
@@ -21,6 +21,7 @@
 #include "blocks/summary.h"
 #include "platform/number.h"
 #include "process/functions.h"
+#include "process/steps.h"
 #include "text/snapshot.h"
 
 namespace {
@@ -82,50 +83,48 @@ void append(QELG_Array<double>& array, const char* text) {
 // with one, numbers that the section lacks are passed over, and the count costs no more than what
 // the section holds.
 template <class List>
-void load_list(Snapshot& file, std::string_view section, const KeyInfo* count_key,
-               const KeyInfo& points, List& list) {
+void load_list(Snapshot& file, std::string_view section, const LoadStep& step, List& list) {
   int most = std::numeric_limits<int>::max();
-  if (count_key != nullptr) {
-    const auto count = file.value(section, count_key->text);
-    most = count ? platform::to_int(std::string(*count).c_str()) : 0;
+  if (!step.count.empty()) {
+    const auto count = file.value(section, step.count);
+    if (!count) {
+      return;
+    }
+    most = platform::to_int(std::string(*count).c_str());
   }
   std::string text;
   int expected = 1;
-  for (const Snapshot::Numbered& entry : file.numbered(section, prefix_of(points.text), most)) {
-    if (count_key == nullptr && entry.number != expected++) {
+  for (const Snapshot::Numbered& entry : file.numbered(section, step.text, most)) {
+    if (step.count.empty() && entry.number != expected++) {
       return;
     }
     append(list, text.assign(entry.value).c_str());
   }
 }
 
-// What the keys of a section say of the object. `number` is that of numbered keys which are no
-// points of a list.
+// What a section says of the object. `number` is that of numbered keys which are no points of a
+// list.
 template <class Object>
-void load_section(Snapshot& file, const char* name, std::span<const KeyInfo> keys, Object& object,
+void load_section(Snapshot& file, const char* name, std::span<const LoadStep> steps, Object& object,
                   int number = 0) {
   const std::string_view section = name;
   if (!file.has_section(section)) {
     return;
   }
   using Of = Functions<Object>;
-  const KeyInfo* count = nullptr;
-  for (const KeyInfo& key : keys) {
-    if (const auto* item = std::get_if<typename Of::Item>(&key.details.loader)) {
-      if (const auto value = file.value(section, NumberedName(key.text, number).str())) {
-        std::visit(Convert<Object>{object, key, std::string(*value).c_str()},
+  for (const LoadStep& step : steps) {
+    const Destination& destination = step.key->details.loader;
+    if (const auto* item = std::get_if<typename Of::Item>(&destination)) {
+      const auto value = step.numbered
+                             ? file.value(section, NumberedName(step.key->text, number).str())
+                             : file.value(section, step.text);
+      if (value) {
+        std::visit(Convert<Object>{object, *step.key, std::string(*value).c_str()},
                    Of::kSetters[static_cast<std::size_t>(*item)]);
       }
-    } else if (const auto* list = std::get_if<typename Of::List>(&key.details.loader)) {
-      if (is_numbered(key.text)) {
-        std::visit(
-            [&](auto get) {
-              load_list(file, section, std::exchange(count, nullptr), key, *(object.*get)());
-            },
-            Of::kLists[static_cast<std::size_t>(*list)]);
-      } else {
-        count = &key;
-      }
+    } else if (const auto* list = std::get_if<typename Of::List>(&destination)) {
+      std::visit([&](auto get) { load_list(file, section, step, *(object.*get)()); },
+                 Of::kLists[static_cast<std::size_t>(*list)]);
     }
   }
 }
@@ -219,43 +218,44 @@ void CQELProcessData_Manipulator::LoadInlets(QELG_SimulatorProcess& process) {
 }
 
 void CQELProcessData_Manipulator::LoadCAEHeader(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), cae_header::kSection, cae_header::kKeys, process);
+  load_section(file_of(reader_), cae_header::kSection, kSteps<cae_header::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadSummary(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), summary::kSection, summary::kKeys, process);
+  load_section(file_of(reader_), summary::kSection, kSteps<summary::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadFlowCTL(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), flow_ctl::kSection, flow_ctl::kKeys, process);
+  load_section(file_of(reader_), flow_ctl::kSection, kSteps<flow_ctl::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::MoldThermalBoundaryType(QELG_SimulatorProcess& process) {
   load_section(file_of(reader_), mold_thermal_boundary_type::kSection,
-               mold_thermal_boundary_type::kKeys, process);
+               kSteps<mold_thermal_boundary_type::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadMachine(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), machine::kSection, machine::kKeys, process);
+  load_section(file_of(reader_), machine::kSection, kSteps<machine::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadRamposition(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), ram_position::kSection, ram_position::kKeys, process);
+  load_section(file_of(reader_), ram_position::kSection, kSteps<ram_position::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess& inlet,
                                                   int number) {
-  load_section(file_of(reader_), flow_ctl_info::kSection, flow_ctl_info::kKeys, inlet, number);
+  load_section(file_of(reader_), flow_ctl_info::kSection, kSteps<flow_ctl_info::kKeys>, inlet,
+               number);
 }
 
 void CQELProcessData_Manipulator::LoadFlow(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, flow_x::kKeys, inlet);
+  load_section(file_of(reader_), section, kSteps<flow_x::kKeys>, inlet);
 }
 
 void CQELProcessData_Manipulator::LoadPack(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, pack_x::kKeys, inlet);
+  load_section(file_of(reader_), section, kSteps<pack_x::kKeys>, inlet);
 }
 
 void CQELProcessData_Manipulator::LoadCure(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, cure_x::kKeys, inlet);
+  load_section(file_of(reader_), section, kSteps<cure_x::kKeys>, inlet);
 }
