@@ -25,10 +25,10 @@ done <<'EOF'
 platform
 text platform
 core text platform
-blocks core text platform
+blocks core text platform qelg
 objects
 api objects blocks core text platform refdata
-process objects blocks core text platform
+process objects blocks core text platform qelg
 proio objects blocks text platform
 refdata objects text platform
 qelg

@@ -48,7 +48,9 @@ class QELG_API QELG_SimulatorProcess {
   QELG_SimulatorProcess& operator=(const QELG_SimulatorProcess&) = delete;
   virtual ~QELG_SimulatorProcess();
 
-  /// Adds an inlet behind the last one; the process owns it. Null once there are 4096.
+  static constexpr unsigned int kMostInlets = 4096;
+
+  /// Adds an inlet behind the last one; the process owns it. Null once there are `kMostInlets`.
   QELG_SimulatorFlowPackProcess* AppendFlowPackProcess();
   unsigned int GetNumOfInlets() const;
   /// Null for an inlet that does not exist.

@@ -66,18 +66,18 @@ inline constexpr KeyInfo kKeys[] = {
         {"CaeHeader_ReadProjectType"},
         {},
         "the project type: 8 co-injection, 11 two melt entrances; a second number is dropped",
-        {.loader = "set_process_ProjectType"}},
+        {.loader = ProcessItem::ProjectType}},
     // Only the loader takes these.
     Key<Integer>{"FlagUNF",
                  {},
                  {},
                  "a flag that goes to the simulator as it stands",
-                 {.loader = "set_process_FlagUNF"}},
+                 {.loader = ProcessItem::FlagUNF}},
     Key<Integer>{"FlagEncapsulationCM",
                  {},
                  {},
                  "a flag of encapsulation that goes to the simulator as it stands",
-                 {.loader = "set_process_FlagEncapsulationCM"}},
+                 {.loader = ProcessItem::FlagEncapsulationCM}},
 };
 
 inline constexpr SectionInfo kInfo{kSection, "CaeHeader",

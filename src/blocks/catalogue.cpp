@@ -1,5 +1,6 @@
 #include "blocks/catalogue.h"
 
+#include "blocks/inlet_source.h"
 #include "blocks/output.h"
 #include "blocks/quick_setting.h"
 #include "blocks/sections.h"
@@ -11,43 +12,6 @@
 
 namespace qel {
 namespace {
-
-// The loader also takes an inlet's stages from sections of other names. Nothing else serves those,
-// and what it does not take is no key of theirs.
-template <const auto& stage_keys>
-struct LoaderKeys {
-  static constexpr std::size_t kCount = std::ranges::count_if(
-      stage_keys, [](const KeyInfo& key) { return key.details.loader != nullptr; });
-
-  static constexpr std::array<KeyInfo, kCount> rows() {
-    std::array<KeyInfo, kCount> taken{};
-    std::size_t count = 0;
-    for (const KeyInfo& key : stage_keys) {
-      if (key.details.loader != nullptr) {
-        taken[count] = key;
-        taken[count].readers = {};
-        taken[count].writers = {};
-        taken[count++].details = {.loader = key.details.loader};
-      }
-    }
-    return taken;
-  }
-  static constexpr std::array<KeyInfo, kCount> kKeys = rows();
-};
-
-template <const auto& stage_keys>
-constexpr SectionInfo loader_section(const char* name, const char* subject) {
-  return {name, nullptr, subject, LoaderKeys<stage_keys>::kKeys};
-}
-
-constexpr SectionInfo kFlowSkin = loader_section<flow_x::kKeys>(
-    "[Flow-%d-Skin]", "the filling stage of both inlets of co-injection (project type 8)");
-constexpr SectionInfo kPackSkin = loader_section<pack_x::kKeys>(
-    "[Pack-%d-Skin]", "the packing stage of both inlets of co-injection (project type 8)");
-constexpr SectionInfo kFlowEM = loader_section<flow_x::kKeys>(
-    "[Flow-EM%d]", "the filling stage of a melt entrance (project type 11)");
-constexpr SectionInfo kPackEM = loader_section<pack_x::kKeys>(
-    "[Pack-EM%d]", "the packing stage of a melt entrance (project type 11)");
 
 // Those without a block come behind the others.
 constexpr const SectionInfo* kWithoutBlock[] = {

@@ -12,7 +12,7 @@ inline constexpr KeyInfo kKeys[] = {
                  {"FlowCTLInfo_ReadTotalInlet"},
                  {},
                  "the number of melt inlets",
-                 {.loader = "AppendFlowPackProcess"}},
+                 {.loader = InletCount{}}},
     Key<IntegerPair>{"FlowCTL-%d",
                      {"FlowCTLInfo_ReadFlowCTL"},
                      {},
@@ -24,7 +24,7 @@ inline constexpr KeyInfo kKeys[] = {
         {},
         {},
         "the same two codes as the loader looks for them: the closing bracket belongs to the key",
-        {.loader = "set_process_InletControlType"}},
+        {.loader = InletItem::InletControlType, .loads_second = true}},
 };
 
 inline constexpr SectionInfo kInfo{

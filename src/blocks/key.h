@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "blocks/argument.h"
+#include "blocks/destination.h"
 #include "blocks/field.h"
 #include "blocks/type_name.h"
 
@@ -21,12 +22,11 @@ struct Details {
   Argument unused{};                      ///< A number that the members take and nobody looks at.
   const char* reading = "";               ///< What else a member that reads does, in sentences.
   const char* writing = "";
-  Members older{};    ///< Members of CPROIO_Manipulator.
-  Members adapter{};  ///< Members of CQEL_ProcessAdapter.
-  /// Which function takes the value when CQELProcessData_Manipulator builds a process; null where
-  /// none does.
-  const char* loader = nullptr;
-  Members value_reader{};  ///< Members of CQELProcessValueReader.
+  Members older{};            ///< Members of CPROIO_Manipulator.
+  Members adapter{};          ///< Members of CQEL_ProcessAdapter.
+  Destination loader{};       ///< Where CQELProcessData_Manipulator puts the value.
+  bool loads_second = false;  ///< It takes the second number of a pair, not the first.
+  Members value_reader{};     ///< Members of CQELProcessValueReader.
 };
 
 /// What members and documents need to know of an encoding.
@@ -104,6 +104,14 @@ struct SectionInfo {
   Argument number{};  ///< What a numbered section is numbered by.
 };
 
+/// Whether a number stands in such a name, and what stands before it.
+constexpr bool is_numbered(std::string_view name) {
+  return name.find('%') != std::string_view::npos;
+}
+constexpr std::string_view prefix_of(std::string_view name) {
+  return name.substr(0, name.find('%'));
+}
+
 /// The text of a row's key. A row that is not there does not compile.
 template <std::size_t count>
 consteval const char* key_of(const KeyInfo (&keys)[count], std::string_view text) {
@@ -113,6 +121,18 @@ consteval const char* key_of(const KeyInfo (&keys)[count], std::string_view text
     }
   }
   throw "no row of that key";
+}
+
+/// The row whose value goes there in a load, the first of several. Where there is none it does not
+/// compile.
+template <std::size_t count>
+consteval const KeyInfo& row_to(const KeyInfo (&keys)[count], const Destination& destination) {
+  for (const KeyInfo& key : keys) {
+    if (key.details.loader == destination) {
+      return key;
+    }
+  }
+  throw "no row of that destination";
 }
 
 /// The numbers that go into a numbered key and into the name of an indexed section.

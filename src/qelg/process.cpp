@@ -4,46 +4,37 @@
 
 #include "QELG/QELG.h"
 
-#define QELG_INTEGER(name) std::optional<unsigned int> name;
-#define QELG_REAL(name) std::optional<double> name;
-#define QELG_TEXT(name) std::optional<std::string> name;
-
-struct QELG_SimulatorFlowPackProcess::Data {
-#include "inlet_items.inc"
-  QELG_Profile flow_rate;
-  QELG_Profile injection_pressure;
-  QELG_Profile packing_pressure;
-  QELG_Profile fluid_pressure;
-  QELG_Array<double> flow_rate_time_constants;
-  QELG_Array<double> injection_pressure_time_constants;
-  QELG_Array<double> packing_pressure_time_constants;
-};
-
-struct QELG_SimulatorProcess::Data {
-#include "process_items.inc"
-  std::vector<std::unique_ptr<QELG_SimulatorFlowPackProcess>> inlets;
-  QELG_Array<double> flow_rate_ram_position;
-  QELG_Array<double> injection_pressure_ram_position;
-};
-
-#undef QELG_INTEGER
-#undef QELG_REAL
-#undef QELG_TEXT
-
 namespace {
 
-template <class T>
-bool get(const std::optional<T>& item, T& value) {
-  if (item) {
-    value = *item;
-  }
-  return item.has_value();
+// What an item of each kind is kept in, and what setters and getters pass.
+namespace kept {
+using integer = unsigned int;
+using real = double;
+using text = std::string;
+}  // namespace kept
+namespace passed {
+using integer = unsigned int;
+using real = double;
+using text = const char*;
+}  // namespace passed
+
+template <class Value>
+void set(std::optional<Value>& item, Value value) {
+  item = value;
 }
 
 void set(std::optional<std::string>& item, const char* value) {
   if (value != nullptr) {
     item = value;
   }
+}
+
+template <class Value>
+bool get(const std::optional<Value>& item, Value& value) {
+  if (item) {
+    value = *item;
+  }
+  return item.has_value();
 }
 
 bool get(const std::optional<std::string>& item, const char*& value) {
@@ -55,82 +46,43 @@ bool get(const std::optional<std::string>& item, const char*& value) {
 
 }  // namespace
 
-#define QELG_ITEM(object, type, name)                                                 \
-  void set_process_##name(object& target, type value) { target.data().name = value; } \
-  bool get_process_##name(const object& source, type& value) {                        \
-    return get(source.data().name, value);                                            \
-  }
-#define QELG_TEXT_ITEM(object, name)                                                             \
-  void set_process_##name(object& target, const char* value) { set(target.data().name, value); } \
-  bool get_process_##name(const object& source, const char*& value) {                            \
-    return get(source.data().name, value);                                                       \
-  }
+struct QELG_SimulatorFlowPackProcess::Data {
+#define QELG_INLET_ITEM(kind, name) std::optional<kept::kind> name;
+#define QELG_INLET_LIST(type, name, title) type name;
+#include "items.inc"
+};
 
-#define QELG_INTEGER(name) QELG_ITEM(QELG_SimulatorProcess, unsigned int, name)
-#define QELG_REAL(name) QELG_ITEM(QELG_SimulatorProcess, double, name)
-#define QELG_TEXT(name) QELG_TEXT_ITEM(QELG_SimulatorProcess, name)
-#include "process_items.inc"
-#undef QELG_INTEGER
-#undef QELG_REAL
-#undef QELG_TEXT
+struct QELG_SimulatorProcess::Data {
+#define QELG_PROCESS_ITEM(kind, name) std::optional<kept::kind> name;
+#define QELG_PROCESS_LIST(type, name, title) type name;
+#include "items.inc"
+  std::vector<std::unique_ptr<QELG_SimulatorFlowPackProcess>> inlets;
+};
 
-#define QELG_INTEGER(name) QELG_ITEM(QELG_SimulatorFlowPackProcess, unsigned int, name)
-#define QELG_REAL(name) QELG_ITEM(QELG_SimulatorFlowPackProcess, double, name)
-#define QELG_TEXT(name) QELG_TEXT_ITEM(QELG_SimulatorFlowPackProcess, name)
-#include "inlet_items.inc"
+#define QELG_ITEM(object, kind, name)                                                             \
+  void set_process_##name(object& target, passed::kind value) { set(target.data().name, value); } \
+  bool get_process_##name(const object& source, passed::kind& value) {                            \
+    return get(source.data().name, value);                                                        \
+  }
+#define QELG_LIST(object, type, name)                      \
+  type* object::Get##name##_mod() { return &data_->name; } \
+  const type* object::Get##name() const { return &data_->name; }
+
+#define QELG_PROCESS_ITEM(kind, name) QELG_ITEM(QELG_SimulatorProcess, kind, name)
+#define QELG_PROCESS_LIST(type, name, title) QELG_LIST(QELG_SimulatorProcess, type, name)
+#define QELG_INLET_ITEM(kind, name) QELG_ITEM(QELG_SimulatorFlowPackProcess, kind, name)
+#define QELG_INLET_LIST(type, name, title) QELG_LIST(QELG_SimulatorFlowPackProcess, type, name)
+#include "items.inc"
 
 QELG_SimulatorFlowPackProcess::QELG_SimulatorFlowPackProcess() : data_(std::make_unique<Data>()) {}
 
 QELG_SimulatorFlowPackProcess::~QELG_SimulatorFlowPackProcess() = default;
-
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetFlowRateProfile_mod() { return &data_->flow_rate; }
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile_mod() {
-  return &data_->injection_pressure;
-}
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile_mod() {
-  return &data_->packing_pressure;
-}
-QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile_mod() {
-  return &data_->fluid_pressure;
-}
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFlowRateProfile() const {
-  return &data_->flow_rate;
-}
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetInjectionPressureProfile() const {
-  return &data_->injection_pressure;
-}
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetPackingPressureProfile() const {
-  return &data_->packing_pressure;
-}
-const QELG_Profile* QELG_SimulatorFlowPackProcess::GetFluidPressureProfile() const {
-  return &data_->fluid_pressure;
-}
-
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants_mod() {
-  return &data_->flow_rate_time_constants;
-}
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetInjectionPressureTimeConstants_mod() {
-  return &data_->injection_pressure_time_constants;
-}
-QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants_mod() {
-  return &data_->packing_pressure_time_constants;
-}
-const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetFlowRateTimeConstants() const {
-  return &data_->flow_rate_time_constants;
-}
-const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetInjectionPressureTimeConstants() const {
-  return &data_->injection_pressure_time_constants;
-}
-const QELG_Array<double>* QELG_SimulatorFlowPackProcess::GetPackingPressureTimeConstants() const {
-  return &data_->packing_pressure_time_constants;
-}
 
 QELG_SimulatorProcess::QELG_SimulatorProcess() : data_(std::make_unique<Data>()) {}
 
 QELG_SimulatorProcess::~QELG_SimulatorProcess() = default;
 
 QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::AppendFlowPackProcess() {
-  constexpr std::size_t kMostInlets = 4096;
   if (data_->inlets.size() >= kMostInlets) {
     return nullptr;
   }
@@ -153,17 +105,4 @@ QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet_mod(uns
 const QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet(
     unsigned int inlet) const {
   return inlet < data_->inlets.size() ? data_->inlets[inlet].get() : nullptr;
-}
-
-QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition_mod() {
-  return &data_->flow_rate_ram_position;
-}
-QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition_mod() {
-  return &data_->injection_pressure_ram_position;
-}
-const QELG_Array<double>* QELG_SimulatorProcess::GetFlowRateRamPosition() const {
-  return &data_->flow_rate_ram_position;
-}
-const QELG_Array<double>* QELG_SimulatorProcess::GetInjectionPressureRamPosition() const {
-  return &data_->injection_pressure_ram_position;
 }

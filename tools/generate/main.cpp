@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "items.h"
 #include "members.h"
 #include "page.h"
 #include "rows.h"
@@ -37,6 +38,8 @@ std::vector<MadeFile> made_files(const std::string& root) {
         {root + (object->writes ? "/src/api/writer_members.cpp" : "/src/api/reader_members.cpp"),
          definitions(*object, header)});
   }
+  const std::string items = root + "/include/QELG/items.h";
+  files.push_back({items, with_items(contents_of(items))});
   std::ostringstream page;
   print_page(root + "/docs", page);
   files.push_back({root + "/docs/format.md", page.str()});

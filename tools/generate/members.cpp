@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "blocks/catalogue.h"
+#include "lines.h"
 
 namespace {
 
@@ -15,7 +16,6 @@ constexpr std::string_view kBegin =
 constexpr std::string_view kEnd =
     "  // clang-format on\n"
     "  // The members above are made; what follows is written by hand.\n";
-constexpr std::size_t kColumns = 100;
 
 using Words = std::vector<std::string>;
 
@@ -46,8 +46,6 @@ std::string type_of(qel::Kind kind, bool writes) {
   }
 }
 
-bool is_numbered(std::string_view name) { return name.find('%') != std::string_view::npos; }
-
 Member member_of(const std::string& name, const qel::SectionInfo& section, const qel::KeyInfo& key,
                  bool writes) {
   Member member{name, &section, &key, writes, {}, 0};
@@ -57,8 +55,8 @@ Member member_of(const std::string& name, const qel::SectionInfo& section, const
     member.parameters.push_back({type_of(field.kind, writes), field.name, field.words});
   }
   for (const qel::Argument& number :
-       {is_numbered(key.text) ? key.details.number : qel::Argument(),
-        is_numbered(section.name) ? section.number : qel::Argument()}) {
+       {qel::is_numbered(key.text) ? key.details.number : qel::Argument(),
+        qel::is_numbered(section.name) ? section.number : qel::Argument()}) {
     if (number.name != nullptr) {
       member.parameters.push_back({"int ", number.name, number.words});
     }
@@ -93,23 +91,6 @@ std::vector<Member> members_of(const ExportedObject& object, const std::string& 
     }
   }
   return members;
-}
-
-// The words in lines that begin with `start`.
-std::string wrapped(const std::string& text, const std::string& start) {
-  std::string result;
-  std::string line = start;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find(' ', at), text.size());
-    const std::string word = text.substr(at, end - at);
-    if (line.size() + 1 + word.size() > kColumns) {
-      result += line + "\n";
-      line = start;
-    }
-    line += " " + word;
-    at = end + 1;
-  }
-  return result + line + "\n";
 }
 
 std::string declared(const Parameter& parameter) { return parameter.type + parameter.name; }
@@ -224,8 +205,8 @@ bool takes_text(const Member& member) {
 }
 
 std::string place_of(const Member& member) {
-  const bool point = is_numbered(member.key->text);
-  const bool section = is_numbered(member.section->name);
+  const bool point = qel::is_numbered(member.key->text);
+  const bool section = qel::is_numbered(member.section->name);
   const auto number = member.parameters.begin() + static_cast<std::ptrdiff_t>(member.fields);
   if (point && section) {
     return "at_point(" + number->name + ", " + (number + 1)->name + ")";

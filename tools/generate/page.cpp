@@ -10,11 +10,14 @@
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "blocks/catalogue.h"
 #include "blocks/encoding.h"
+#include "blocks/inlet_source.h"
 #include "encodings.h"
+#include "functions.h"
 #include "proio/dialect.h"
 #include "refdata/bounded_lines.h"
 #include "refdata/machine_bank.h"
@@ -86,7 +89,7 @@ std::string with_adapter(const qel::Members& own, const qel::KeyInfo& key, bool 
 }
 
 std::string loader(const qel::KeyInfo& key) {
-  return key.details.loader != nullptr ? code(key.details.loader) : "";
+  return is_somewhere(key.details.loader) ? code(function_of(key.details.loader)) : "";
 }
 
 void print_sections(std::ostream& to) {
@@ -149,33 +152,26 @@ void print_profiles(std::ostream& to) {
   }
 }
 
-// The functions that the values of several keys go to, in the order in which the loader asks for
-// the keys.
+// The items that the values of several keys of an inlet's stages go to, in the order in which the
+// loader asks for the keys.
 void print_shared(std::ostream& to) {
-  constexpr std::string_view kStages[] = {"[Flow-%ld]", "[Pack-%d]", "[Cure-%d]"};
-  std::vector<std::string> order;
-  std::map<std::string, std::string> keys;
-  std::map<std::string, int> counts;
-  for (const std::string_view stage : kStages) {
-    for (const qel::SectionInfo* section : qel::Catalogue()) {
-      for (const qel::KeyInfo* key :
-           section->name == stage ? keys_of(*section) : std::vector<const qel::KeyInfo*>{}) {
-        if (key->details.loader == nullptr ||
-            std::string_view(key->details.loader).substr(0, 4) != "set_") {
-          continue;
-        }
-        std::string& listed = keys[key->details.loader];
-        listed +=
-            (listed.empty() ? "" : ", then ") + code(key->text) + " of " + code(section->name);
-        if (++counts[key->details.loader] == 2) {
-          order.emplace_back(key->details.loader);
+  std::vector<qel::InletItem> order;
+  std::map<qel::InletItem, std::string> keys;
+  std::map<qel::InletItem, int> counts;
+  for (const qel::SectionInfo* stage : qel::kInlets.stages()) {
+    for (const qel::KeyInfo& key : stage->keys) {
+      if (const auto* item = std::get_if<qel::InletItem>(&key.details.loader)) {
+        std::string& listed = keys[*item];
+        listed += (listed.empty() ? "" : ", then ") + code(key.text) + " of " + code(stage->name);
+        if (++counts[*item] == 2) {
+          order.push_back(*item);
         }
       }
     }
   }
   to << "| item of the simulator's process | keys, the last one that is there wins |\n|---|---|\n";
-  for (const std::string& item : order) {
-    to << "| " << code(item) << " | " << keys[item] << " |\n";
+  for (const qel::InletItem item : order) {
+    to << "| " << code(function_of(item)) << " | " << keys[item] << " |\n";
   }
 }
 
@@ -185,7 +181,7 @@ void print_older_alone(std::ostream& to) {
     std::set<std::string_view> others;
     for (const qel::KeyInfo* key : keys_of(*section)) {
       if (key->readers.front() != nullptr || key->writers.front() != nullptr ||
-          key->details.loader != nullptr) {
+          is_somewhere(key->details.loader)) {
         others.insert(key->text);
       }
     }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "blocks/catalogue.h"
+#include "functions.h"
 
 namespace {
 
@@ -23,9 +24,8 @@ void print_rows(std::ostream& to) {
     for (const qel::KeyInfo& key : section->keys) {
       to << section->name << '\t' << key.text << '\t' << key.encoding->name << '\t'
          << joined(key.readers) << '\t' << joined(key.writers) << '\t' << joined(key.details.older)
-         << '\t' << joined(key.details.adapter) << '\t'
-         << (key.details.loader != nullptr ? key.details.loader : "") << '\t' << key.meaning << '\t'
-         << joined(key.details.value_reader) << '\n';
+         << '\t' << joined(key.details.adapter) << '\t' << function_of(key.details.loader) << '\t'
+         << key.meaning << '\t' << joined(key.details.value_reader) << '\n';
     }
   }
 }

@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "commands.h"
@@ -38,7 +40,7 @@ Json items_of(const Source& source, const NamedItem<Source> (&items)[count]) {
   return result;
 }
 
-Json points_of(const QELG_Profile& profile) {
+Json values_of(const QELG_Profile& profile) {
   Json result = Json::array();
   QELG_2dPoint point;
   for (unsigned int index = 0; profile.GetDataPoint(index, point); ++index) {
@@ -47,7 +49,7 @@ Json points_of(const QELG_Profile& profile) {
   return result;
 }
 
-Json numbers_of(const QELG_Array<double>& array) {
+Json values_of(const QELG_Array<double>& array) {
   Json result = Json::array();
   double value = 0;
   for (unsigned int index = 0; array.GetDataPoint(index, value); ++index) {
@@ -56,17 +58,19 @@ Json numbers_of(const QELG_Array<double>& array) {
   return result;
 }
 
+// Behind what `object` holds already.
+template <class Source, std::size_t count>
+void add_lists(Json& object, const Source& source, const NamedList<Source> (&lists)[count]) {
+  for (const NamedList<Source>& list : lists) {
+    object[list.title] =
+        std::visit([&source](auto get) { return values_of(*(source.*get)()); }, list.get);
+  }
+}
+
 Json inlet_of(const QELG_SimulatorFlowPackProcess& inlet, unsigned int number) {
-  return {
-      {"number", number},
-      {"values", items_of(inlet, kInletItems)},
-      {"flow rate", points_of(*inlet.GetFlowRateProfile())},
-      {"injection pressure", points_of(*inlet.GetInjectionPressureProfile())},
-      {"packing pressure", points_of(*inlet.GetPackingPressureProfile())},
-      {"fluid pressure", points_of(*inlet.GetFluidPressureProfile())},
-      {"flow rate time constants", numbers_of(*inlet.GetFlowRateTimeConstants())},
-      {"injection pressure time constants", numbers_of(*inlet.GetInjectionPressureTimeConstants())},
-      {"packing pressure time constants", numbers_of(*inlet.GetPackingPressureTimeConstants())}};
+  Json result{{"number", number}, {"values", items_of(inlet, kInletItems)}};
+  add_lists(result, inlet, kInletLists);
+  return result;
 }
 
 // Moves the items whose names begin with the prefix into a group of their own, without the prefix.
@@ -91,13 +95,10 @@ Json process_of(const QELG_SimulatorProcess& process) {
   for (unsigned int index = 0; index < process.GetNumOfInlets(); ++index) {
     inlets.push_back(inlet_of(*process.GetFlowPackOfInlet(index), index + 1));
   }
-  return {
-      {"values", values},
-      {"machine", machine},
-      {"heat transfer", heat_transfer},
-      {"flow rate ram positions", numbers_of(*process.GetFlowRateRamPosition())},
-      {"injection pressure ram positions", numbers_of(*process.GetInjectionPressureRamPosition())},
-      {"inlets", inlets}};
+  Json result{{"values", values}, {"machine", machine}, {"heat transfer", heat_transfer}};
+  add_lists(result, process, kProcessLists);
+  result["inlets"] = std::move(inlets);
+  return result;
 }
 
 std::string plain(const Json& value) {

@@ -4,7 +4,7 @@
 
 #include <variant>
 
-/// The items of a simulator process by name.
+/// The items and lists of a simulator process by name, from the simulator's own list of them.
 template <class Source>
 struct NamedItem {
   const char* name;
@@ -13,110 +13,28 @@ struct NamedItem {
       get;
 };
 
+template <class Source>
+struct NamedList {
+  const char* title;
+  std::variant<const QELG_Profile* (Source::*)() const,
+               const QELG_Array<double>* (Source::*)() const>
+      get;
+};
+
 inline constexpr NamedItem<QELG_SimulatorProcess> kProcessItems[] = {
-    {"ProjectType", get_process_ProjectType},
-    {"FlagUNF", get_process_FlagUNF},
-    {"FlagEncapsulationCM", get_process_FlagEncapsulationCM},
-    {"TotalNodeEM", get_process_TotalNodeEM},
-    {"TotalNodeEC", get_process_TotalNodeEC},
-    {"TotalGateCTL", get_process_TotalGateCTL},
-    {"TotalNodeMB", get_process_TotalNodeMB},
-    {"TotalNodeBC", get_process_TotalNodeBC},
-    {"TotalNodeMMM", get_process_TotalNodeMMM},
-    {"SymVolRatio", get_process_SymVolRatio},
-    {"TotalNodeHR", get_process_TotalNodeHR},
-    {"TotalSTLNodeEC", get_process_TotalSTLNodeEC},
-    {"TotalSTLNodeHR", get_process_TotalSTLNodeHR},
-    {"TotalGrpCCL", get_process_TotalGrpCCL},
-    {"TotalGrpCCS", get_process_TotalGrpCCS},
-    {"TotalOverFlowCTL", get_process_TotalOverFlowCTL},
-    {"IsTransientInletConv", get_process_IsTransientInletConv},
-    {"FlowCtrl", get_process_FlowCtrl},
-    {"VPSwitchCtrl", get_process_VPSwitchCtrl},
-    {"PackingCtrl", get_process_PackingCtrl},
-    {"MoldTemperature", get_process_MoldTemperature},
-    {"MeltTemperature", get_process_MeltTemperature},
-    {"InjectionTime", get_process_InjectionTime},
-    {"VolumeFilled", get_process_VolumeFilled},
-    {"RamPosition", get_process_RamPosition},
-    {"InjectionPressure", get_process_InjectionPressure},
-    {"CureEnterType", get_process_CureEnterType},
-    {"CureEnterSwch", get_process_CureEnterSwch},
-    {"CureEnterTime", get_process_CureEnterTime},
-    {"HTC_HeatTransferType", get_process_HTC_HeatTransferType},
-    {"HTC_Flow", get_process_HTC_Flow},
-    {"HTC_Pack", get_process_HTC_Pack},
-    {"HTC_Detached", get_process_HTC_Detached},
-    {"HTC_HotRunner", get_process_HTC_HotRunner},
-    {"HTC_UserMode", get_process_HTC_UserMode},
-    {"HTC_NuNum", get_process_HTC_NuNum},
-    {"machine_Maker", get_process_machine_Maker},
-    {"machine_Grade", get_process_machine_Grade},
-    {"machine_Remark", get_process_machine_Remark},
-    {"machine_Diameter", get_process_machine_Diameter},
-    {"machine_MaxRamPos", get_process_machine_MaxRamPos},
-    {"machine_ShotVolume", get_process_machine_ShotVolume},
-    {"machine_Weight", get_process_machine_Weight},
-    {"machine_MaxMachinePres", get_process_machine_MaxMachinePres},
-    {"machine_MaxFlowRate", get_process_machine_MaxFlowRate},
-    {"machine_ClampForce", get_process_machine_ClampForce},
-    {"machine_BarrelCompressionCtrl", get_process_machine_BarrelCompressionCtrl},
-    {"machine_NozzleVolume", get_process_machine_NozzleVolume},
-    {"machine_MachineEnergyType", get_process_machine_MachineEnergyType},
-    {"machine_HydraulicPressureTransferFactor",
-     get_process_machine_HydraulicPressureTransferFactor},
-    {"machine_PITCHSIZE", get_process_machine_PITCHSIZE},
-    {"machine_SCREWSPEED", get_process_machine_SCREWSPEED},
-    {"machine_SCREWDIAFEED", get_process_machine_SCREWDIAFEED},
-    {"machine_SCREWDIATRANSITION", get_process_machine_SCREWDIATRANSITION},
-    {"machine_SCREWDIAMETERING", get_process_machine_SCREWDIAMETERING},
-    {"machine_CHANNELDEEPFEED", get_process_machine_CHANNELDEEPFEED},
-    {"machine_CHANNELDEEPMETERING", get_process_machine_CHANNELDEEPMETERING},
-    {"machine_SECTIONDEPFEED", get_process_machine_SECTIONDEPFEED},
-    {"machine_SECTIONDEPTRANSITION", get_process_machine_SECTIONDEPTRANSITION},
-    {"machine_SECTIONDEPMETERING", get_process_machine_SECTIONDEPMETERING},
-    {"machine_NUMBERPITCHFEED", get_process_machine_NUMBERPITCHFEED},
-    {"machine_NUMBERPITCHTRANSITION", get_process_machine_NUMBERPITCHTRANSITION},
-    {"machine_NUMBERPITCHMETERING", get_process_machine_NUMBERPITCHMETERING},
-    {"machine_NOZZLEDIAMETER", get_process_machine_NOZZLEDIAMETER},
-    {"machine_NOZZLELENGTH", get_process_machine_NOZZLELENGTH},
-    {"SuckBack", get_process_SuckBack},
+#define QELG_PROCESS_ITEM(kind, name) {#name, get_process_##name},
+#include "qelg/items.inc"
+};
+inline constexpr NamedList<QELG_SimulatorProcess> kProcessLists[] = {
+#define QELG_PROCESS_LIST(type, name, title) {title, &QELG_SimulatorProcess::Get##name},
+#include "qelg/items.inc"
 };
 
 inline constexpr NamedItem<QELG_SimulatorFlowPackProcess> kInletItems[] = {
-    {"InletControlType", get_process_InletControlType},
-    {"FillTime", get_process_FillTime},
-    {"MeltTemp", get_process_MeltTemp},
-    {"MoldTemp", get_process_MoldTemp},
-    {"InjectPres", get_process_InjectPres},
-    {"FRDisplayType", get_process_FRDisplayType},
-    {"IPDisplayType", get_process_IPDisplayType},
-    {"FRProfileType", get_process_FRProfileType},
-    {"IPProfileType", get_process_IPProfileType},
-    {"MaxFR", get_process_MaxFR},
-    {"MaxFillingTime", get_process_MaxFillingTime},
-    {"FlowPackMode", get_process_FlowPackMode},
-    {"HotRunnerTemperatureDiff", get_process_HotRunnerTemperatureDiff},
-    {"Material", get_process_Material},
-    {"CoreEnterType", get_process_CoreEnterType},
-    {"CoreEnterSwch", get_process_CoreEnterSwch},
-    {"CoreEnterTime", get_process_CoreEnterTime},
-    {"FluidTemp", get_process_FluidTemp},
-    {"FluidEnterType", get_process_FluidEnterType},
-    {"FluidEnterSwch", get_process_FluidEnterSwch},
-    {"FluidEnterTime", get_process_FluidEnterTime},
-    {"FluidDelayTime", get_process_FluidDelayTime},
-    {"InitConv", get_process_InitConv},
-    {"PackTime", get_process_PackTime},
-    {"PackPres", get_process_PackPres},
-    {"PackSwch", get_process_PackSwch},
-    {"MaxEOFRatio", get_process_MaxEOFRatio},
-    {"PPDisplayType", get_process_PPDisplayType},
-    {"PPProfileType", get_process_PPProfileType},
-    {"MaxPressSlop", get_process_MaxPressSlop},
-    {"Shutoff", get_process_Shutoff},
-    {"MaterialType", get_process_MaterialType},
-    {"FluidPres", get_process_FluidPres},
-    {"FluidMaxFR", get_process_FluidMaxFR},
-    {"FluidProfileType", get_process_FluidProfileType},
+#define QELG_INLET_ITEM(kind, name) {#name, get_process_##name},
+#include "qelg/items.inc"
+};
+inline constexpr NamedList<QELG_SimulatorFlowPackProcess> kInletLists[] = {
+#define QELG_INLET_LIST(type, name, title) {title, &QELG_SimulatorFlowPackProcess::Get##name},
+#include "qelg/items.inc"
 };

@@ -1,28 +1,32 @@
 #include "process_notes.h"
 
+#include <QELG/QELG.h>
+
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <set>
 #include <string_view>
 #include <type_traits>
 #include <utility>
 #include <variant>
 
 #include "blocks/catalogue.h"
-#include "process/items.h"
+#include "blocks/flow_ctl_info.h"
+#include "blocks/inlet_source.h"
+#include "blocks/sections.h"
 #include "text/text.h"
 #include "value_check.h"
 
 namespace {
 
-using qel::loading::Item;
+constexpr int kMostInlets = QELG_SimulatorProcess::kMostInlets;
 
-constexpr int kMostInlets = 4096;
-constexpr int kCoInjection = 8;
-constexpr int kTwoMeltEntrances = 11;
+// The key of a control type, and that of the count of inlets.
+constexpr const qel::KeyInfo& kControlType =
+    row_to(qel::flow_ctl_info::kKeys, qel::InletItem::InletControlType);
+constexpr const qel::KeyInfo& kTotalInlet = row_to(qel::flow_ctl_info::kKeys, qel::InletCount{});
 
 std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
@@ -34,6 +38,18 @@ int printed_number(std::string_view text) {
                  text.front() != '0'
              ? number
              : 0;
+}
+
+// What stands behind the number of a numbered name.
+std::string_view behind_number(std::string_view name) {
+  return name.substr(name.find('d', name.find('%')) + 1);
+}
+
+// A name with that in the place of its number; one without a number as it is.
+std::string name_with(std::string_view name, std::string_view number) {
+  return qel::is_numbered(name)
+             ? std::string(qel::prefix_of(name)).append(number).append(behind_number(name))
+             : std::string(name);
 }
 
 // "2", "2 to 4", "2, 5 to 7"
@@ -73,18 +89,14 @@ class Diagnosis {
         add({file_, line.number, "", ""}, "dropped: the line stands before the first section");
       }
     }
-    const int type = project_type();
-    items("[CaeHeader]", qel::loading::kCaeHeader);
-    items("[Summary]", qel::loading::kSummary);
-    items("[FlowCTL]", qel::loading::kFlowCTL);
-    items("[MoldThermalBoundaryType]", qel::loading::kMoldThermalBoundaryType);
-    items("[Machine]", qel::loading::kMachine);
-    items("[RamPosition]", qel::loading::kRamPosition);
-    if (const Entries* ram = taken("[RamPosition]")) {
-      counted(*ram, "RP_FRSet", "RP_FR-");
-      counted(*ram, "RP_IPSet", "RP_IP-");
+    for (const qel::SectionInfo* section :
+         {&qel::cae_header::kInfo, &qel::summary::kInfo, &qel::flow_ctl::kInfo,
+          &qel::mold_thermal_boundary_type::kInfo, &qel::machine::kInfo,
+          &qel::ram_position::kInfo}) {
+      Given given;
+      take_section(*section, section->name, given);
     }
-    inlets(type);
+    inlets(project_type());
     for (const TextSection& section : document_.sections()) {
       if (section.repeated && taken_.contains(std::string(section.name))) {
         add({file_, document_.line(section.header).number, std::string(section.name), ""},
@@ -143,104 +155,155 @@ class Diagnosis {
 
   // What the catalogue's encoding of the key passes over; of a key that it does not know, what the
   // conversion does.
-  template <class Setter>
-  std::optional<std::string> unread(const std::string& section, std::string_view key,
-                                    std::string_view value) {
+  static std::optional<std::string> unread(const std::string& section, std::string_view key,
+                                           std::string_view value, qel::Kind kind) {
     int number = 0;
     const Reading reading = reading_of(qel::find_section(section.c_str(), number), key, value);
     if (reading.unread || (reading.key != nullptr &&
                            std::string_view(reading.key->encoding->name) != qel::Real::kName)) {
       return reading.unread;
     }
-    if constexpr (std::is_same_v<Setter, unsigned int>) {
-      return unread_part_of_integer(value);
-    } else if constexpr (std::is_same_v<Setter, double>) {
-      return unread_part_of_real(value);
-    } else {
-      return {};
+    switch (kind) {
+      case qel::Kind::integer:
+        return unread_part_of_integer(value);
+      case qel::Kind::real:
+        return unread_part_of_real(value);
+      default:
+        return {};
     }
   }
 
-  template <class Target, class Value>
-  void check(const Entries& section, const TextLine& line, std::string_view key,
-             void (* /*set*/)(Target&, Value)) {
+  static std::string read_as(const std::string& value, qel::Kind kind) {
+    switch (kind) {
+      case qel::Kind::integer:
+        return std::to_string(static_cast<unsigned int>(qel::platform::to_int(value.c_str())));
+      case qel::Kind::real:
+        return qel::platform::print_real(qel::platform::to_real(value.c_str()));
+      default:
+        return {};
+    }
+  }
+
+  void check_value(const Entries& section, const TextLine& line, const std::string& key,
+                   qel::Kind kind) {
     const std::string value(qel::text::entry_value(line.text));
-    if (const auto what = unread<Value>(section.name, key, value)) {
-      std::string read_as;
-      if constexpr (std::is_same_v<Value, unsigned int>) {
-        read_as = std::to_string(static_cast<unsigned int>(qel::platform::to_int(value.c_str())));
-      } else if constexpr (std::is_same_v<Value, double>) {
-        read_as = qel::platform::print_real(qel::platform::to_real(value.c_str()));
-      }
-      add(section, &line, key, quoted(value) + " is read as " + read_as + ": " + *what);
-    } else if constexpr (std::is_same_v<Value, unsigned int>) {
-      if (const int number = qel::platform::to_int(value.c_str()); number < 0) {
-        add(section, &line, key,
-            quoted(value) + " is read as " + std::to_string(static_cast<unsigned int>(number)) +
-                ": it is not negative there");
-      }
+    if (const auto what = unread(section.name, key, value, kind)) {
+      add(section, &line, key,
+          quoted(value) + " is read as " + read_as(value, kind) + ": " + *what);
+    } else if (kind == qel::Kind::integer && qel::platform::to_int(value.c_str()) < 0) {
+      add(section, &line, key,
+          quoted(value) + " is read as " + read_as(value, kind) + ": it is not negative there");
     }
   }
 
-  // Which entry a setter was given last: a second one replaces the first.
-  struct Given {
+  // The load takes one number of a pair; of what stands behind that, nothing is told.
+  void check_pair(const Entries& section, const TextLine& line, const std::string& key,
+                  bool takes_second) {
+    const std::string value(qel::text::entry_value(line.text));
+    const char* at = value.c_str();
+    int number = 0;
+    if (!qel::platform::scan_int(at, number) ||
+        (takes_second && !qel::platform::scan_int(at, number))) {
+      add(section, &line, key,
+          quoted(value) + " is read as 0: " +
+              (takes_second ? "two whole numbers are expected" : "a whole number is missing"));
+    }
+  }
+
+  // Which entry an item or a list was given last.
+  struct Giver {
     std::string section;
-    std::string_view key;
+    std::string key;
     const TextLine* line;
   };
-  using Setters = std::map<std::uintptr_t, Given>;
+  using Given = std::map<qel::Destination, Giver>;
 
-  template <class Target, std::size_t count>
-  void items(const std::string& name, const Item<Target> (&rows)[count], Setters& given) {
+  // What a load takes of the section of that name, in the order of the rows. `number` is that of
+  // numbered keys which are no points of a list.
+  void take_section(const qel::SectionInfo& info, const std::string& name, Given& given,
+                    int number = 0) {
     const Entries* section = taken(name);
     if (section == nullptr) {
       return;
     }
-    for (const Item<Target>& item : rows) {
-      const TextLine* line = section->find(item.key);
-      if (line == nullptr) {
-        continue;
-      }
-      std::visit([&](auto set) { check(*section, *line, item.key, set); }, item.set);
-      const std::uintptr_t setter =
-          std::visit([](auto set) { return reinterpret_cast<std::uintptr_t>(set); }, item.set);
-      const auto [place, first] = given.try_emplace(setter, Given{name, item.key, line});
-      if (!first) {
-        const Given& before = place->second;
-        add(*section, line, item.key,
-            "replaces \"" + std::string(before.key) + "\" of " + before.section + " (line " +
-                std::to_string(before.line->number) + ")");
-        place->second = {name, item.key, line};
+    const qel::KeyInfo* count = nullptr;
+    for (const qel::KeyInfo& row : info.keys) {
+      const auto take_item = [&](auto item) {
+        take_item_of(*section, row, name_with(row.text, std::to_string(number)), kind_of_item(item),
+                     given);
+      };
+      const auto take_list = [&] {
+        if (!qel::is_numbered(row.text)) {
+          count = &row;
+        } else if (const qel::KeyInfo* counting = std::exchange(count, nullptr)) {
+          take_counted(*section, *counting, row, given);
+        } else {
+          take_open_list(*section, qel::prefix_of(row.text));
+        }
+      };
+      if (const auto* of_process = std::get_if<qel::ProcessItem>(&row.details.loader)) {
+        take_item(*of_process);
+      } else if (const auto* of_inlet = std::get_if<qel::InletItem>(&row.details.loader)) {
+        take_item(*of_inlet);
+      } else if (std::holds_alternative<qel::ProcessList>(row.details.loader) ||
+                 std::holds_alternative<qel::InletList>(row.details.loader)) {
+        take_list();
       }
     }
   }
-  template <class Target, std::size_t count>
-  void items(const std::string& name, const Item<Target> (&rows)[count]) {
-    Setters given;
-    items(name, rows, given);
-  }
 
-  // The first and the second whole number of a pair are both expected.
-  int project_type() {
-    const Entries* header = taken("[CaeHeader]");
-    const TextLine* line = header != nullptr ? header->find("ProjectType") : nullptr;
+  // A second entry that goes to an item replaces the first.
+  void take_item_of(const Entries& section, const qel::KeyInfo& row, const std::string& key,
+                    qel::Kind kind, Given& given) {
+    const TextLine* line = section.find(key);
     if (line == nullptr) {
-      return 0;
+      return;
     }
-    const std::string value(qel::text::entry_value(line->text));
-    const int type = qel::platform::to_int(value.c_str());
-    const char* at = value.c_str();
-    int first = 0;
-    // The loader takes the first number alone.
-    if (!qel::platform::scan_int(at, first)) {
-      add(*header, line, "ProjectType", quoted(value) + " is read as 0: a whole number is missing");
+    const std::string_view encoding = row.encoding->name;
+    if (encoding == qel::IntegerPair::kName || encoding == qel::FirstOfIntegerPair::kName) {
+      check_pair(section, *line, key, row.details.loads_second);
+    } else {
+      check_value(section, *line, key, kind);
     }
-    return type;
+    const auto [place, first] =
+        given.try_emplace(row.details.loader, Giver{section.name, key, line});
+    if (!first) {
+      const Giver& before = place->second;
+      add(section, line, key,
+          "replaces " + quoted(before.key) + " of " + before.section + " (line " +
+              std::to_string(before.line->number) + ")");
+      place->second = {section.name, key, line};
+    }
   }
 
-  // A counted list: how many of its points are there.
-  int counted(const Entries& section, std::string_view count_key, std::string_view prefix) {
-    const TextLine* line = section.find(count_key);
+  // The points of a second list that go to one profile come behind those of the first.
+  void take_counted(const Entries& section, const qel::KeyInfo& count, const qel::KeyInfo& points,
+                    Given& given) {
+    if (counted(section, count.text, qel::prefix_of(points.text)) == 0) {
+      return;
+    }
+    const TextLine* line = section.find(count.text);
+    const auto [place, first] =
+        given.try_emplace(points.details.loader, Giver{section.name, count.text, line});
+    if (!first) {
+      const Giver& before = place->second;
+      add(section, line, count.text,
+          "its points are appended to those of " + quoted(before.key) +
+              (before.section != section.name ? " of " + before.section : ""));
+    }
+  }
+
+  int project_type() {
+    constexpr const qel::KeyInfo& kProjectType =
+        row_to(qel::cae_header::kKeys, qel::ProcessItem::ProjectType);
+    const Entries* header = taken(qel::cae_header::kSection);
+    const TextLine* line = header != nullptr ? header->find(kProjectType.text) : nullptr;
+    return line != nullptr
+               ? qel::platform::to_int(std::string(qel::text::entry_value(line->text)).c_str())
+               : 0;
+  }
+
+  static std::map<int, const TextLine*> points_of(const Entries& section, std::string_view prefix) {
     std::map<int, const TextLine*> points;
     for (auto at = section.lines.lower_bound(prefix);
          at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
@@ -248,6 +311,13 @@ class Diagnosis {
         points.emplace(number, &at->second);
       }
     }
+    return points;
+  }
+
+  // A counted list: how many of its points are there.
+  int counted(const Entries& section, std::string_view count_key, std::string_view prefix) {
+    const TextLine* line = section.find(count_key);
+    const std::map<int, const TextLine*> points = points_of(section, prefix);
     int count = 0;
     if (line != nullptr) {
       const std::string value(qel::text::entry_value(line->text));
@@ -300,20 +370,14 @@ class Diagnosis {
 
   void point(const Entries& section, const TextLine& line, const std::string& key) {
     const std::string value(qel::text::entry_value(line.text));
-    if (const auto what = unread<double>(section.name, key, value)) {
+    if (const auto what = unread(section.name, key, value, qel::Kind::real)) {
       add(section, &line, key, quoted(value) + " is not read whole: " + *what);
     }
   }
 
   // A list without a count ends before the first number that is missing.
-  void open_list(const Entries& section, std::string_view prefix) {
-    std::map<int, const TextLine*> points;
-    for (auto at = section.lines.lower_bound(prefix);
-         at != section.lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
-      if (const int number = printed_number(at->first.substr(prefix.size())); number != 0) {
-        points.emplace(number, &at->second);
-      }
-    }
+  void take_open_list(const Entries& section, std::string_view prefix) {
+    const std::map<int, const TextLine*> points = points_of(section, prefix);
     int expected = 1;
     for (const auto& [number, line] : points) {
       const std::string key = std::string(prefix) + std::to_string(number);
@@ -328,175 +392,127 @@ class Diagnosis {
     }
   }
 
-  struct Stage {
-    int number = 0;
-    std::string flow;
-    std::string pack;
-    std::string cure;
-  };
-
-  void stage(const Stage& stage) {
-    Setters given;
-    items(stage.flow, qel::loading::kFlow, given);
-    if (const Entries* flow = taken(stage.flow)) {
-      counted(*flow, "FRSet", "FR-");
-      const int injection_points = counted(*flow, "IPSet", "IP-");
-      if (counted(*flow, "TPSet", "TP-") > 0 && injection_points > 0) {
-        add(*flow, flow->find("TPSet"), "TPSet", "its points are appended to those of \"IPSet\"");
-      }
-      open_list(*flow, "TimeConstFR-");
-      open_list(*flow, "TimeConstIP-");
-      open_list(*flow, "TimeConstPP-");
-    }
-    items(stage.pack, qel::loading::kPack, given);
-    int packing_points = 0;
-    if (const Entries* pack = taken(stage.pack)) {
-      packing_points = counted(*pack, "PPSet", "PP-");
-      counted(*pack, "FluidSet", "Fluid-");
-    }
-    if (stage.cure.empty()) {
-      return;
-    }
-    items(stage.cure, qel::loading::kCure, given);
-    if (const Entries* cure = taken(stage.cure)) {
-      if (counted(*cure, "CPSet", "CP-") > 0 && packing_points > 0) {
-        add(*cure, cure->find("CPSet"), "CPSet",
-            "its points are appended to those of \"PPSet\" of " + stage.pack);
-      }
-    }
-  }
-
-  std::int64_t inlet_count(int type) {
-    const bool has_two = type == kCoInjection || type == kTwoMeltEntrances;
-    const Entries* info = taken("[FlowCTLInfo]");
-    const TextLine* line = info != nullptr ? info->find("TotalInlet") : nullptr;
+  std::int64_t inlet_count(int type, const qel::InletSource& source) {
+    const Entries* info = taken(qel::flow_ctl_info::kSection);
+    const char* const key = kTotalInlet.text;
+    const TextLine* line = info != nullptr ? info->find(key) : nullptr;
     if (line == nullptr) {
-      return has_two ? 2 : 1;
+      return source.count;
     }
     const std::string value(qel::text::entry_value(line->text));
     const int said = qel::platform::to_int(value.c_str());
     const std::int64_t count = said < 0 || said > kMostInlets ? kMostInlets : said;
     if (const auto what = unread_part_of_integer(value)) {
-      add(*info, line, "TotalInlet",
-          quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
+      add(*info, line, key, quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
     } else if (count != said) {
-      add(*info, line, "TotalInlet",
+      add(*info, line, key,
           quoted(value) + " is out of range: the process has " + std::to_string(count) + " inlets");
-    } else if (has_two && count != 2) {
-      add(*info, line, "TotalInlet",
-          quoted(value) + " is not 2: of project type " + std::to_string(type) +
-              (count > 2    ? " two inlets are loaded"
-               : count == 1 ? " one inlet is loaded"
-                            : " no inlet is loaded"));
+    } else if (source.fixed && count != source.count) {
+      add(*info, line, key,
+          quoted(value) + " is not " + std::to_string(source.count) + ": of project type " +
+              std::to_string(type) +
+              (count > source.count ? " two inlets are loaded"
+               : count == 1         ? " one inlet is loaded"
+                                    : " no inlet is loaded"));
     } else if (count == 0) {
-      add(*info, line, "TotalInlet", "no inlet is loaded");
+      add(*info, line, key, "no inlet is loaded");
     }
     return count;
   }
 
   void inlets(int type) {
-    const std::int64_t count = inlet_count(type);
+    const qel::InletSource& source = qel::inlet_source(static_cast<unsigned int>(type));
+    const std::int64_t count = inlet_count(type, source);
     std::vector<std::pair<int, int>> without_section;
-    std::string flow = "[Flow-...]";
-    const auto load = [&](const Stage& names) {
-      stage(names);
-      if (taken(names.flow) == nullptr) {
-        if (!without_section.empty() && without_section.back().second == names.number - 1) {
-          without_section.back().second = names.number;
+    for (int inlet = 1;
+         inlet <= (source.fixed ? std::min<std::int64_t>(count, source.count) : count); ++inlet) {
+      const std::string number = std::to_string(source.section_of(inlet));
+      if (inlet == 1 || !source.shared) {
+        take_inlet(source, inlet, number);
+      }
+      if (taken(name_with(source.flow->name, number)) == nullptr) {
+        if (!without_section.empty() && without_section.back().second == inlet - 1) {
+          without_section.back().second = inlet;
         } else {
-          without_section.emplace_back(names.number, names.number);
+          without_section.emplace_back(inlet, inlet);
         }
       }
-    };
-    if (type == kCoInjection) {
-      // Both inlets come from the sections numbered 1.
-      flow = "[Flow-1-Skin]";
-      if (count > 0) {
-        load({1, flow, "[Pack-1-Skin]", ""});
-      }
-      if (!without_section.empty() && count > 1) {
-        without_section.back().second = 2;
-      }
-    } else if (type == kTwoMeltEntrances) {
-      flow = "[Flow-EM...]";
-      for (int number = 1; number <= std::min<std::int64_t>(count, 2); ++number) {
-        const std::string bracket = std::to_string(number) + "]";
-        load({number, "[Flow-EM" + bracket, "[Pack-EM" + bracket, ""});
-      }
-    } else {
-      for (int number = 1; number <= count; ++number) {
-        const std::string bracket = std::to_string(number) + "]";
-        control_type(number);
-        load({number, "[Flow-" + bracket, "[Pack-" + bracket, "[Cure-" + bracket});
+    }
+    if (!without_section.empty() &&
+        (source.fixed || document_.find(qel::flow_ctl_info::kSection) != nullptr)) {
+      add({file_, 0, source.fixed ? "" : qel::flow_ctl_info::kSection,
+           source.fixed ? "" : kTotalInlet.text},
+          "inlets without a section " + name_with(source.flow->name, source.shared ? "1" : "...") +
+              ": " + ranges_of(without_section));
+    }
+    control_types_not_taken(type, source);
+    sections_not_taken(type, source, count);
+  }
+
+  void take_inlet(const qel::InletSource& source, int inlet, const std::string& number) {
+    Given given;
+    if (!source.fixed) {
+      take_section(qel::flow_ctl_info::kInfo, qel::flow_ctl_info::kSection, given, inlet);
+    }
+    for (const qel::SectionInfo* stage : source.stages()) {
+      if (stage != nullptr) {
+        take_section(*stage, name_with(stage->name, number), given);
       }
     }
-    const bool has_two = type == kCoInjection || type == kTwoMeltEntrances;
-    if (!without_section.empty() && (has_two || document_.find("[FlowCTLInfo]") != nullptr)) {
-      add({file_, 0, has_two ? "" : "[FlowCTLInfo]", has_two ? "" : "TotalInlet"},
-          "inlets without a section " + flow + ": " + ranges_of(without_section));
-    }
-    control_types_not_taken(type, has_two);
-    sections_not_taken(type, has_two ? 0 : count);
   }
 
   // Of the two spellings of a control type's key the loader takes the one with a bracket, and of
   // two project types none.
-  void control_types_not_taken(int type, bool has_two) {
-    constexpr std::string_view kPrefix = "FlowCTL-";
-    const Entries* info = taken("[FlowCTLInfo]");
+  void control_types_not_taken(int type, const qel::InletSource& source) {
+    const std::string_view prefix = qel::prefix_of(kControlType.text);
+    const std::string_view suffix = behind_number(kControlType.text);
+    const Entries* info = taken(qel::flow_ctl_info::kSection);
     if (info == nullptr) {
       return;
     }
-    for (auto at = info->lines.lower_bound(kPrefix);
-         at != info->lines.end() && at->first.substr(0, kPrefix.size()) == kPrefix; ++at) {
+    for (auto at = info->lines.lower_bound(prefix);
+         at != info->lines.end() && at->first.substr(0, prefix.size()) == prefix; ++at) {
       const std::string key(at->first);
-      if (has_two) {
+      const std::string taken_key = key + std::string(suffix);
+      if (source.fixed) {
         add(*info, &at->second, key,
             "dropped: of project type " + std::to_string(type) + " no control type is loaded");
-      } else if (printed_number(at->first.substr(kPrefix.size())) != 0 &&
-                 info->find(key + "]") == nullptr) {
+      } else if (printed_number(at->first.substr(prefix.size())) != 0 &&
+                 info->find(taken_key) == nullptr) {
         add(*info, &at->second, key,
-            "dropped: the process takes the control type from " + quoted(key + "]"));
+            "dropped: the process takes the control type from " + quoted(taken_key));
       }
     }
   }
 
-  // The loader's key has a closing bracket.
-  void control_type(int number) {
-    const Entries* info = taken("[FlowCTLInfo]");
-    const std::string key = "FlowCTL-" + std::to_string(number) + "]";
-    const TextLine* line = info != nullptr ? info->find(key) : nullptr;
-    if (line == nullptr) {
-      return;
-    }
-    const std::string value(qel::text::entry_value(line->text));
-    const char* at = value.c_str();
-    int first = 0;
-    int second = 0;
-    if (!qel::platform::scan_int(at, first) || !qel::platform::scan_int(at, second)) {
-      add(*info, line, key, quoted(value) + " is read as 0: two whole numbers are expected");
-    }
+  static bool is_stage_of(const qel::InletSource& source, const qel::SectionInfo* section) {
+    const auto stages = source.stages();
+    return std::find(stages.begin(), stages.end(), section) != stages.end();
   }
 
-  // Stages of inlets that the process does not have, or that are none of its project type. `count`
-  // is that of inlets with a number alone.
-  void sections_not_taken(int type, std::int64_t count) {
+  // Whether the name begins as that of an inlet's stage does.
+  static bool is_named_as_stage(std::string_view name) {
+    const auto stages = qel::kInlets.stages();
+    return std::any_of(stages.begin(), stages.end(), [name](const qel::SectionInfo* stage) {
+      return name.starts_with(qel::prefix_of(stage->name));
+    });
+  }
+
+  // Stages of inlets that the process does not have, or that are none of its project type.
+  void sections_not_taken(int type, const qel::InletSource& source, std::int64_t count) {
     for (const TextSection& section : document_.sections()) {
-      for (const std::string_view prefix : {"[Flow-", "[Pack-", "[Cure-"}) {
-        const std::string name(section.name);
-        int row_number = 0;
-        if (section.name.substr(0, prefix.size()) != prefix || section.repeated ||
-            taken_.contains(name) || qel::find_section(name.c_str(), row_number) == nullptr) {
-          continue;
-        }
-        const int number = printed_number(
-            section.name.substr(prefix.size(), section.name.size() - prefix.size() - 1));
-        add({file_, document_.line(section.header).number, name, ""},
-            count > 0 && number > count
-                ? "dropped: the process has " + std::to_string(count) +
-                      (count == 1 ? " inlet" : " inlets")
-                : "dropped: of project type " + std::to_string(type) + " it is not loaded");
+      const std::string name(section.name);
+      int number = 0;
+      const qel::SectionInfo* info = qel::find_section(name.c_str(), number);
+      if (info == nullptr || !is_named_as_stage(name) || section.repeated ||
+          taken_.contains(name)) {
+        continue;
       }
+      const bool beyond = !source.fixed && count > 0 && is_stage_of(source, info) && number > count;
+      add({file_, document_.line(section.header).number, name, ""},
+          beyond ? "dropped: the process has " + std::to_string(count) +
+                       (count == 1 ? " inlet" : " inlets")
+                 : "dropped: of project type " + std::to_string(type) + " it is not loaded");
     }
   }
 

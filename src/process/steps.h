@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <variant>
+
+#include "blocks/key.h"
+
+/// What a load does with a section, drawn from its rows when the program is compiled.
+namespace qel {
+
+/// An item, or a list.
+struct LoadStep {
+  const KeyInfo* key = nullptr;  ///< Of the item, or of the points.
+  std::string_view text;         ///< The key; of one with a number what stands before that.
+  bool numbered = false;
+  std::string_view count;  ///< The key that counts the points; empty where none does.
+};
+
+constexpr bool is_list(const Destination& destination) {
+  return std::holds_alternative<ProcessList>(destination) ||
+         std::holds_alternative<InletList>(destination);
+}
+
+constexpr bool counts_points(const KeyInfo& key) {
+  return is_list(key.details.loader) && !is_numbered(key.text);
+}
+
+template <const auto& keys>
+consteval std::size_t step_count() {
+  std::size_t count = 0;
+  for (const KeyInfo& key : keys) {
+    if (is_somewhere(key.details.loader) && !counts_points(key)) {
+      ++count;
+    }
+  }
+  return count;
+}
+
+/// In the order of the rows. A count without its points behind it does not compile.
+template <const auto& keys>
+consteval auto steps_of() {
+  std::array<LoadStep, step_count<keys>()> steps{};
+  std::size_t size = 0;
+  const KeyInfo* count = nullptr;
+  for (const KeyInfo& key : keys) {
+    if (!is_somewhere(key.details.loader)) {
+      continue;
+    }
+    if (count != nullptr && (counts_points(key) || key.details.loader != count->details.loader)) {
+      throw "a count without its points";
+    }
+    if (counts_points(key)) {
+      count = &key;
+    } else {
+      steps[size++] = {&key, prefix_of(key.text), is_numbered(key.text),
+                       count != nullptr ? std::string_view(count->text) : std::string_view()};
+      count = nullptr;
+    }
+  }
+  return steps;
+}
+
+template <const auto& keys>
+inline constexpr auto kSteps = steps_of<keys>();
+
+}  // namespace qel
