@@ -53,7 +53,7 @@ bool CPROIO_Manipulator::Set(const qel::proio::Entry& entry, Items... items) {
     return false;
   }
   return attempt([&] {
-    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::proio::print_items(items...).c_str(),
+    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::fields::print("\t", items...).c_str(),
                       true, kByKey));
   });
 }
