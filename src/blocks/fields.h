@@ -50,7 +50,7 @@ inline std::string print_one(double value) { return platform::print_real(value);
 inline std::string print_one(const char* value) { return value; }
 
 template <class First, class... Rest>
-std::string print(const char* separator, First first, Rest... rest) {
+std::string print([[maybe_unused]] const char* separator, First first, Rest... rest) {
   std::string text = print_one(first);
   ((text += separator, text += print_one(rest)), ...);
   return text;

@@ -4,17 +4,20 @@
 
 namespace qel {
 
+std::string_view take_word(std::string_view& text, std::string_view separators) {
+  text.remove_prefix(std::min(text.find_first_not_of(separators), text.size()));
+  const std::string_view word = text.substr(0, text.find_first_of(separators));
+  text.remove_prefix(word.size());
+  return word;
+}
+
 std::vector<std::string> split(std::string_view text, std::string_view separators) {
   std::vector<std::string> pieces;
-  for (;;) {
-    text.remove_prefix(std::min(text.find_first_not_of(separators), text.size()));
-    if (text.empty()) {
-      return pieces;
-    }
-    const std::string_view piece = text.substr(0, text.find_first_of(separators));
-    pieces.emplace_back(piece);
-    text.remove_prefix(piece.size());
+  for (std::string_view word = take_word(text, separators); !word.empty();
+       word = take_word(text, separators)) {
+    pieces.emplace_back(word);
   }
+  return pieces;
 }
 
 std::vector<std::string> pieces_of(std::string_view text, char separator) {

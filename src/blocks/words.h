@@ -6,6 +6,9 @@
 
 namespace qel {
 
+/// Takes the next non-empty piece between the separator characters off the text; empty at its end.
+std::string_view take_word(std::string_view& text, std::string_view separators);
+
 /// The non-empty pieces between the separator characters.
 std::vector<std::string> split(std::string_view text, std::string_view separators);
 

@@ -254,7 +254,7 @@ bool find_plain_header(LineScanner& lines, std::string_view section, Line& heade
   if (section.empty()) {
     return false;
   }
-  while (lines.next_starting_with(section.front(), header)) {
+  while (lines.next_starting_with(section, header)) {
     if (text::is_header_of(header.text, section)) {
       return true;
     }

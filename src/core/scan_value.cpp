@@ -1,7 +1,6 @@
 #include "core/scan_value.h"
 
-#include <algorithm>
-
+#include "text/line_scanner.h"
 #include "text/text.h"
 
 namespace qel {
@@ -17,21 +16,17 @@ std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::st
   if (file.read_at(0, contents.data(), contents.size()) != size || section.empty() || key.empty()) {
     return std::nullopt;
   }
-  std::string_view rest = text::without_end_mark(contents);
-  for (bool in_section = false; !rest.empty();) {
-    std::string_view line = rest.substr(0, rest.find('\n'));
-    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-    line = line.substr(0, line.find('\0'));
+  LineScanner lines(contents, 0, true, {.longest_line = text::kAnyLength});
+  bool in_section = false;
+  for (Line line; lines.next(line);) {
     if (!in_section) {
-      in_section = line.find(section) != std::string_view::npos;
+      in_section = line.text.find(section) != std::string_view::npos;
       continue;
     }
-    const std::size_t equals = line.find('=');
+    const std::size_t equals = line.text.find('=');
     if (equals != std::string_view::npos &&
-        text::trim_end(line.substr(0, equals), kStripped) == key) {
-      std::string_view value = text::trim_end(line.substr(equals + 1), kStripped);
-      value.remove_prefix(std::min(value.find_first_not_of(' '), value.size()));
-      return value;
+        text::trim_end(line.text.substr(0, equals), kStripped) == key) {
+      return text::trim_end(text::untrimmed_value(line.text), kStripped);
     }
   }
   return std::nullopt;

@@ -201,6 +201,15 @@ bool scan_char(const char*& at, char& value) {
 }
 
 bool scan_word(const char*& at, std::string& value) {
+  std::string_view word;
+  if (!scan_word(at, word)) {
+    return false;
+  }
+  value.assign(word);
+  return true;
+}
+
+bool scan_word(const char*& at, std::string_view& value) {
   const char* p = at;
   skip_space(p);
   const char* begin = p;
@@ -210,7 +219,7 @@ bool scan_word(const char*& at, std::string& value) {
   if (p == begin) {
     return false;
   }
-  value.assign(begin, p);
+  value = {begin, static_cast<std::size_t>(p - begin)};
   at = p;
   return true;
 }

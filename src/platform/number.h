@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace qel::platform {
 
@@ -28,6 +29,8 @@ bool scan_char(const char*& at, char& value);
 
 /// "%s": leading white space, then the characters up to the next white space.
 bool scan_word(const char*& at, std::string& value);
+/// The same where it stands in the text.
+bool scan_word(const char*& at, std::string_view& value);
 
 /// `atoi` and `atof`: 0 for a text that holds no number.
 int to_int(const char* text);

@@ -14,11 +14,13 @@ using namespace qel::proio;
 using qel::Line;
 using qel::LineScanner;
 using qel::Target;
+namespace fields = qel::fields;
 namespace platform = qel::platform;
 
 namespace {
 
-constexpr Target kConditions{summary::kSection, summary::kBoundaryConditionNo.key.text};
+constexpr Target kConditions{summary::kBoundaryConditionNo.section.text,
+                             summary::kBoundaryConditionNo.key.text};
 
 // Where a profile point stands behind the header of the boundary conditions.
 struct Place {
@@ -39,10 +41,11 @@ Place place_of(Source& source, int condition, int point) {
   Place place;
   place.line = static_cast<long long>(conditions) + point;
   LineScanner names = lines_of(source);
-  constexpr Target kNextLine{boundary_condition::kSection, {}, 1};
+  constexpr Target kNextLine{boundary_condition::kPositionalSection, {}, 1};
   Line name;
   int k = 1;
-  for (bool more = seek_section(names, boundary_condition::kSection); more && k < condition; ++k) {
+  for (bool more = seek_section(names, boundary_condition::kPositionalSection);
+       more && k < condition; ++k) {
     more = seek_line(names, kNextLine, name);
     if (!more) {
       break;
@@ -63,11 +66,12 @@ int as_index(long long line) {
 }  // namespace
 
 bool CPROIO_Manipulator::ReadBC(long long line, char*& text) {
-  return line >= 1 && IsOK(Read(boundary_condition::kSection, "", text, as_index(line)));
+  return line >= 1 && IsOK(Read(boundary_condition::kPositionalSection, "", text, as_index(line)));
 }
 
 bool CPROIO_Manipulator::WriteBC(long long line, const char* text) {
-  return line >= 1 && IsOK(Write(boundary_condition::kSection, "", text, true, as_index(line)));
+  return line >= 1 &&
+         IsOK(Write(boundary_condition::kPositionalSection, "", text, true, as_index(line)));
 }
 
 // A line of up to three words has a name of one word; a longer one has a name of several, and a
@@ -97,7 +101,7 @@ bool CPROIO_Manipulator::GetBCCountName(int line, int& count, char*& name) {
 
 bool CPROIO_Manipulator::SetBCCountName(int line, int count, char* name) {
   return !is_null(name) &&
-         qel::attempt([&] { return WriteBC(line, print_items(count, name).c_str()); });
+         qel::attempt([&] { return WriteBC(line, fields::print("\t", count, name).c_str()); });
 }
 
 bool CPROIO_Manipulator::GetBCSetting(int line, int& count, char*& name, int& type) {
@@ -117,14 +121,13 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
     }
     Buffer text;
     LineScanner lines = lines_of(file);
-    if (read(lines, {boundary_condition::kSection, {}, as_index(place.line)}, text) !=
+    if (read(lines, {boundary_condition::kPositionalSection, {}, as_index(place.line)}, text) !=
         Code::success) {
       return false;
     }
     int number = 0;
-    char equals = '\0';
     x = y = 0;
-    scan_items(text.text(), number, Symbol{equals}, x, y);
+    scan_items(text.text(), number, fields::Separator{}, x, y);
     return true;
   });
 }
@@ -136,7 +139,7 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     if (path_ == nullptr) {
       return false;
     }
-    const std::string line = print_item(point) + " = " + print_items(x, y);
+    const std::string line = fields::print(" = ", point, fields::print("\t", x, y).c_str());
     platform::OsFile file;
     if (!file.open_for_update(path_) && (point < 1 || !file.create(path_))) {
       return point >= 1;
@@ -150,7 +153,7 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     if (place.line < 1) {
       return false;
     }
-    if (store(edit, {boundary_condition::kSection, {}, as_index(place.line)}, line) &&
+    if (store(edit, {boundary_condition::kPositionalSection, {}, as_index(place.line)}, line) &&
         file.close()) {
       SetFileDate();  // the point stands in the file, with a stamp or without
     }

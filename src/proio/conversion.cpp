@@ -89,7 +89,7 @@ bool CPROIO_Manipulator::SetPackHeatTransferCoefficient(double value) {
 bool CPROIO_Manipulator::SetCoefficient(const Entry& entry, double value) {
   constexpr const char* kUnit = "        (W/m^2.K)";
   return qel::attempt([&] {
-    return IsOK(
-        Write(SectionOf(entry), KeyOf(entry), (print_item(value) + kUnit).c_str(), false, kByKey));
+    return IsOK(Write(SectionOf(entry), KeyOf(entry),
+                      (qel::fields::print_one(value) + kUnit).c_str(), false, kByKey));
   });
 }

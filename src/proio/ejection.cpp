@@ -19,7 +19,7 @@ bool skip_missing_name(const char*& at) {
   }
   const char* end = next;
   double number = 0;
-  if (!scan_item(end, number)) {
+  if (!qel::fields::scan_one(end, number)) {
     return false;
   }
   end += std::strspn(end, " ");
@@ -79,7 +79,7 @@ bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name,
   Buffer& buffer = scratch().part_insert_name.assign({});
   name = buffer.text();
   const char* at = text;
-  if (!scan_item(at, id)) {
+  if (!qel::fields::scan_one(at, id)) {
     return true;
   }
   if (skip_missing_name(at)) {

@@ -1,109 +1,145 @@
 #pragma once
 
+#include "blocks/advanced_setting.h"
+#include "blocks/cae_header.h"
+#include "blocks/cool.h"
+#include "blocks/cool_channel_x.h"
+#include "blocks/cool_ctl.h"
+#include "blocks/coolant.h"
+#include "blocks/cure_x.h"
+#include "blocks/eject_criteria.h"
+#include "blocks/file_header.h"
+#include "blocks/flow_ctl.h"
+#include "blocks/flow_x.h"
+#include "blocks/gas_f_x.h"
+#include "blocks/gate_ctl.h"
+#include "blocks/gate_valve_x.h"
+#include "blocks/ic_package.h"
+#include "blocks/machine.h"
+#include "blocks/mold_metal_material.h"
+#include "blocks/mold_preheat.h"
+#include "blocks/mold_preheat_cool_channel_x.h"
+#include "blocks/mold_temperature_bc_x.h"
+#include "blocks/mold_thermal_boundary_type.h"
+#include "blocks/moldbase.h"
+#include "blocks/output.h"
+#include "blocks/overflow.h"
+#include "blocks/pack_x.h"
+#include "blocks/part_insert_initial_temperature.h"
+#include "blocks/parting_surface.h"
+#include "blocks/project.h"
+#include "blocks/quick_setting.h"
+#include "blocks/ram_position.h"
+#include "blocks/summary.h"
+#include "blocks/transient_inlet_conv.h"
+#include "blocks/unit.h"
+#include "blocks/var_cool_ctl.h"
 #include "proio/entry.h"
 
-/// Every entry that the object reads or writes, by section. The accessors name the rows and spell
-/// no key again.
+/// Every entry that the object reads or writes, by section: names for rows of the catalogue. The
+/// accessors spell no key.
 namespace qel::proio {
 
 /// [FileHeader]
 namespace file_header {
 
-inline constexpr char kSection[] = "[FileHeader]";
+namespace rows = qel::file_header;
 
-inline constexpr Entry kName{kSection, "Name"};
-inline constexpr Entry kDate{kSection, "Date"};
-inline constexpr Entry kType{kSection, "Type"};
-inline constexpr Entry kCreateBy{kSection, "CreateBy"};
-inline constexpr Entry kRemark{kSection, "Remark"};
+inline constexpr Entry kName{rows::kSection, key_of(rows::kKeys, "Name")};
+inline constexpr Entry kDate{rows::kSection, key_of(rows::kKeys, "Date")};
+inline constexpr Entry kType{rows::kSection, key_of(rows::kKeys, "Type")};
+inline constexpr Entry kCreateBy{rows::kSection, key_of(rows::kKeys, "CreateBy")};
+inline constexpr Entry kRemark{rows::kSection, key_of(rows::kKeys, "Remark")};
 
 }  // namespace file_header
 
 /// [CaeHeader]
 namespace cae_header {
 
-inline constexpr char kSection[] = "[CaeHeader]";
+namespace rows = qel::cae_header;
 
-inline constexpr Entry kVersion{kSection, "Version"};
-inline constexpr Entry kRelease{kSection, "Release"};
-inline constexpr Entry kProject{kSection, "Project"};
-inline constexpr Entry kEngineer{kSection, "Engineer"};
-inline constexpr Entry kParent{kSection, "Parent"};
-inline constexpr Entry kType{kSection, "Type"};
-inline constexpr Entry kFileVersion{kSection, "FileVersion"};
-inline constexpr Entry kFileType{kSection, "FileType"};
-inline constexpr Entry kSmartSetting{kSection, "SmartSetting"};
+inline constexpr Entry kVersion{rows::kSection, key_of(rows::kKeys, "Version")};
+inline constexpr Entry kRelease{rows::kSection, key_of(rows::kKeys, "Release")};
+inline constexpr Entry kProject{rows::kSection, key_of(rows::kKeys, "Project")};
+inline constexpr Entry kEngineer{rows::kSection, key_of(rows::kKeys, "Engineer")};
+inline constexpr Entry kParent{rows::kSection, key_of(rows::kKeys, "Parent")};
+inline constexpr Entry kType{rows::kSection, key_of(rows::kKeys, "Type")};
+inline constexpr Entry kFileVersion{rows::kSection, key_of(rows::kKeys, "FileVersion")};
+inline constexpr Entry kFileType{rows::kSection, key_of(rows::kKeys, "FileType")};
+inline constexpr Entry kSmartSetting{rows::kSection, key_of(rows::kKeys, "SmartSetting")};
 
 }  // namespace cae_header
 
 /// [Summary]
 namespace summary {
 
-inline constexpr char kSection[] = "[Summary]";
+namespace rows = qel::summary;
 
-inline constexpr Entry kMeshLayer{kSection, "TotalNdivz"};
-inline constexpr Entry kMeltEntranceNo{kSection, "TotalNodeEM"};
-inline constexpr Entry kCoolantNo{kSection, "TotalNodeEC"};
-inline constexpr Entry kValveGateNo{kSection, "TotalGateCTL"};
-inline constexpr Entry kVacuumIndex{kSection, "VacuumIndex"};
-inline constexpr Entry kSkinRatio{kSection, "SkinRatio"};
-inline constexpr Entry kMultiTimeStep{kSection, "NoOutput"};
-inline constexpr Entry kPpackAsPeof{kSection, "PEOFasPPack"};
-inline constexpr Entry kMoldbaseNo{kSection, "TotalNodeMB"};
-inline constexpr Entry kBoundaryConditionNo{kSection, "TotalNodeBC"};
-inline constexpr Entry kGasEntranceNo{kSection, "TotalNodeEG"};
-inline constexpr Entry kMoldMetalMaterialNo{kSection, "TotalNodeMMM"};
-inline constexpr Entry kSymVolRatio{kSection, "SymVolRatio"};
-inline constexpr Entry kHeatingRodNo{kSection, "TotalNodeHR"};
-inline constexpr Entry kIsTransientInletConv{kSection, "IsTransientInletConv"};
+inline constexpr Entry kMeshLayer{rows::kSection, key_of(rows::kKeys, "TotalNdivz")};
+inline constexpr Entry kMeltEntranceNo{rows::kSection, key_of(rows::kKeys, "TotalNodeEM")};
+inline constexpr Entry kCoolantNo{rows::kSection, key_of(rows::kKeys, "TotalNodeEC")};
+inline constexpr Entry kValveGateNo{rows::kSection, key_of(rows::kKeys, "TotalGateCTL")};
+inline constexpr Entry kVacuumIndex{rows::kSection, key_of(rows::kKeys, "VacuumIndex")};
+inline constexpr Entry kSkinRatio{rows::kSection, key_of(rows::kKeys, "SkinRatio")};
+inline constexpr Entry kMultiTimeStep{rows::kSection, key_of(rows::kKeys, "NoOutput")};
+inline constexpr Entry kPpackAsPeof{rows::kSection, key_of(rows::kKeys, "PEOFasPPack")};
+inline constexpr Entry kMoldbaseNo{rows::kSection, key_of(rows::kKeys, "TotalNodeMB")};
+inline constexpr Entry kBoundaryConditionNo{rows::kSection, key_of(rows::kKeys, "TotalNodeBC")};
+inline constexpr Entry kGasEntranceNo{rows::kSection, key_of(rows::kKeys, "TotalNodeEG")};
+inline constexpr Entry kMoldMetalMaterialNo{rows::kSection, key_of(rows::kKeys, "TotalNodeMMM")};
+inline constexpr Entry kSymVolRatio{rows::kSection, key_of(rows::kKeys, "SymVolRatio")};
+inline constexpr Entry kHeatingRodNo{rows::kSection, key_of(rows::kKeys, "TotalNodeHR")};
+inline constexpr Entry kIsTransientInletConv{rows::kSection,
+                                             key_of(rows::kKeys, "IsTransientInletConv")};
 
 }  // namespace summary
 
 /// [Unit]
 namespace unit {
 
-inline constexpr char kSection[] = "[Unit]";
+namespace rows = qel::unit;
 
-inline constexpr Entry kTime{kSection, "Time"};
-inline constexpr Entry kTemp{kSection, "Temp"};
-inline constexpr Entry kPres{kSection, "Pres"};
-inline constexpr Entry kFR{kSection, "FR"};
-inline constexpr Entry kIP{kSection, "IP"};
-inline constexpr Entry kPP{kSection, "PP"};
-inline constexpr Entry kVolum{kSection, "Volum"};
+inline constexpr Entry kTime{rows::kSection, key_of(rows::kKeys, "Time")};
+inline constexpr Entry kTemp{rows::kSection, key_of(rows::kKeys, "Temp")};
+inline constexpr Entry kPres{rows::kSection, key_of(rows::kKeys, "Pres")};
+inline constexpr Entry kFR{rows::kSection, key_of(rows::kKeys, "FR")};
+inline constexpr Entry kIP{rows::kSection, key_of(rows::kKeys, "IP")};
+inline constexpr Entry kPP{rows::kSection, key_of(rows::kKeys, "PP")};
+inline constexpr Entry kVolum{rows::kSection, key_of(rows::kKeys, "Volum")};
 
 }  // namespace unit
 
 /// [Flow-%d]
 namespace flow {
 
+namespace rows = qel::flow_x;
 inline constexpr auto kSection = Manipulator::BLOCK_FLOW;
 
-inline constexpr Entry kFillTime{kSection, "FillTime"};
-inline constexpr Entry kMeltTemperature{kSection, "MeltTemp"};
-inline constexpr Entry kMoldTemperature{kSection, "MoldTemp"};
-inline constexpr Entry kInjectPressure{kSection, "InjectPres"};
-inline constexpr Entry kPreFill{kSection, "PreFill"};
-inline constexpr Entry kInjectVolume{kSection, "InjVol"};
-inline constexpr Entry kTransferTime{kSection, "TransTime"};
-inline constexpr Entry kResinTemperature{kSection, "ResnTemp"};
-inline constexpr Entry kTransferPressure{kSection, "TransPres"};
-inline constexpr Entry kInitialConversion{kSection, "InitConv"};
-inline constexpr Entry kEndConversion{kSection, "EndConv"};
-inline constexpr Entry kFRDisplayType{kSection, "FRDisplayType"};
-inline constexpr Entry kIPDisplayType{kSection, "IPDisplayType"};
-inline constexpr Entry kTPDisplayType{kSection, "TPDisplayType"};
-inline constexpr Entry kFRCount{kSection, "FRSet"};
+inline constexpr Entry kFillTime{kSection, key_of(rows::kKeys, "FillTime")};
+inline constexpr Entry kMeltTemperature{kSection, key_of(rows::kKeys, "MeltTemp")};
+inline constexpr Entry kMoldTemperature{kSection, key_of(rows::kKeys, "MoldTemp")};
+inline constexpr Entry kInjectPressure{kSection, key_of(rows::kKeys, "InjectPres")};
+inline constexpr Entry kPreFill{kSection, key_of(rows::kKeys, "PreFill")};
+inline constexpr Entry kInjectVolume{kSection, key_of(rows::kKeys, "InjVol")};
+inline constexpr Entry kTransferTime{kSection, key_of(rows::kKeys, "TransTime")};
+inline constexpr Entry kResinTemperature{kSection, key_of(rows::kKeys, "ResnTemp")};
+inline constexpr Entry kTransferPressure{kSection, key_of(rows::kKeys, "TransPres")};
+inline constexpr Entry kInitialConversion{kSection, key_of(rows::kKeys, "InitConv")};
+inline constexpr Entry kEndConversion{kSection, key_of(rows::kKeys, "EndConv")};
+inline constexpr Entry kFRDisplayType{kSection, key_of(rows::kKeys, "FRDisplayType")};
+inline constexpr Entry kIPDisplayType{kSection, key_of(rows::kKeys, "IPDisplayType")};
+inline constexpr Entry kTPDisplayType{kSection, key_of(rows::kKeys, "TPDisplayType")};
+inline constexpr Entry kFRCount{kSection, key_of(rows::kKeys, "FRSet")};
 inline constexpr Entry kFRPoint{kSection, Manipulator::KEY_FR};
-inline constexpr Entry kUserFRCount{kSection, "UserFRSet"};
+inline constexpr Entry kUserFRCount{kSection, key_of(rows::kKeys, "UserFRSet")};
 inline constexpr Entry kUserFRPoint{kSection, Manipulator::KEY_USER_FR};
-inline constexpr Entry kIPCount{kSection, "IPSet"};
+inline constexpr Entry kIPCount{kSection, key_of(rows::kKeys, "IPSet")};
 inline constexpr Entry kIPPoint{kSection, Manipulator::KEY_IP};
-inline constexpr Entry kUserIPCount{kSection, "UserIPSet"};
+inline constexpr Entry kUserIPCount{kSection, key_of(rows::kKeys, "UserIPSet")};
 inline constexpr Entry kUserIPPoint{kSection, Manipulator::KEY_USER_IP};
-inline constexpr Entry kTPCount{kSection, "TPSet"};
+inline constexpr Entry kTPCount{kSection, key_of(rows::kKeys, "TPSet")};
 inline constexpr Entry kTPPoint{kSection, Manipulator::KEY_TP};
-inline constexpr Entry kUserTPCount{kSection, "UserTPSet"};
+inline constexpr Entry kUserTPCount{kSection, key_of(rows::kKeys, "UserTPSet")};
 inline constexpr Entry kUserTPPoint{kSection, Manipulator::KEY_USER_TP};
 
 }  // namespace flow
@@ -111,15 +147,16 @@ inline constexpr Entry kUserTPPoint{kSection, Manipulator::KEY_USER_TP};
 /// [Pack-%d]
 namespace pack {
 
+namespace rows = qel::pack_x;
 inline constexpr auto kSection = Manipulator::BLOCK_PACK;
 
-inline constexpr Entry kPackTime{kSection, "PackTime"};
-inline constexpr Entry kPackPressure{kSection, "PackPres"};
-inline constexpr Entry kPackSwitch{kSection, "PackSwch"};
-inline constexpr Entry kPPDisplayType{kSection, "PPDisplayType"};
-inline constexpr Entry kPPCount{kSection, "PPSet"};
+inline constexpr Entry kPackTime{kSection, key_of(rows::kKeys, "PackTime")};
+inline constexpr Entry kPackPressure{kSection, key_of(rows::kKeys, "PackPres")};
+inline constexpr Entry kPackSwitch{kSection, key_of(rows::kKeys, "PackSwch")};
+inline constexpr Entry kPPDisplayType{kSection, key_of(rows::kKeys, "PPDisplayType")};
+inline constexpr Entry kPPCount{kSection, key_of(rows::kKeys, "PPSet")};
 inline constexpr Entry kPPPoint{kSection, Manipulator::KEY_PP};
-inline constexpr Entry kUserPPCount{kSection, "UserPPSet"};
+inline constexpr Entry kUserPPCount{kSection, key_of(rows::kKeys, "UserPPSet")};
 inline constexpr Entry kUserPPPoint{kSection, Manipulator::KEY_USER_PP};
 
 }  // namespace pack
@@ -127,15 +164,16 @@ inline constexpr Entry kUserPPPoint{kSection, Manipulator::KEY_USER_PP};
 /// [Cure-%d]
 namespace cure {
 
+namespace rows = qel::cure_x;
 inline constexpr auto kSection = Manipulator::BLOCK_CURE;
 
-inline constexpr Entry kCureTime{kSection, "CureTime"};
-inline constexpr Entry kCurePressure{kSection, "CurePres"};
-inline constexpr Entry kCureSwitch{kSection, "CureSwch"};
-inline constexpr Entry kCPDisplayType{kSection, "CPDisplayType"};
-inline constexpr Entry kCPCount{kSection, "CPSet"};
+inline constexpr Entry kCureTime{kSection, key_of(rows::kKeys, "CureTime")};
+inline constexpr Entry kCurePressure{kSection, key_of(rows::kKeys, "CurePres")};
+inline constexpr Entry kCureSwitch{kSection, key_of(rows::kKeys, "CureSwch")};
+inline constexpr Entry kCPDisplayType{kSection, key_of(rows::kKeys, "CPDisplayType")};
+inline constexpr Entry kCPCount{kSection, key_of(rows::kKeys, "CPSet")};
 inline constexpr Entry kCPPoint{kSection, Manipulator::KEY_CP};
-inline constexpr Entry kUserCPCount{kSection, "UserCPSet"};
+inline constexpr Entry kUserCPCount{kSection, key_of(rows::kKeys, "UserCPSet")};
 inline constexpr Entry kUserCPPoint{kSection, Manipulator::KEY_USER_CP};
 
 }  // namespace cure
@@ -143,144 +181,146 @@ inline constexpr Entry kUserCPPoint{kSection, Manipulator::KEY_USER_CP};
 /// [RamPosition]
 namespace ram_position {
 
-inline constexpr char kSection[] = "[RamPosition]";
+namespace rows = qel::ram_position;
 
-inline constexpr Entry kScrewDirection{kSection, "RamDir"};
-inline constexpr Entry kVPSwitch{kSection, "IsVPswitch"};
-inline constexpr Entry kVPSwitchPosition{kSection, "VPswitchRam"};
-inline constexpr Entry kRamFRCount{kSection, "RP_FRSet"};
-inline constexpr Entry kRamFRPoint{kSection, Manipulator::KEY_RP_FR};
-inline constexpr Entry kRamIPCount{kSection, "RP_IPSet"};
-inline constexpr Entry kRamIPPoint{kSection, Manipulator::KEY_RP_IP};
+inline constexpr Entry kScrewDirection{rows::kSection, key_of(rows::kKeys, "RamDir")};
+inline constexpr Entry kVPSwitch{rows::kSection, key_of(rows::kKeys, "IsVPswitch")};
+inline constexpr Entry kVPSwitchPosition{rows::kSection, key_of(rows::kKeys, "VPswitchRam")};
+inline constexpr Entry kRamFRCount{rows::kSection, key_of(rows::kKeys, "RP_FRSet")};
+inline constexpr Entry kRamFRPoint{rows::kSection, Manipulator::KEY_RP_FR};
+inline constexpr Entry kRamIPCount{rows::kSection, key_of(rows::kKeys, "RP_IPSet")};
+inline constexpr Entry kRamIPPoint{rows::kSection, Manipulator::KEY_RP_IP};
 
 }  // namespace ram_position
 
 /// [QuickSetting]
 namespace quick_setting {
 
-inline constexpr char kSection[] = "[QuickSetting]";
+namespace rows = qel::quick_setting;
 
-inline constexpr Entry kScrewDirection{kSection, "ScrewDirection"};
-inline constexpr Entry kProfileType{kSection, "ProfileType"};
-inline constexpr Entry kIsSameSetting{kSection, "IsSameSetting"};
-inline constexpr Entry kFRSettingType{kSection, "Q_SettingType"};
-inline constexpr Entry kIPSettingType{kSection, "Pi_SettingType"};
-inline constexpr Entry kPPSettingType{kSection, "Pp_SettingType"};
-inline constexpr Entry kQSFRCount{kSection, "Q_Section"};
-inline constexpr Entry kQSFRPoint{kSection, Manipulator::KEY_Q_SETTING};
-inline constexpr Entry kQSIPCount{kSection, "Pi_Section"};
-inline constexpr Entry kQSIPPoint{kSection, Manipulator::KEY_PI_SETTING};
-inline constexpr Entry kQSPPCount{kSection, "Pp_Section"};
-inline constexpr Entry kQSPPPoint{kSection, Manipulator::KEY_PP_SETTING};
+inline constexpr Entry kScrewDirection{rows::kSection, key_of(rows::kKeys, "ScrewDirection")};
+inline constexpr Entry kProfileType{rows::kSection, key_of(rows::kKeys, "ProfileType")};
+inline constexpr Entry kIsSameSetting{rows::kSection, key_of(rows::kKeys, "IsSameSetting")};
+inline constexpr Entry kFRSettingType{rows::kSection, key_of(rows::kKeys, "Q_SettingType")};
+inline constexpr Entry kIPSettingType{rows::kSection, key_of(rows::kKeys, "Pi_SettingType")};
+inline constexpr Entry kPPSettingType{rows::kSection, key_of(rows::kKeys, "Pp_SettingType")};
+inline constexpr Entry kQSFRCount{rows::kSection, key_of(rows::kKeys, "Q_Section")};
+inline constexpr Entry kQSFRPoint{rows::kSection, Manipulator::KEY_Q_SETTING};
+inline constexpr Entry kQSIPCount{rows::kSection, key_of(rows::kKeys, "Pi_Section")};
+inline constexpr Entry kQSIPPoint{rows::kSection, Manipulator::KEY_PI_SETTING};
+inline constexpr Entry kQSPPCount{rows::kSection, key_of(rows::kKeys, "Pp_Section")};
+inline constexpr Entry kQSPPPoint{rows::kSection, Manipulator::KEY_PP_SETTING};
 
 }  // namespace quick_setting
 
 /// [FlowCTL]
 namespace flow_ctl {
 
-inline constexpr char kSection[] = "[FlowCTL]";
+namespace rows = qel::flow_ctl;
 
-inline constexpr Entry kFlowCtrl{kSection, "FlowCtrl"};
-inline constexpr Entry kVPSwitchCtrl{kSection, "VPSwitchCtrl"};
-inline constexpr Entry kPackingCtrl{kSection, "PackingCtrl"};
-inline constexpr Entry kMoldTemperature{kSection, "MoldTemperature"};
-inline constexpr Entry kMeltTemperature{kSection, "MeltTemperature"};
-inline constexpr Entry kInjectionTime{kSection, "InjectionTime"};
-inline constexpr Entry kVolumeFilled{kSection, "VolumeFilled"};
-inline constexpr Entry kRamPosition{kSection, "RamPosition"};
-inline constexpr Entry kInjectionPressure{kSection, "InjectionPressure"};
+inline constexpr Entry kFlowCtrl{rows::kSection, key_of(rows::kKeys, "FlowCtrl")};
+inline constexpr Entry kVPSwitchCtrl{rows::kSection, key_of(rows::kKeys, "VPSwitchCtrl")};
+inline constexpr Entry kPackingCtrl{rows::kSection, key_of(rows::kKeys, "PackingCtrl")};
+inline constexpr Entry kMoldTemperature{rows::kSection, key_of(rows::kKeys, "MoldTemperature")};
+inline constexpr Entry kMeltTemperature{rows::kSection, key_of(rows::kKeys, "MeltTemperature")};
+inline constexpr Entry kInjectionTime{rows::kSection, key_of(rows::kKeys, "InjectionTime")};
+inline constexpr Entry kVolumeFilled{rows::kSection, key_of(rows::kKeys, "VolumeFilled")};
+inline constexpr Entry kRamPosition{rows::kSection, key_of(rows::kKeys, "RamPosition")};
+inline constexpr Entry kInjectionPressure{rows::kSection, key_of(rows::kKeys, "InjectionPressure")};
 
 }  // namespace flow_ctl
 
 /// [Output]
 namespace output {
 
-inline constexpr char kSection[] = "[Output]";
+namespace rows = qel::output;
 
-inline constexpr Entry kTimeStep{kSection, "TimeStep"};
-inline constexpr Entry kTimeFill{kSection, "TimeFill"};
-inline constexpr Entry kTimePack{kSection, "TimePack"};
+inline constexpr Entry kTimeStep{rows::kSection, key_of(rows::kKeys, "TimeStep")};
+inline constexpr Entry kTimeFill{rows::kSection, key_of(rows::kKeys, "TimeFill")};
+inline constexpr Entry kTimePack{rows::kSection, key_of(rows::kKeys, "TimePack")};
 
 }  // namespace output
 
 /// [Project]
 namespace project {
 
-inline constexpr char kSection[] = "[Project]";
+namespace rows = qel::project;
 
-inline constexpr Entry kMesh{kSection, "Mesh"};
-inline constexpr Entry kMaterial{kSection, "Material"};
-inline constexpr Entry kCavityVolume{kSection, "CavVol"};
-inline constexpr Entry kCushionVolume{kSection, "CushionVol"};
+inline constexpr Entry kMesh{rows::kSection, key_of(rows::kKeys, "Mesh")};
+inline constexpr Entry kMaterial{rows::kSection, key_of(rows::kKeys, "Material")};
+inline constexpr Entry kCavityVolume{rows::kSection, key_of(rows::kKeys, "CavVol")};
+inline constexpr Entry kCushionVolume{rows::kSection, key_of(rows::kKeys, "CushionVol")};
 
 }  // namespace project
 
 /// [AdvancedSetting]
 namespace advanced_setting {
 
-inline constexpr char kSection[] = "[AdvancedSetting]";
+namespace rows = qel::advanced_setting;
 
-inline constexpr Entry kMoldClampingForce{kSection, "ClampForce"};
-inline constexpr Entry kMoldOpenDirection{kSection, "OpenDirection"};
+inline constexpr Entry kMoldClampingForce{rows::kSection, key_of(rows::kKeys, "ClampForce")};
+inline constexpr Entry kMoldOpenDirection{rows::kSection, key_of(rows::kKeys, "OpenDirection")};
 
 }  // namespace advanced_setting
 
 /// [TransientInletConv]
 namespace transient_inlet_conv {
 
-inline constexpr char kSection[] = "[TransientInletConv]";
+namespace rows = qel::transient_inlet_conv;
 
-inline constexpr Entry kInitPelletConv{kSection, "InitPelletConv"};
-inline constexpr Entry kPelletDiameter{kSection, "PelletDiameter"};
-inline constexpr Entry kPelletHeight{kSection, "PelletHeight"};
-inline constexpr Entry kPreHeatTime{kSection, "PreHeatTime"};
+inline constexpr Entry kInitPelletConv{rows::kSection, key_of(rows::kKeys, "InitPelletConv")};
+inline constexpr Entry kPelletDiameter{rows::kSection, key_of(rows::kKeys, "PelletDiameter")};
+inline constexpr Entry kPelletHeight{rows::kSection, key_of(rows::kKeys, "PelletHeight")};
+inline constexpr Entry kPreHeatTime{rows::kSection, key_of(rows::kKeys, "PreHeatTime")};
 
 }  // namespace transient_inlet_conv
 
 /// [ICPackage]
 namespace ic_package {
 
-inline constexpr char kSection[] = "[ICPackage]";
+namespace rows = qel::ic_package;
 
-inline constexpr Entry kInitConversionType{kSection, "InitConversionType"};
-inline constexpr Entry kInitConversion{kSection, "InitConversion"};
-inline constexpr Entry kPelletDiameter{kSection, "PelletDiameter"};
-inline constexpr Entry kPelletHeight{kSection, "PelletHeight"};
-inline constexpr Entry kPreHeatingTime{kSection, "PreHeatingTime"};
+inline constexpr Entry kInitConversionType{rows::kSection,
+                                           key_of(rows::kKeys, "InitConversionType")};
+inline constexpr Entry kInitConversion{rows::kSection, key_of(rows::kKeys, "InitConversion")};
+inline constexpr Entry kPelletDiameter{rows::kSection, key_of(rows::kKeys, "PelletDiameter")};
+inline constexpr Entry kPelletHeight{rows::kSection, key_of(rows::kKeys, "PelletHeight")};
+inline constexpr Entry kPreHeatingTime{rows::kSection, key_of(rows::kKeys, "PreHeatingTime")};
 
 }  // namespace ic_package
 
 /// [MoldThermalBoundaryType]
 namespace mold_thermal_boundary {
 
-inline constexpr char kSection[] = "[MoldThermalBoundaryType]";
+namespace rows = qel::mold_thermal_boundary_type;
 
-inline constexpr Entry kType{kSection, "Type"};
-inline constexpr Entry kFlowHeatTransferCoefficient{kSection, "Flow"};
-inline constexpr Entry kPackHeatTransferCoefficient{kSection, "Pack"};
+inline constexpr Entry kType{rows::kSection, key_of(rows::kKeys, "Type")};
+inline constexpr Entry kFlowHeatTransferCoefficient{rows::kSection, key_of(rows::kKeys, "Flow")};
+inline constexpr Entry kPackHeatTransferCoefficient{rows::kSection, key_of(rows::kKeys, "Pack")};
 
 }  // namespace mold_thermal_boundary
 
 /// [GasF-%d]
 namespace gas {
 
+namespace rows = qel::gas_f_x;
 inline constexpr auto kSection = Manipulator::BLOCK_GASF;
 
-inline constexpr Entry kGasTime{kSection, "GasTime"};
-inline constexpr Entry kGasPressure{kSection, "GasPres"};
-inline constexpr Entry kGasSwitch{kSection, "GasSwch"};
-inline constexpr Entry kGasDelayTime{kSection, "DelayTime"};
-inline constexpr Entry kGRDisplayType{kSection, "GRDisplayType"};
-inline constexpr Entry kGRProfileType{kSection, "GRProfileType"};
-inline constexpr Entry kGPDisplayType{kSection, "GPDisplayType"};
-inline constexpr Entry kGPProfileType{kSection, "GPProfileType"};
-inline constexpr Entry kFRCount{kSection, "GRSet"};
+inline constexpr Entry kGasTime{kSection, key_of(rows::kKeys, "GasTime")};
+inline constexpr Entry kGasPressure{kSection, key_of(rows::kKeys, "GasPres")};
+inline constexpr Entry kGasSwitch{kSection, key_of(rows::kKeys, "GasSwch")};
+inline constexpr Entry kGasDelayTime{kSection, key_of(rows::kKeys, "DelayTime")};
+inline constexpr Entry kGRDisplayType{kSection, key_of(rows::kKeys, "GRDisplayType")};
+inline constexpr Entry kGRProfileType{kSection, key_of(rows::kKeys, "GRProfileType")};
+inline constexpr Entry kGPDisplayType{kSection, key_of(rows::kKeys, "GPDisplayType")};
+inline constexpr Entry kGPProfileType{kSection, key_of(rows::kKeys, "GPProfileType")};
+inline constexpr Entry kFRCount{kSection, key_of(rows::kKeys, "GRSet")};
 inline constexpr Entry kFRPoint{kSection, Manipulator::KEY_GR};
-inline constexpr Entry kUserFRCount{kSection, "UserGRSet"};
+inline constexpr Entry kUserFRCount{kSection, key_of(rows::kKeys, "UserGRSet")};
 inline constexpr Entry kUserFRPoint{kSection, Manipulator::KEY_USER_GR};
-inline constexpr Entry kGPCount{kSection, "GPSet"};
+inline constexpr Entry kGPCount{kSection, key_of(rows::kKeys, "GPSet")};
 inline constexpr Entry kGPPoint{kSection, Manipulator::KEY_GP};
-inline constexpr Entry kUserGPCount{kSection, "UserGPSet"};
+inline constexpr Entry kUserGPCount{kSection, key_of(rows::kKeys, "UserGPSet")};
 inline constexpr Entry kUserGPPoint{kSection, Manipulator::KEY_USER_GP};
 
 }  // namespace gas
@@ -288,19 +328,20 @@ inline constexpr Entry kUserGPPoint{kSection, Manipulator::KEY_USER_GP};
 /// [GateCTL]
 namespace gate_ctl {
 
-inline constexpr char kSection[] = "[GateCTL]";
+namespace rows = qel::gate_ctl;
 
-inline constexpr Entry kStartTime{kSection, Manipulator::KEY_ST};
-inline constexpr Entry kEndTime{kSection, Manipulator::KEY_ET};
+inline constexpr Entry kStartTime{rows::kSection, Manipulator::KEY_ST};
+inline constexpr Entry kEndTime{rows::kSection, Manipulator::KEY_ET};
 
 }  // namespace gate_ctl
 
 /// [GateValve-%d]
 namespace gate_valve {
 
+namespace rows = qel::gate_valve_x;
 inline constexpr auto kSection = Manipulator::BLOCK_GATE_VALVE;
 
-inline constexpr Entry kControlNo{kSection, "GCSet"};
+inline constexpr Entry kControlNo{kSection, key_of(rows::kKeys, "GCSet")};
 inline constexpr Entry kControlRow{kSection, Manipulator::KEY_GC};
 
 }  // namespace gate_valve
@@ -308,9 +349,10 @@ inline constexpr Entry kControlRow{kSection, Manipulator::KEY_GC};
 /// [OFGateValve-%d]
 namespace overflow {
 
+namespace rows = qel::overflow;
 inline constexpr auto kSection = Manipulator::BLOCK_OF_GATE_VALVE;
 
-inline constexpr Entry kControlNo{kSection, "GCSet"};
+inline constexpr Entry kControlNo{kSection, key_of(rows::kKeys, "GCSet")};
 inline constexpr Entry kControlRow{kSection, Manipulator::KEY_GC};
 
 }  // namespace overflow
@@ -318,58 +360,60 @@ inline constexpr Entry kControlRow{kSection, Manipulator::KEY_GC};
 /// [Cool]
 namespace cool {
 
-inline constexpr char kSection[] = "[Cool]";
+namespace rows = qel::cool;
 
-inline constexpr Entry kCoolTime{kSection, "CoolTime"};
-inline constexpr Entry kOpenTime{kSection, "OpenTime"};
-inline constexpr Entry kEjectTemperature{kSection, "EjectTemp"};
-inline constexpr Entry kAirTemperature{kSection, "AirTemp"};
-inline constexpr Entry kInitMoldTemperature{kSection, "InitialMoldbaseTemperature"};
-inline constexpr Entry kCoolingType{kSection, "CoolingType"};
-inline constexpr Entry kCoolantTemperature{kSection, "CoolantTemp"};
-inline constexpr Entry kCoolantFlowRate{kSection, "CoolantFR"};
-inline constexpr Entry kAutoSetCoolTime{kSection, "AutoSetCoolTime"};
+inline constexpr Entry kCoolTime{rows::kSection, key_of(rows::kKeys, "CoolTime")};
+inline constexpr Entry kOpenTime{rows::kSection, key_of(rows::kKeys, "OpenTime")};
+inline constexpr Entry kEjectTemperature{rows::kSection, key_of(rows::kKeys, "EjectTemp")};
+inline constexpr Entry kAirTemperature{rows::kSection, key_of(rows::kKeys, "AirTemp")};
+inline constexpr Entry kInitMoldTemperature{rows::kSection,
+                                            key_of(rows::kKeys, "InitialMoldbaseTemperature")};
+inline constexpr Entry kCoolingType{rows::kSection, key_of(rows::kKeys, "CoolingType")};
+inline constexpr Entry kCoolantTemperature{rows::kSection, key_of(rows::kKeys, "CoolantTemp")};
+inline constexpr Entry kCoolantFlowRate{rows::kSection, key_of(rows::kKeys, "CoolantFR")};
+inline constexpr Entry kAutoSetCoolTime{rows::kSection, key_of(rows::kKeys, "AutoSetCoolTime")};
 
 }  // namespace cool
 
 /// [CoolCTL]
 namespace cool_ctl {
 
-inline constexpr char kSection[] = "[CoolCTL]";
+namespace rows = qel::cool_ctl;
 
-inline constexpr Entry kTemperature{kSection, Manipulator::KEY_T};
-inline constexpr Entry kFlowRate{kSection, Manipulator::KEY_F};
-inline constexpr Entry kSystem{kSection, Manipulator::KEY_M};
+inline constexpr Entry kTemperature{rows::kSection, Manipulator::KEY_T};
+inline constexpr Entry kFlowRate{rows::kSection, Manipulator::KEY_F};
+inline constexpr Entry kSystem{rows::kSection, Manipulator::KEY_M};
 
 }  // namespace cool_ctl
 
 /// [Coolant]
 namespace coolant {
 
-inline constexpr char kSection[] = "[Coolant]";
+namespace rows = qel::coolant;
 
-inline constexpr Entry kRow{kSection, Manipulator::KEY_INDEX};
+inline constexpr Entry kRow{rows::kSection, Manipulator::KEY_INDEX};
 
 }  // namespace coolant
 
 /// [VarCoolCTL]
 namespace var_cool_ctl {
 
-inline constexpr char kSection[] = "[VarCoolCTL]";
+namespace rows = qel::var_cool_ctl;
 
-inline constexpr Entry kTotalCoolantNo{kSection, "CoolantNo"};
-inline constexpr Entry kRow{kSection, Manipulator::KEY_COOLANT};
+inline constexpr Entry kTotalCoolantNo{rows::kSection, key_of(rows::kKeys, "CoolantNo")};
+inline constexpr Entry kRow{rows::kSection, Manipulator::KEY_COOLANT};
 
 }  // namespace var_cool_ctl
 
 /// [CoolChannel-%d]
 namespace cool_channel {
 
+namespace rows = qel::cool_channel_x;
 inline constexpr auto kSection = Manipulator::BLOCK_COOL_CHANNEL;
 
-inline constexpr Entry kDiameter{kSection, "Diameter"};
-inline constexpr Entry kGroupID{kSection, "GroupID"};
-inline constexpr Entry kTimeSet{kSection, "TimeSet"};
+inline constexpr Entry kDiameter{kSection, key_of(rows::kKeys, "Diameter")};
+inline constexpr Entry kGroupID{kSection, key_of(rows::kKeys, "GroupID")};
+inline constexpr Entry kTimeSet{kSection, key_of(rows::kKeys, "TimeSet")};
 inline constexpr Entry kControlPoint{kSection, Manipulator::KEY_TCP};
 
 }  // namespace cool_channel
@@ -377,24 +421,25 @@ inline constexpr Entry kControlPoint{kSection, Manipulator::KEY_TCP};
 /// [MoldPreheat]
 namespace mold_preheat {
 
-inline constexpr char kSection[] = "[MoldPreheat]";
+namespace rows = qel::mold_preheat;
 
-inline constexpr Entry kControlType{kSection, "ControlType"};
-inline constexpr Entry kMaxTime{kSection, "MaxMoldPreHeatTime"};
-inline constexpr Entry kTime{kSection, "MoldPreHeatTime"};
-inline constexpr Entry kTemperature{kSection, "MoldPreHeatTemperature"};
-inline constexpr Entry kType{kSection, "MoldPreHeatType"};
+inline constexpr Entry kControlType{rows::kSection, key_of(rows::kKeys, "ControlType")};
+inline constexpr Entry kMaxTime{rows::kSection, key_of(rows::kKeys, "MaxMoldPreHeatTime")};
+inline constexpr Entry kTime{rows::kSection, key_of(rows::kKeys, "MoldPreHeatTime")};
+inline constexpr Entry kTemperature{rows::kSection, key_of(rows::kKeys, "MoldPreHeatTemperature")};
+inline constexpr Entry kType{rows::kSection, key_of(rows::kKeys, "MoldPreHeatType")};
 
 }  // namespace mold_preheat
 
 /// [MPreheat_CoolChannel-%d]
 namespace preheat_channel {
 
+namespace rows = qel::mold_preheat_cool_channel_x;
 inline constexpr auto kSection = Manipulator::BLOCK_MPREHEAT_COOL_CHANNEL;
 
-inline constexpr Entry kDiameter{kSection, "Diameter"};
-inline constexpr Entry kGroupID{kSection, "GroupID"};
-inline constexpr Entry kTimeSet{kSection, "TimeSet"};
+inline constexpr Entry kDiameter{kSection, key_of(rows::kKeys, "Diameter")};
+inline constexpr Entry kGroupID{kSection, key_of(rows::kKeys, "GroupID")};
+inline constexpr Entry kTimeSet{kSection, key_of(rows::kKeys, "TimeSet")};
 inline constexpr Entry kControlPoint{kSection, Manipulator::KEY_TCP};
 
 }  // namespace preheat_channel
@@ -402,97 +447,101 @@ inline constexpr Entry kControlPoint{kSection, Manipulator::KEY_TCP};
 /// [Machine]
 namespace machine {
 
-inline constexpr char kSection[] = "[Machine]";
+namespace rows = qel::machine;
 
-inline constexpr Entry kMaker{kSection, "Maker"};
-inline constexpr Entry kGrade{kSection, "Grade"};
-inline constexpr Entry kLastModifiedDate{kSection, "LastModifiedDate"};
-inline constexpr Entry kRemark{kSection, "Remark"};
-inline constexpr Entry kScrewDiameter{kSection, "Diameter"};
-inline constexpr Entry kMaxRamPosition{kSection, "MaxRamPos"};
-inline constexpr Entry kShotVolume{kSection, "ShotVolume"};
-inline constexpr Entry kShotWeight{kSection, "Weight"};
-inline constexpr Entry kMaxPressure{kSection, "MaxMachinePres"};
-inline constexpr Entry kHoldingPressure{kSection, "HoldingPressure"};
-inline constexpr Entry kInjectionSpeed{kSection, "InjectionSpeed"};
-inline constexpr Entry kMaxFlowRate{kSection, "FR"};
-inline constexpr Entry kPlasticationRate{kSection, "PlasticationRate"};
-inline constexpr Entry kScrewSpeed{kSection, "ScrewSpeed"};
-inline constexpr Entry kNozzleContactForce{kSection, "NozzleContactForce"};
-inline constexpr Entry kNozzleStroke{kSection, "NozzleStroke"};
-inline constexpr Entry kHeaterWattage{kSection, "HeaterWattage"};
-inline constexpr Entry kTemperatureControlZones{kSection, "TemperatureControlZones"};
-inline constexpr Entry kClampingForce{kSection, "Size"};
-inline constexpr Entry kOpeningStroke{kSection, "OpeningStroke"};
-inline constexpr Entry kMaxDaylight{kSection, "MaxDaylight"};
-inline constexpr Entry kMoldHeight{kSection, "MoldHeight"};
-inline constexpr Entry kTieBarsDistance{kSection, "DistanceBetweenTieBars(HxV)"};
-inline constexpr Entry kPlatenSize{kSection, "PlatenSize(HxV)"};
-inline constexpr Entry kEjectorPoint{kSection, "EjectorPoint"};
-inline constexpr Entry kEjectorForce{kSection, "EjectorForce"};
-inline constexpr Entry kEjectorStroke{kSection, "EjectorStroke"};
-inline constexpr Entry kMachineWeight{kSection, "MachineWeight"};
-inline constexpr Entry kDimension{kSection, "MachineDimension(LxWxH)"};
-inline constexpr Entry kBarrelCompressionCtrl{kSection, "BarrelCompressionCtrl"};
+inline constexpr Entry kMaker{rows::kSection, key_of(rows::kKeys, "Maker")};
+inline constexpr Entry kGrade{rows::kSection, key_of(rows::kKeys, "Grade")};
+inline constexpr Entry kLastModifiedDate{rows::kSection, key_of(rows::kKeys, "LastModifiedDate")};
+inline constexpr Entry kRemark{rows::kSection, key_of(rows::kKeys, "Remark")};
+inline constexpr Entry kScrewDiameter{rows::kSection, key_of(rows::kKeys, "Diameter")};
+inline constexpr Entry kMaxRamPosition{rows::kSection, key_of(rows::kKeys, "MaxRamPos")};
+inline constexpr Entry kShotVolume{rows::kSection, key_of(rows::kKeys, "ShotVolume")};
+inline constexpr Entry kShotWeight{rows::kSection, key_of(rows::kKeys, "Weight")};
+inline constexpr Entry kMaxPressure{rows::kSection, key_of(rows::kKeys, "MaxMachinePres")};
+inline constexpr Entry kHoldingPressure{rows::kSection, key_of(rows::kKeys, "HoldingPressure")};
+inline constexpr Entry kInjectionSpeed{rows::kSection, key_of(rows::kKeys, "InjectionSpeed")};
+inline constexpr Entry kMaxFlowRate{rows::kSection, key_of(rows::kKeys, "FR")};
+inline constexpr Entry kPlasticationRate{rows::kSection, key_of(rows::kKeys, "PlasticationRate")};
+inline constexpr Entry kScrewSpeed{rows::kSection, key_of(rows::kKeys, "ScrewSpeed")};
+inline constexpr Entry kNozzleContactForce{rows::kSection,
+                                           key_of(rows::kKeys, "NozzleContactForce")};
+inline constexpr Entry kNozzleStroke{rows::kSection, key_of(rows::kKeys, "NozzleStroke")};
+inline constexpr Entry kHeaterWattage{rows::kSection, key_of(rows::kKeys, "HeaterWattage")};
+inline constexpr Entry kTemperatureControlZones{rows::kSection,
+                                                key_of(rows::kKeys, "TemperatureControlZones")};
+inline constexpr Entry kClampingForce{rows::kSection, key_of(rows::kKeys, "Size")};
+inline constexpr Entry kOpeningStroke{rows::kSection, key_of(rows::kKeys, "OpeningStroke")};
+inline constexpr Entry kMaxDaylight{rows::kSection, key_of(rows::kKeys, "MaxDaylight")};
+inline constexpr Entry kMoldHeight{rows::kSection, key_of(rows::kKeys, "MoldHeight")};
+inline constexpr Entry kTieBarsDistance{rows::kSection,
+                                        key_of(rows::kKeys, "DistanceBetweenTieBars(HxV)")};
+inline constexpr Entry kPlatenSize{rows::kSection, key_of(rows::kKeys, "PlatenSize(HxV)")};
+inline constexpr Entry kEjectorPoint{rows::kSection, key_of(rows::kKeys, "EjectorPoint")};
+inline constexpr Entry kEjectorForce{rows::kSection, key_of(rows::kKeys, "EjectorForce")};
+inline constexpr Entry kEjectorStroke{rows::kSection, key_of(rows::kKeys, "EjectorStroke")};
+inline constexpr Entry kMachineWeight{rows::kSection, key_of(rows::kKeys, "MachineWeight")};
+inline constexpr Entry kDimension{rows::kSection, key_of(rows::kKeys, "MachineDimension(LxWxH)")};
+inline constexpr Entry kBarrelCompressionCtrl{rows::kSection,
+                                              key_of(rows::kKeys, "BarrelCompressionCtrl")};
 
 }  // namespace machine
 
 /// [Moldbase]
 namespace moldbase {
 
-inline constexpr char kSection[] = "[Moldbase]";
+namespace rows = qel::moldbase;
 
-inline constexpr Entry kRow{kSection, Manipulator::KEY_INDEX};
+inline constexpr Entry kRow{rows::kSection, Manipulator::KEY_INDEX};
 
 }  // namespace moldbase
 
 /// [MoldMetalMaterial]
 namespace mold_metal {
 
-inline constexpr char kSection[] = "[MoldMetalMaterial]";
+namespace rows = qel::mold_metal_material;
 
-inline constexpr Entry kRow{kSection, Manipulator::KEY_INDEX};
+inline constexpr Entry kRow{rows::kSection, Manipulator::KEY_INDEX};
 
 }  // namespace mold_metal
 
 /// [PartingSurface]
 namespace parting_surface {
 
-inline constexpr char kSection[] = "[PartingSurface]";
+namespace rows = qel::parting_surface;
 
-inline constexpr Entry kCavityPart{kSection, "CavityPart"};
-inline constexpr Entry kCavityMoldBase{kSection, "CavityMoldBase"};
-inline constexpr Entry kCorePart{kSection, "CorePart"};
-inline constexpr Entry kCoreMoldBase{kSection, "CoreMoldBase"};
+inline constexpr Entry kCavityPart{rows::kSection, key_of(rows::kKeys, "CavityPart")};
+inline constexpr Entry kCavityMoldBase{rows::kSection, key_of(rows::kKeys, "CavityMoldBase")};
+inline constexpr Entry kCorePart{rows::kSection, key_of(rows::kKeys, "CorePart")};
+inline constexpr Entry kCoreMoldBase{rows::kSection, key_of(rows::kKeys, "CoreMoldBase")};
 
 }  // namespace parting_surface
 
 /// [EjectCriteria]
 namespace eject_criteria {
 
-inline constexpr char kSection[] = "[EjectCriteria]";
+namespace rows = qel::eject_criteria;
 
-inline constexpr Entry kTotalSensorNode{kSection, "TotalSensorNode"};
-inline constexpr Entry kTotalCriteriaNode{kSection, "TotalCriteriaNode"};
-inline constexpr Entry kSensorNode{kSection, Manipulator::KEY_SENSOR_NODE};
-inline constexpr Entry kCriteriaNode{kSection, Manipulator::KEY_CRITERIA_NODE};
+inline constexpr Entry kTotalSensorNode{rows::kSection, key_of(rows::kKeys, "TotalSensorNode")};
+inline constexpr Entry kTotalCriteriaNode{rows::kSection, key_of(rows::kKeys, "TotalCriteriaNode")};
+inline constexpr Entry kSensorNode{rows::kSection, Manipulator::KEY_SENSOR_NODE};
+inline constexpr Entry kCriteriaNode{rows::kSection, Manipulator::KEY_CRITERIA_NODE};
 
 }  // namespace eject_criteria
 
 /// [PartInsertInitialTemperature]
 namespace part_insert {
 
-inline constexpr char kSection[] = "[PartInsertInitialTemperature]";
+namespace rows = qel::part_insert_initial_temperature;
 
-inline constexpr Entry kTotalPartInsert{kSection, "TotalPartInsert"};
-inline constexpr Entry kInsert{kSection, Manipulator::KEY_PART_INSERT};
+inline constexpr Entry kTotalPartInsert{rows::kSection, key_of(rows::kKeys, "TotalPartInsert")};
+inline constexpr Entry kInsert{rows::kSection, Manipulator::KEY_PART_INSERT};
 
 }  // namespace part_insert
 
 /// Lines addressed by position. A header of several words is found by its first.
 namespace boundary_condition {
 
-inline constexpr char kSection[] = "[SURFACE";
+using mold_temperature_bc_x::kPositionalSection;
 
 }  // namespace boundary_condition
 

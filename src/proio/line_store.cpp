@@ -105,7 +105,7 @@ bool is_header(const Line& line) {
 
 bool seek_section(LineScanner& lines, std::string_view section) {
   Line line;
-  while (!section.empty() && lines.next_starting_with(section.front(), line)) {
+  while (!section.empty() && lines.next_starting_with(section, line)) {
     if (text::first_token_is(line.text, section)) {
       return true;
     }

@@ -44,7 +44,7 @@ bool CPROIO_Manipulator::Set(const qel::proio::Entry& entry, Items... items) {
     return false;
   }
   return qel::attempt([&] {
-    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::proio::print_items(items...).c_str(),
+    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::fields::print("\t", items...).c_str(),
                       true, kByKey));
   });
 }

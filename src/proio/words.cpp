@@ -1,19 +1,14 @@
 #include "proio/words.h"
 
-#include <algorithm>
+#include "blocks/words.h"
 
 namespace qel::proio {
 
 Words::Words(std::string_view text) {
   constexpr std::string_view kSeparators = " \t\n";
-  while (count_ < words_.size()) {
-    text.remove_prefix(std::min(text.find_first_not_of(kSeparators), text.size()));
-    if (text.empty()) {
-      break;
-    }
-    const std::size_t length = std::min(text.find_first_of(kSeparators), text.size());
-    words_[count_++] = text.substr(0, length);
-    text.remove_prefix(length);
+  for (std::string_view word = take_word(text, kSeparators);
+       !word.empty() && count_ < words_.size(); word = take_word(text, kSeparators)) {
+    words_[count_++] = word;
   }
 }
 

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 
 namespace qel::text {
 
 /// The longest line, its line break counted as one character. A longer one is seen as several
 /// lines.
 inline constexpr std::size_t kLongestLine = 4095;
+
+/// For text in memory: no line is too long.
+inline constexpr std::size_t kAnyLength = std::numeric_limits<std::size_t>::max() - 1;
 
 /// What two kinds of document see differently in the same bytes. The defaults are those of a
 /// process file's document.

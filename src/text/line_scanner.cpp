@@ -169,39 +169,48 @@ bool LineScanner::skip_to(std::int64_t offset) {
   return true;
 }
 
-bool LineScanner::next_starting_with(char first, Line& line) {
+bool LineScanner::next_starting_with(std::string_view prefix, Line& line) {
+  const auto offset = [this] { return window_offset_ + static_cast<std::int64_t>(at_); };
   while (available() != 0 || read_more()) {
-    const char* begin = window_ + at_;
-    const char* hit = find_byte(begin, available(), first);
-    const std::string_view before(
-        begin, hit != nullptr ? static_cast<std::size_t>(hit - begin) : available());
-    if (hit == begin) {
+    const std::string_view ahead(window_ + at_, available());
+    const std::size_t hit = ahead.find(prefix);
+    if (hit == 0) {
       return next(line);
     }
     // The position stands at the start of a line: go on to the start of the last line before the
     // hit. Most often there is one nearby at either end; where there is none, the faster search
     // tells.
+    const std::string_view before = ahead.substr(0, hit);
     const bool has_break = find_byte(before.data(), before.size(), '\n') != nullptr;
-    const std::size_t last_break = has_break ? before.rfind('\n') : std::string_view::npos;
-    if (last_break != std::string_view::npos) {
-      at_ += last_break + 1;
+    if (has_break) {
+      at_ += before.rfind('\n') + 1;
       inside_long_line_ = false;
-      if (hit == window_ + at_) {
-        return next(line);
+      if (hit == std::string_view::npos || window_ + at_ == ahead.data() + hit) {
+        continue;
       }
     }
     // The hit is inside that line, or behind what the window holds of it; parts of a long line
-    // count as lines.
-    const bool in_pieces = hit == nullptr && last_break == std::string_view::npos;
-    while (in_pieces && available() > longest_in_bytes(dialect_)) {
-      // None of the pieces begins with the byte, and none needs more of the file: one look at the
-      // window was enough for them.
+    // count as lines. None of those in front of it needs another look at the window.
+    if (hit != std::string_view::npos) {
+      const std::int64_t hit_offset = offset() + (ahead.data() + hit - (window_ + at_));
+      while (offset() < hit_offset) {
+        if (!next(line)) {
+          return false;
+        }
+      }
+      continue;
+    }
+    while (available() > longest_in_bytes(dialect_)) {
       if (!next(line)) {
         return false;
       }
     }
-    if ((hit != nullptr || in_pieces) && !next(line)) {
+    // The last of them may go on, and so may a prefix at its beginning.
+    if (!next(line)) {
       return false;
+    }
+    if (line.text.starts_with(prefix)) {
+      return true;
     }
   }
   return false;

@@ -42,9 +42,12 @@ class LineScanner {
   /// The next line; false at the end of the file, or when it cannot be read.
   bool next(Line& line);
 
-  /// The next line whose first byte is `first`. Much faster than asking `next` for each line
-  /// between.
-  bool next_starting_with(char first, Line& line);
+  /// The next line that begins with the prefix, which is not empty. Much faster than asking `next`
+  /// for each line between.
+  bool next_starting_with(std::string_view prefix, Line& line);
+  bool next_starting_with(char first, Line& line) {
+    return next_starting_with(std::string_view(&first, 1), line);
+  }
 
   /// Goes on at an offset further on, if it lies in what is in memory already.
   bool skip_to(std::int64_t offset);

@@ -5,23 +5,39 @@
 set -euo pipefail
 src=$1/src
 
-# The patterns of the older object's numbered names, by the names of their kinds: they are in the comments of its two lists.
-kinds() {
-  sed -nE 's|^ *"(.*)", *// ([A-Z_]+)$|\2 \1|p' "$src/proio/catalogue.cpp"
+# The name or pattern of a section of the blocks.
+section_of() {
+  sed -nE 's|^inline constexpr char kSection\[\] = "(.*)";$|\1|p' "$src/blocks/$1.h"
 }
 
+# The patterns of the older object's numbered names, by the names of their kinds: they are in the comments of its two lists.
+kinds() {
+  sed -nE 's|^ *key_of\(.*"(.*)"\), *// ([A-Z_]+)$|\2 \1|p' "$src/proio/catalogue.cpp"
+  sed -nE 's|^ *qel::(.*)::kSection, *// ([A-Z_]+)$|\2 \1|p' "$src/proio/catalogue.cpp" | while read -r kind block; do
+    echo "$kind $(section_of "$block")"
+  done
+}
+
+# The older object's rows, one a line, with the names of sections and kinds in the place of what stands for them.
 older() {
-  awk -F'"' '
-    NR == FNR { split($0, kind, " "); pattern[kind[1]] = kind[2]; next }
-    /constexpr char kSection\[\] = / { section = $2 }
-    /constexpr auto kSection = / { match($0, /BLOCK_[A-Z_]+/); section = pattern[substr($0, RSTART, RLENGTH)] }
-    /constexpr Entry / {
-      key = $2
-      if (match($0, /KEY_[A-Z_]+/)) key = pattern[substr($0, RSTART, RLENGTH)]
-      print section "\t" key
-    }' <(kinds) "$src/proio/entries.h"
+  local section= statement
+  declare -A pattern
+  while read -r kind name; do
+    pattern[$kind]=$name
+  done < <(kinds)
+  while read -r statement; do
+    if [[ $statement =~ 'namespace rows = qel::'([a-z_]+) ]]; then
+      section=$(section_of "${BASH_REMATCH[1]}")
+    elif [[ $statement =~ 'kSection = Manipulator::'(BLOCK_[A-Z_]+) ]]; then
+      section=${pattern[${BASH_REMATCH[1]}]}
+    elif [[ $statement =~ 'constexpr Entry '.*Manipulator::(KEY_[A-Z_]+) ]]; then
+      printf '%s\t%s\n' "$section" "${pattern[${BASH_REMATCH[1]}]}"
+    elif [[ $statement =~ 'constexpr Entry '[^\"]*\"([^\"]*)\" ]]; then
+      printf '%s\t%s\n' "$section" "${BASH_REMATCH[1]}"
+    fi
+  done < <(grep -v '^ *//' "$src/proio/entries.h" | tr '\n' ' ' | tr ';' '\n')
   # Lines that have a position, and no key.
-  grep -q '"\[SURFACE"' "$src/proio/entries.h"
+  grep -q 'kPositionalSection;' "$src/proio/entries.h"
   printf '[SURFACE ELEMENT BOUNDARY CONDITION NAME]\t%s\n' 'header line' 'setting line'
 }
 

@@ -159,11 +159,11 @@ TEST(LineScanner, StopsWhereAReadFailsFurtherOn) {
 }
 
 // What `next_starting_with` gives has to be what `next` gives, less the lines that begin with
-// another byte.
-void expect_same_jumps(const std::string& contents, char first) {
+// something else.
+void expect_same_jumps(const std::string& contents, std::string_view prefix) {
   std::vector<Seen> expected;
   for (const Seen& seen : lines_of(contents)) {
-    if (contents[static_cast<std::size_t>(seen.start)] == first) {
+    if (contents.compare(static_cast<std::size_t>(seen.start), prefix.size(), prefix) == 0) {
       expected.push_back(seen);
     }
   }
@@ -171,7 +171,7 @@ void expect_same_jumps(const std::string& contents, char first) {
     MemoryFile file(contents);
     LineScanner lines(file, 0, block);
     std::vector<Seen> jumps;
-    for (Line line; lines.next_starting_with(first, line);) {
+    for (Line line; lines.next_starting_with(prefix, line);) {
       jumps.push_back({line.start, line.end, std::string(line.text)});
     }
     EXPECT_EQ(jumps, expected) << "in blocks of " << block;
@@ -179,37 +179,63 @@ void expect_same_jumps(const std::string& contents, char first) {
 }
 
 TEST(NextStartingWith, FindsTheLinesThatBeginWithTheByte) {
-  expect_same_jumps("[a]\nb [c]\n[d]\n\n\n[e", '[');
-  expect_same_jumps("no bracket\nat all", '[');
-  expect_same_jumps("x[\n[\r\n[[\n", '[');
-  expect_same_jumps("", '[');
+  expect_same_jumps("[a]\nb [c]\n[d]\n\n\n[e", "[");
+  expect_same_jumps("no bracket\nat all", "[");
+  expect_same_jumps("x[\n[\r\n[[\n", "[");
+  expect_same_jumps("", "[");
 }
 
 TEST(NextStartingWith, FindsThePartsOfALongLineThatBeginWithTheByte) {
   const std::string part(text::kLongestLine, 'x');
-  expect_same_jumps(part + "[part]\n[a]\n", '[');
-  expect_same_jumps("a\n" + part + part.substr(1) + "[not]" + part + "\n[b]\n", '[');
-  expect_same_jumps(std::string(5 * text::kLongestLine, '[') + "\n[b]", '[');
+  expect_same_jumps(part + "[part]\n[a]\n", "[");
+  expect_same_jumps("a\n" + part + part.substr(1) + "[not]" + part + "\n[b]\n", "[");
+  expect_same_jumps(std::string(5 * text::kLongestLine, '[') + "\n[b]", "[");
 }
 
-TEST(NextStartingWith, PassesAByteOrderMark) { expect_same_jumps("\xEF\xBB\xBF[a]\n[b]\n", '['); }
+TEST(NextStartingWith, FindsAPrefixWhereverABlockEnds) {
+  for (std::size_t size = LineScanner::kFirstBlock - 12; size < LineScanner::kFirstBlock + 2;
+       ++size) {
+    const std::string before =
+        std::string(size / 2, 'x') + "\n" + std::string(size - size / 2, 'y');
+    expect_same_jumps(before + "\n[section]\nkey\n[other]\n[section]", "[section]");
+    expect_same_jumps(before + "[section]\n", "[section]");
+  }
+}
+
+TEST(NextStartingWith, FindsThePartsOfALongLineThatBeginWithAPrefix) {
+  const std::string part(text::kLongestLine, 'x');
+  for (const std::size_t length : {1U, 2U, 3U, 4094U, 4095U}) {
+    expect_same_jumps(part + "[a]" + part.substr(length) + "[a]\n[a]\n", "[a]");
+  }
+  expect_same_jumps("[b]\n[a" + part + "\n[a]", "[a]");
+}
+
+// To look for the prefix again from every piece would take hours.
+TEST(NextStartingWith, LooksOnceThroughALongLine) {
+  const std::string contents = "x\n" + std::string(std::size_t{20} << 20U, 'y') + "[a]";
+  LineScanner lines(contents, 0, true, {.longest_line = 127});
+  Line line;
+  EXPECT_FALSE(lines.next_starting_with("[a]", line));
+}
+
+TEST(NextStartingWith, PassesAByteOrderMark) { expect_same_jumps("\xEF\xBB\xBF[a]\n[b]\n", "["); }
 
 TEST(NextStartingWith, AgreesOverBlocksOfManyLines) {
   std::string contents;
   for (int i = 0; i < 30000; ++i) {
     contents += i % 1000 == 999 ? "[section]\n" : (i % 7 == 0 ? "key = [value]\n" : "k\n");
   }
-  expect_same_jumps(contents, '[');
+  expect_same_jumps(contents, "[");
 }
 
 TEST(NextStartingWith, PassesALineOfManyBlocks) {
   const std::string line(3 * LineScanner::kBlock, 'x');
-  expect_same_jumps("[a]\n" + line + "\n[b]\n", '[');
-  expect_same_jumps("[a]\n" + line, '[');
+  expect_same_jumps("[a]\n" + line + "\n[b]\n", "[");
+  expect_same_jumps("[a]\n" + line, "[");
 }
 
 TEST(NextStartingWith, FindsNothingInPaddingOfManyBlocks) {
-  expect_same_jumps("[a]\n" + std::string(3 * LineScanner::kBlock, ' '), '[');
+  expect_same_jumps("[a]\n" + std::string(3 * LineScanner::kBlock, ' '), "[");
 }
 
 TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
@@ -218,7 +244,7 @@ TEST(NextStartingWith, FindsALineWhereverABlockEnds) {
     for (std::size_t size = block - 4; size < block + 4; ++size) {
       expect_same_jumps(
           std::string(size - 1, 'x').replace(block / 2, 1, "\n") + "\n[section]\nkey\n[other]\n",
-          '[');
+          "[");
     }
   }
 }
