@@ -16,7 +16,8 @@ std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::st
   if (file.read_at(0, contents.data(), contents.size()) != size || section.empty() || key.empty()) {
     return std::nullopt;
   }
-  LineScanner lines(contents, 0, true, {.longest_line = text::kAnyLength});
+  const bool may_hold_nul = contents.find('\0') != std::string::npos;
+  LineScanner lines(contents, 0, may_hold_nul, {.longest_line = text::kAnyLength});
   bool in_section = false;
   for (Line line; lines.next(line);) {
     if (!in_section) {

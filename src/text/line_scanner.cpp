@@ -173,7 +173,7 @@ bool LineScanner::next_starting_with(std::string_view prefix, Line& line) {
   const auto offset = [this] { return window_offset_ + static_cast<std::int64_t>(at_); };
   while (available() != 0 || read_more()) {
     const std::string_view ahead(window_ + at_, available());
-    const std::size_t hit = ahead.find(prefix);
+    const std::size_t hit = prefix.size() == 1 ? ahead.find(prefix.front()) : ahead.find(prefix);
     if (hit == 0) {
       return next(line);
     }
@@ -185,8 +185,11 @@ bool LineScanner::next_starting_with(std::string_view prefix, Line& line) {
     if (has_break) {
       at_ += before.rfind('\n') + 1;
       inside_long_line_ = false;
-      if (hit == std::string_view::npos || window_ + at_ == ahead.data() + hit) {
+      if (hit == std::string_view::npos) {
         continue;
+      }
+      if (window_ + at_ == ahead.data() + hit) {
+        return next(line);
       }
     }
     // The hit is inside that line, or behind what the window holds of it; parts of a long line
