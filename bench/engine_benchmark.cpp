@@ -1,7 +1,7 @@
 // What the engine's work costs, beside the cost of reading the same bytes once: open, one read, a
 // walk over the lines with memchr, close. "limits" is the ratio of the two, both taken in this run.
 // A store is set beside a store's own limit, too: open, a scan of what stands before the line, one
-// write of the line and all behind it, close. That ratio is "store_limits"; beside the same calls
+// write of the line and all after it, close. That ratio is "store_limits"; beside the same calls
 // without a look at the bytes that were read it is "store_calls".
 
 #include <QELG/QELG.h>
@@ -70,9 +70,9 @@ void store_once(const char* path, std::vector<char>& buffer, std::size_t line, b
   if (scans) {
     benchmark::DoNotOptimize(count_lines(buffer.data(), before));
   }
-  const ssize_t behind =
+  const ssize_t after =
       ::pwrite(file, buffer.data() + line, buffer.size() - line, static_cast<off_t>(line));
-  if (::close(file) != 0 || static_cast<std::size_t>(before + behind) != buffer.size()) {
+  if (::close(file) != 0 || static_cast<std::size_t>(before + after) != buffer.size()) {
     std::abort();
   }
 }
@@ -235,7 +235,7 @@ void object_getter(benchmark::State& state) {
   });
 }
 
-// With its stamp: two scans, and two writes of what stands behind them.
+// With its stamp: two scans, and two writes of what stands after them.
 void object_setter(benchmark::State& state) {
   const int middle = static_cast<int>(state.range(0) + 1) / 2;
   bool odd = false;

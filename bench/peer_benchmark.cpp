@@ -150,10 +150,10 @@ void peer_every_key(benchmark::State& state) {
     for (const Question& question : questions) {
       const char* text = peer.get(question.section.c_str(), question.key.c_str());
       require(text != nullptr);
-      char* behind = nullptr;
-      sum += std::strtod(text, &behind);
+      char* after = nullptr;
+      sum += std::strtod(text, &after);
       if (question.point != nullptr) {
-        sum += std::strtod(behind, nullptr);
+        sum += std::strtod(after, nullptr);
       }
     }
     benchmark::DoNotOptimize(sum);

@@ -3,7 +3,7 @@
 #include <string>
 #include <unordered_map>
 
-/// Libraries for files of sections and keys, each behind the same four operations: load a file, get
+/// Libraries for files of sections and keys, each after the same four operations: load a file, get
 /// a text, set one, save.
 struct SimpleIniPeer {
   static constexpr const char* kName = "SimpleIni";

@@ -50,7 +50,7 @@ class QELG_API QELG_SimulatorProcess {
 
   static constexpr unsigned int kMostInlets = 4096;
 
-  /// Adds an inlet behind the last one; the process owns it. Null once there are `kMostInlets`.
+  /// Adds an inlet after the last one; the process owns it. Null once there are `kMostInlets`.
   QELG_SimulatorFlowPackProcess* AppendFlowPackProcess();
   unsigned int GetNumOfInlets() const;
   /// Null for an inlet that does not exist.

@@ -24,7 +24,7 @@ class QELG_API QELG_Array {
   /// False when there is no memory for it.
   bool AppendDataPoint(T value);
   unsigned int GetNumOfDataPoints() const;
-  /// The item at an index from 0 on; false behind the last one.
+  /// The item at an index from 0 on; false after the last one.
   bool GetDataPoint(unsigned int index, T& value) const;
 
  private:

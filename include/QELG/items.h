@@ -345,7 +345,7 @@ QELG_API bool get_process_CoreEnterSwch(const QELG_SimulatorFlowPackProcess& inl
 /// [Flow-%ld] "CoreEnterTime": the time at which the core material enters, in sec.
 QELG_API void set_process_CoreEnterTime(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_CoreEnterTime(const QELG_SimulatorFlowPackProcess& inlet, double& value);
-/// [Flow-%ld] "FluidTemp": the temperature of the fluid that is injected behind the melt, in oC.
+/// [Flow-%ld] "FluidTemp": the temperature of the fluid that is injected after the melt, in oC.
 QELG_API void set_process_FluidTemp(QELG_SimulatorFlowPackProcess& inlet, double value);
 QELG_API bool get_process_FluidTemp(const QELG_SimulatorFlowPackProcess& inlet, double& value);
 /// [Flow-%ld] "FluidEnterType": a code: what makes the fluid enter.

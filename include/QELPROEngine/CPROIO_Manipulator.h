@@ -5,7 +5,7 @@
 #include "QELPROEngine/export.h"
 
 namespace qel::proio {
-struct Entry;
+struct Row;
 }
 
 /// Reads and writes one process file, key by key: an older interface to the file that
@@ -31,14 +31,14 @@ struct Entry;
 /// - A line of more than 127 characters, its line break counted, is seen as several lines. A value
 /// is cut there; replacing
 ///   it replaces the line to its real end.
-/// - A text result is all that stands behind "=" and the blanks that follow: trailing blanks and
+/// - A text result is all that stands after "=" and the blanks that follow: trailing blanks and
 /// the line feed that ended
 ///   the line belong to it. It points into a buffer of the thread and stays valid until the
 ///   thread's next read through any object of this class; names of rows have buffers of their own,
 ///   one for each kind. Copy it to keep it, and never free it.
 ///
 /// Setters. An entry that exists is replaced where the search finds it, in a later section too. A
-/// new one is added at the end of the file, behind a new header where the section is missing. A
+/// new one is added at the end of the file, after a new header where the section is missing. A
 /// file that does not exist is created. The file never becomes shorter: blanks fill it up. Reals
 /// are written as "%g" writes them, six significant digits with at least three in the exponent.
 /// Texts are written as they are given; they are read during the call alone, and never changed:
@@ -898,7 +898,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// the file.
   bool GetFlowHeatTransferCoefficient(double& value);
   /// [MoldThermalBoundaryType] "Flow": the heat transfer coefficient in filling, with a note such
-  /// as its unit. In W/m^2.K, and the unit is written behind the number. Unlike the other setters
+  /// as its unit. In W/m^2.K, and the unit is written after the number. Unlike the other setters
   /// it leaves "Date" alone. Argument: the value. False: no path is set.
   bool SetFlowHeatTransferCoefficient(double value);
   /// [MoldThermalBoundaryType] "Pack": the heat transfer coefficient in packing, with a note such
@@ -906,7 +906,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// the file.
   bool GetPackHeatTransferCoefficient(double& value);
   /// [MoldThermalBoundaryType] "Pack": the heat transfer coefficient in packing, with a note such
-  /// as its unit. In W/m^2.K, and the unit is written behind the number. Unlike the other setters
+  /// as its unit. In W/m^2.K, and the unit is written after the number. Unlike the other setters
   /// it leaves "Date" alone. Argument: the value. False: no path is set.
   bool SetPackHeatTransferCoefficient(double value);
 
@@ -1422,7 +1422,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// valid until the next read of its kind. False, outputs untouched: not in the file.
   bool GetMoldbase(int row, double& first, double& second, double& third, char*& name);
   /// [Moldbase] "%d": a mold base: three thermal values, its name, which may hold blanks, three
-  /// mechanical values. Writes the three thermal values and the name, and nothing behind it. Of a
+  /// mechanical values. Writes the three thermal values and the name, and nothing after it. Of a
   /// name with blanks the getter gives back the first word alone, or all but the last three of five
   /// words or more. Arguments: the row, thermal value 1, thermal value 2, thermal value 3, the
   /// name. False: no path is set, or the name is null or holds a Ctrl-Z (0x1A).
@@ -1454,7 +1454,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// is valid until the next read of its kind. False, outputs untouched: not in the file.
   bool GetMoldMetalMaterial(int row, double& first, double& second, double& third, char*& name);
   /// [MoldMetalMaterial] "%d": a mold metal: three thermal values, its name, which may hold blanks,
-  /// three mechanical values. Writes the three thermal values and the name, and nothing behind it.
+  /// three mechanical values. Writes the three thermal values and the name, and nothing after it.
   /// Of a name with blanks the getter gives back the first word alone, or all but the last three of
   /// five words or more. Arguments: the row, thermal value 1, thermal value 2, thermal value 3, the
   /// name. False: no path is set, or the name is null or holds a Ctrl-Z (0x1A).
@@ -1531,7 +1531,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1: first a name
   // line for each boundary condition, as many as "TotalNodeBC" of [Summary] says, then the setting
   // lines of all of them, one condition after the other. The lines end with their section: nothing
-  // behind the next header is found or touched, and a position behind the last line becomes the new
+  // after the next header is found or touched, and a position after the last line becomes the new
   // last line. Empty lines count. A position below 1 yields false, and nothing is written.
 
   /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the
@@ -1542,7 +1542,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool GetBCCountName(int line, int& count, char*& name);
   /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the
   /// number of its setting lines, its name, and an integer. Writes the first number and the name,
-  /// and no integer behind it. A line behind the section's last one becomes its new last line.
+  /// and no integer after it. A line after the section's last one becomes its new last line.
   /// Arguments: the line, from 1, the number of setting lines, the name. False: no path is set, or
   /// the name is null.
   bool SetBCCountName(int line, int count, char* name);
@@ -1558,17 +1558,17 @@ class QELPROENGINE_API CPROIO_Manipulator {
   /// Arguments: the line, from 1, the number of setting lines, the name, the integer. The name is
   /// valid until the next read of its kind. False, outputs untouched: not in the file.
   bool GetBCSetting(int line, int& count, char*& name, int& type);
-  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: after all header lines, one condition
   /// after the other: a number, "=", and two reals. Point `point` of condition `bc`: its line
-  /// stands behind as many header lines as "TotalNodeBC" of [Summary] says, and behind the setting
+  /// stands after as many header lines as "TotalNodeBC" of [Summary] says, and after the setting
   /// lines of the conditions before it, as many as their header lines say; a missing "TotalNodeBC"
   /// counts as 0. What the line lacks is 0. Arguments: the condition, the point, x, y. False,
   /// outputs untouched: a header line before it, or the line itself, is not there.
   bool GetBCProfile(int bc, int point, double& x, double& y);
-  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: after all header lines, one condition
   /// after the other: a number, "=", and two reals. Point `point` of condition `bc`, at the line
   /// that `GetBCProfile` reads; a header line or a "TotalNodeBC" that is missing counts as 0.
-  /// Written as the point, " = ", and the two reals. A line behind the section's last one becomes
+  /// Written as the point, " = ", and the two reals. A line after the section's last one becomes
   /// its new last line. Arguments: the condition, the point, x, y. False: no path is set, or no
   /// line has that position.
   bool SetBCProfile(int bc, int point, double x, double y);
@@ -1578,7 +1578,7 @@ class QELPROENGINE_API CPROIO_Manipulator {
   static constexpr int kGatedVersion = 1010;
 
   // The raw layer. An index below 0 addresses a line by its key, one of 1 or more the line at that
-  // position behind the section's header. Codes are 1 for success, -1001 for a file that cannot be
+  // position after the section's header. Codes are 1 for success, -1001 for a file that cannot be
   // opened, -1002 for a line that is not there.
   static char* GetBlock(int number, BLOCK kind);
   static char* GetKey(int number, KEY kind);
@@ -1588,24 +1588,24 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool checkIsThisPROFileSupport(int version);
 
   // What the accessors are made of: an entry and its items.
-  static const char* SectionOf(const qel::proio::Entry& entry);
-  static const char* KeyOf(const qel::proio::Entry& entry);
+  static const char* SectionOf(const qel::proio::Row& entry);
+  static const char* KeyOf(const qel::proio::Row& entry);
   template <class... Items>
-  bool Get(const qel::proio::Entry& entry, Items&&... items);
+  bool Get(const qel::proio::Row& entry, Items&&... items);
   template <class... Items>
-  bool GetZeroed(const qel::proio::Entry& entry, Items&&... items);
+  bool GetZeroed(const qel::proio::Row& entry, Items&&... items);
   template <class... Items>
-  bool GetGated(const qel::proio::Entry& entry, Items&... items);
+  bool GetGated(const qel::proio::Row& entry, Items&... items);
   template <class... Items>
-  bool Set(const qel::proio::Entry& entry, Items... items);
-  bool GetFlag(const qel::proio::Entry& entry, bool& flag);
+  bool Set(const qel::proio::Row& entry, Items... items);
+  bool GetFlag(const qel::proio::Row& entry, bool& flag);
 
   static bool GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& record);
   static bool GetBC(const char* text, int& count, char*& name, int& type);
-  bool SetCoefficient(const qel::proio::Entry& entry, double value);
-  bool GetMoldRow(const qel::proio::Entry& row, double& first, double& second, double& third,
+  bool SetCoefficient(const qel::proio::Row& entry, double value);
+  bool GetMoldRow(const qel::proio::Row& row, double& first, double& second, double& third,
                   char*& name);
-  bool SetMoldRow(const qel::proio::Entry& row, const QELPRO_MMM_MECHANICAL& record);
+  bool SetMoldRow(const qel::proio::Row& row, const QELPRO_MMM_MECHANICAL& record);
   bool ReadBC(long long line, char*& text);
   bool WriteBC(long long line, const char* text);
 

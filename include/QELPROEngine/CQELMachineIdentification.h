@@ -7,8 +7,8 @@ struct QELMachineRecord;
 /// The injection molding machines of a machine bank, for pick lists: which makers it lists, and
 /// which grades each of them has.
 ///
-/// A bank is text. Behind a line with "[Header]" a line with "Version" gives its version, which
-/// must be 7007; behind a line with "Database]" each line of at least 22 fields between commas that
+/// A bank is text. After a line with "[Header]" a line with "Version" gives its version, which
+/// must be 7007; after a line with "Database]" each line of at least 22 fields between commas that
 /// begins with the number 1 is a machine: its second field is the maker, its third the grade. A
 /// line with "[EOF]" ends the bank.
 ///
@@ -30,7 +30,7 @@ class QELPROENGINE_API CQELMachineIdentification {
   void SetIdentificationPath(const wchar_t* path);
 
   /// Forgets the machines and reads the bank. False when no path is set, when the file cannot be
-  /// opened (no machine is left then), or when a line with "TotalNo" stands behind the header (the
+  /// opened (no machine is left then), or when a line with "TotalNo" stands after the header (the
   /// machines before it stay). A bank of another version loads, and holds no machine.
   bool LoadFileData();
 

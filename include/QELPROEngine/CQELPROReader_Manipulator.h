@@ -65,7 +65,7 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// thread's next read, and `size` is not looked at. False, `value` untouched: not in the file.
   bool ReadString(const char* section, const char* key, char*& value, char* buffer,
                   unsigned int size);
-  /// As `ReadString`, by another search: the section begins behind the first line that mentions its
+  /// As `ReadString`, by another search: the section begins after the first line that mentions its
   /// name, the key may stand in a later section, and its line needs a "=": one without is not
   /// found, while `ReadString` gives its empty value. A `size` of 0 says nothing of the buffer,
   /// which must be large enough then; with any other a value that does not fit yields false.
@@ -1178,17 +1178,17 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// Once a member of [MoldTemperatureBC-%d] was called, no line is found. On a reader that was
   /// given a path the line that the first successful call found comes again from every later one,
   /// whatever `line` says, and after a call that found nothing the header itself is line 1. Over a
-  /// lent stream each call finds its own line, and a `line` behind the section's last one is a line
+  /// lent stream each call finds its own line, and a `line` after the section's last one is a line
   /// of a later section. What the text lacks is 0. Arguments: the number of setting lines, the
   /// name, the integer, the line, from
   /// 1. The name is valid until the next read of its kind. False, outputs untouched: not in the
   /// file.
   bool MoldTemperatureBCX_ReadBC(int& first, char*& name, int& second, int line);
-  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: after all header lines, one condition
   /// after the other: a number, "=", and two reals. Line `offset` + `setting` + the sum of the
   /// first integers of header lines 1 to `bc` -
-  /// 1. Nothing is there behind the next header: where the header lines or the line itself stand
-  /// behind it or nowhere, the result is false and the outputs are untouched. A member of
+  /// 1. Nothing is there after the next header: where the header lines or the line itself stand
+  /// after it or nowhere, the result is false and the outputs are untouched. A member of
   /// [MoldTemperatureBC-%d] that was called before hides the section. Arguments: the first real,
   /// the second real, the setting line, the condition, the number of header lines.
   bool MoldTemperatureBCX_ReadBCSetting(double& a, double& b, int setting, int bc, int offset);

@@ -479,7 +479,7 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// [Coolant] "%d": a coolant: density (g/cm^3), specific heat (erg/(g K)), thermal conductivity
   /// (erg/(s cm K)), viscosity (poise), coolant system, name (one word), channel diameter, channel
   /// group. The name is written as it is given. One that is empty or holds a blank is stored,
-  /// though the reader then yields one word, and wrong fields behind it. Arguments: the four
+  /// though the reader then yields one word, and wrong fields after it. Arguments: the four
   /// properties, the coolant system, the name, the diameter, the channel group, the coolant. False:
   /// not stored, the file unchanged.
   bool Coolant_WriteCoolant(
@@ -1147,7 +1147,7 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   // [SURFACE ELEMENT BOUNDARY CONDITION NAME]: lines addressed by position, from 1; see the reader.
 
   /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] header line: one for each boundary condition: the
-  /// number of its setting lines, its name, and an integer. A line behind the section's last one
+  /// number of its setting lines, its name, and an integer. A line after the section's last one
   /// becomes its new last line; no line of a later section is touched. Call it before any member of
   /// [MoldTemperatureBC-%d], or on a writer of its own. Arguments: the number of setting lines, the
   /// name, the integer, the line, from 1. False: not stored, the file unchanged.
@@ -1158,10 +1158,10 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   qel::IfConstant<Char> MoldTemperatureBCX_WriteBC(int first, Char* name, int second, int line) {
     return MoldTemperatureBCX_WriteBC(first, const_cast<char*>(name), second, line);
   }
-  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: behind all header lines, one condition
+  /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: after all header lines, one condition
   /// after the other: a number, "=", and two reals. Written as the number of the condition, " = ",
   /// and the two reals, at line `offset` + `setting` + the sum of the first integers of header
-  /// lines 1 to `bc` - 1. A line behind the section's last one becomes its new last line. Where one
+  /// lines 1 to `bc` - 1. A line after the section's last one becomes its new last line. Where one
   /// of those header lines is not in the section, nothing is written. Arguments: the first real,
   /// the second real, the setting line, the condition, the number of header lines. False: not
   /// stored, the file unchanged.

@@ -13,7 +13,7 @@
 namespace qel {
 namespace {
 
-// Those without a block come behind the others.
+// Those without a block come after the others.
 constexpr const SectionInfo* kWithoutBlock[] = {
     &mold_temperature_bc_x::kPositionalInfo,
     &kFlowSkin,

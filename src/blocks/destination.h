@@ -37,7 +37,7 @@ struct InletCount {
 
 /// Nothing where a load does not take the key.
 ///
-/// A list goes over from two rows, one behind the other: the key that counts its points, and the
+/// A list goes over from two rows, one after the other: the key that counts its points, and the
 /// numbered key of the points; or, without a count, from the latter alone, up to the first number
 /// that is missing. Where several keys go to one item, the last one that is there wins, in the
 /// order of the rows.

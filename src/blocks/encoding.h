@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "blocks/argument.h"
-#include "blocks/fields.h"
+#include "blocks/scan_and_print.h"
 
 /// How the text of an entry becomes typed values and the reverse. Each encoding is one pair of
 /// functions:

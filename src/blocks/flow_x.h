@@ -237,7 +237,7 @@ inline constexpr KeyInfo kKeys[] = {
     Key<Real>{"FluidTemp",
               {},
               {},
-              "the temperature of the fluid that is injected behind the melt, in oC",
+              "the temperature of the fluid that is injected after the melt, in oC",
               {.loader = InletItem::FluidTemp}},
     Key<Integer>{"FluidEnterType",
                  {},

@@ -38,7 +38,7 @@ std::optional<int> find_valve(Snapshot& file, int id) {
   const int total =
       integer(file, qel::summary::kSection, qel::key_of(qel::summary::kKeys, "TotalGateCTL"), 0);
   if (id == 0) {
-    // A valve without an identifier counts, so that the search ends behind the valves that the file
+    // A valve without an identifier counts, so that the search ends after the valves that the file
     // holds.
     for (int valve = 1; valve <= total; ++valve) {
       if (identifier(file, valve) == 0) {

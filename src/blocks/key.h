@@ -8,8 +8,8 @@
 
 #include "blocks/argument.h"
 #include "blocks/destination.h"
-#include "blocks/field.h"
 #include "blocks/type_name.h"
+#include "blocks/typed_value.h"
 
 namespace qel {
 

@@ -33,7 +33,7 @@ int CQELPROBlockIOMoldTemperatureBCX::WriteBC(int first, const char* name, int s
              : to_int(Result::no_open);
 }
 
-// The setting lines of a condition stand behind those of the conditions before it, whose header
+// The setting lines of a condition stand after those of the conditions before it, whose header
 // lines say how many each has.
 int CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int condition, int offset,
                                                    int& position) {

@@ -63,7 +63,7 @@ inline constexpr KeyInfo kLines[] = {
         "setting line",
         {"MoldTemperatureBCX_ReadBCSetting"},
         {"MoldTemperatureBCX_WriteBCSetting"},
-        "behind all header lines, one condition after the other: a number, \"=\", and two reals",
+        "after all header lines, one condition after the other: a number, \"=\", and two reals",
         {.older = {"GetBCProfile", "SetBCProfile"}}},
 };
 
@@ -102,9 +102,9 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
   int ReadBC(int& first, char*& name, int& second, int line);
   int WriteBC(int first, const char* name, int second, int line);
 
-  /// Setting line `setting` of condition `condition`; the first setting line stands behind `offset`
+  /// Setting line `setting` of condition `condition`; the first setting line stands after `offset`
   /// header lines. The header lines of the conditions before it, and a line that is read, stand
-  /// before the next section's header, or are not there. A line that is written behind the
+  /// before the next section's header, or are not there. A line that is written after the
   /// section's last one becomes its last.
   int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
   int WriteBCSetting(double a, double b, int setting, int condition, int offset);

@@ -9,7 +9,7 @@
 namespace qel {
 namespace {
 
-// The tokens in front of and behind the name, and the stretch of the text that is the name.
+// The tokens in front of and after the name, and the stretch of the text that is the name.
 void scan_material(const char* text, NameBuffer& buffer, double& f1, double& f2, double& f3,
                    char*& name, double& f5, double& f6, double& f7) {
   fields::clear(f1, f2, f3, name, f5, f6, f7);

@@ -22,7 +22,7 @@ struct CoolantLine {
   static constexpr const char* kReading = "What the text lacks is 0, the name null.";
   static constexpr const char* kWriting =
       "The name is written as it is given. One that is empty or holds a blank is stored, though "
-      "the reader then yields one word, and wrong fields behind it.";
+      "the reader then yields one word, and wrong fields after it.";
   static void scan(const char* text, double& p1, double& p2, double& p3, double& p4, int& system,
                    char*& name, double& f7, int& f8);
   static std::string print(double p1, double p2, double p3, double p4, int system, const char* name,
@@ -144,7 +144,7 @@ struct MoldInsertLineOfFour : InsertLineOfFour {
                    int& fourth);
 };
 
-/// The name between the first two double quotes and the angle behind it, written "\"%s\"\t%g". A
+/// The name between the first two double quotes and the angle after it, written "\"%s\"\t%g". A
 /// text without two quotes holds neither.
 struct ContactAngle {
   static constexpr const char* kName = "name in double quotes and angle";

@@ -175,7 +175,7 @@ bool CQELPROIO::SetFilePtr(std::FILE*& stream) {
   if (stream == nullptr) {
     return false;
   }
-  auto lent = std::make_unique<qel::platform::LentStream>(stream);
+  auto lent = std::make_unique<qel::platform::CallerStream>(stream);
   if (file_.is_open()) {
     release_held();
   }
@@ -255,7 +255,7 @@ int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned
   return to_int(deliver(*lines, line, target, value, buffer, size));
 }
 
-// Runs work on the lines behind the section's first header. What is absent because the file could
+// Runs work on the lines after the section's first header. What is absent because the file could
 // not be read on is a failure of the file.
 template <class Work>
 Result CQELPROIO::scan_section(std::string_view section, Work work) {

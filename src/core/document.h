@@ -10,7 +10,7 @@
 #include "core/lookup.h"
 #include "core/result.h"
 #include "core/store.h"
-#include "platform/lent_stream.h"
+#include "platform/caller_stream.h"
 #include "platform/os_file.h"
 
 /// The document over one process file.
@@ -115,8 +115,8 @@ class CQELPROIO {
   std::uint64_t read_identity_ = 0;  // of the file that was opened for reading last
   std::uint32_t seen_changes_ =
       0;  // what this program had written to the file when the index was last right
-  qel::platform::OsFile file_;                       // opened by this document for reading
-  std::unique_ptr<qel::platform::LentStream> lent_;  // lent by the caller
+  qel::platform::OsFile file_;                         // opened by this document for reading
+  std::unique_ptr<qel::platform::CallerStream> lent_;  // lent by the caller
   std::FILE* stream_ = nullptr;  // the lent stream, or one handed out over `file_`
   bool attached_ = false;
   bool indexed_ = false;

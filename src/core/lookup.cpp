@@ -51,7 +51,7 @@ void learn(const IndexedTarget& at, const Target& target, const Line& line) {
   }
 }
 
-// From the line behind the header on; or, when `header_comes_first`, from the header, which then
+// From the line after the header on; or, when `header_comes_first`, from the header, which then
 // counts as line 1.
 std::optional<Line> find_inside(LineScanner& lines, const Target& target,
                                 const IndexedTarget* indexed, bool header_comes_first) {
@@ -109,7 +109,7 @@ class IndexedLookup {
   std::optional<Line> find_in(const Section* section, const Place& place);
   std::optional<Line> find_known_entry(const Place& place);
   std::optional<Line> find_known_position(const LineMark& mark);
-  std::optional<Line> find_behind_passed(Section& section);
+  std::optional<Line> find_after_passed(Section& section);
   std::optional<Line> find_in_known(Section& section);
   std::optional<Line> find_in_unknown();
   std::optional<Line> note_change() {
@@ -186,7 +186,7 @@ std::optional<Line> IndexedLookup::find_known_position(const LineMark& mark) {
 }
 
 // Goes on where the last lookup in the section stopped.
-std::optional<Line> IndexedLookup::find_behind_passed(Section& section) {
+std::optional<Line> IndexedLookup::find_after_passed(Section& section) {
   const std::optional<Line> line = find_in(&section, section.passed.place());
   if (!line || !section.passed.matches(line->text)) {
     return note_change();
@@ -198,7 +198,7 @@ std::optional<Line> IndexedLookup::find_behind_passed(Section& section) {
 std::optional<Line> IndexedLookup::find_in_known(Section& section) {
   const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
   if (has_passed && target_.by_key()) {
-    const std::optional<Line> found = find_behind_passed(section);
+    const std::optional<Line> found = find_after_passed(section);
     if (found || changed_ || lines_->failed()) {
       return found;
     }

@@ -17,7 +17,7 @@ std::optional<Line> find_plainly(LineScanner& lines, const Target& target);
 /// The first header of the section.
 bool find_plain_header(LineScanner& lines, std::string_view section, Line& header);
 
-/// Whether the line at a position (counted from 1 behind the header) is the one the plain scan
+/// Whether the line at a position (counted from 1 after the header) is the one the plain scan
 /// looks for.
 bool is_target(const Target& target, const Line& line, int position);
 

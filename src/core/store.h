@@ -31,7 +31,7 @@ class Store {
 
   /// Replaces the line that the plain scan finds, or appends the section with the entry. A key that
   /// the plain scan does not find is inserted as `insert` does where `may_insert` says so, and
-  /// `absent` otherwise; a position behind the section's last line becomes its new last line.
+  /// `absent` otherwise; a position after the section's last line becomes its new last line.
   Result set(const Entry& entry, bool may_insert);
 
   /// Adds an entry to its section: before a line of the same key, before the next header, or at the

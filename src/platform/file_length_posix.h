@@ -30,7 +30,7 @@ inline bool is_within_limit(std::int64_t end) {
 /// Sets room aside for a file to grow from a length to another, which it does not take yet. A file
 /// system that cannot do that is asked for room by the write itself, which puts the old bytes back
 /// when it fails.
-inline bool set_room_aside(int fd, std::int64_t from, std::int64_t to) {
+inline bool reserve_blocks(int fd, std::int64_t from, std::int64_t to) {
   return uninterrupted([=] { return ::fallocate(fd, FALLOC_FL_KEEP_SIZE, from, to - from); }) ==
              0 ||
          errno == EOPNOTSUPP || errno == ENOSYS;

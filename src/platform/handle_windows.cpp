@@ -58,7 +58,7 @@ bool write_to(HANDLE handle, std::int64_t offset, const char* from, std::size_t 
   return true;
 }
 
-bool set_aside(HANDLE handle, std::int64_t size) {
+bool reserve_length(HANDLE handle, std::int64_t size) {
   FILE_ALLOCATION_INFO room{};
   room.AllocationSize.QuadPart = size;
   if (::SetFileInformationByHandle(handle, FileAllocationInfo, &room, sizeof room) != 0) {

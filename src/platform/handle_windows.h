@@ -26,7 +26,7 @@ std::int64_t read_from(HANDLE handle, std::int64_t offset, char* to, std::size_t
 bool write_to(HANDLE handle, std::int64_t offset, const char* from, std::size_t count);
 
 /// Sets room aside on the disk; the size stays.
-bool set_aside(HANDLE handle, std::int64_t size);
+bool reserve_length(HANDLE handle, std::int64_t size);
 
 bool set_size(HANDLE handle, std::int64_t size);
 

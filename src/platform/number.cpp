@@ -89,17 +89,17 @@ bool is_huge(const Mantissa& number) {
   const auto digit = number.hexadecimal ? is_hex_digit : is_digit;
   std::int64_t magnitude = 0;
   bool significant = false;
-  bool behind_point = false;
+  bool after_point = false;
   const char* at = number.begin;
   for (; at != number.value_end && (digit(*at) || *at == '.'); ++at) {
     if (*at == '.') {
-      behind_point = true;
+      after_point = true;
       continue;
     }
     significant = significant || *at != '0';
-    if (significant && !behind_point) {
+    if (significant && !after_point) {
       magnitude += digit_weight;
-    } else if (!significant && behind_point) {
+    } else if (!significant && after_point) {
       magnitude -= digit_weight;
     }
   }

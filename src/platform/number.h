@@ -9,7 +9,7 @@ namespace qel::platform {
 /// Numbers as the C library's formats read and print them in the "C" locale, whatever locale the
 /// program has set.
 ///
-/// The scanners take the position in a text and move it behind what they consumed. On failure the
+/// The scanners take the position in a text and move it after what they consumed. On failure the
 /// value is untouched, and a caller that scans several fields stops there, as a scan format does.
 
 /// "%d": leading white space, a sign, decimal digits; a number that is too large wraps to 32 bits.

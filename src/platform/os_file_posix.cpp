@@ -148,7 +148,7 @@ bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) 
   return true;
 }
 
-bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) {
+bool OsFile::reserve(std::int64_t old_size, std::int64_t end) {
   if (!is_within_limit(end)) {
     return false;
   }
@@ -163,7 +163,7 @@ bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) {
   if (static_cast<std::int64_t>(status.st_blocks) * kStatBlock >= end) {
     return true;
   }
-  return set_room_aside(descriptor(handle_), old_size, end);
+  return reserve_blocks(descriptor(handle_), old_size, end);
 }
 
 bool OsFile::truncate(std::int64_t size) {

@@ -80,8 +80,8 @@ bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) 
   return write_to(to_handle(handle_), offset, from, count);
 }
 
-bool OsFile::secure_growth(std::int64_t old_size, std::int64_t end) {
-  return end <= old_size || set_aside(to_handle(handle_), end);
+bool OsFile::reserve(std::int64_t old_size, std::int64_t end) {
+  return end <= old_size || reserve_length(to_handle(handle_), end);
 }
 
 bool OsFile::truncate(std::int64_t size) {

@@ -32,7 +32,7 @@ class RandomAccess {
 
   /// Makes sure that the file, which is `old_size` long, can be written up to `end`, before any old
   /// byte is touched. The length that `size` tells stays `old_size`.
-  virtual bool secure_growth(std::int64_t old_size, std::int64_t end) = 0;
+  virtual bool reserve(std::int64_t old_size, std::int64_t end) = 0;
 
   virtual bool truncate(std::int64_t size) = 0;
 

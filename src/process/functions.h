@@ -6,7 +6,7 @@
 #include "QELG/QELG.h"
 #include "blocks/destination.h"
 
-/// The simulator's functions behind the destinations of a load.
+/// The simulator's functions after the destinations of a load.
 namespace qel {
 
 /// A setter's type says how the text is converted.

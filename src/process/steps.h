@@ -38,7 +38,7 @@ consteval std::size_t step_count() {
   return count;
 }
 
-/// In the order of the rows. A count without its points behind it does not compile.
+/// In the order of the rows. A count without its points after it does not compile.
 template <const auto& keys>
 consteval auto steps_of() {
   std::array<LoadStep, step_count<keys>()> steps{};

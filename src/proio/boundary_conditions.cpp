@@ -22,7 +22,7 @@ namespace {
 constexpr Target kConditions{summary::kBoundaryConditionNo.section.text,
                              summary::kBoundaryConditionNo.key.text};
 
-// Where a profile point stands behind the header of the boundary conditions.
+// Where a profile point stands after the header of the boundary conditions.
 struct Place {
   long long line = 0;
   bool named = false;     // whether each of the conditions before has a name line

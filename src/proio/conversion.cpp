@@ -86,7 +86,7 @@ bool CPROIO_Manipulator::SetPackHeatTransferCoefficient(double value) {
 
 // The file's date stays as it is, on purpose: the two coefficients have always been written without
 // a stamp.
-bool CPROIO_Manipulator::SetCoefficient(const Entry& entry, double value) {
+bool CPROIO_Manipulator::SetCoefficient(const Row& entry, double value) {
   constexpr const char* kUnit = "        (W/m^2.K)";
   return qel::attempt([&] {
     return IsOK(Write(SectionOf(entry), KeyOf(entry),

@@ -18,16 +18,16 @@ struct Name {
 };
 
 /// Where an entry stands. The numbers matter to numbered names alone.
-struct Entry {
+struct Row {
   Name<Manipulator::BLOCK> section;
   Name<Manipulator::KEY> key;
   int section_number = 0;
   int key_number = 0;
 
   /// The entry in the section of this number.
-  [[nodiscard]] constexpr Entry in(int number) const { return {section, key, number, key_number}; }
+  [[nodiscard]] constexpr Row in(int number) const { return {section, key, number, key_number}; }
   /// The entry whose key has this number.
-  [[nodiscard]] constexpr Entry at(int number) const {
+  [[nodiscard]] constexpr Row at(int number) const {
     return {section, key, section_number, number};
   }
 };

@@ -38,7 +38,7 @@ bool CPROIO_Manipulator::GetValveGateControlData(int gate, int row, double& valu
 }
 bool CPROIO_Manipulator::SetValveGateControlData(int gate, int row, double value, int second,
                                                  int mode, int fourth) {
-  const Entry entry = gate_valve::kControlRow.in(gate).at(row);
+  const Row entry = gate_valve::kControlRow.in(gate).at(row);
   const bool has_fourth = mode == 2 || mode == 3;
   return has_fourth ? Set(entry, value, second, mode, fourth) : Set(entry, value, second, mode);
 }

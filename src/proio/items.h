@@ -3,7 +3,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "blocks/fields.h"
+#include "blocks/scan_and_print.h"
 #include "proio/scratch.h"
 
 /// The items of a value, such as the two reals of a profile point: fields, and what the object

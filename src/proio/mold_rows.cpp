@@ -32,16 +32,16 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
                mechanical[1], mechanical[2]);
     return true;
   }
-  const std::size_t behind_name = words.count() - kNumbersOnEachSide;
+  const std::size_t after_name = words.count() - kNumbersOnEachSide;
   for (std::size_t i = 0; i < kNumbersOnEachSide; ++i) {
     scan_items(words[i].data(), thermal[i]);
-    scan_items(words[behind_name + i].data(), mechanical[i]);
+    scan_items(words[after_name + i].data(), mechanical[i]);
   }
-  name.assign(words.stretch(kNumbersOnEachSide, behind_name - 1));
+  name.assign(words.stretch(kNumbersOnEachSide, after_name - 1));
   return true;
 }
 
-bool CPROIO_Manipulator::GetMoldRow(const Entry& row, double& first, double& second, double& third,
+bool CPROIO_Manipulator::GetMoldRow(const Row& row, double& first, double& second, double& third,
                                     char*& name) {
   char* text = nullptr;
   if (!Get(row, text)) {
@@ -58,7 +58,7 @@ bool CPROIO_Manipulator::GetMoldRow(const Entry& row, double& first, double& sec
 
 // Mechanical value 2 stands in the place of thermal value 3, and again in its own: existing files
 // have this layout.
-bool CPROIO_Manipulator::SetMoldRow(const Entry& row, const QELPRO_MMM_MECHANICAL& record) {
+bool CPROIO_Manipulator::SetMoldRow(const Row& row, const QELPRO_MMM_MECHANICAL& record) {
   const double* mechanical = record.mechanical;
   return Set(row, record.thermal[0], record.thermal[1], mechanical[1], record.name, mechanical[0],
              mechanical[1], mechanical[2]);

@@ -39,12 +39,12 @@ char* CPROIO_Manipulator::GetKey(int number, KEY kind) {
   return key_name(number, kind, scratch().key);
 }
 
-const char* CPROIO_Manipulator::SectionOf(const Entry& entry) {
+const char* CPROIO_Manipulator::SectionOf(const Row& entry) {
   return entry.section.text != nullptr ? entry.section.text
                                        : GetBlock(entry.section_number, entry.section.kind);
 }
 
-const char* CPROIO_Manipulator::KeyOf(const Entry& entry) {
+const char* CPROIO_Manipulator::KeyOf(const Row& entry) {
   return entry.key.text != nullptr ? entry.key.text : GetKey(entry.key_number, entry.key.kind);
 }
 
@@ -86,7 +86,7 @@ bool CPROIO_Manipulator::checkIsThisPROFileSupport(int version) {
   return GetFileVersion(file_version) && file_version >= version;
 }
 
-bool CPROIO_Manipulator::GetFlag(const Entry& entry, bool& flag) {
+bool CPROIO_Manipulator::GetFlag(const Row& entry, bool& flag) {
   int value = 0;
   Get(entry, value);
   return flag = value == 1;

@@ -7,7 +7,7 @@
 /// What the accessors are made of: the raw layer, with a value of one or several items.
 
 template <class... Items>
-bool CPROIO_Manipulator::Get(const qel::proio::Entry& entry, Items&&... items) {
+bool CPROIO_Manipulator::Get(const qel::proio::Row& entry, Items&&... items) {
   char* text = nullptr;
   const bool found = IsOK(Read(SectionOf(entry), KeyOf(entry), text, kByKey));
   if (found) {
@@ -18,7 +18,7 @@ bool CPROIO_Manipulator::Get(const qel::proio::Entry& entry, Items&&... items) {
 
 /// Items that the value does not supply become 0, or null.
 template <class... Items>
-bool CPROIO_Manipulator::GetZeroed(const qel::proio::Entry& entry, Items&&... items) {
+bool CPROIO_Manipulator::GetZeroed(const qel::proio::Row& entry, Items&&... items) {
   char* text = nullptr;
   const bool found = Get(entry, text);
   if (found) {
@@ -30,7 +30,7 @@ bool CPROIO_Manipulator::GetZeroed(const qel::proio::Entry& entry, Items&&... it
 
 /// For keys that files of an older layout have not: 0 there, even where the key stands in the file.
 template <class... Items>
-bool CPROIO_Manipulator::GetGated(const qel::proio::Entry& entry, Items&... items) {
+bool CPROIO_Manipulator::GetGated(const qel::proio::Row& entry, Items&... items) {
   if (checkIsThisPROFileSupport(kGatedVersion)) {
     return Get(entry, items...);
   }
@@ -39,7 +39,7 @@ bool CPROIO_Manipulator::GetGated(const qel::proio::Entry& entry, Items&... item
 }
 
 template <class... Items>
-bool CPROIO_Manipulator::Set(const qel::proio::Entry& entry, Items... items) {
+bool CPROIO_Manipulator::Set(const qel::proio::Row& entry, Items... items) {
   if ((qel::proio::is_null(items) || ...)) {
     return false;
   }

@@ -29,10 +29,10 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
     if (file.read_at(begin, last, piece.size()) != end - begin) {
       break;
     }
-    const std::size_t behind = piece.find_last_not_of(kPadding) + 1;
-    marked = marked || piece.find(kEndMark, behind) != std::string_view::npos;
-    end = begin + static_cast<std::int64_t>(behind);
-    if (behind != 0) {
+    const std::size_t after = piece.find_last_not_of(kPadding) + 1;
+    marked = marked || piece.find(kEndMark, after) != std::string_view::npos;
+    end = begin + static_cast<std::int64_t>(after);
+    if (after != 0) {
       break;
     }
   }

@@ -13,7 +13,7 @@ namespace qel::refdata {
 /// Walks over the lines of a reference data file.
 ///
 /// A line ends at "\n" or "\r\n". One that is longer than 1023 characters, its line break counted
-/// as one, comes in pieces. What stands behind a NUL byte of a line is not seen. A byte order mark
+/// as one, comes in pieces. What stands after a NUL byte of a line is not seen. A byte order mark
 /// at the start of the file belongs to no line, and neither does a 0x1A at its very end with the
 /// blanks around it: other programs' text mode ends there.
 class BoundedLines {
@@ -37,8 +37,8 @@ class BoundedLines {
 
   platform::RandomAccess* file_ = nullptr;
   std::unique_ptr<char[]> block_;
-  std::int64_t offset_ = 0;  // of what comes behind the window
-  std::int64_t end_ = 0;     // of the contents; what stands behind is no line
+  std::int64_t offset_ = 0;  // of what comes after the window
+  std::int64_t end_ = 0;     // of the contents; what stands after is no line
   std::string_view window_;
   std::size_t at_ = 0;
 };

@@ -46,7 +46,7 @@ void read_entry(std::string line, Coolant& coolant) {
   if (!platform::scan_word(at, key)) {
     return;
   }
-  const char* const behind_key = at;
+  const char* const after_key = at;
   if (!platform::scan_word(at, value)) {
     return;
   }
@@ -59,7 +59,7 @@ void read_entry(std::string line, Coolant& coolant) {
       coolant.valid = coolant.row_count > 0;
     }
   } else if (contains(key, "Data-")) {
-    read_row(key, behind_key, coolant);
+    read_row(key, after_key, coolant);
   }
 }
 

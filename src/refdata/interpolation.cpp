@@ -22,13 +22,13 @@ double interpolate(const Column& x, const Column& y, std::int64_t rows, double t
   }
   for (std::int64_t row = low + 1; row < high; ++row) {
     const double before = x(row - 1);
-    const double behind = x(row);
-    if (before <= t && behind >= t) {
+    const double after = x(row);
+    if (before <= t && after >= t) {
       const double value = y(row - 1);
       if (t == before) {
         return value;
       }
-      return t == behind ? y(row) : value + (y(row) - value) * (t - before) / (behind - before);
+      return t == after ? y(row) : value + (y(row) - value) * (t - before) / (after - before);
     }
   }
   return 0;

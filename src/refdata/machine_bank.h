@@ -26,7 +26,7 @@ bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& maker
 struct BankReport {
   bool has_header = false;  ///< A line with "[Header]".
   bool has_data = false;    ///< A line with "Database]".
-  bool has_total = false;   ///< A line with "TotalNo" behind the header, which ends the reading.
+  bool has_total = false;   ///< A line with "TotalNo" after the header, which ends the reading.
   int version = 0;  ///< As `read_machine_bank` gives it to a new object: 0 without a version line.
   std::string unread_version_line;  ///< The last version line of which no number could be read
                                     ///< ("Version=7007"), as it stands.

@@ -16,8 +16,8 @@ inline constexpr std::size_t kAnyLength = std::numeric_limits<std::size_t>::max(
 /// process file's document.
 struct Dialect {
   std::size_t longest_line = kLongestLine;
-  /// Whether blanks that trail the last line are part of it, so that only those behind its line
-  /// break, or behind an end mark, are padding.
+  /// Whether blanks that trail the last line are part of it, so that only those after its line
+  /// break, or after an end mark, are padding.
   bool keeps_blanks = false;
   /// How wide the key of a padded entry is at least.
   std::size_t key_columns = 20;

@@ -45,12 +45,12 @@ std::string with_entry(const SectionedText& document, const std::string& section
         line_break + section + line_break + text::padded_entry(key, value) + line_break);
   }
   if (const std::optional<TextLine> line = document.find(*own, key)) {
-    // Behind a line that is too long stands another one, without a line break between them.
+    // After a line that is too long stands another one, without a line break between them.
     return contents.substr(0, line->begin) + text::padded_entry(key, value) +
            (line->goes_on ? line_break : "") + contents.substr(line->begin + line->whole.size());
   }
-  const bool is_last = own->behind == document.line_count();
-  const std::size_t place = is_last ? end_of_lines(document) : document.line(own->behind).begin;
+  const bool is_last = own->after == document.line_count();
+  const std::size_t place = is_last ? end_of_lines(document) : document.line(own->after).begin;
   return with_lines_at(contents, place, text::plain_entry(key, value) + line_break);
 }
 

@@ -10,7 +10,7 @@ namespace qel {
 /// stays.
 ///
 /// A key of another section is never touched. The line that a lookup takes is replaced. A new key
-/// stands behind the last line of its section, a new section at the end of the file.
+/// stands after the last line of its section, a new section at the end of the file.
 std::string with_entry(const SectionedText& document, const std::string& section,
                        const std::string& key, const std::string& value);
 

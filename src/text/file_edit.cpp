@@ -26,7 +26,7 @@ bool FileEdit::load() {
 bool FileEdit::overwrite(std::size_t at, std::string_view bytes) {
   const auto offset = static_cast<std::int64_t>(at);
   const auto old_size = static_cast<std::int64_t>(image_.bytes().size());
-  if (!file_.secure_growth(old_size, offset + static_cast<std::int64_t>(bytes.size()))) {
+  if (!file_.reserve(old_size, offset + static_cast<std::int64_t>(bytes.size()))) {
     return false;
   }
   if (file_.write_at(offset, bytes.data(), bytes.size())) {
@@ -43,15 +43,15 @@ bool FileEdit::replace(std::size_t begin, std::size_t end, std::string_view line
     return overwrite(begin, lines);
   }
   const std::size_t contents_size = contents_.size();
-  std::string behind;
+  std::string after;
   if (drops_padding_) {
-    behind =
+    after =
         (end < contents_size ? contents_ : lines).back() == '\n' ? std::string_view() : line_break_;
   } else if (lines.size() < end - begin) {
     // The blanks of earlier padding are there already.
-    behind.assign(end - begin - lines.size(), ' ');
+    after.assign(end - begin - lines.size(), ' ');
   }
-  const std::string_view bytes = image_.compose(lines, end, contents_size, behind);
+  const std::string_view bytes = image_.compose(lines, end, contents_size, after);
   if (!overwrite(begin, bytes)) {
     return false;
   }

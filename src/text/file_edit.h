@@ -40,11 +40,11 @@ class FileEdit {
   /// Puts whole lines in the place of contents()[begin, end).
   bool replace(std::size_t begin, std::size_t end, std::string_view lines);
 
-  /// Puts whole lines where a line begins, or at the end: behind a last line without a line break,
+  /// Puts whole lines where a line begins, or at the end: after a last line without a line break,
   /// which gets one.
   bool insert(std::size_t at, std::string lines);
 
-  /// Puts a header and whole lines at the end, behind an empty line.
+  /// Puts a header and whole lines at the end, after an empty line.
   bool append_section(std::string_view header, std::string_view lines);
 
  private:

@@ -9,8 +9,8 @@ bool FileImage::load(platform::RandomAccess& file, std::int64_t size) {
     return false;
   }
   size_ = static_cast<std::size_t>(size);
-  memory_.reset(new char[kRoom + size_ + kRoom]);
-  begin_ = memory_.get() + kRoom;
+  memory_.reset(new char[kReserve + size_ + kReserve]);
+  begin_ = memory_.get() + kReserve;
   return file.read_at(0, begin_, size_) == size;
 }
 
@@ -21,18 +21,18 @@ void FileImage::cover(Covered& covered, char* at, std::string_view text) {
 }
 
 std::string_view FileImage::compose(std::string_view before, std::size_t from, std::size_t to,
-                                    std::string_view behind) {
-  if (before.size() > kRoom || behind.size() > kRoom) {
-    copy_.reserve(before.size() + (to - from) + behind.size());
-    return copy_.assign(before).append(bytes(), from, to - from).append(behind);
+                                    std::string_view after) {
+  if (before.size() > kReserve || after.size() > kReserve) {
+    copy_.reserve(before.size() + (to - from) + after.size());
+    return copy_.assign(before).append(bytes(), from, to - from).append(after);
   }
   cover(before_, begin_ + from - before.size(), before);
-  cover(behind_, begin_ + to, behind);
-  return {before_.at, before.size() + (to - from) + behind.size()};
+  cover(after_, begin_ + to, after);
+  return {before_.at, before.size() + (to - from) + after.size()};
 }
 
 void FileImage::restore() {
-  for (Covered* covered : {&behind_, &before_}) {
+  for (Covered* covered : {&after_, &before_}) {
     if (covered->at != nullptr) {
       std::memcpy(covered->at, covered->bytes.data(), covered->bytes.size());
       covered->at = nullptr;

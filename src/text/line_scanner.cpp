@@ -46,7 +46,7 @@ LineScanner::LineScanner(std::string_view contents, std::int64_t from, bool may_
   }
 }
 
-// Reads one more block behind what the window still holds; false when nothing is left.
+// Reads one more block after what the window still holds; false when nothing is left.
 bool LineScanner::read_more() {
   if (at_end_) {
     return false;
@@ -65,13 +65,13 @@ bool LineScanner::read_more() {
   at_ = 0;
   length_ = kept;
   const std::size_t room = capacity_ - length_;
-  char* const behind = block() + length_;
+  char* const after = block() + length_;
   const std::int64_t got =
-      file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), behind, room);
+      file_->read_at(window_offset_ + static_cast<std::int64_t>(length_), after, room);
   failed_ = got < 0;
   const std::size_t added = failed_ ? 0 : static_cast<std::size_t>(got);
   at_end_ = added < room;
-  may_hold_nul_ = may_hold_nul_ || find_byte(behind, added, '\0') != nullptr;
+  may_hold_nul_ = may_hold_nul_ || find_byte(after, added, '\0') != nullptr;
   length_ += added;
   if (at_end_) {
     drop_end_mark();
@@ -87,13 +87,13 @@ void LineScanner::drop_end_mark() {
 // Whether everything from here to the end of the file is padding.
 bool LineScanner::is_padding(std::size_t begin) {
   const std::int64_t offset = window_offset_ + static_cast<std::int64_t>(begin);
-  if (offset < first_text_behind_) {
+  if (offset < no_padding_before_) {
     return false;
   }
   const std::string_view rest(window_ + begin, length_ - begin);
   const std::size_t content = rest.find_first_not_of(text::kPadding);
   if (content != std::string_view::npos) {
-    first_text_behind_ = offset + static_cast<std::int64_t>(content);
+    no_padding_before_ = offset + static_cast<std::int64_t>(content);
     return false;
   }
   if (at_end_) {
@@ -108,7 +108,7 @@ bool LineScanner::is_padding(std::size_t begin) {
     const std::size_t found =
         std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(text::kPadding);
     if (found != std::string_view::npos) {
-      first_text_behind_ = at + static_cast<std::int64_t>(found);
+      no_padding_before_ = at + static_cast<std::int64_t>(found);
       return false;
     }
     at += got;
@@ -192,7 +192,7 @@ bool LineScanner::next_starting_with(std::string_view prefix, Line& line) {
         return next(line);
       }
     }
-    // The hit is inside that line, or behind what the window holds of it; parts of a long line
+    // The hit is inside that line, or after what the window holds of it; parts of a long line
     // count as lines. None of those in front of it needs another look at the window.
     if (hit != std::string_view::npos) {
       const std::int64_t hit_offset = offset() + (ahead.data() + hit - (window_ + at_));

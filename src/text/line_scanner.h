@@ -11,7 +11,7 @@ namespace qel {
 
 struct Line {
   std::int64_t start = 0;
-  std::int64_t end = 0;    ///< The offset behind the line and its line break.
+  std::int64_t end = 0;    ///< The offset after the line and its line break.
   std::string_view text;   ///< Without its line break, up to the first NUL byte; valid until the
                            ///< scanner moves on.
   bool is_piece = false;   ///< Begins inside a line that is too long, and comes in pieces.
@@ -23,7 +23,7 @@ struct Line {
 /// - A line ends at "\n" or "\r\n". One that is longer than the dialect's longest comes as several
 /// lines.
 /// - A byte order mark at the start of the file belongs to no line.
-/// - Blanks behind the last line break are padding that an earlier store left, and no line; so is
+/// - Blanks after the last line break are padding that an earlier store left, and no line; so is
 /// an end mark there. One that ends
 ///   the last line belongs to no text.
 class LineScanner {
@@ -77,7 +77,7 @@ class LineScanner {
   bool failed_ = false;
   bool inside_long_line_ = false;
   bool may_hold_nul_ = false;
-  std::int64_t first_text_behind_ =
+  std::int64_t no_padding_before_ =
       0;  // up to here, blanks without a line break are known not to be padding
   std::unique_ptr<char[]> buffer_;  // null while a few lines are all that is expected
   char few_[kFew];

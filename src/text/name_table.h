@@ -68,7 +68,7 @@ class NameTable {
   }
 
  private:
-  struct Entry {
+  struct Named {
     std::uint64_t hash;
     std::size_t name_at;
     std::size_t name_size;
@@ -100,8 +100,8 @@ class NameTable {
     slots_ = std::move(larger);
   }
 
-  std::string names_;  // one behind the other
-  std::vector<Entry> entries_;
+  std::string names_;  // one after the other
+  std::vector<Named> entries_;
   std::vector<std::uint32_t>
       slots_;  // 0, or 1 + an entry's position; a power of two of them, at most half taken
 };

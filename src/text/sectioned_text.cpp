@@ -11,7 +11,7 @@ namespace qel {
 namespace {
 
 // Lookups take a header by its first token; a name with blanks is known by the whole of it, up to
-// the bracket that has words behind it.
+// the bracket that has words after it.
 std::string_view name_of(std::string_view header) {
   const std::string_view token = text::first_token(header);
   if (token.size() > 1 && token.back() == ']') {
@@ -73,7 +73,7 @@ void SectionedText::split() {
   for (LineScanner scanner(contents_); scanner.next(line);) {
     if (text::is_header(line.text)) {
       if (!sections_.empty()) {
-        sections_.back().behind = begins_.size();
+        sections_.back().after = begins_.size();
       }
       sections_.push_back({name_of(line.text), begins_.size(), lines});
     }
@@ -136,7 +136,7 @@ const TextSection* SectionedText::find(std::string_view section) const {
 
 std::optional<TextLine> SectionedText::find(const TextSection& section,
                                             std::string_view key) const {
-  for (std::size_t index = section.header + 1; index < section.behind; ++index) {
+  for (std::size_t index = section.header + 1; index < section.after; ++index) {
     const TextLine candidate = line(index);
     if (text::first_token_is(candidate.text, key) && kind_of(candidate) != LineKind::comment) {
       return candidate;

@@ -13,9 +13,9 @@ struct TextLine {
   std::string_view whole;  ///< Without its line break.
   std::string_view text;   ///< What the engine takes for the line: up to a NUL byte.
   std::size_t begin = 0;   ///< Where it stands in the file.
-  std::size_t end = 0;     ///< Behind its line break.
+  std::size_t end = 0;     ///< After its line break.
   std::size_t number = 0;  ///< From 1; lines that stand in one line of the file have its number.
-  bool goes_on = false;    ///< It has no line break, and another line behind it.
+  bool goes_on = false;    ///< It has no line break, and another line after it.
 };
 
 /// A section: its header, and the lines up to the next header.
@@ -23,7 +23,7 @@ struct TextSection {
   std::string_view
       name;  ///< The header's first token, or the whole header where that is not bracketed.
   std::size_t header = 0;  ///< The index of its header among the lines.
-  std::size_t behind = 0;  ///< The index behind its last line.
+  std::size_t after = 0;   ///< The index after its last line.
   bool repeated =
       false;  ///< A section that lookups take for the same came before: it is never read.
 };
@@ -76,12 +76,12 @@ class SectionedText {
   std::vector<std::size_t> begins_;  // of the lines
   std::size_t end_ = 0;              // of the last one
   std::vector<std::size_t>
-      pieces_;  // the indexes of the lines that stand behind another one in one line of the file
+      pieces_;  // the indexes of the lines that stand after another one in one line of the file
   std::vector<TextSection> sections_;
   std::vector<std::size_t> by_name_;  // the sections by name, those of one name in the file's order
 };
 
-/// The text behind the first "=" of the line as it stands, without blanks around it. Longer than
+/// The text after the first "=" of the line as it stands, without blanks around it. Longer than
 /// what the engine takes where the line has a NUL byte.
 std::string_view whole_value(const TextLine& line);
 

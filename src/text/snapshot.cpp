@@ -20,7 +20,7 @@ std::optional<int> printed_number(std::string_view text) {
   return whole && number >= 1 && text.front() != '0' ? std::optional(number) : std::nullopt;
 }
 
-std::optional<int> number_behind(std::string_view text, std::string_view prefix) {
+std::optional<int> number_after(std::string_view text, std::string_view prefix) {
   return text.substr(0, prefix.size()) == prefix ? printed_number(text.substr(prefix.size()))
                                                  : std::nullopt;
 }
@@ -118,7 +118,7 @@ std::vector<int> Snapshot::numbered_sections(std::string_view pattern, int most)
     std::string_view name = sections_.name(section);
     if (name.size() > suffix.size() && name.substr(name.size() - suffix.size()) == suffix) {
       name.remove_suffix(suffix.size());
-      const std::optional<int> number = number_behind(name, pattern.substr(0, place));
+      const std::optional<int> number = number_after(name, pattern.substr(0, place));
       if (number && *number <= most) {
         result.push_back(*number);
       }
@@ -135,7 +135,7 @@ const std::vector<Snapshot::Numbered>& Snapshot::numbered(std::string_view secti
     return numbered_;
   }
   for (auto at = first_from(prefix); at != sorted_.end(); ++at) {
-    const Entry& entry = entries_[at->entry];
+    const KeyLine& entry = entries_[at->entry];
     if (entry.key.substr(0, prefix.size()) != prefix) {
       break;
     }

@@ -44,7 +44,7 @@ class Snapshot {
                                                       std::string_view prefix, int most);
 
  private:
-  struct Entry {
+  struct KeyLine {
     std::string_view key;
     std::string_view line;
   };
@@ -63,9 +63,9 @@ class Snapshot {
 
   std::string contents_;
   bool may_hold_nul_ = false;
-  NameTable<std::int64_t> sections_;    // where the line behind the header begins
+  NameTable<std::int64_t> sections_;    // where the line after the header begins
   std::size_t sorted_section_ = kNone;  // the section that was asked for last
-  std::vector<Entry> entries_;          // its entries as they stand in the file
+  std::vector<KeyLine> entries_;        // its entries as they stand in the file
   std::vector<Sorted> sorted_;          // the same by key, then by place
   std::vector<Numbered> numbered_;      // what was handed out last
 };

@@ -4,7 +4,7 @@
 
 namespace qel {
 
-/// What is looked for: the entry of a key, or the line at a position (1 is the first line behind
+/// What is looked for: the entry of a key, or the line at a position (1 is the first line after
 /// the section's header).
 struct Target {
   std::string_view section;

@@ -64,8 +64,8 @@ bool is_header(std::string_view line) {
   // The brackets may hold blanks; a "=" inside them ends the first token before they close.
   for (std::size_t at = 1; at < line.size() && line[at] != '='; ++at) {
     if (line[at] == ']' && at + 1 < line.size() && (line[at + 1] == ' ' || line[at + 1] == '\t')) {
-      const std::size_t behind = line.find_first_not_of(" \t", at + 1);
-      return behind == std::string_view::npos || line[behind] != '=';
+      const std::size_t after = line.find_first_not_of(" \t", at + 1);
+      return after == std::string_view::npos || line[after] != '=';
     }
   }
   return false;

@@ -21,7 +21,7 @@ std::string_view first_token(std::string_view line);
 /// Whether the first token of the line is exactly this non-empty text.
 bool first_token_is(std::string_view line, std::string_view token);
 
-/// The text behind the first "=", without leading blanks and trailing blanks, tabs and line breaks.
+/// The text after the first "=", without leading blanks and trailing blanks, tabs and line breaks.
 /// A line without "=" has an empty value.
 std::string_view entry_value(std::string_view line);
 
@@ -32,7 +32,7 @@ std::string_view untrimmed_value(std::string_view line);
 std::string_view index_value(std::string_view line);
 
 /// Whether a section begins at the line: it reads "[...]" once what trails it is removed, or words
-/// stand behind its "[...]". A "=" behind the brackets makes it the entry of an odd key.
+/// stand after its "[...]". A "=" after the brackets makes it the entry of an odd key.
 bool is_header(std::string_view line);
 
 /// Whether the line is the header of the section of this name. A name that does not begin with a
@@ -54,7 +54,7 @@ inline constexpr std::string_view kPadding = " \x1A";
 std::string_view without_end_mark(std::string_view last_line, const Dialect& dialect = {});
 
 /// The length of a file's contents without the padding that an earlier store left at their end:
-/// behind the last line break, or behind the text of a last line that has none, where the dialect
+/// after the last line break, or after the text of a last line that has none, where the dialect
 /// keeps no blanks.
 std::size_t length_without_padding(std::string_view contents, const Dialect& dialect = {});
 

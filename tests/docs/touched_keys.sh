@@ -30,9 +30,9 @@ older() {
       section=$(section_of "${BASH_REMATCH[1]}")
     elif [[ $statement =~ 'kSection = Manipulator::'(BLOCK_[A-Z_]+) ]]; then
       section=${pattern[${BASH_REMATCH[1]}]}
-    elif [[ $statement =~ 'constexpr Entry '.*Manipulator::(KEY_[A-Z_]+) ]]; then
+    elif [[ $statement =~ 'constexpr Row '.*Manipulator::(KEY_[A-Z_]+) ]]; then
       printf '%s\t%s\n' "$section" "${pattern[${BASH_REMATCH[1]}]}"
-    elif [[ $statement =~ 'constexpr Entry '[^\"]*\"([^\"]*)\" ]]; then
+    elif [[ $statement =~ 'constexpr Row '[^\"]*\"([^\"]*)\" ]]; then
       printf '%s\t%s\n' "$section" "${BASH_REMATCH[1]}"
     fi
   done < <(grep -v '^ *//' "$src/proio/entries.h" | tr '\n' ' ' | tr ';' '\n')

@@ -2,10 +2,10 @@
 
 namespace qelpro_test::allocations {
 
-enum class Failure { none, one, all_behind };
+enum class Failure { none, one, all_after };
 
 /// The calls of `operator new` of this thread are counted from here on, the library's included, and
-/// the n-th fails: it alone, or with all behind it.
+/// the n-th fails: it alone, or with all after it.
 void fail(int n, Failure failure);
 
 struct Outcome {

@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
              })}),
     [](const auto& row) { return row.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(LentStream, FailingCalls,
+INSTANTIATE_TEST_SUITE_P(CallerStream, FailingCalls,
                          testing::Values(Case{"SameLength", kFile, through_a_stream([](auto& w) {
                                                 return w.FlowX_WriteFillingTime(2.5, 1);
                                               })},

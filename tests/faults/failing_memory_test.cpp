@@ -11,7 +11,7 @@
 #include "members/every_call.h"
 #include "support/scratch.h"
 
-// Every allocation of every member fails once, in turn, alone and with all behind it. No exception
+// Every allocation of every member fails once, in turn, alone and with all after it. No exception
 // leaves the library, a member that says no has left its outputs and its file alone, and the same
 // call of the same object works as soon as there is memory. Every run of the tests takes some of
 // the members, `./dev load` all of them.
@@ -31,7 +31,7 @@ const Around kAround{[] { allocations::fail(planned_at, planned); },
 struct Trial {
   Answer first;
   allocations::Outcome memory;
-  std::string left;  // the file behind the first call
+  std::string left;  // the file after the first call
   Answer again;
   std::string left_again;
 };
@@ -57,7 +57,7 @@ template <class Attempt, class Check>
 void fail_each_allocation(const std::string& name, Attempt attempt, Check check) {
   const Trial undisturbed = attempt(0, Failure::none);
   const int calls = undisturbed.memory.calls;
-  for (const Failure failure : {Failure::one, Failure::all_behind}) {
+  for (const Failure failure : {Failure::one, Failure::all_after}) {
     for (int n = 1; n <= calls && !testing::Test::HasFailure(); ++n) {
       SCOPED_TRACE(name + ", allocation " + std::to_string(n) + " of " + std::to_string(calls) +
                    (failure == Failure::one ? "" : " and all behind it"));

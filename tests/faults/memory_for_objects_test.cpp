@@ -18,7 +18,7 @@
 
 // What the members have no list for: making, copying, assigning and destroying the exported
 // objects, their files, raw access and reference data, with every allocation failing once, in turn,
-// alone and with all behind it.
+// alone and with all after it.
 
 namespace qelpro_test {
 namespace {
@@ -118,7 +118,7 @@ TEST_P(MemoryFor, MayLackAtAnyAllocation) {
   const std::string undisturbed = GetParam().run(files(), armed_at(0, Failure::none));
   calls = outcome.calls;
   EXPECT_GT(calls, 0);
-  for (const Failure failure : {Failure::one, Failure::all_behind}) {
+  for (const Failure failure : {Failure::one, Failure::all_after}) {
     for (int n = 1; n <= calls && !HasFailure(); ++n) {
       SCOPED_TRACE("allocation " + std::to_string(n) + " of " + std::to_string(calls) +
                    (failure == Failure::one ? "" : " and all behind it"));

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* kLongText = "a text that no string holds without memory";
 
-// One argument of a call, and what stands there behind the call.
+// One argument of a call, and what stands there after the call.
 template <class Argument>
 struct Given;
 

@@ -11,7 +11,7 @@
 /// Outputs begin with values that no file holds.
 namespace qelpro_test {
 
-/// What is to happen right before and right behind a call, in which the test itself uses no memory.
+/// What is to happen right before and right after a call, in which the test itself uses no memory.
 struct Around {
   void (*begin)();
   void (*end)();

@@ -8,7 +8,7 @@
 #include "support/process_items.h"
 
 /// A simulator process as text: a line for each item that is set and each list that is not empty,
-/// inlets behind the process, their lines indented. Numbers stand in the shortest form that reads
+/// inlets after the process, their lines indented. Numbers stand in the shortest form that reads
 /// back as the same number.
 namespace qelpro_test {
 

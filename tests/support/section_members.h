@@ -20,7 +20,7 @@
 ///         reads(READER(FlowX_ReadFRProfile), "[Flow-2]", "FR-3", "0.5\t30", 0.5, 30.0, 3, 2)),
 ///         name_of_row);
 ///
-/// The values behind the entry stand for the member's arguments, in order: what an output is to be,
+/// The values after the entry stand for the member's arguments, in order: what an output is to be,
 /// or which number is passed. Of a member with overloads one is chosen by
 /// `Taking<int&>::of(&CQELPROReader_Manipulator::X)`.
 namespace qelpro_test {

@@ -4,7 +4,7 @@
 // QELPRO_TEST_SIGNAL  the name of a call in front of which the program is interrupted
 // QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
 //
-// A file whose name holds "unreadable" fails behind its first 16 KiB.
+// A file whose name holds "unreadable" fails after its first 16 KiB.
 
 #include <dlfcn.h>
 #include <fcntl.h>

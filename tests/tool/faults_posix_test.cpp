@@ -83,7 +83,7 @@ TEST(Set, LeavesTheOldFileAndNothingElseWhenACallFails) {
   }
 }
 
-TEST(New, LeavesNothingBehindWhenACallFails) {
+TEST(New, LeavesNothingAfterWhenACallFails) {
   for (const std::string call : {"write", "fsync", "ftruncate", "link"}) {
     const Scratch scratch;
     const Outcome outcome = shell(

@@ -23,10 +23,10 @@ constexpr std::size_t kLongest = 4095;
 constexpr const char* kTooLong =
     "line too long: behind its first 4095 characters another line is read";
 
-// A line that is `front` and as many letters as fill it, and what stands behind them in the same
+// A line that is `front` and as many letters as fill it, and what stands after them in the same
 // line.
-std::string long_line(const std::string& front, const std::string& behind) {
-  return front + std::string(kLongest - front.size(), 'v') + behind + "\n";
+std::string long_line(const std::string& front, const std::string& after) {
+  return front + std::string(kLongest - front.size(), 'v') + after + "\n";
 }
 
 TEST(LongLine, IsHandedOutWholeWithAWordOnWhatTheEngineReads) {

@@ -76,7 +76,7 @@ TEST(ProcessNotes, NameAControlTypeWithoutTheBracketThatTheLoaderTakes) {
           ":4: [FlowCTLInfo] FlowCTL-1]: dropped: of project type 8 no control type is loaded\n"));
 }
 
-TEST(ProcessNotes, NameTransferPressurePointsBehindInjectionPressurePoints) {
+TEST(ProcessNotes, NameTransferPressurePointsAfterInjectionPressurePoints) {
   EXPECT_THAT(notes_of("[Flow-1]\nIPSet = 1\nIP-1 = 0 5\nTPSet = 1\nTP-1 = 0 6\n"),
               HasSubstr(":4: [Flow-1] TPSet: its points are appended to those of \"IPSet\"\n"));
   EXPECT_EQ(notes_of("[Flow-1]\nIPSet = 0\nTPSet = 1\nTP-1 = 0 6\n"), "");

@@ -256,14 +256,14 @@ TEST(Set, LeavesEveryOtherByteAlone) {
 
 TEST(Set, StoresIntoTheSectionThatTheTailOfALongLineBegins) {
   const Scratch scratch;
-  // Behind its first 4095 characters the engine sees a line of its own, here a section.
+  // After its first 4095 characters the engine sees a line of its own, here a section.
   const std::string front = "[B]\ny = " + std::string(4091, 'v') + "[A]\n";
   const std::string file = scratch.file(front + "x = 1\n[A]\nx = 2\n");
   EXPECT_EQ(qelpro({"set", file, "A", "x", "3"}).status, 0);
   EXPECT_EQ(bytes_of(file), front + "x                    = 3\n[A]\nx = 2\n");
 }
 
-TEST(EveryCommand, TakesAHeaderWithWordsBehindItForAHeader) {
+TEST(EveryCommand, TakesAHeaderWithWordsAfterItForAHeader) {
   const Scratch scratch;
   const std::string file = scratch.file(
       "[Flow-1] # first inlet\nFillTime = 1\n[Flow-2]\tsecond\nMeltTemp = 2\n[SURFACE ELEMENT "
@@ -540,7 +540,7 @@ TEST(Show, ReadsAClaimedCountAsFarAsThePositionalSectionGoes) {
             HasSubstr("# condition 2 says 1 settings, of which 0 stand in the section\n")));
 }
 
-TEST(Show, ReadsThePositionalSectionOfNamesWithEqualsSignsAndBlanksBehindItsHeader) {
+TEST(Show, ReadsThePositionalSectionOfNamesWithEqualsSignsAndBlanksAfterItsHeader) {
   const Scratch scratch;
   const std::string file = scratch.file(
       "[SURFACE ELEMENT BOUNDARY CONDITION NAME] \t \n1\tA=B\t0\n1\tSide\t1\n1 = 40\t60\n2 = x\n3 "

@@ -95,7 +95,7 @@ std::vector<Member> members_of(const ExportedObject& object, const std::string& 
 
 std::string declared(const Parameter& parameter) { return parameter.type + parameter.name; }
 
-// "head(a, b)tail" with lines broken behind commas where it is too long.
+// "head(a, b)tail" with lines broken after commas where it is too long.
 std::string call(const std::string& head, const Words& arguments, const std::string& tail,
                  const std::string& indent) {
   std::string line = head + "(";

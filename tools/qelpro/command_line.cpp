@@ -41,7 +41,7 @@ std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
   for (const CLI::Option* option : command.get_options()) {
     const std::string name = option->get_name();
     const bool takes_a_value = option->get_items_expected_min() > 0 && !option->get_positional();
-    // A value that is missing: nothing, or another option, stands behind it.
+    // A value that is missing: nothing, or another option, stands after it.
     const auto word = takes_a_value ? std::find(words.begin(), words.end(), name) : words.end();
     if (word != words.end() &&
         (word + 1 == words.end() || command.get_option_no_throw(*(word + 1)) != nullptr)) {
@@ -51,7 +51,7 @@ std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
   return error.what();
 }
 
-// What the parser refused, behind the command's name where there is one.
+// What the parser refused, after the command's name where there is one.
 std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int count,
                           char** arguments) {
   const std::vector<std::string> words(arguments + std::min(count, 1), arguments + count);

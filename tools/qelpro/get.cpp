@@ -11,7 +11,7 @@
 
 namespace {
 
-// What a line behind a blank says is not found, though it stands there.
+// What a line after a blank says is not found, though it stands there.
 std::string why_not_found(const SectionedText& document, const TextSection* section,
                           const std::string& key) {
   if (section == nullptr) {
@@ -20,7 +20,7 @@ std::string why_not_found(const SectionedText& document, const TextSection* sect
   if (qel::is_positional(section->name)) {
     return "not found: its lines have a position and no key; qelpro show prints them";
   }
-  for (std::size_t index = section->header + 1; index < section->behind; ++index) {
+  for (std::size_t index = section->header + 1; index < section->after; ++index) {
     const TextLine candidate = document.line(index);
     std::string_view line = candidate.text;
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));

@@ -6,7 +6,7 @@
 
 using Json = nlohmann::ordered_json;
 
-/// Writes a value as JSON, in lines that are indented by two. The lines behind the first one are
+/// Writes a value as JSON, in lines that are indented by two. The lines after the first one are
 /// indented by so many more.
 ///
 /// Numbers that JSON does not know are their texts: "nan", "inf", "-inf". A byte of a text that is

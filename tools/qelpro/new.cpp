@@ -10,13 +10,13 @@
 namespace {
 
 // Somewhat more than a default document has.
-constexpr std::size_t kRoom = std::size_t{16} * 1024;
+constexpr std::size_t kExpectedSize = std::size_t{16} * 1024;
 
 }  // namespace
 
 int run_new(const NewArguments& arguments) {
   const std::string& path = arguments.file;
-  platform::NewFile file(path, kRoom);
+  platform::NewFile file(path, kExpectedSize);
   CPROIO_Manipulator document;
   document.SetFilePath(file.temporary_path().data());
   document.SetDefault();

@@ -18,7 +18,7 @@ class Output {
   Output& operator<<(std::string_view text);
   Output& operator<<(char character) { return *this << std::string_view(&character, 1); }
 
-  /// Only behind this is it known that everything was written.
+  /// Only after this is it known that everything was written.
   void finish();
 
  private:

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "blocks/catalogue.h"
-#include "blocks/fields.h"
+#include "blocks/scan_and_print.h"
 #include "entry_json.h"
 #include "text/text.h"
 #include "value_check.h"
@@ -88,7 +88,7 @@ void visit_positional_lines(const SectionedText& document, const TextSection& se
   const auto line_at = [&](std::int64_t position) {
     return document.line(section.header + static_cast<std::size_t>(position));
   };
-  const auto lines = static_cast<std::int64_t>(section.behind - section.header) - 1;
+  const auto lines = static_cast<std::int64_t>(section.after - section.header) - 1;
   std::int64_t headers = 0;
   for (; headers < lines; ++headers) {
     const TextLine line = line_at(headers + 1);

@@ -58,7 +58,7 @@ Json values_of(const QELG_Array<double>& array) {
   return result;
 }
 
-// Behind what `object` holds already.
+// After what `object` holds already.
 template <class Source, std::size_t count>
 void add_lists(Json& object, const Source& source, const NamedList<Source> (&lists)[count]) {
   for (const NamedList<Source>& list : lists) {

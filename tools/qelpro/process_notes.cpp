@@ -40,15 +40,15 @@ int printed_number(std::string_view text) {
              : 0;
 }
 
-// What stands behind the number of a numbered name.
-std::string_view behind_number(std::string_view name) {
+// What stands after the number of a numbered name.
+std::string_view after_number(std::string_view name) {
   return name.substr(name.find('d', name.find('%')) + 1);
 }
 
 // A name with that in the place of its number; one without a number as it is.
 std::string name_with(std::string_view name, std::string_view number) {
   return qel::is_numbered(name)
-             ? std::string(qel::prefix_of(name)).append(number).append(behind_number(name))
+             ? std::string(qel::prefix_of(name)).append(number).append(after_number(name))
              : std::string(name);
 }
 
@@ -124,7 +124,7 @@ class Diagnosis {
     }
     Entries& entries = taken_[name];
     entries.name = name;
-    for (std::size_t index = section->header + 1; index < section->behind; ++index) {
+    for (std::size_t index = section->header + 1; index < section->after; ++index) {
       take_line(document_.line(index), entries);
     }
     return &entries;
@@ -196,7 +196,7 @@ class Diagnosis {
     }
   }
 
-  // The load takes one number of a pair; of what stands behind that, nothing is told.
+  // The load takes one number of a pair; of what stands after that, nothing is told.
   void check_pair(const Entries& section, const TextLine& line, const std::string& key,
                   bool takes_second) {
     const std::string value(qel::text::entry_value(line.text));
@@ -276,7 +276,7 @@ class Diagnosis {
     }
   }
 
-  // The points of a second list that go to one profile come behind those of the first.
+  // The points of a second list that go to one profile come after those of the first.
   void take_counted(const Entries& section, const qel::KeyInfo& count, const qel::KeyInfo& points,
                     Given& given) {
     if (counted(section, count.text, qel::prefix_of(points.text)) == 0) {
@@ -465,7 +465,7 @@ class Diagnosis {
   // two project types none.
   void control_types_not_taken(int type, const qel::InletSource& source) {
     const std::string_view prefix = qel::prefix_of(kControlType.text);
-    const std::string_view suffix = behind_number(kControlType.text);
+    const std::string_view suffix = after_number(kControlType.text);
     const Entries* info = taken(qel::flow_ctl_info::kSection);
     if (info == nullptr) {
       return;

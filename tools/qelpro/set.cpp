@@ -17,7 +17,7 @@
 namespace {
 
 // Line breaks at a value's very end are no part of it.
-std::string without_line_breaks_behind(const std::string& value) {
+std::string without_line_breaks_after(const std::string& value) {
   return value.substr(0, value.find_last_not_of("\r\n") + 1);
 }
 
@@ -63,7 +63,7 @@ void store(const SetArguments& arguments, const std::string& section, const std:
 }  // namespace
 
 int run_set(const SetArguments& arguments) {
-  const std::string value = without_line_breaks_behind(arguments.value);
+  const std::string value = without_line_breaks_after(arguments.value);
   std::string section;
   try {
     section = section_name(arguments.section);

@@ -228,7 +228,7 @@ class KnownSections {
 std::set<std::string_view> keys_of_lines_without_equals(const SectionedText& document,
                                                         const TextSection& section) {
   std::set<std::string_view> keys;
-  for (std::size_t index = section.header + 1; index < section.behind; ++index) {
+  for (std::size_t index = section.header + 1; index < section.after; ++index) {
     const TextLine line = document.line(index);
     if (qel::kind_of(line) == LineKind::without_equals) {
       keys.insert(qel::text::first_token(line.text));
@@ -242,7 +242,7 @@ std::set<std::string_view> keys_that_lines_share(const SectionedText& document,
                                                  const TextSection& section) {
   const std::set<std::string_view> without_equals = keys_of_lines_without_equals(document, section);
   std::set<std::string_view> shared;
-  for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.behind;
+  for (std::size_t index = section.header + 1; !without_equals.empty() && index < section.after;
        ++index) {
     const TextLine line = document.line(index);
     if (qel::kind_of(line) == LineKind::entry &&
@@ -257,7 +257,7 @@ void print_entries(const SectionedText& document, const TextSection& section,
                    const qel::SectionInfo* known_section, Printer& printer) {
   const std::set<std::string_view> shared = keys_that_lines_share(document, section);
   std::set<std::string_view> keys;
-  for (std::size_t index = section.header + 1; index < section.behind; ++index) {
+  for (std::size_t index = section.header + 1; index < section.after; ++index) {
     const TextLine line = document.line(index);
     const LineKind kind = qel::kind_of(line);
     if (kind == LineKind::blank) {
@@ -297,10 +297,10 @@ void print_section(const SectionedText& document, const TextSection& section,
   }
   printer.begin_section(head);
   const TextLine header = document.line(section.header);
-  if (const std::string_view behind =
+  if (const std::string_view after =
           qel::text::index_value(header.text.substr(section.name.size()));
-      !behind.empty()) {
-    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(behind) +
+      !after.empty()) {
+    printer.note("line " + std::to_string(header.number) + ": \"" + std::string(after) +
                  "\" behind the header is not read");
   }
   if (qel::is_positional(section.name) && !section.repeated) {

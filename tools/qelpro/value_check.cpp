@@ -196,7 +196,7 @@ Complaint material(std::string_view text) {
   return {};
 }
 
-// An integer, a name of one or more words, an integer, which may be missing behind a name of one
+// An integer, a name of one or more words, an integer, which may be missing after a name of one
 // word.
 Complaint positional_header(std::string_view text) {
   const std::vector<std::string> words = qel::split(text, kBlanks);
@@ -222,7 +222,7 @@ std::vector<std::string> between_tabs(std::string_view text) {
   return pieces;
 }
 
-// Integer, name and real. Where nothing but blanks stands between two tabs and a number behind
+// Integer, name and real. Where nothing but blanks stands between two tabs and a number after
 // them, the name was left out.
 Complaint insert_of_three(std::string_view text) {
   const std::vector<std::string> pieces = between_tabs(text);

@@ -189,13 +189,13 @@ TYPED_TEST(EveryAccessor, ReplacesItsLineWhereItStandsAndNeverShortensTheFile) {
     const std::string old_line = std::string(row.key) + "=" + std::string(60, 'v') + "\n";
     const std::string before =
         "[FileHeader]\n" + entry("Date", "2001/01/01 00:00:00") + std::string(row.section) + "\n";
-    const std::string behind = "[Last]\nx = 1\n";
-    Object& object = this->over(before + old_line + behind);
+    const std::string after = "[Last]\nx = 1\n";
+    Object& object = this->over(before + old_line + after);
     EXPECT_TRUE(row.set(object, S::second()));
     const std::string line = entry(row.key, S::text(S::second()));
     ASSERT_GT(old_line.size(), line.size());
     EXPECT_EQ(this->masked_bytes(),
-              masked(before) + line + behind + std::string(old_line.size() - line.size(), ' '));
+              masked(before) + line + after + std::string(old_line.size() - line.size(), ' '));
   }
 }
 

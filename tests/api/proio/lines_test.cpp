@@ -142,9 +142,9 @@ TEST_F(Lines, SameStoreTwiceLeavesWhatOneLeaves) {
       EXPECT_TRUE(store());
       EXPECT_EQ(masked_bytes(), once);
       EXPECT_TRUE(object_.SetMeshLayer(6));
-      const std::string with_more_behind = masked_bytes();
+      const std::string with_more_after = masked_bytes();
       EXPECT_TRUE(store());
-      EXPECT_EQ(masked_bytes(), with_more_behind);
+      EXPECT_EQ(masked_bytes(), with_more_after);
     }
   }
 }
@@ -235,7 +235,7 @@ TEST_F(Lines, WriteIsSeenByTheNextReadOfAnotherObject) {
 }
 
 TEST_F(Lines, TextWithALineFeedIsWrittenAsItStands) {
-  // What a getter handed out carries its line feed; writing it back leaves an empty line behind.
+  // What a getter handed out carries its line feed; writing it back leaves an empty line after.
   char text[] = "any remark\n";
   EXPECT_TRUE(over("[FileHeader]\nDate = x\n[Machine]\nRemark = 1\n").SetMachineRemark(text));
   EXPECT_EQ(masked_bytes(),

@@ -54,17 +54,17 @@ class Model {
     if (equals == std::string::npos) {
       return "";
     }
-    const std::string behind = line->text.substr(equals + 1);
-    return behind.substr(std::min(behind.find_first_not_of(' '), behind.size()));
+    const std::string after = line->text.substr(equals + 1);
+    return after.substr(std::min(after.find_first_not_of(' '), after.size()));
   }
   [[nodiscard]] std::optional<std::string> line(int position) const {
     const auto found = find("[SURFACE", "", position).second;
     return found ? std::optional<std::string>(found->text) : std::nullopt;
   }
-  // Behind the names of as many conditions as the summary tells, and the points of the conditions
+  // After the names of as many conditions as the summary tells, and the points of the conditions
   // before.
   [[nodiscard]] int line_of_point(int condition, int point, bool& named) const {
-    named = behind_header("[SURFACE", false).has_value();
+    named = after_header("[SURFACE", false).has_value();
     int position =
         std::max(leading_number(get("[Summary]", "TotalNodeBC").value_or("0")), 0) + point;
     for (int k = 1; k < condition; ++k) {
@@ -84,7 +84,7 @@ class Model {
     bool begins;       // where a line begins, and no long one goes on
   };
 
-  // Without the blanks behind the last line break, and without what ends a file for other programs.
+  // Without the blanks after the last line break, and without what ends a file for other programs.
   [[nodiscard]] std::size_t contents_end() const {
     std::size_t end = text_.size();
     while (end > 0 && (text_[end - 1] == ' ' || text_[end - 1] == '\x1A')) {
@@ -118,10 +118,10 @@ class Model {
             std::regex_match(line.text, all_in_brackets) || leading_word(line.text) == "[SURFACE");
   }
 
-  // The lines from behind the section's header to the next header, or all of the file's where
+  // The lines from after the section's header to the next header, or all of the file's where
   // `whole`; none without the section.
-  [[nodiscard]] std::optional<std::vector<Line>> behind_header(const std::string& section,
-                                                               bool whole) const {
+  [[nodiscard]] std::optional<std::vector<Line>> after_header(const std::string& section,
+                                                              bool whole) const {
     std::vector<Line> all = lines();
     const auto header = std::find_if(all.begin(), all.end(), [&](const Line& line) {
       return leading_word(line.text) == section;
@@ -136,12 +136,12 @@ class Model {
   [[nodiscard]] std::pair<bool, std::optional<Line>> find(const std::string& section,
                                                           const std::string& key,
                                                           int position) const {
-    const auto behind = behind_header(section, position <= 0);
-    if (!behind) {
+    const auto after = after_header(section, position <= 0);
+    if (!after) {
       return {false, std::nullopt};
     }
     int counter = 1;
-    for (const Line& line : *behind) {
+    for (const Line& line : *after) {
       if (position > 0 ? counter++ == position : leading_word(line.text) == key) {
         return {true, line};
       }
@@ -151,10 +151,10 @@ class Model {
 
   // Where the section's lines end, the empty ones at its end left out where asked for.
   [[nodiscard]] std::size_t end_of(const std::string& section, bool without_empty_lines) const {
-    std::vector<Line> all = *behind_header(section, false);
-    std::size_t end = all.empty() ? behind_header(section, true)->empty()
+    std::vector<Line> all = *after_header(section, false);
+    std::size_t end = all.empty() ? after_header(section, true)->empty()
                                         ? contents_end()
-                                        : behind_header(section, true)->front().start
+                                        : after_header(section, true)->front().start
                                   : all.back().end;
     for (; without_empty_lines && !all.empty() && all.back().begins &&
            all.back().text.find_first_not_of(" \t\n") == std::string::npos;
@@ -173,7 +173,7 @@ class Model {
         "\n" + (position > 0 ? std::string("[SURFACE ELEMENT BOUNDARY CONDITION NAME]") : section) +
         "\n";
     const bool block_is_last =
-        behind_header("[SURFACE", false) && end_of("[SURFACE", false) == contents_end();
+        after_header("[SURFACE", false) && end_of("[SURFACE", false) == contents_end();
     std::size_t at = contents_end();
     std::size_t end = at;
     std::string written = line;

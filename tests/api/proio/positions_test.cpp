@@ -73,7 +73,7 @@ class Positions : public ProcessObject {
   }
 };
 
-TEST_F(Positions, PointsBehindTheBlockLeaveTheNextSectionAlone) {
+TEST_F(Positions, PointsAfterTheBlockLeaveTheNextSectionAlone) {
   over("");
   char file[] = "x";
   EXPECT_TRUE(object_.SetFileName(file) && object_.SetBoundaryConditionNo(1) &&
@@ -92,7 +92,7 @@ TEST_F(Positions, PointsBehindTheBlockLeaveTheNextSectionAlone) {
   EXPECT_NE(bytes().find("[Cool]"), std::string::npos);
 }
 
-TEST_F(Positions, NewKeyBehindTheBlockIsNoneOfItsLines) {
+TEST_F(Positions, NewKeyAfterTheBlockIsNoneOfItsLines) {
   over_missing_file();
   EXPECT_TRUE(object_.SetDefault() && set_name(1, 2, "top") && object_.SetBoundaryConditionNo(1));
   EXPECT_TRUE(object_.SetBCProfile(1, 1, 0, 5) && object_.SetBCProfile(1, 2, 1, 6));
@@ -103,7 +103,7 @@ TEST_F(Positions, NewKeyBehindTheBlockIsNoneOfItsLines) {
   EXPECT_EQ(point_at(1, 3), "(none)");
 }
 
-TEST_F(Positions, BehindTheNextHeaderNothingIsFound) {
+TEST_F(Positions, AfterTheNextHeaderNothingIsFound) {
   for (const std::string header : kHeaders) {
     SCOPED_TRACE(header);
     over("[Summary]\nTotalNodeBC = 1\n" + kBlock + "1\tTop\n1 = 2\t3\n" + header +
@@ -132,7 +132,7 @@ TEST_F(Positions, LineThatBeginsNoSectionIsOneOfTheBlock) {
   }
 }
 
-TEST_F(Positions, LineBehindTheLastIsWrittenInFrontOfTheNextHeader) {
+TEST_F(Positions, LineAfterTheLastIsWrittenInFrontOfTheNextHeader) {
   for (const std::string header : kHeaders) {
     for (const bool carriage_returns : {false, true}) {
       SCOPED_TRACE(header);

@@ -469,7 +469,7 @@ class Conditions : public ProcessObject {
   }
 };
 
-TEST_F(Conditions, PointStandsBehindTheNamesAndThePointsBefore) {
+TEST_F(Conditions, PointStandsAfterTheNamesAndThePointsBefore) {
   over(block());
   const struct {
     int condition;
@@ -520,7 +520,7 @@ TEST_F(Conditions, PointIsWrittenWithItsNumber) {
   EXPECT_EQ(masked_bytes(), expected);
 }
 
-TEST_F(Conditions, PointBehindTheBlockIsAppended) {
+TEST_F(Conditions, PointAfterTheBlockIsAppended) {
   over("[FileHeader]\nDate = x\n[Summary]\nTotalNodeBC = 1\n" + std::string(kBlock) + "1\tTop\n");
   EXPECT_TRUE(object_.SetBCProfile(1, 1, 2, 3));
   EXPECT_TRUE(object_.SetBCProfile(1, 9, 4, 5));

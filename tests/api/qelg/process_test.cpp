@@ -15,7 +15,7 @@ TEST(SimulatorProcess, BeginsWithoutInlets) {
   EXPECT_EQ(process.GetFlowPackOfInlet(0), nullptr);
 }
 
-TEST(SimulatorProcess, AppendsInletsBehindTheLast) {
+TEST(SimulatorProcess, AppendsInletsAfterTheLast) {
   QELG_SimulatorProcess process;
   QELG_SimulatorFlowPackProcess* first = process.AppendFlowPackProcess();
   QELG_SimulatorFlowPackProcess* second = process.AppendFlowPackProcess();

@@ -84,7 +84,7 @@ TEST(MoldMetalMaterial, NameBeginsWhereItsFirstWordFirstOccurs) {
 }
 
 TEST(MoldMetalMaterial, NameEndsWhereItsLastWordLastOccurs) {
-  // "P" is found behind the name once more, inside the last number's text.
+  // "P" is found after the name once more, inside the last number's text.
   expect(row_of("1 2 3 Steel P 4 5 6P"), 1, 2, 3, "Steel P 4 5 6P", 4, 5, 6);
 }
 

@@ -148,7 +148,7 @@ std::string settings() {
          "3\tTop\t0\n2\tSide\t0\n1 = 10\t11\n1 = 20\t21\n1 = 30\t31\n2 = 40\t41\n2 = 50\t51\n";
 }
 
-TEST(BoundaryConditionSetting, LiesBehindTheHeadersAndTheSettingsBefore) {
+TEST(BoundaryConditionSetting, LiesAfterTheHeadersAndTheSettingsBefore) {
   const Scratch scratch;
   const std::string path = scratch.file(settings());
   const struct {
@@ -232,7 +232,7 @@ TEST(BoundaryConditionSetting, TakesAnyCharacterForTheEqualsSign) {
   EXPECT_EQ(b, 11);
 }
 
-// A section of two conditions with no settings of the second, and another section behind it.
+// A section of two conditions with no settings of the second, and another section after it.
 std::string settings_before_another_section() {
   return std::string("[A]\nx = 1\n") + kHeader +
          "1\tTop\t0\n1\tSide\t0\n1 = 10\t11\n[Cool]\n7 = 8 9\n2 = 40\t41\n";
@@ -258,7 +258,7 @@ void expect_no_setting(const std::string& path, int p, int q, int r) {
   std::fclose(stream);
 }
 
-TEST(BoundaryConditionSetting, IsNotFoundBehindTheNextHeader) {
+TEST(BoundaryConditionSetting, IsNotFoundAfterTheNextHeader) {
   const Scratch scratch;
   const std::string path = scratch.file(settings_before_another_section());
   expect_no_setting(path, 1, 2, 2);
@@ -279,7 +279,7 @@ TEST(BoundaryConditionSetting, TakesNoHeaderLineFromALaterSection) {
   EXPECT_EQ(bytes_of(path), before);
 }
 
-TEST(BoundaryConditionSetting, EndsAtAHeaderWithWordsBehindItToo) {
+TEST(BoundaryConditionSetting, EndsAtAHeaderWithWordsAfterItToo) {
   const Scratch scratch;
   for (const char* header : {"[Cool] note", "[Cool Section]", "[Cool]\t# 7"}) {
     std::string contents = settings_before_another_section();
@@ -305,7 +305,7 @@ TEST(BoundaryConditionSetting, EndsAtAHeaderWithWordsBehindItToo) {
   EXPECT_EQ(a, 8);
 }
 
-TEST(BoundaryConditionSetting, BehindTheLastLineBecomesTheSectionsNewLastLine) {
+TEST(BoundaryConditionSetting, AfterTheLastLineBecomesTheSectionsNewLastLine) {
   const Scratch scratch;
   const std::string path = scratch.file(settings_before_another_section());
   Writer writer;

@@ -53,7 +53,7 @@ class ContactAngle : public testing::Test {
   Reader reader_;
 };
 
-TEST_F(ContactAngle, StandsBehindTheQuotedName) {
+TEST_F(ContactAngle, StandsAfterTheQuotedName) {
   open("1 = \"Group A\"\t35.5\n2 =  \"x\"\t\v\f 40 deg\n3 = text \"\" 7 \"8\"\n");
   EXPECT_EQ(by_number(1), 35.5);
   EXPECT_EQ(by_number(2), 40);

@@ -123,7 +123,7 @@ TEST_P(SectionWriter, BeginsItsSectionInANewFile) {
   EXPECT_EQ(bytes_of(path), native("\n" + row.section + "\n" + padded(row.key, row.text) + "\n"));
 }
 
-TEST_P(SectionWriter, AddsItsSectionBehindTheOthers) {
+TEST_P(SectionWriter, AddsItsSectionAfterTheOthers) {
   const WriterRow& row = GetParam();
   const Scratch scratch;
   const std::string before = "[Before]\n" + padded(row.key, "81") + "\n";
@@ -138,30 +138,30 @@ TEST_P(SectionWriter, AddsANewKeyAtTheEndOfItsSection) {
   const WriterRow& row = GetParam();
   const Scratch scratch;
   const std::string before = row.section + "\n" + padded(row.key + "0", "81") + "\n";
-  const std::string behind = "[Behind]\nOther                = 82\n";
-  const std::string path = scratch.file(before + behind);
+  const std::string after = "[Behind]\nOther                = 82\n";
+  const std::string path = scratch.file(before + after);
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(row.call(writer, Given::values));
-  EXPECT_EQ(bytes_of(path), before + row.key + " = " + row.text + "\n" + behind);
+  EXPECT_EQ(bytes_of(path), before + row.key + " = " + row.text + "\n" + after);
 }
 
 TEST_P(SectionWriter, ReplacesItsEntryWhereItStands) {
   const WriterRow& row = GetParam();
   const Scratch scratch;
   const std::string before = row.section + "\n" + padded(row.key + "0", "81") + "\n";
-  const std::string behind = "Other                = 82\n[Behind]\n" + padded(row.key, "83") + "\n";
+  const std::string after = "Other                = 82\n[Behind]\n" + padded(row.key, "83") + "\n";
   const std::string old_line =
       row.key +
       "=a value that is longer than the new one will be, by far, so that the file would shrink\n";
   const std::string new_line = padded(row.key, row.text) + "\n";
   ASSERT_GT(old_line.size(), new_line.size());
-  const std::string path = scratch.file(before + old_line + behind);
+  const std::string path = scratch.file(before + old_line + after);
   Writer writer;
   ASSERT_TRUE(writer.SetFilePath(path.c_str()));
   EXPECT_TRUE(row.call(writer, Given::values));
   const std::string written =
-      before + new_line + behind + std::string(old_line.size() - new_line.size(), ' ');
+      before + new_line + after + std::string(old_line.size() - new_line.size(), ' ');
   EXPECT_EQ(bytes_of(path), written);
   EXPECT_TRUE(row.call(writer, Given::values));
   EXPECT_EQ(bytes_of(path), written) << "the same value again";

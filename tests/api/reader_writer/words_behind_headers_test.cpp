@@ -1,12 +1,12 @@
 #include "support/raw_access.h"
 
-// A header with words behind it is a header for readers and writers alike, so that no store lands
+// A header with words after it is a header for readers and writers alike, so that no store lands
 // where nobody finds it.
 
 namespace qelpro_test {
 namespace {
 
-class WordsBehindHeaders : public RawAccess {
+class WordsAfterHeaders : public RawAccess {
  protected:
   Writer& writing(const std::string& contents) {
     path_ = scratch_.file(contents);
@@ -27,12 +27,12 @@ class WordsBehindHeaders : public RawAccess {
   Writer writer_;
 };
 
-TEST_F(WordsBehindHeaders, HaveAStoreFoundByANewReader) {
+TEST_F(WordsAfterHeaders, HaveAStoreFoundByANewReader) {
   EXPECT_TRUE(writing("[Flow-1] # first inlet\nFillTime = 1\n").FlowX_WriteFillingTime(5, 1));
   EXPECT_EQ(filling_time(1), 5);
 }
 
-TEST_F(WordsBehindHeaders, KeepTheKeysOfTwoInletsApart) {
+TEST_F(WordsAfterHeaders, KeepTheKeysOfTwoInletsApart) {
   Writer& writer = writing("[Flow-1] # a\nMeltTemp = 1\n[Flow-2] # b\nMeltTemp = 2\n");
   EXPECT_TRUE(writer.FlowX_WriteFillingTime(5, 1));
   EXPECT_EQ(bytes_of(path_),
@@ -42,7 +42,7 @@ TEST_F(WordsBehindHeaders, KeepTheKeysOfTwoInletsApart) {
   EXPECT_EQ(filling_time(2), -1);
 }
 
-TEST_F(WordsBehindHeaders, BoundThePositionalSection) {
+TEST_F(WordsAfterHeaders, BoundThePositionalSection) {
   Writer& writer =
       writing("[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n[Cool] note\nCoolTime = 5\n");
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(1, name_, 0, 2));
@@ -50,7 +50,7 @@ TEST_F(WordsBehindHeaders, BoundThePositionalSection) {
             "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n1\tB\t0\n[Cool] note\nCoolTime = 5\n");
 }
 
-TEST_F(WordsBehindHeaders, MayFollowThePositionalSectionsOwnBrackets) {
+TEST_F(WordsAfterHeaders, MayFollowThePositionalSectionsOwnBrackets) {
   Writer& writer = writing("\n[SURFACE ELEMENT BOUNDARY CONDITION NAME] # by hand\n1\tA\t0\n");
   EXPECT_TRUE(writer.MoldTemperatureBCX_WriteBC(2, name_, 0, 2));
   Reader reader;
@@ -62,7 +62,7 @@ TEST_F(WordsBehindHeaders, MayFollowThePositionalSectionsOwnBrackets) {
   EXPECT_EQ(first, 2);
 }
 
-TEST_F(WordsBehindHeaders, LeaveAGateItsControlPoints) {
+TEST_F(WordsAfterHeaders, LeaveAGateItsControlPoints) {
   Writer& writer = writing("[GateValve-1] note\nGCSet = 5\n");
   EXPECT_TRUE(writer.GateValveX_WriteGateSetting(1.5, 1, 2, 3, 1));
   Reader reader;
@@ -72,13 +72,13 @@ TEST_F(WordsBehindHeaders, LeaveAGateItsControlPoints) {
   EXPECT_EQ(points, 5);
 }
 
-TEST_F(WordsBehindHeaders, MakeNoHeaderOfAnEntryWithAnOddKey) {
+TEST_F(WordsAfterHeaders, MakeNoHeaderOfAnEntryWithAnOddKey) {
   Writer& writer = writing("[Flow-1] = 3\nFillTime = 1\n");
   EXPECT_TRUE(writer.FlowX_WriteFillingTime(5, 1)) << "in a section of its own";
   EXPECT_EQ(filling_time(1), 5);
 }
 
-TEST_F(WordsBehindHeaders, AreRefusedAsNames) {
+TEST_F(WordsAfterHeaders, AreRefusedAsNames) {
   Writer& writer = writing("Unit\nk = 1\n[A]\nk = 1\n");
   EXPECT_FALSE(writer.WriteString("Unit", "k", "2"));
   EXPECT_FALSE(writer.WriteString("[A]", "[B]", "1"));

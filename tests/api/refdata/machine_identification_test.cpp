@@ -120,7 +120,7 @@ TEST_F(MachineBank, EndsAtItsEndMark) {
   EXPECT_THAT(all_makers(machines_), IsEmpty());
 }
 
-TEST_F(MachineBank, BeginsItsDataBehindTheDatabaseLine) {
+TEST_F(MachineBank, BeginsItsDataAfterTheDatabaseLine) {
   EXPECT_TRUE(load("[Header]\nVersion 7007\n" + machine("Before", "1") + "xDatabase]x\n" +
                    machine("Behind", "1")));
   EXPECT_THAT(all_makers(machines_), ElementsAre("Behind"));

@@ -15,10 +15,10 @@ std::string user_file(unsigned int size) {
 
 TEST(UserFile, StandsInTheRoamingFolderOfTheUser) {
   const std::string path = user_file(300);
-  const std::string behind_folder = "\\Kestrel\\Vantor R14.0\\PROCoolantSetting.pcs";
-  ASSERT_GT(path.size(), behind_folder.size());
-  EXPECT_EQ(path.substr(path.size() - behind_folder.size()), behind_folder);
-  const std::string folder = path.substr(0, path.size() - behind_folder.size());
+  const std::string after_folder = "\\Kestrel\\Vantor R14.0\\PROCoolantSetting.pcs";
+  ASSERT_GT(path.size(), after_folder.size());
+  EXPECT_EQ(path.substr(path.size() - after_folder.size()), after_folder);
+  const std::string folder = path.substr(0, path.size() - after_folder.size());
   EXPECT_TRUE(std::filesystem::is_directory(folder)) << folder << ": made where it is missing";
   EXPECT_EQ(folder, std::getenv("APPDATA"));
 }

@@ -69,7 +69,7 @@ TYPED_TEST(InsertEncoding, HasNoNameBeforeANumberOrAnEmptyTemperature) {
   EXPECT_EQ(fields_of_three<TypeParam>("\t\t80\t1"), "0 '' 80");
 }
 
-TYPED_TEST(InsertEncoding, TakesTheWordBehindTabsThatOnlyAlignTheFields) {
+TYPED_TEST(InsertEncoding, TakesTheWordAfterTabsThatOnlyAlignTheFields) {
   EXPECT_EQ(fields_of_three<TypeParam>("3\t\tPin\t80"), "3 'Pin' 80");
   EXPECT_EQ(fields_of_three<TypeParam>("3\t\t\tPin"), "3 'Pin' 0");
 }

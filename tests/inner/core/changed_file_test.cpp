@@ -109,7 +109,7 @@ TEST_F(ChangedFile, LosesALineFoundByPositionWithItsHeader) {
   EXPECT_EQ(look(document, "[SURFACE", "", 2), "-2");
 }
 
-TEST_F(ChangedFile, IsReadRightFarBehindItsHeader) {
+TEST_F(ChangedFile, IsReadRightFarAfterItsHeader) {
   std::string points;
   for (int point = 1; point <= 400; ++point) {
     points += "FR-" + std::to_string(point) + " = " + std::to_string(point) + "\n";

@@ -230,7 +230,7 @@ TEST_F(Document, LooksUpPlainlyInThePathThatItWritesTo) {
   std::fclose(stream);
 }
 
-TEST_F(Document, VisitsLinesBehindAHeaderOnTheFirstByte) {
+TEST_F(Document, VisitsLinesAfterAHeaderOnTheFirstByte) {
   read("[A]\n first \nsecond\n");
   std::string visited;
   EXPECT_EQ(document.VisitLines("[A]", 2,
@@ -268,7 +268,7 @@ TEST_F(Document, ReadsInAFileThatIsStillEmpty) {
   EXPECT_EQ(look(document, "[A]", "x"), "1");
 }
 
-TEST_F(Document, GoesBackToTheHeaderWhereNoLineBeginsAnyMoreBehindWhatItPassed) {
+TEST_F(Document, GoesBackToTheHeaderWhereNoLineBeginsAnyMoreAfterWhatItPassed) {
   read("[A]\nx = 1\ny = 2\n");
   EXPECT_EQ(look(document, "[A]", "x"), "1");
   put_bytes(path, "[A]\ny = 1234567\ny = 2\n");

@@ -55,7 +55,7 @@ TEST_F(Document, IsReadAndWrittenAsBytesThroughALentStreamInEitherMode) {
   }
 }
 
-TEST_F(Document, SeesWhatIsBehindAnEndOfFileCharacter) {
+TEST_F(Document, SeesWhatIsAfterAnEndOfFileCharacter) {
   read("[A]\r\nx = 1\r\n\x1A\r\ny = 2\r\n");
   EXPECT_EQ(look(document, "[A]", "y"), "2");
 }

@@ -37,9 +37,9 @@ TEST_F(EndMark, IsNoPartOfAHeaderThatEndsTheFile) {
   EXPECT_EQ(bytes_of(path), "[B]\nx = 1\n[A]\ny = 2\n");
 }
 
-TEST_F(EndMark, IsLookedForBehindANulToo) {
+TEST_F(EndMark, IsLookedForAfterANulToo) {
   using namespace std::string_literals;
-  write("[B]\n[A]\x1A\0b\x1A"s);  // the line's text ends at the NUL, the file behind it
+  write("[B]\n[A]\x1A\0b\x1A"s);  // the line's text ends at the NUL, the file after it
   EXPECT_EQ(document.SetValue("[A]", "y", "2", kByKey), kDone);
   EXPECT_EQ(bytes_of(path), "[B]\n[A]\x1A\0b\n[A]\ny                    = 2\n"s);
   read(bytes_of(path));
@@ -61,7 +61,7 @@ TEST_F(EndMark, StaysWhereAStoreDoesNotReachIt) {
   EXPECT_EQ(bytes_of(path), "[A]\nx                    = 100\n\x1A");
 }
 
-TEST_F(EndMark, EndsALastLineWithoutALineBreakBehindWhichAnEntryComes) {
+TEST_F(EndMark, EndsALastLineWithoutALineBreakAfterWhichAnEntryComes) {
   write("[A]\nx = 1\x1A");
   EXPECT_EQ(document.SetValue("[A]", "y", "2", kByKey), kDone);
   EXPECT_EQ(bytes_of(path), "[A]\nx = 1\ny = 2\n");

@@ -71,7 +71,7 @@ TEST(PlainScan, LeavesTextBeforeTheFirstHeaderAlone) {
   EXPECT_EQ(plainly("x = 0\n[A]\ny = 1\n", {"[A]", "x"}), kNothing);
 }
 
-TEST(PlainScan, CountsEveryLineBehindTheHeader) {
+TEST(PlainScan, CountsEveryLineAfterTheHeader) {
   const std::string file = "\n[A]\nfirst\n\n  third\n[B]\nfifth\n";
   EXPECT_EQ(plainly(file, {"[A]", "", 1}), "first");
   EXPECT_EQ(plainly(file, {"[A]", "", 2}), "");
@@ -114,7 +114,7 @@ TEST(ScanInSection, GoesOnPastALineThatIsNoHeader) {
   EXPECT_EQ(in_section(file, {"[A]", "y"}), "y = 2");
 }
 
-TEST(ScanInSection, StopsAtAHeaderWithBlanksBehindOrWithoutALineBreak) {
+TEST(ScanInSection, StopsAtAHeaderWithBlanksAfterOrWithoutALineBreak) {
   EXPECT_EQ(in_section("[A]\n[B] \t\r\ny = 2\n", {"[A]", "y"}), kNothing);
   EXPECT_EQ(in_section("[A]\nx = 1\n[B]", {"[A]", "[B]"}), kNothing);
 }
@@ -181,7 +181,7 @@ TEST_F(Indexed, CountsTheHeaderAsLineOneWhenItResumesThere) {
   EXPECT_EQ(find({"[A]", "", 1}), "[A]");
 }
 
-TEST_F(Indexed, CountsLinesFromBehindTheHeaderTheFirstTime) {
+TEST_F(Indexed, CountsLinesFromAfterTheHeaderTheFirstTime) {
   file.bytes = "\n[A]\nx = 1\nsecond\n";
   EXPECT_EQ(find({"[A]", "", 1}), "x = 1");
 }
@@ -277,7 +277,7 @@ TEST_F(Indexed, DoesNotTakeTheMiddleOfALineForTheLineThatStoodThere) {
   EXPECT_EQ(find({"[A]", "x"}), "x = 6");
 }
 
-TEST_F(Indexed, FindsAKeyBehindTheLinesItLearntWhereThoseMoved) {
+TEST_F(Indexed, FindsAKeyAfterTheLinesItLearntWhereThoseMoved) {
   file.bytes = "[A]\na = 1\nb = 2\n[B]\nc = 3\n";
   EXPECT_EQ(find({"[A]", "a"}), "a = 1");
   // What stands now where the search would have gone on belongs to another section.
@@ -294,7 +294,7 @@ TEST_F(Indexed, FindsASectionWhoseHeaderMoved) {
   EXPECT_EQ(find({"[A]", "a"}), "a = 111");
 }
 
-TEST_F(Indexed, FindsASectionBehindTheFurthestLineWhereThatMoved) {
+TEST_F(Indexed, FindsASectionAfterTheFurthestLineWhereThatMoved) {
   file.bytes = "[A]\na = 1\n[B]\nb = 2\n";
   EXPECT_EQ(find({"[B]", "b"}), "b = 2");
   file.bytes = "[C]\nc = 3\n[A]\na = 1\n[B]\nb = 2\n";

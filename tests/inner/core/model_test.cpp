@@ -90,7 +90,7 @@ std::string value_of(std::string line, bool by_key) {
   return strip_back(strip_front(line, " "), " \t\n");
 }
 
-// A line "[...]", whatever blanks follow, or one with words behind its brackets. An entry of an odd
+// A line "[...]", whatever blanks follow, or one with words after its brackets. An entry of an odd
 // key has a "=" there.
 bool closes_a_section(const std::string& line) {
   const std::string text = strip_back(line, " \t\n");
@@ -153,7 +153,7 @@ bool bad(const std::string& section, const std::string& key, const std::string& 
          closes_a_section(line) || too_long(line);
 }
 
-// The file after a store: never shorter than it was. What stood behind its contents stays, where
+// The file after a store: never shorter than it was. What stood after its contents stays, where
 // they do not reach.
 void put_back(std::string& bytes, std::string contents) {
   while (contents.size() < contents_of(bytes).size()) {
@@ -162,7 +162,7 @@ void put_back(std::string& bytes, std::string contents) {
   bytes = contents + (contents.size() < bytes.size() ? bytes.substr(contents.size()) : "");
 }
 
-// Puts lines into the contents at an offset; behind a last line without a line break, one is
+// Puts lines into the contents at an offset; after a last line without a line break, one is
 // written first.
 std::string with_lines(const std::string& contents, std::size_t at,
                        const std::vector<std::string>& added) {

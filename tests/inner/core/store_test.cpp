@@ -89,7 +89,7 @@ TEST(Store, AddsANewKeyToItsSectionWithoutPadding) {
             "[A]\nx = 1\nz = 3\n[B]\ny = 2\n");
 }
 
-TEST(Store, AddsANewKeyRightBeforeTheNextHeaderBehindEmptyLines) {
+TEST(Store, AddsANewKeyRightBeforeTheNextHeaderAfterEmptyLines) {
   EXPECT_EQ(after_set("[A]\nx = 1\n\n[B]\n", "[A]", "y", "2"), "[A]\nx = 1\n\ny = 2\n[B]\n");
 }
 
@@ -126,7 +126,7 @@ TEST(Store, UsesTheBlanksOfAnEarlierStoreAgain) {
   EXPECT_EQ(file.bytes, "[A]\n" + x("123") + "y = 2\n  ");
 }
 
-TEST(Store, UsesTheBlanksBehindALastLineWithoutALineBreakAgain) {
+TEST(Store, UsesTheBlanksAfterALastLineWithoutALineBreakAgain) {
   MemoryFile file("[A]\n" + x("12345") + "y = 2");
   for (int i = 0; i < 100; ++i) {
     ASSERT_EQ(set(file, "[A]", "x", "1"), Result::done);
@@ -143,7 +143,7 @@ TEST(Store, PutsANewEntryInThePlaceOfPadding) {
             std::string("[A]\nx = 1\n\n[B]\n") + kX2);
 }
 
-TEST(Store, WritesALineBreakBehindALastLineThatHasNone) {
+TEST(Store, WritesALineBreakAfterALastLineThatHasNone) {
   EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "y", "2"), "[A]\nx = 1\ny = 2\n");
   EXPECT_EQ(after_set("[A]", "[A]", "y", "2"), native("[A]\ny = 2\n"));
   EXPECT_EQ(after_set("[A]\nx = 1", "[A]", "", "line", 2), "[A]\nx = 1\nline\n");
@@ -298,7 +298,7 @@ TEST(StoreByIndex, AlwaysCreatesThePositionalHeader) {
   EXPECT_EQ(after_set("", "[Other]", "", "line", 7), native(created));
 }
 
-TEST(StoreByIndex, AddsALastLineBehindTheSectionsLastLine) {
+TEST(StoreByIndex, AddsALastLineAfterTheSectionsLastLine) {
   EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 2),
             "[A]\nfirst\n2nd\n[B]\nx = 1\n");
   EXPECT_EQ(after_set("[A]\nfirst\n[B]\nx = 1\n", "[A]", "", "2nd", 9),

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/lent_stream.h"
+#include "platform/caller_stream.h"
 #include "platform/random_access.h"
 #include "support/scratch.h"
 
@@ -27,10 +27,10 @@ class Lent : public testing::Test {
       std::fclose(stream);
     }
   }
-  qel::platform::LentStream lend(std::string_view contents, const char* mode) {
+  qel::platform::CallerStream lend(std::string_view contents, const char* mode) {
     path = scratch.file(contents);
     stream = std::fopen(path.c_str(), mode);
-    return qel::platform::LentStream(stream);
+    return qel::platform::CallerStream(stream);
   }
 
   Scratch scratch;

@@ -58,7 +58,7 @@ TEST(OsFile, SecuresNoRoomInAFileThatIsOpenForReading) {
   const Scratch scratch;
   OsFile file;
   ASSERT_TRUE(file.open_for_reading(scratch.file("0123456789").c_str()));
-  EXPECT_FALSE(file.secure_growth(10, 1 << 20));
+  EXPECT_FALSE(file.reserve(10, 1 << 20));
 }
 
 TEST(OsFile, DoesNotOpenANamedPipe) {
@@ -132,13 +132,12 @@ TEST(OsFile, SecuresNoRoomBeyondTheProcesssLimitOnFiles) {
   const std::string path = scratch.file("0123456789");
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12}, [&] {
     OsFile file;
-    return file.open_for_update(path.c_str()) && file.secure_growth(10, 12) &&
-           !file.secure_growth(10, 13) && file.secure_growth(10, 5);
+    return file.open_for_update(path.c_str()) && file.reserve(10, 12) && !file.reserve(10, 13) &&
+           file.reserve(10, 5);
   }));
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 5}, [&] {
     OsFile file;
-    return file.open_for_update(path.c_str()) && file.secure_growth(10, 5) &&
-           !file.secure_growth(10, 10);
+    return file.open_for_update(path.c_str()) && file.reserve(10, 5) && !file.reserve(10, 10);
   }));
 }
 

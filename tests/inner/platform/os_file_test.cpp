@@ -96,8 +96,8 @@ TEST(OsFile, SecuresRoomWithoutGrowing) {
   const std::string path = scratch.file("0123456789");
   OsFile file;
   ASSERT_TRUE(file.open_for_update(path.c_str()));
-  EXPECT_TRUE(file.secure_growth(10, 10));
-  EXPECT_TRUE(file.secure_growth(10, 1 << 20));
+  EXPECT_TRUE(file.reserve(10, 10));
+  EXPECT_TRUE(file.reserve(10, 1 << 20));
   EXPECT_EQ(file.size(), 10);
   EXPECT_EQ(bytes_of(path), "0123456789");
 }

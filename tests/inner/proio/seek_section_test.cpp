@@ -34,7 +34,7 @@ std::optional<std::int64_t> by_every_line(const std::string& contents) {
   return std::nullopt;
 }
 
-std::optional<std::int64_t> behind_section(LineScanner& lines) {
+std::optional<std::int64_t> after_section(LineScanner& lines) {
   if (!qel::proio::seek_section(lines, kSection)) {
     return std::nullopt;
   }
@@ -49,10 +49,10 @@ void expect_same(const std::string& contents) {
     expected = -1;  // padding is no line
   }
   LineScanner in_memory = lines_of(std::string_view(contents));
-  EXPECT_EQ(behind_section(in_memory), expected);
+  EXPECT_EQ(after_section(in_memory), expected);
   MemoryFile file(contents);
   LineScanner in_file = lines_of(file);
-  EXPECT_EQ(behind_section(in_file), expected);
+  EXPECT_EQ(after_section(in_file), expected);
 }
 
 TEST(SeekSection, PassesLinesWithoutASectionsName) {

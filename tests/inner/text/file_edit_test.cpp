@@ -55,7 +55,7 @@ TEST(FileEdit, ReplacesLinesWithOneWrite) {
 }
 
 TEST(FileEdit, TakesLinesThatAreLongerThanItsRoom) {
-  const std::string line = std::string(qel::FileImage::kRoom, 'z') + "\n";
+  const std::string line = std::string(qel::FileImage::kReserve, 'z') + "\n";
   EXPECT_EQ(replaced(4, 10, line), "[A]\n" + line + "y = 2\n");
   MemoryFile file("[A]\n" + line + "y = 2\n");
   FileEdit edit(file);
@@ -64,7 +64,7 @@ TEST(FileEdit, TakesLinesThatAreLongerThanItsRoom) {
   EXPECT_EQ(file.bytes, "[A]\nz\ny = 2\n" + std::string(line.size() - 2, ' '));
 }
 
-TEST(FileEdit, InsertsBehindALastLineWithoutALineBreak) {
+TEST(FileEdit, InsertsAfterALastLineWithoutALineBreak) {
   MemoryFile file("[A]\nx = 1");
   FileEdit edit(file);
   ASSERT_TRUE(edit.load());

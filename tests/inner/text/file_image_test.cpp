@@ -31,18 +31,18 @@ TEST(FileImage, PutsTextsAroundAPart) {
   EXPECT_EQ(image.bytes(), "0123456789");
 }
 
-TEST(FileImage, HasRoomInFrontOfTheFileAndBehindIt) {
+TEST(FileImage, HasRoomInFrontOfTheFileAndAfterIt) {
   FileImage image = image_of("0123456789");
-  const std::string before(FileImage::kRoom, 'b');
-  const std::string behind(FileImage::kRoom, 'a');
-  EXPECT_EQ(image.compose(before, 0, 10, behind), before + "0123456789" + behind);
+  const std::string before(FileImage::kReserve, 'b');
+  const std::string after(FileImage::kReserve, 'a');
+  EXPECT_EQ(image.compose(before, 0, 10, after), before + "0123456789" + after);
   image.restore();
   EXPECT_EQ(image.bytes(), "0123456789");
 }
 
 TEST(FileImage, PutsLongerTextsAroundAPart) {
   FileImage image = image_of("0123456789");
-  const std::string longer(FileImage::kRoom + 1, 'b');
+  const std::string longer(FileImage::kReserve + 1, 'b');
   EXPECT_EQ(image.compose(longer, 5, 8, "a"), longer + "567a");
   EXPECT_EQ(image.compose("b", 0, 10, longer), "b0123456789" + longer);
   image.restore();

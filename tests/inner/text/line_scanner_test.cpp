@@ -86,7 +86,7 @@ TEST(LineScanner, TakesPartOfAByteOrderMarkForText) {
   EXPECT_THAT(texts_of("\xEF\xBBx\n"), ElementsAre("\xEF\xBBx"));
 }
 
-TEST(LineScanner, TakesBlanksBehindTheLastLineBreakForPadding) {
+TEST(LineScanner, TakesBlanksAfterTheLastLineBreakForPadding) {
   EXPECT_THAT(texts_of("a\n     "), ElementsAre("a"));
   EXPECT_THAT(texts_of("a\n" + std::string(300000, ' ')), ElementsAre("a"));
 }
@@ -120,7 +120,7 @@ TEST(LineScanner, SplitsALineOfBlanksThatTextFollows) {
   EXPECT_THAT(texts_of("a\n" + part + part + "b"), ElementsAre("a", part, part, "b"));
 }
 
-TEST(LineScanner, CutsALineAtANulByteAndGoesOnBehindIt) {
+TEST(LineScanner, CutsALineAtANulByteAndGoesOnAfterIt) {
   EXPECT_THAT(lines_of(std::string("ab\0cd\nef\n", 9)),
               ElementsAre(Seen{0, 6, "ab"}, Seen{6, 9, "ef"}));
   EXPECT_THAT(texts_of(std::string("\0\n\0", 3)), ElementsAre("", ""));
@@ -132,7 +132,7 @@ TEST(LineScanner, BeginsAtTheOffsetItIsGiven) {
   EXPECT_THAT(all(lines), ElementsAre(Seen{4, 8, "two"}, Seen{8, 14, "three"}));
 }
 
-TEST(LineScanner, FindsNothingBehindTheEndOfTheFile) {
+TEST(LineScanner, FindsNothingAfterTheEndOfTheFile) {
   MemoryFile file("one\n");
   LineScanner lines(file, 100);
   EXPECT_THAT(all(lines), IsEmpty());

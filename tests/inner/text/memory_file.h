@@ -41,7 +41,7 @@ class MemoryFile : public qel::platform::RandomAccess {
     return !fails;
   }
 
-  bool secure_growth(std::int64_t old_size, std::int64_t new_size) override {
+  bool reserve(std::int64_t old_size, std::int64_t new_size) override {
     asked_growth = std::max(asked_growth, new_size - old_size);
     return new_size <= old_size || new_size <= room;
   }

@@ -61,7 +61,7 @@ TEST(FirstTokenIs, NeverMatchesATextThatIsMoreThanAToken) {
   EXPECT_FALSE(first_token_is("[SURFACE ELEMENT]", "[SURFACE ELEMENT]"));
 }
 
-TEST(EntryValue, IsTheTextBehindTheFirstEqualsSign) {
+TEST(EntryValue, IsTheTextAfterTheFirstEqualsSign) {
   EXPECT_EQ(entry_value("Key = Value"), "Value");
   EXPECT_EQ(entry_value("Key=Value"), "Value");
   EXPECT_EQ(entry_value("Name = a = b"), "a = b");
@@ -124,7 +124,7 @@ TEST(TrimEnd, TakesTheGivenCharactersFromTheEndAlone) {
   EXPECT_EQ(trim_end("a", ""), "a");
 }
 
-TEST(IsHeader, TakesWordsBehindTheBrackets) {
+TEST(IsHeader, TakesWordsAfterTheBrackets) {
   for (const char* line : {"[A] # first inlet", "[A]\tnote", "[A] note = 5", "[A B] note",
                            "[a]b] c", "[A] = [B]", "[] x"}) {
     EXPECT_TRUE(is_header(line)) << line;

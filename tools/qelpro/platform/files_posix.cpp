@@ -117,9 +117,9 @@ bool write_all(int descriptor, std::string_view contents) {
 
 // Access lists and the like; what the file system or the user's rights do not allow is left.
 void copy_attributes(int from, int to) {
-  constexpr std::size_t kRoom = std::size_t{64} * 1024;
-  std::vector<char> names(kRoom);
-  std::vector<char> value(kRoom);
+  constexpr std::size_t kLongestList = std::size_t{64} * 1024;
+  std::vector<char> names(kLongestList);
+  std::vector<char> value(kLongestList);
   const ssize_t length = ::flistxattr(from, names.data(), names.size());
   for (const char* name = names.data(); name < names.data() + length;
        name += std::char_traits<char>::length(name) + 1) {

@@ -13,7 +13,7 @@ inline bool scan_one(const char*& at, int& value) { return platform::scan_int(at
 inline bool scan_one(const char*& at, double& value) { return platform::scan_real(at, value); }
 inline bool scan_one(const char*& at, char& value) { return platform::scan_char(at, value); }
 
-/// A real that is never hexadecimal: one behind which an "x" may stand.
+/// A real that is never hexadecimal: one after which an "x" may stand.
 struct Decimal {
   double& value;
 };
@@ -21,7 +21,7 @@ inline bool scan_one(const char*& at, const Decimal& decimal) {
   return platform::scan_decimal_real(at, decimal.value);
 }
 
-/// " %c": a character behind white space, which is skipped.
+/// " %c": a character after white space, which is skipped.
 struct Separator {};
 inline bool scan_one(const char*& at, Separator& /*dropped*/) {
   char character = 0;

@@ -1,4 +1,4 @@
-#include "platform/lent_stream.h"
+#include "platform/caller_stream.h"
 
 #include <unistd.h>
 
@@ -11,26 +11,26 @@
 namespace qelpro_test {
 namespace {
 
-using qel::platform::LentStream;
+using qel::platform::CallerStream;
 
 TEST_F(Lent, SecuresNoRoomWhereItCannotWrite) {
-  LentStream file = lend("0123456789", "r");
-  EXPECT_FALSE(file.secure_growth(10, 10));
-  EXPECT_FALSE(file.secure_growth(10, 20));
+  CallerStream file = lend("0123456789", "r");
+  EXPECT_FALSE(file.reserve(10, 10));
+  EXPECT_FALSE(file.reserve(10, 20));
   EXPECT_FALSE(file.write_at(0, "x", 1));
   EXPECT_EQ(bytes_of(path), "0123456789");
 }
 
 TEST_F(Lent, SecuresNoRoomWhereWritesGoToTheEnd) {
-  LentStream file = lend("0123456789", "a+");
-  EXPECT_FALSE(file.secure_growth(10, 10));
+  CallerStream file = lend("0123456789", "a+");
+  EXPECT_FALSE(file.reserve(10, 10));
 }
 
 TEST_F(Lent, IsAsGoodAsNewAfterAWriteThatFailed) {
   path = scratch.file("0123456789");
   EXPECT_TRUE(qelpro_test::in_child({.longest_file = 12, .survives_long_file = true}, [&] {
     std::FILE* limited = std::fopen(path.c_str(), "r+");
-    LentStream file(limited);
+    CallerStream file(limited);
     const bool failed = !file.write_at(8, "abcdefgh", 8);
     return failed && file.write_at(8, "89", 2) && file.truncate(10) && file.size() == 10 &&
            read(file, 0, 20) == "0123456789" && std::fclose(limited) == 0;
@@ -42,7 +42,7 @@ TEST(LentPipe, HasNoLength) {
   int ends[2] = {};
   ASSERT_EQ(::pipe(ends), 0);
   std::FILE* stream = ::fdopen(ends[0], "r");
-  LentStream file(stream);
+  CallerStream file(stream);
   EXPECT_EQ(file.size(), -1);
   EXPECT_EQ(read(file, 0, 1), "failed");
   std::fclose(stream);

@@ -10,14 +10,14 @@ namespace qel::platform {
 
 /// A stream that the caller opened and keeps. Its position afterwards is unspecified; what was
 /// written is flushed. A stream over a device or a pipe can neither be read nor measured.
-class LentStream final : public RandomAccess {
+class CallerStream final : public RandomAccess {
  public:
-  explicit LentStream(std::FILE* stream);
+  explicit CallerStream(std::FILE* stream);
 
   std::int64_t size() override;
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
-  bool secure_growth(std::int64_t old_size, std::int64_t end) override;
+  bool reserve(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;
   bool flush() override;
 

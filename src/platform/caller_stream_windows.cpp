@@ -1,4 +1,4 @@
-#include "platform/lent_stream.h"
+#include "platform/caller_stream.h"
 
 #include <io.h>
 
@@ -23,33 +23,33 @@ bool synchronize(std::FILE* stream) {
 
 }  // namespace
 
-LentStream::LentStream(std::FILE* stream)
+CallerStream::CallerStream(std::FILE* stream)
     : stream_(stream), has_contents_(is_disk_file(handle_of(stream))), changes_(0, 0) {}
 
-std::int64_t LentStream::size() {
+std::int64_t CallerStream::size() {
   return has_contents_ && synchronize(stream_) ? size_of(handle_of(stream_)) : -1;
 }
 
-std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
+std::int64_t CallerStream::read_at(std::int64_t offset, char* to, std::size_t count) {
   return has_contents_ && synchronize(stream_) ? read_from(handle_of(stream_), offset, to, count)
                                                : -1;
 }
 
-bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+bool CallerStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
   return has_contents_ && synchronize(stream_) &&
          write_to(handle_of(stream_), offset, from, count) && flush();
 }
 
-bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {
-  return has_contents_ && (end <= old_size || set_aside(handle_of(stream_), end));
+bool CallerStream::reserve(std::int64_t old_size, std::int64_t end) {
+  return has_contents_ && (end <= old_size || reserve_length(handle_of(stream_), end));
 }
 
-bool LentStream::truncate(std::int64_t size) {
+bool CallerStream::truncate(std::int64_t size) {
   const CountedChange change(changes_);
   return has_contents_ && synchronize(stream_) && set_size(handle_of(stream_), size);
 }
 
-bool LentStream::flush() { return synchronize(stream_); }
+bool CallerStream::flush() { return synchronize(stream_); }
 
 }  // namespace qel::platform

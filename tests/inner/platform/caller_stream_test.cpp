@@ -1,4 +1,4 @@
-#include "platform/lent_stream.h"
+#include "platform/caller_stream.h"
 
 #include <cstdio>
 #include <string>
@@ -8,10 +8,10 @@
 namespace qelpro_test {
 namespace {
 
-using qel::platform::LentStream;
+using qel::platform::CallerStream;
 
 TEST_F(Lent, ReadsWhereItIsTold) {
-  LentStream file = lend("0123456789", "r");
+  CallerStream file = lend("0123456789", "r");
   EXPECT_EQ(file.size(), 10);
   EXPECT_EQ(read(file, 4, 3), "456");
   EXPECT_EQ(read(file, 0, 2), "01");
@@ -20,21 +20,21 @@ TEST_F(Lent, ReadsWhereItIsTold) {
 }
 
 TEST_F(Lent, ReadsOnAfterTheEndWasMet) {
-  LentStream file = lend("0123456789", "r");
+  CallerStream file = lend("0123456789", "r");
   while (std::fgetc(stream) != EOF) {
   }
   EXPECT_EQ(read(file, 0, 2), "01");
 }
 
 TEST_F(Lent, SeesWhatTheCallerHasWrittenButNotFlushed) {
-  LentStream file = lend("", "w+");
+  CallerStream file = lend("", "w+");
   std::fputs("written", stream);
   EXPECT_EQ(file.size(), 7);
   EXPECT_EQ(read(file, 0, 7), "written");
 }
 
 TEST_F(Lent, WritesAtOnce) {
-  LentStream file = lend("0123456789", "r+");
+  CallerStream file = lend("0123456789", "r+");
   EXPECT_TRUE(file.write_at(2, "ab", 2));
   EXPECT_EQ(bytes_of(path), "01ab456789");
   EXPECT_EQ(read(file, 0, 5), "01ab4");
@@ -43,15 +43,15 @@ TEST_F(Lent, WritesAtOnce) {
 }
 
 TEST_F(Lent, DoesNotGrowTheFileBySecuringRoom) {
-  LentStream file = lend("0123456789", "r+");
-  EXPECT_TRUE(file.secure_growth(10, 100000));
+  CallerStream file = lend("0123456789", "r+");
+  EXPECT_TRUE(file.reserve(10, 100000));
   EXPECT_EQ(file.size(), 10);
 }
 
 TEST_F(Lent, CannotReadWhatIsOpenForWritingAlone) {
   path = scratch.path();
   stream = std::fopen(path.c_str(), "w");
-  LentStream file(stream);
+  CallerStream file(stream);
   EXPECT_EQ(read(file, 0, 1), "failed");
 }
 

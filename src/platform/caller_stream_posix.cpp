@@ -2,14 +2,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/caller_stream.h"
 #include "platform/file_length_posix.h"
-#include "platform/lent_stream.h"
 
 namespace qel::platform {
 
 // A device may go on without end, and a pipe has no offsets. A stream over memory has no
 // descriptor.
-LentStream::LentStream(std::FILE* stream) : stream_(stream) {
+CallerStream::CallerStream(std::FILE* stream) : stream_(stream) {
   const int fd = ::fileno(stream);
   struct stat status {};
   if (fd < 0) {
@@ -20,7 +20,7 @@ LentStream::LentStream(std::FILE* stream) : stream_(stream) {
   }
 }
 
-std::int64_t LentStream::size() {
+std::int64_t CallerStream::size() {
   if (!has_contents_) {
     return -1;
   }
@@ -31,7 +31,7 @@ std::int64_t LentStream::size() {
   return static_cast<std::int64_t>(::ftello(stream_));
 }
 
-std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t count) {
+std::int64_t CallerStream::read_at(std::int64_t offset, char* to, std::size_t count) {
   std::clearerr(stream_);
   if (!has_contents_ || ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) != 0) {
     return -1;
@@ -40,14 +40,14 @@ std::int64_t LentStream::read_at(std::int64_t offset, char* to, std::size_t coun
   return std::ferror(stream_) != 0 ? -1 : static_cast<std::int64_t>(got);
 }
 
-bool LentStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
+bool CallerStream::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
   std::clearerr(stream_);
   return ::fseeko(stream_, static_cast<off_t>(offset), SEEK_SET) == 0 &&
          std::fwrite(from, 1, count, stream_) == count && flush();
 }
 
-bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {
+bool CallerStream::reserve(std::int64_t old_size, std::int64_t end) {
   const int fd = ::fileno(stream_);
   if (fd < 0) {
     return true;  // a stream over memory: its own write tells
@@ -59,15 +59,15 @@ bool LentStream::secure_growth(std::int64_t old_size, std::int64_t end) {
   if (!is_within_limit(end)) {
     return false;
   }
-  return end <= old_size || set_room_aside(fd, old_size, end);
+  return end <= old_size || reserve_blocks(fd, old_size, end);
 }
 
-bool LentStream::truncate(std::int64_t size) {
+bool CallerStream::truncate(std::int64_t size) {
   const CountedChange change(changes_);
   const int fd = ::fileno(stream_);
   return fd >= 0 && flush() && set_length(fd, size);
 }
 
-bool LentStream::flush() { return std::fflush(stream_) == 0; }
+bool CallerStream::flush() { return std::fflush(stream_) == 0; }
 
 }  // namespace qel::platform
