@@ -13,8 +13,6 @@ namespace qel {
 
 using Session = CQELPROIOBase;
 
-inline bool is_done(int result) { return result == to_int(Result::done); }
-
 template <class Value>
 bool is_null([[maybe_unused]] Value value) {
   if constexpr (std::is_pointer_v<Value>) {
@@ -27,7 +25,8 @@ bool is_null([[maybe_unused]] Value value) {
 /// Whether the work of a session's block was done.
 template <class Block, class Work>
 bool done_by(Session* session, Work work) {
-  return session != nullptr && attempt([&] { return is_done(work(session->block<Block>())); });
+  return session != nullptr &&
+         attempt([&] { return work(session->block<Block>()) == Result::done; });
 }
 
 template <class Block, class Encoding, class... Values>

@@ -59,7 +59,8 @@ bool CQELPROReader_Manipulator::GetFilePath(const char*& path) {
 bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key, char*& value,
                                            char* buffer, unsigned int size) {
   return raw_reads_disabled_ == 0 && session_ != nullptr && qel::attempt([&] {
-           return qel::is_done(session_->document().ReadOnce(section, key, value, buffer, size));
+           return session_->document().ReadOnce(section, key, value, buffer, size) ==
+                  qel::Result::done;
          });
 }
 

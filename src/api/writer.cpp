@@ -86,7 +86,7 @@ bool CQELPROWriter_Manipulator::GetFilePath(const char*& path) {
 bool CQELPROWriter_Manipulator::WriteString(const char* section, const char* key,
                                             const char* value) {
   return session_ != nullptr && qel::attempt([&] {
-           return qel::is_done(session_->document().WriteOnce(section, key, value));
+           return session_->document().WriteOnce(section, key, value) == qel::Result::done;
          });
 }
 

@@ -36,22 +36,22 @@ bool CQELPROBlockIOBase::AttachDocument(CQELPROIO* document) {
   return true;
 }
 
-int CQELPROBlockIOBase::FindText(const char* key, qel::Place place, char*& text) {
+qel::Result CQELPROBlockIOBase::FindText(const char* key, qel::Place place, char*& text) {
   if (document_ == nullptr) {
-    return to_int(Result::no_file);
+    return Result::no_file;
   }
   const NumberedName section(name_, place.section);
   const NumberedName entry(key, place.point);
   return document_->LookUp({section.str(), entry.str()}, text, nullptr, 0);
 }
 
-int CQELPROBlockIOBase::StoreText(const char* key, qel::Place place, const std::string& text,
-                                  std::size_t limit) {
+qel::Result CQELPROBlockIOBase::StoreText(const char* key, qel::Place place,
+                                          const std::string& text, std::size_t limit) {
   if (document_ == nullptr) {
-    return to_int(Result::no_file);
+    return Result::no_file;
   }
   if (text.size() >= limit) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
   return document_->SetValue(NumberedName(name_, place.section).c_str(),
                              NumberedName(key, place.point).c_str(), text.c_str(),

@@ -57,33 +57,34 @@ class CQELPROBlockIOBase {
   /// Looks the key up and scans its value. How much of it scans does not count: a value that was
   /// found is a success.
   template <class Encoding, class... Values>
-  int Read(const char* key, qel::Place place, Values&... values) {
+  qel::Result Read(const char* key, qel::Place place, Values&... values) {
     char* text = nullptr;
-    const int result = FindText(key, place, text);
-    if (result == qel::to_int(qel::Result::done)) {
+    const qel::Result result = FindText(key, place, text);
+    if (result == qel::Result::done) {
       qel::scan_together<Encoding>(text, place.point, values...);
     }
     return result;
   }
 
   template <class Encoding, class... Values>
-  int Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
+  qel::Result Read(const qel::Key<Encoding>& key, qel::Place place, Values&... values) {
     return Read<Encoding>(key.text, place, values...);
   }
 
   template <class Encoding, class... Values>
-  int Write(const char* key, qel::Place place, Values... values) {
+  qel::Result Write(const char* key, qel::Place place, Values... values) {
     return StoreText(key, place, Encoding::print(values...), Encoding::kLimit);
   }
   template <class Encoding, class... Values>
-  int Write(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
+  qel::Result Write(const qel::Key<Encoding>& key, qel::Place place, Values... values) {
     return Write<Encoding>(key.text, place, values...);
   }
 
  protected:
   /// The value text of a key, in the document's shared buffer.
-  int FindText(const char* key, qel::Place place, char*& text);
-  int StoreText(const char* key, qel::Place place, const std::string& text, std::size_t limit);
+  qel::Result FindText(const char* key, qel::Place place, char*& text);
+  qel::Result StoreText(const char* key, qel::Place place, const std::string& text,
+                        std::size_t limit);
 
   [[nodiscard]] CQELPROIO* document() const { return document_; }
   [[nodiscard]] const char* name() const { return name_; }

@@ -4,7 +4,7 @@
 
 #include "platform/clock.h"
 
-int CQELPROBlockIOFileHeader::WriteDate() {
+qel::Result CQELPROBlockIOFileHeader::WriteDate() {
   const qel::platform::LocalTime now = qel::platform::local_time();
   char text[qel::kCompoundLimit];
   std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day,

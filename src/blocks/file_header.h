@@ -43,5 +43,5 @@ inline constexpr SectionInfo kInfo{kSection, "FileHeader",
 class CQELPROBlockIOFileHeader : public qel::SectionBlock<qel::file_header::kInfo> {
  public:
   /// Stamps the local date and time.
-  int WriteDate();
+  qel::Result WriteDate();
 };

@@ -57,32 +57,34 @@ std::optional<int> find_valve(Snapshot& file, int id) {
 
 }  // namespace
 
-int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve,
-                                               Snapshot& file) {
+qel::Result CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point,
+                                                       int valve, Snapshot& file) {
   const int count =
       integer(file, section_of(valve), qel::key_of(qel::gate_valve_x::kKeys, "GCSet"), 1);
   const qel::NumberedName key(qel::key_of(qel::gate_valve_x::kKeys, "GC-%d"), point);
-  const int result = document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
-  if (result != to_int(Result::done) || count >= point) {
+  const qel::Result result =
+      document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
+  if (result != Result::done || count >= point) {
     return result;
   }
   return Write<Integer>(qel::key_of(qel::gate_valve_x::kKeys, "GCSet"), qel::in_section(valve),
                         point);
 }
 
-int CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point, int valve) {
+qel::Result CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, int point,
+                                                       int valve) {
   Snapshot file;
   const Result loaded = load(document(), file);
-  return loaded == Result::done ? WriteGateSetting(text, point, valve, file) : to_int(loaded);
+  return loaded == Result::done ? WriteGateSetting(text, point, valve, file) : loaded;
 }
 
-int CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text, int point,
-                                                            int id) {
+qel::Result CQELPROBlockIOGateValveX::WriteGateSettingByValveGateID(const std::string& text,
+                                                                    int point, int id) {
   Snapshot file;
   const Result loaded = load(document(), file);
   if (loaded != Result::done) {
-    return to_int(loaded);
+    return loaded;
   }
   const std::optional<int> valve = find_valve(file, id);
-  return valve ? WriteGateSetting(text, point, *valve, file) : to_int(Result::absent);
+  return valve ? WriteGateSetting(text, point, *valve, file) : Result::absent;
 }

@@ -45,11 +45,11 @@ class CQELPROBlockIOGateValveX : public qel::SectionBlock<qel::gate_valve_x::kIn
   /// Stores the text of a control point by rewriting the whole file, and raises "GCSet" to the
   /// point's number where it is lower; a valve without "GCSet" has one point. The document's path
   /// is looked at as it stands on disk.
-  int WriteGateSetting(const std::string& text, int point, int valve);
+  qel::Result WriteGateSetting(const std::string& text, int point, int valve);
   /// The same for the first valve that bears the identifier, among those that "TotalGateCTL" of
   /// [Summary] says there are. A valve without "GCId" bears 0.
-  int WriteGateSettingByValveGateID(const std::string& text, int point, int id);
+  qel::Result WriteGateSettingByValveGateID(const std::string& text, int point, int id);
 
  private:
-  int WriteGateSetting(const std::string& text, int point, int valve, qel::Snapshot& file);
+  qel::Result WriteGateSetting(const std::string& text, int point, int valve, qel::Snapshot& file);
 };

@@ -86,12 +86,12 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
 
   /// Keys of the numbered section.
   template <class Encoding, class... Values>
-  int Read(const char* key, qel::Place place, Values&... values) {
+  qel::Result Read(const char* key, qel::Place place, Values&... values) {
     SetSectionName(qel::mold_temperature_bc_x::kSection);
     return CQELPROBlockIOBase::Read<Encoding>(key, place, values...);
   }
   template <class Encoding, class... Values>
-  int Write(const char* key, qel::Place place, Values... values) {
+  qel::Result Write(const char* key, qel::Place place, Values... values) {
     SetSectionName(qel::mold_temperature_bc_x::kSection);
     return CQELPROBlockIOBase::Write<Encoding>(key, place, values...);
   }
@@ -99,16 +99,16 @@ class CQELPROBlockIOMoldTemperatureBCX : public CQELPROBlockIOBase {
   /// Header line number `line` of the positional section: how many setting lines the condition has,
   /// its name, an integer. It is found as the document finds a line by its index; a line is written
   /// into the section, or becomes its last one.
-  int ReadBC(int& first, char*& name, int& second, int line);
-  int WriteBC(int first, const char* name, int second, int line);
+  qel::Result ReadBC(int& first, char*& name, int& second, int line);
+  qel::Result WriteBC(int first, const char* name, int second, int line);
 
   /// Setting line `setting` of condition `condition`; the first setting line stands after `offset`
   /// header lines. The header lines of the conditions before it, and a line that is read, stand
   /// before the next section's header, or are not there. A line that is written after the
   /// section's last one becomes its last.
-  int ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
-  int WriteBCSetting(double a, double b, int setting, int condition, int offset);
+  qel::Result ReadBCSetting(double& a, double& b, int setting, int condition, int offset);
+  qel::Result WriteBCSetting(double a, double b, int setting, int condition, int offset);
 
  private:
-  int FindPosition(int setting, int condition, int offset, int& position);
+  qel::Result FindPosition(int setting, int condition, int offset, int& position);
 };

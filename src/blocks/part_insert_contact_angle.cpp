@@ -69,39 +69,40 @@ class GroupSearch {
 
 }  // namespace
 
-int CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name, double& angle) {
+qel::Result CQELPROBlockIOPartInsertContactAngle::ReadGroup(int group, std::string& name,
+                                                            double& angle) {
   char* text = nullptr;
-  const int result = FindText(qel::key_of(qel::part_insert_contact_angle::kKeys, "%d"),
-                              qel::at_point(group), text);
-  if (result != to_int(Result::done)) {
+  const qel::Result result = FindText(qel::key_of(qel::part_insert_contact_angle::kKeys, "%d"),
+                                      qel::at_point(group), text);
+  if (result != Result::done) {
     return result;
   }
-  return to_int(qel::ContactAngle::scan(text, name, angle) ? Result::done : Result::absent);
+  return qel::ContactAngle::scan(text, name, angle) ? Result::done : Result::absent;
 }
 
-int CQELPROBlockIOPartInsertContactAngle::ReadAngle(int group, double& angle) {
+qel::Result CQELPROBlockIOPartInsertContactAngle::ReadAngle(int group, double& angle) {
   std::string name;
   return ReadGroup(group, name, angle);
 }
 
-int CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& angle) {
+qel::Result CQELPROBlockIOPartInsertContactAngle::ReadAngle(const char* name, double& angle) {
   const std::string wanted(name);
   int count = 0;
   Read<qel::Integer>(qel::key_of(qel::part_insert_contact_angle::kKeys, "GroupCount"), {}, count);
   if (count < 1) {
-    return to_int(Result::absent);
+    return Result::absent;
   }
   return document() != nullptr && document()->scans_plainly() ? FindInOneScan(wanted, count, angle)
                                                               : FindByLookups(wanted, count, angle);
 }
 
-int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wanted, int count,
-                                                        double& angle) {
+qel::Result CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wanted,
+                                                                int count, double& angle) {
   std::string group_name;
   double group_angle = 0;
   for (int group = 1; group <= count; ++group) {
-    const int result = ReadGroup(group, group_name, group_angle);
-    if (result != to_int(Result::done)) {
+    const qel::Result result = ReadGroup(group, group_name, group_angle);
+    if (result != Result::done) {
       return result;
     }
     if (group_name == wanted) {
@@ -112,19 +113,19 @@ int CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::string& wante
       break;  // the count may be the largest integer
     }
   }
-  return to_int(Result::absent);
+  return Result::absent;
 }
 
-int CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted, int count,
-                                                        double& angle) {
+qel::Result CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted,
+                                                                int count, double& angle) {
   GroupSearch search(wanted, count);
-  const int result =
+  const Result result =
       document()->VisitEntries(name(), [&search](std::string_view key, std::string_view value) {
         return search.goes_on(key, value);
       });
   if (search.angle()) {
     angle = *search.angle();
-    return to_int(Result::done);
+    return Result::done;
   }
-  return result == to_int(Result::done) ? to_int(Result::absent) : result;
+  return result == Result::done ? Result::absent : result;
 }

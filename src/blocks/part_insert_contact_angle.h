@@ -29,14 +29,14 @@ class CQELPROBlockIOPartInsertContactAngle
     : public qel::SectionBlock<qel::part_insert_contact_angle::kInfo> {
  public:
   /// Fails for a line without two double quotes.
-  int ReadAngle(int group, double& angle);
+  qel::Result ReadAngle(int group, double& angle);
   /// The first group whose name is exactly this one, among the groups that "GroupCount" says there
   /// are. A group that is missing, or has no quoted name, ends the search. The name may stand in a
   /// buffer of a lookup's.
-  int ReadAngle(const char* name, double& angle);
+  qel::Result ReadAngle(const char* name, double& angle);
 
  private:
-  int ReadGroup(int group, std::string& name, double& angle);
-  int FindByLookups(const std::string& wanted, int count, double& angle);
-  int FindInOneScan(const std::string& wanted, int count, double& angle);
+  qel::Result ReadGroup(int group, std::string& name, double& angle);
+  qel::Result FindByLookups(const std::string& wanted, int count, double& angle);
+  qel::Result FindInOneScan(const std::string& wanted, int count, double& angle);
 };

@@ -20,6 +20,6 @@ static_assert(std::size(kFixed) == CQELPROBlockIOUnit::kUnits);
 
 }  // namespace
 
-int CQELPROBlockIOUnit::WriteUnit(std::size_t number) {
+qel::Result CQELPROBlockIOUnit::WriteUnit(std::size_t number) {
   return Write<qel::Text>(kFixed[number].key, {}, kFixed[number].text);
 }

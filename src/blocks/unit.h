@@ -54,5 +54,5 @@ class CQELPROBlockIOUnit : public qel::SectionBlock<qel::unit::kInfo> {
   /// How many entries the writer gives the section, and the writing of one of them, in their order
   /// from 0.
   static constexpr std::size_t kUnits = 7;
-  int WriteUnit(std::size_t number);
+  qel::Result WriteUnit(std::size_t number);
 };

@@ -211,7 +211,7 @@ bool CQELPROIO::open_path_for_update(OsFile& file) const {
                                : open_or_create(file, path_copy_.c_str());
 }
 
-int CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) {
+qel::Result CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) {
   return GetValue(section, key, value, nullptr, 0, index);
 }
 
@@ -228,17 +228,17 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
   return open_path(own) ? Result::done : Result::no_open;
 }
 
-int CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer,
-                        unsigned int size, int index) {
+qel::Result CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer,
+                                unsigned int size, int index) {
   return LookUp({view(section), view(key), index}, value, buffer, size);
 }
 
-int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned int size) {
+qel::Result CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned int size) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
-    return to_int(chosen);
+    return chosen;
   }
   std::optional<LineScanner> lines;
   std::optional<Line> line;
@@ -252,7 +252,7 @@ int CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned
     lines.emplace(*file, 0);
     line = find_plainly(*lines, target);
   }
-  return to_int(deliver(*lines, line, target, value, buffer, size));
+  return deliver(*lines, line, target, value, buffer, size);
 }
 
 // Runs work on the lines after the section's first header. What is absent because the file could
@@ -272,9 +272,9 @@ Result CQELPROIO::scan_section(std::string_view section, Work work) {
   return lines.failed() && result != Result::done ? Result::no_open : result;
 }
 
-int CQELPROIO::VisitLines(const char* section, int count,
-                          const std::function<void(const char*)>& visit) {
-  return to_int(scan_section(view(section), [&](LineScanner& lines, Line& line) {
+qel::Result CQELPROIO::VisitLines(const char* section, int count,
+                                  const std::function<void(const char*)>& visit) {
+  return scan_section(view(section), [&](LineScanner& lines, Line& line) {
     for (int position = 1; position <= count; ++position) {
       if (!lines.next(line) || qel::text::is_header(line.text)) {
         return Result::absent;
@@ -282,103 +282,104 @@ int CQELPROIO::VisitLines(const char* section, int count,
       visit(std::string(qel::text::index_value(line.text)).c_str());
     }
     return Result::done;
-  }));
+  });
 }
 
-int CQELPROIO::VisitEntries(
+qel::Result CQELPROIO::VisitEntries(
     const char* section,
     const std::function<bool(std::string_view key, std::string_view value)>& visit) {
-  return to_int(scan_section(view(section), [&](LineScanner& lines, Line& line) {
+  return scan_section(view(section), [&](LineScanner& lines, Line& line) {
     while (lines.next(line)) {
       if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
         return Result::done;
       }
     }
     return lines.failed() ? Result::no_open : Result::done;
-  }));
+  });
 }
 
-int CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer,
-                        unsigned int size) {
+qel::Result CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer,
+                                unsigned int size) {
   const Target target{view(section), view(key)};
   if (path_ != nullptr) {
     OsFile file;
     if (!file.open_for_reading(path_copy_.c_str())) {
-      return to_int(Result::no_open);
+      return Result::no_open;
     }
     LineScanner lines(file, 0);
-    return to_int(deliver(lines, find_in_section(lines, target), target, value, buffer, size));
+    return deliver(lines, find_in_section(lines, target), target, value, buffer, size);
   }
   if (!holds_file()) {
-    return to_int(Result::no_file);
+    return Result::no_file;
   }
   LineScanner lines(held(), 0);
-  return to_int(deliver(lines, find_plainly(lines, target), target, value, buffer, size));
+  return deliver(lines, find_plainly(lines, target), target, value, buffer, size);
 }
 
-int CQELPROIO::SetValue(const char* section, const char* key, const char* value, int index) {
+qel::Result CQELPROIO::SetValue(const char* section, const char* key, const char* value,
+                                int index) {
   const Entry entry{{view(section), view(key), index}, view(value)};
   if (value == nullptr || is_refused(entry)) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
   if (attached_) {
     if (!holds_file()) {
-      return to_int(Result::no_file);
+      return Result::no_file;
     }
     const Result result = Store(held()).set(entry, false);
-    return result == Result::absent ? InsertValue(own_path(), section, key, value) : to_int(result);
+    return result == Result::absent ? InsertValue(own_path(), section, key, value) : result;
   }
   if (path_ == nullptr && wide_path_ == nullptr) {
-    return to_int(Result::no_file);
+    return Result::no_file;
   }
   OsFile file;
   if (!open_path_for_update(file)) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
   // A new key of an existing section needs the narrow path.
   const bool may_insert = path_ != nullptr;
   const Result result =
       store_into(file, [&](Store& store) { return store.set(entry, may_insert); });
-  return to_int(result == Result::absent ? Result::no_open : result);
+  return result == Result::absent ? Result::no_open : result;
 }
 
-int CQELPROIO::WriteOnce(const char* section, const char* key, const char* value) {
+qel::Result CQELPROIO::WriteOnce(const char* section, const char* key, const char* value) {
   const Entry entry{{view(section), view(key)}, view(value)};
   if (value == nullptr || is_refused(entry)) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
   if (path_ != nullptr) {
     OsFile file;
     if (!open_or_create(file, path_copy_.c_str())) {
-      return to_int(Result::no_open);
+      return Result::no_open;
     }
-    return to_int(store_into(file, [&](Store& store) { return store.set(entry, true); }));
+    return store_into(file, [&](Store& store) { return store.set(entry, true); });
   }
   if (!holds_file()) {
-    return to_int(Result::no_file);
+    return Result::no_file;
   }
   const Result result = Store(held()).set(entry, false);
-  return to_int(result == Result::absent ? Result::no_open : result);
+  return result == Result::absent ? Result::no_open : result;
 }
 
-int CQELPROIO::InsertValue(const char* path, const char* section, const char* key,
-                           const char* value) {
+qel::Result CQELPROIO::InsertValue(const char* path, const char* section, const char* key,
+                                   const char* value) {
   const Entry entry{{view(section), view(key)}, view(value)};
   OsFile file;
   if (path == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path)) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
-  return to_int(store_into(file, [&](Store& store) { return store.insert(entry); }));
+  return store_into(file, [&](Store& store) { return store.insert(entry); });
 }
 
-int CQELPROIO::ReplaceValue(const char* section, const char* key, const char* value) {
+qel::Result CQELPROIO::ReplaceValue(const char* section, const char* key, const char* value) {
   const Entry entry{{view(section), view(key)}, view(value)};
   OsFile file;
   if (path_ == nullptr || value == nullptr || is_refused(entry) ||
       !file.open_for_update(path_copy_.c_str())) {
-    return to_int(Result::no_open);
+    return Result::no_open;
   }
-  return to_int(store_into(file, [&](Store& store) { return store.replace(entry); }));
+  return store_into(file, [&](Store& store) { return store.replace(entry); });
 }
 
 bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value,

@@ -44,32 +44,35 @@ class CQELPROIO {
 
   /// The value of a key (index below 0) or the index-th line of a section, in a buffer that the
   /// thread's next lookup overwrites. Only a result of 1 touches the pointer.
-  virtual int GetValue(const char* section, const char* key, char*& value, int index);
+  virtual qel::Result GetValue(const char* section, const char* key, char*& value, int index);
 
   /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the
   /// buffer alone.
-  int GetValue(const char* section, const char* key, char*& value, char* buffer, unsigned int size,
-               int index);
+  qel::Result GetValue(const char* section, const char* key, char*& value, char* buffer,
+                       unsigned int size, int index);
 
   /// The same of a target. A null buffer is the thread's own.
-  int LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
+  qel::Result LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
 
   /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the
   /// document's mode is. -2 when there are fewer: the section ends at the next header.
-  int VisitLines(const char* section, int count, const std::function<void(const char*)>& visit);
+  qel::Result VisitLines(const char* section, int count,
+                         const std::function<void(const char*)>& visit);
 
   /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one
   /// through the index.
   [[nodiscard]] bool scans_plainly() const { return !indexed_; }
   /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token
   /// and the value, until it yields false.
-  int VisitEntries(const char* section,
-                   const std::function<bool(std::string_view key, std::string_view value)>& visit);
+  qel::Result VisitEntries(
+      const char* section,
+      const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
-  int SetValue(const char* section, const char* key, const char* value, int index);
-  int InsertValue(const char* path, const char* section, const char* key, const char* value);
-  int ReplaceValue(const char* section, const char* key, const char* value);
+  qel::Result SetValue(const char* section, const char* key, const char* value, int index);
+  qel::Result InsertValue(const char* path, const char* section, const char* key,
+                          const char* value);
+  qel::Result ReplaceValue(const char* section, const char* key, const char* value);
 
   /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes
   /// on into later sections. False, too, for a value that does not fit the buffer, whose size is
@@ -86,9 +89,10 @@ class CQELPROIO {
 
   /// A lookup by key that neither uses nor extends the index of offsets, over the path or the held
   /// stream.
-  int ReadOnce(const char* section, const char* key, char*& value, char* buffer, unsigned int size);
+  qel::Result ReadOnce(const char* section, const char* key, char*& value, char* buffer,
+                       unsigned int size);
   /// A store by path, or into the held stream where there is none.
-  int WriteOnce(const char* section, const char* key, const char* value);
+  qel::Result WriteOnce(const char* section, const char* key, const char* value);
 
  private:
   template <class Character>

@@ -32,8 +32,8 @@ TEST(Session, AttachesNothingBeforeItIsToldTo) {
   CQELPROWriter session;
   for (CQELPROBlockIOBase* block : session.Blocks()) {
     char* text = nullptr;
-    EXPECT_EQ(block->Read(kProbe, {}, text), -1);
-    EXPECT_EQ(block->Write(kProbe, {}, "1"), -1);
+    EXPECT_EQ(block->Read(kProbe, {}, text), qel::Result::no_file);
+    EXPECT_EQ(block->Write(kProbe, {}, "1"), qel::Result::no_file);
   }
 }
 
@@ -46,7 +46,7 @@ TEST(Session, AttachesEveryBlock) {
   EXPECT_TRUE(session.AttachDocument(&session.document())) << "a second time does no harm";
   for (CQELPROBlockIOBase* block : session.Blocks()) {
     char* text = nullptr;
-    EXPECT_EQ(block->Read(kProbe, {}, text), -2);
+    EXPECT_EQ(block->Read(kProbe, {}, text), qel::Result::absent);
   }
 }
 
@@ -54,7 +54,7 @@ TEST(Session, IsNotAttachedToNothing) {
   CQELPROReader session;
   EXPECT_FALSE(session.AttachDocument(nullptr));
   char* text = nullptr;
-  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), -1);
+  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), qel::Result::no_file);
 }
 
 TEST(Session, KeepsItsAttachmentWhenItIsGivenNothing) {
@@ -65,7 +65,7 @@ TEST(Session, KeepsItsAttachmentWhenItIsGivenNothing) {
   ASSERT_TRUE(session.AttachDocument(&session.document()));
   EXPECT_FALSE(session.AttachDocument(nullptr));
   char* text = nullptr;
-  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), 1);
+  EXPECT_EQ(session.block<CQELPROBlockIOUnit>().Read(kProbe, {}, text), qel::Result::done);
 }
 
 TEST(Session, GivesEachBlockASectionOfItsOwn) {
@@ -79,7 +79,8 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
     if (block == &session.block<CQELPROBlockIOMoldTemperatureBCX>()) {
       continue;  // a name that reads as no header is never appended
     }
-    EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()), 1)
+    EXPECT_EQ(block->Write(kProbe, qel::in_section(1), std::to_string(++number).c_str()),
+              qel::Result::done)
         << number;
   }
   number = 0;
@@ -88,7 +89,7 @@ TEST(Session, GivesEachBlockASectionOfItsOwn) {
       continue;
     }
     char* text = nullptr;
-    ASSERT_EQ(block->Read(kProbe, qel::in_section(1), text), 1);
+    ASSERT_EQ(block->Read(kProbe, qel::in_section(1), text), qel::Result::done);
     EXPECT_EQ(text, std::to_string(++number)) << "no other block wrote over it";
   }
 }
@@ -103,7 +104,7 @@ TEST(Session, FindsThePositionalSectionByTheFirstTokenOfItsHeader) {
   char* text = nullptr;
   ASSERT_EQ(
       session.block<CQELPROBlockIOMoldTemperatureBCX>().CQELPROBlockIOBase::Read(kProbe, {}, text),
-      1);
+      qel::Result::done);
   EXPECT_STREQ(text, "found");
 }
 
@@ -121,7 +122,7 @@ TEST(Session, HoldsNoFileOpenBetweenStores) {
   CQELPROWriter session;
   ASSERT_TRUE(session.document().SetFilePath(path.c_str(), CQELPROIO::kWriting));
   ASSERT_TRUE(session.AttachDocument(&session.document()));
-  ASSERT_EQ(session.block<CQELPROBlockIOUnit>().Write(kProbe, {}, "1"), 1);
+  ASSERT_EQ(session.block<CQELPROBlockIOUnit>().Write(kProbe, {}, "1"), qel::Result::done);
   EXPECT_EQ(bytes_of(path), native("\n[Unit]\nProbe                = 1\n"))
       << "complete after each write";
   std::FILE* stream = nullptr;

@@ -30,10 +30,10 @@ constexpr Key<RealPair> kPoint{"FR-%d", {}, {}, "a point"};
 constexpr Key<RealTriple> kDirection{"OpenDirection", {}, {}, "a direction"};
 constexpr Key<IntegerPair> kCodes{"FlowCTL-%d", {}, {}, "two codes"};
 
-constexpr int kDone = 1;
-constexpr int kNoOpen = 0;
-constexpr int kNoFile = -1;
-constexpr int kAbsent = -2;
+constexpr qel::Result kDone = qel::Result::done;
+constexpr qel::Result kNoOpen = qel::Result::no_open;
+constexpr qel::Result kNoFile = qel::Result::no_file;
+constexpr qel::Result kAbsent = qel::Result::absent;
 
 // Stands for an encoding of several fields with a text among them: it prints what it is given.
 struct Compound : qel::Text {

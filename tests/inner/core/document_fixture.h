@@ -12,10 +12,10 @@
 /// A document over a file of its own, and what its lookups come to.
 namespace qelpro_test {
 
-inline constexpr int kDone = 1;
-inline constexpr int kNoOpen = 0;
-inline constexpr int kNoFile = -1;
-inline constexpr int kAbsent = -2;
+inline constexpr qel::Result kDone = qel::Result::done;
+inline constexpr qel::Result kNoOpen = qel::Result::no_open;
+inline constexpr qel::Result kNoFile = qel::Result::no_file;
+inline constexpr qel::Result kAbsent = qel::Result::absent;
 inline constexpr int kByKey = -1;
 
 inline std::wstring widened(const std::string& path) { return {path.begin(), path.end()}; }
@@ -25,18 +25,18 @@ inline std::string look(CQELPROIO& document, const char* section, const char* ke
                         int index = kByKey) {
   char untouched[] = "untouched";
   char* value = untouched;
-  const int result = document.GetValue(section, key, value, index);
+  const qel::Result result = document.GetValue(section, key, value, index);
   if (result == kDone) {
     return value;
   }
   EXPECT_EQ(value, untouched) << "only success touches the pointer";
-  return std::to_string(result);
+  return std::to_string(to_int(result));
 }
 
 inline std::string look_once(CQELPROIO& document, const char* section, const char* key) {
   char* value = nullptr;
-  const int result = document.ReadOnce(section, key, value, nullptr, 0);
-  return result == kDone ? value : std::to_string(result);
+  const qel::Result result = document.ReadOnce(section, key, value, nullptr, 0);
+  return result == kDone ? value : std::to_string(to_int(result));
 }
 
 inline std::string scan(CQELPROIO& document, const char* path, const char* section,

@@ -591,13 +591,14 @@ class Generator {
 
 Answer look(CQELPROIO& document, const std::string& section, const std::string& key, int index) {
   char* value = nullptr;
-  const int result = document.GetValue(section.c_str(), key.c_str(), value, index);
+  const int result = qel::to_int(document.GetValue(section.c_str(), key.c_str(), value, index));
   return {result, result == naive::kDone ? value : ""};
 }
 
 Answer look_once(CQELPROIO& document, const std::string& section, const std::string& key) {
   char* value = nullptr;
-  const int result = document.ReadOnce(section.c_str(), key.c_str(), value, nullptr, 0);
+  const int result =
+      qel::to_int(document.ReadOnce(section.c_str(), key.c_str(), value, nullptr, 0));
   return {result, result == naive::kDone ? value : ""};
 }
 
@@ -629,13 +630,14 @@ class Trial {
       int result = 0;
       if (kind < 85) {
         expected = naive::store(bytes_, section, key, value, index, true);
-        result = document.SetValue(section.c_str(), key.c_str(), value.c_str(), index);
+        result = qel::to_int(document.SetValue(section.c_str(), key.c_str(), value.c_str(), index));
       } else if (kind < 90) {
         expected = naive::insert(bytes_, section, key, value);
-        result = document.InsertValue(path_.c_str(), section.c_str(), key.c_str(), value.c_str());
+        result = qel::to_int(
+            document.InsertValue(path_.c_str(), section.c_str(), key.c_str(), value.c_str()));
       } else if (kind < 95) {
         expected = naive::replace(bytes_, section, key, value);
-        result = document.ReplaceValue(section.c_str(), key.c_str(), value.c_str());
+        result = qel::to_int(document.ReplaceValue(section.c_str(), key.c_str(), value.c_str()));
       } else {
         expected = naive::store(bytes_, section, key, value, -1, false);
         result = store_lent(section, key, value);
@@ -685,9 +687,10 @@ class Trial {
   int store_lent(const std::string& section, const std::string& key, const std::string& value) {
     CQELPROIO lent;
     std::FILE* stream = std::fopen(path_.c_str(), "r+");
-    const int result = lent.SetFilePtr(stream)
-                           ? lent.SetValue(section.c_str(), key.c_str(), value.c_str(), -1)
-                           : -1;
+    const int result =
+        lent.SetFilePtr(stream)
+            ? qel::to_int(lent.SetValue(section.c_str(), key.c_str(), value.c_str(), -1))
+            : -1;
     std::fclose(stream);
     return result;
   }

@@ -36,7 +36,7 @@ TEST(Snapshot, AnswersAsAOneShotReadDoes) {
       CQELPROIO document;
       ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
       char* text = nullptr;
-      const bool found = document.ReadOnce(section, key, text, nullptr, 0) == 1;
+      const bool found = document.ReadOnce(section, key, text, nullptr, 0) == qel::Result::done;
       const auto value = snapshot.value(section, key);
       ASSERT_EQ(value.has_value(), found) << section << ' ' << key;
       if (found) {
