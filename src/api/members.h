@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <type_traits>
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
@@ -12,6 +13,11 @@
 namespace qel {
 
 using Session = CQELPROIOBase;
+
+/// A section or key of null is one without characters, which no line has.
+inline std::string_view name_of(const char* text) {
+  return text != nullptr ? std::string_view(text) : std::string_view();
+}
 
 template <class Value>
 bool is_null([[maybe_unused]] Value value) {

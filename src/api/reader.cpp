@@ -1,8 +1,27 @@
-#include <new>
+#include <limits>
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "api/members.h"
 #include "api/ownership.h"
+
+using qel::ValueBuffer;
+
+namespace {
+
+// A size of 0 says nothing of the buffer's.
+constexpr std::size_t kAnySize = std::numeric_limits<std::size_t>::max();
+
+// A failing read leaves the caller's pointer alone.
+template <class Read>
+bool hand_out(const ValueBuffer& room, char*& value, Read read) {
+  const bool done = qel::attempt(read);
+  if (done) {
+    value = room.text;
+  }
+  return done;
+}
+
+}  // namespace
 
 CQELPROReader_Manipulator::CQELPROReader_Manipulator() = default;
 
@@ -58,16 +77,24 @@ bool CQELPROReader_Manipulator::GetFilePath(const char*& path) {
 
 bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key, char*& value,
                                            char* buffer, unsigned int size) {
-  return raw_reads_disabled_ == 0 && session_ != nullptr && qel::attempt([&] {
-           return session_->document().ReadOnce(section, key, value, buffer, size) ==
-                  qel::Result::done;
-         });
+  if (raw_reads_disabled_ != 0 || session_ == nullptr) {
+    return false;
+  }
+  const auto room = buffer != nullptr ? ValueBuffer{buffer, size} : ValueBuffer::of_thread();
+  return hand_out(room, value, [&] {
+    return session_->document().ReadOnce(qel::name_of(section), qel::name_of(key), room) ==
+           qel::Result::done;
+  });
 }
 
 bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, char*& value,
                                           char* buffer, unsigned int size) {
-  return raw_reads_disabled_ == 0 && session_ != nullptr && qel::attempt([&] {
-           return session_->document().ScanValue(session_->document().own_path(), section, key,
-                                                 value, buffer, size);
-         });
+  if (raw_reads_disabled_ != 0 || session_ == nullptr || section == nullptr || key == nullptr) {
+    return false;
+  }
+  const auto room = buffer != nullptr ? ValueBuffer{buffer, size != 0 ? size : kAnySize}
+                                      : ValueBuffer::of_thread_for_scans();
+  return hand_out(room, value, [&] {
+    return session_->document().ScanValue(session_->document().own_path(), section, key, room);
+  });
 }

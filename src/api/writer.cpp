@@ -85,8 +85,9 @@ bool CQELPROWriter_Manipulator::GetFilePath(const char*& path) {
 
 bool CQELPROWriter_Manipulator::WriteString(const char* section, const char* key,
                                             const char* value) {
-  return session_ != nullptr && qel::attempt([&] {
-           return session_->document().WriteOnce(section, key, value) == qel::Result::done;
+  return session_ != nullptr && value != nullptr && qel::attempt([&] {
+           return session_->document().WriteOnce(qel::name_of(section), qel::name_of(key), value) ==
+                  qel::Result::done;
          });
 }
 

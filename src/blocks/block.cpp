@@ -17,7 +17,6 @@ NumberedName::NumberedName(std::string_view pattern, int number) {
     end = std::to_chars(end, end + kNumber, number).ptr;
     end += pattern.copy(end, kLongestPattern - letter, letter + 1);
   }
-  *end = '\0';
   size_ = static_cast<std::size_t>(end - text_);
 }
 
@@ -42,7 +41,12 @@ qel::Result CQELPROBlockIOBase::FindText(const char* key, qel::Place place, char
   }
   const NumberedName section(name_, place.section);
   const NumberedName entry(key, place.point);
-  return document_->LookUp({section.str(), entry.str()}, text, nullptr, 0);
+  const qel::ValueBuffer value = qel::ValueBuffer::of_thread();
+  const Result result = document_->LookUp({section.str(), entry.str()}, value);
+  if (result == Result::done) {
+    text = value.text;
+  }
+  return result;
 }
 
 qel::Result CQELPROBlockIOBase::StoreText(const char* key, qel::Place place,
@@ -53,7 +57,7 @@ qel::Result CQELPROBlockIOBase::StoreText(const char* key, qel::Place place,
   if (text.size() >= limit) {
     return Result::no_open;
   }
-  return document_->SetValue(NumberedName(name_, place.section).c_str(),
-                             NumberedName(key, place.point).c_str(), text.c_str(),
-                             qel::Target::kByKey);
+  const NumberedName section(name_, place.section);
+  const NumberedName entry(key, place.point);
+  return document_->SetValue(section.str(), entry.str(), text, qel::Target::kByKey);
 }

@@ -20,13 +20,12 @@ class NumberedName {
   NumberedName(std::string_view pattern, int number);
 
   [[nodiscard]] std::string_view str() const { return {text_, size_}; }
-  [[nodiscard]] const char* c_str() const { return text_; }
 
  private:
   static constexpr std::size_t kNumber = 11;
 
-  char text_[kLongestPattern + kNumber +
-             1];  // each reading member makes two: on the stack, without a need of memory
+  // Each reading member makes two: on the stack, without a need of memory.
+  char text_[kLongestPattern + kNumber];
   std::size_t size_;
 };
 
@@ -92,8 +91,8 @@ class CQELPROBlockIOBase {
  private:
   static constexpr std::size_t kNameSize = qel::NumberedName::kLongestPattern + 1;
 
-  const char*
-      name_;  // most blocks keep their first, so that a session is made without a copy of each
+  // Most blocks keep their first, so that a session is made without a copy of each.
+  const char* name_;
   char new_name_[kNameSize];  // without a value until then
   CQELPROIO* document_ = nullptr;
 };

@@ -62,8 +62,7 @@ qel::Result CQELPROBlockIOGateValveX::WriteGateSetting(const std::string& text, 
   const int count =
       integer(file, section_of(valve), qel::key_of(qel::gate_valve_x::kKeys, "GCSet"), 1);
   const qel::NumberedName key(qel::key_of(qel::gate_valve_x::kKeys, "GC-%d"), point);
-  const qel::Result result =
-      document()->ReplaceValue(section_of(valve).c_str(), key.c_str(), text.c_str());
+  const qel::Result result = document()->ReplaceValue(section_of(valve), key.str(), text);
   if (result != Result::done || count >= point) {
     return result;
   }

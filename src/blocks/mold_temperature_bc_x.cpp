@@ -30,9 +30,8 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::WriteBC(int first, const char* nam
     return Result::no_file;
   }
   const std::string text = qel::PositionalHeader::print(first, name, second);
-  return text.size() < qel::kCompoundLimit
-             ? document()->SetValue(this->name(), "", text.c_str(), line)
-             : Result::no_open;
+  return text.size() < qel::kCompoundLimit ? document()->SetValue(this->name(), "", text, line)
+                                           : Result::no_open;
 }
 
 // The setting lines of a condition stand after those of the conditions before it, whose header
@@ -48,9 +47,9 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int cond
   std::int64_t sum = std::int64_t{offset} + setting;
   if (condition > 1) {
     const qel::Result result =
-        document()->VisitLines(name(), condition - 1, [&sum](const char* line) {
+        document()->VisitLines(name(), condition - 1, [&sum](std::string_view line) {
           int count = 0;
-          qel::fields::scan(line, count);
+          qel::fields::scan(std::string(line).c_str(), count);
           sum += count;
         });
     if (result != Result::done) {
@@ -73,7 +72,7 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::ReadBCSetting(double& a, double& b
   }
   std::string line;
   const Result found =
-      document()->VisitLines(name(), position, [&line](const char* text) { line = text; });
+      document()->VisitLines(name(), position, [&line](std::string_view text) { line = text; });
   if (found == Result::done) {
     qel::PositionalSetting::scan(line.c_str(), a, b);
   }
@@ -88,5 +87,5 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::WriteBCSetting(double a, double b,
     return result;
   }
   const std::string text = qel::PositionalSetting::print(condition, a, b);
-  return document()->SetValue(name(), "", text.c_str(), position);
+  return document()->SetValue(name(), "", text, position);
 }

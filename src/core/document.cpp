@@ -12,35 +12,14 @@ using qel::LineScanner;
 using qel::Result;
 using qel::Store;
 using qel::Target;
+using qel::ValueBuffer;
 using qel::platform::OsFile;
 using qel::platform::RandomAccess;
 
 namespace {
 
-constexpr std::size_t kValueBuffer = 4096;
-
-// One for the whole thread: a text result lives until its next lookup through any document.
-char* shared_value_buffer() {
-  thread_local char buffer[kValueBuffer];
-  return buffer;
-}
-
-Result deliver(std::string_view text, char*& value, char* buffer, std::size_t size) {
-  if (buffer == nullptr) {
-    buffer = shared_value_buffer();
-    size = kValueBuffer;
-  }
-  if (text.size() >= size) {
-    return Result::no_open;
-  }
-  text.copy(buffer, text.size());
-  buffer[text.size()] = '\0';
-  value = buffer;
-  return Result::done;
-}
-
 Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target,
-               char*& value, char* buffer, std::size_t size) {
+               const ValueBuffer& value) {
   if (lines.failed()) {
     return Result::no_open;
   }
@@ -49,9 +28,9 @@ Result deliver(const LineScanner& lines, const std::optional<Line>& line, const 
   if (!line || line->start == 0) {
     return Result::absent;
   }
-  return deliver(
-      target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text),
-      value, buffer, size);
+  const std::string_view text =
+      target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text);
+  return value.put(text) ? Result::done : Result::no_open;
 }
 
 bool open_or_create(OsFile& file, const char* path) {
@@ -64,10 +43,6 @@ Result store_into(OsFile& file, Work work) {
   Store store(file);
   const Result result = work(store);
   return file.close() ? result : Result::no_open;
-}
-
-std::string_view view(const char* text) {
-  return text != nullptr ? std::string_view(text) : std::string_view();
 }
 
 }  // namespace
@@ -211,8 +186,14 @@ bool CQELPROIO::open_path_for_update(OsFile& file) const {
                                : open_or_create(file, path_copy_.c_str());
 }
 
-qel::Result CQELPROIO::GetValue(const char* section, const char* key, char*& value, int index) {
-  return GetValue(section, key, value, nullptr, 0, index);
+qel::Result CQELPROIO::GetValue(std::string_view section, std::string_view key, char*& value,
+                                int index) {
+  const ValueBuffer buffer = ValueBuffer::of_thread();
+  const Result result = LookUp({section, key, index}, buffer);
+  if (result == Result::done) {
+    value = buffer.text;
+  }
+  return result;
 }
 
 // The held file, or the path's, which `own` opens.
@@ -228,12 +209,7 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
   return open_path(own) ? Result::done : Result::no_open;
 }
 
-qel::Result CQELPROIO::GetValue(const char* section, const char* key, char*& value, char* buffer,
-                                unsigned int size, int index) {
-  return LookUp({view(section), view(key), index}, value, buffer, size);
-}
-
-qel::Result CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, unsigned int size) {
+qel::Result CQELPROIO::LookUp(const Target& target, const ValueBuffer& value) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
@@ -252,7 +228,7 @@ qel::Result CQELPROIO::LookUp(const Target& target, char*& value, char* buffer, 
     lines.emplace(*file, 0);
     line = find_plainly(*lines, target);
   }
-  return deliver(*lines, line, target, value, buffer, size);
+  return deliver(*lines, line, target, value);
 }
 
 // Runs work on the lines after the section's first header. What is absent because the file could
@@ -272,23 +248,23 @@ Result CQELPROIO::scan_section(std::string_view section, Work work) {
   return lines.failed() && result != Result::done ? Result::no_open : result;
 }
 
-qel::Result CQELPROIO::VisitLines(const char* section, int count,
-                                  const std::function<void(const char*)>& visit) {
-  return scan_section(view(section), [&](LineScanner& lines, Line& line) {
+qel::Result CQELPROIO::VisitLines(std::string_view section, int count,
+                                  const std::function<void(std::string_view)>& visit) {
+  return scan_section(section, [&](LineScanner& lines, Line& line) {
     for (int position = 1; position <= count; ++position) {
       if (!lines.next(line) || qel::text::is_header(line.text)) {
         return Result::absent;
       }
-      visit(std::string(qel::text::index_value(line.text)).c_str());
+      visit(qel::text::index_value(line.text));
     }
     return Result::done;
   });
 }
 
 qel::Result CQELPROIO::VisitEntries(
-    const char* section,
+    std::string_view section,
     const std::function<bool(std::string_view key, std::string_view value)>& visit) {
-  return scan_section(view(section), [&](LineScanner& lines, Line& line) {
+  return scan_section(section, [&](LineScanner& lines, Line& line) {
     while (lines.next(line)) {
       if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
         return Result::done;
@@ -298,28 +274,28 @@ qel::Result CQELPROIO::VisitEntries(
   });
 }
 
-qel::Result CQELPROIO::ReadOnce(const char* section, const char* key, char*& value, char* buffer,
-                                unsigned int size) {
-  const Target target{view(section), view(key)};
+qel::Result CQELPROIO::ReadOnce(std::string_view section, std::string_view key,
+                                const ValueBuffer& value) {
+  const Target target{section, key};
   if (path_ != nullptr) {
     OsFile file;
     if (!file.open_for_reading(path_copy_.c_str())) {
       return Result::no_open;
     }
     LineScanner lines(file, 0);
-    return deliver(lines, find_in_section(lines, target), target, value, buffer, size);
+    return deliver(lines, find_in_section(lines, target), target, value);
   }
   if (!holds_file()) {
     return Result::no_file;
   }
   LineScanner lines(held(), 0);
-  return deliver(lines, find_plainly(lines, target), target, value, buffer, size);
+  return deliver(lines, find_plainly(lines, target), target, value);
 }
 
-qel::Result CQELPROIO::SetValue(const char* section, const char* key, const char* value,
-                                int index) {
-  const Entry entry{{view(section), view(key), index}, view(value)};
-  if (value == nullptr || is_refused(entry)) {
+qel::Result CQELPROIO::SetValue(std::string_view section, std::string_view key,
+                                std::string_view value, int index) {
+  const Entry entry{{section, key, index}, value};
+  if (is_refused(entry)) {
     return Result::no_open;
   }
   if (attached_) {
@@ -343,9 +319,10 @@ qel::Result CQELPROIO::SetValue(const char* section, const char* key, const char
   return result == Result::absent ? Result::no_open : result;
 }
 
-qel::Result CQELPROIO::WriteOnce(const char* section, const char* key, const char* value) {
-  const Entry entry{{view(section), view(key)}, view(value)};
-  if (value == nullptr || is_refused(entry)) {
+qel::Result CQELPROIO::WriteOnce(std::string_view section, std::string_view key,
+                                 std::string_view value) {
+  const Entry entry{{section, key}, value};
+  if (is_refused(entry)) {
     return Result::no_open;
   }
   if (path_ != nullptr) {
@@ -362,47 +339,33 @@ qel::Result CQELPROIO::WriteOnce(const char* section, const char* key, const cha
   return result == Result::absent ? Result::no_open : result;
 }
 
-qel::Result CQELPROIO::InsertValue(const char* path, const char* section, const char* key,
-                                   const char* value) {
-  const Entry entry{{view(section), view(key)}, view(value)};
+qel::Result CQELPROIO::InsertValue(const char* path, std::string_view section, std::string_view key,
+                                   std::string_view value) {
+  const Entry entry{{section, key}, value};
   OsFile file;
-  if (path == nullptr || value == nullptr || is_refused(entry) || !file.open_for_update(path)) {
+  if (path == nullptr || is_refused(entry) || !file.open_for_update(path)) {
     return Result::no_open;
   }
   return store_into(file, [&](Store& store) { return store.insert(entry); });
 }
 
-qel::Result CQELPROIO::ReplaceValue(const char* section, const char* key, const char* value) {
-  const Entry entry{{view(section), view(key)}, view(value)};
+qel::Result CQELPROIO::ReplaceValue(std::string_view section, std::string_view key,
+                                    std::string_view value) {
+  const Entry entry{{section, key}, value};
   OsFile file;
-  if (path_ == nullptr || value == nullptr || is_refused(entry) ||
-      !file.open_for_update(path_copy_.c_str())) {
+  if (path_ == nullptr || is_refused(entry) || !file.open_for_update(path_copy_.c_str())) {
     return Result::no_open;
   }
   return store_into(file, [&](Store& store) { return store.replace(entry); });
 }
 
-bool CQELPROIO::ScanValue(const char* path, const char* section, const char* key, char*& value,
-                          char* buffer, unsigned int size) {
+bool CQELPROIO::ScanValue(const char* path, std::string_view section, std::string_view key,
+                          const ValueBuffer& value) {
   OsFile file;
-  if (path == nullptr || section == nullptr || key == nullptr || !file.open_for_reading(path)) {
+  if (path == nullptr || !file.open_for_reading(path)) {
     return false;
   }
   std::string contents;
   const std::optional<std::string_view> text = qel::scan_value(file, section, key, contents);
-  if (!text) {
-    return false;
-  }
-  if (buffer == nullptr) {
-    thread_local char own[kValueBuffer];
-    buffer = own;
-    size = kValueBuffer;
-  }
-  if (size != 0 && text->size() >= size) {
-    return false;
-  }
-  text->copy(buffer, text->size());
-  buffer[text->size()] = '\0';
-  value = buffer;
-  return true;
+  return text && value.put(*text);
 }

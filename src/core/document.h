@@ -10,6 +10,7 @@
 #include "core/lookup.h"
 #include "core/result.h"
 #include "core/store.h"
+#include "core/value_buffer.h"
 #include "platform/caller_stream.h"
 #include "platform/os_file.h"
 
@@ -44,20 +45,16 @@ class CQELPROIO {
 
   /// The value of a key (index below 0) or the index-th line of a section, in a buffer that the
   /// thread's next lookup overwrites. Only a result of 1 touches the pointer.
-  virtual qel::Result GetValue(const char* section, const char* key, char*& value, int index);
+  virtual qel::Result GetValue(std::string_view section, std::string_view key, char*& value,
+                               int index);
 
-  /// The same, copied into the caller's buffer. A value that does not fit yields 0 and leaves the
-  /// buffer alone.
-  qel::Result GetValue(const char* section, const char* key, char*& value, char* buffer,
-                       unsigned int size, int index);
-
-  /// The same of a target. A null buffer is the thread's own.
-  qel::Result LookUp(const qel::Target& target, char*& value, char* buffer, unsigned int size);
+  /// The same, put into a buffer. A value that does not fit yields 0 and leaves the buffer alone.
+  qel::Result LookUp(const qel::Target& target, const qel::ValueBuffer& value);
 
   /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the
   /// document's mode is. -2 when there are fewer: the section ends at the next header.
-  qel::Result VisitLines(const char* section, int count,
-                         const std::function<void(const char*)>& visit);
+  qel::Result VisitLines(std::string_view section, int count,
+                         const std::function<void(std::string_view)>& visit);
 
   /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one
   /// through the index.
@@ -65,20 +62,20 @@ class CQELPROIO {
   /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token
   /// and the value, until it yields false.
   qel::Result VisitEntries(
-      const char* section,
+      std::string_view section,
       const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
-  qel::Result SetValue(const char* section, const char* key, const char* value, int index);
-  qel::Result InsertValue(const char* path, const char* section, const char* key,
-                          const char* value);
-  qel::Result ReplaceValue(const char* section, const char* key, const char* value);
+  qel::Result SetValue(std::string_view section, std::string_view key, std::string_view value,
+                       int index);
+  qel::Result InsertValue(const char* path, std::string_view section, std::string_view key,
+                          std::string_view value);
+  qel::Result ReplaceValue(std::string_view section, std::string_view key, std::string_view value);
 
   /// A lookup of its own kind: the section's name may stand anywhere in a line, and the search goes
-  /// on into later sections. False, too, for a value that does not fit the buffer, whose size is
-  /// not looked at where it is 0.
-  bool ScanValue(const char* path, const char* section, const char* key, char*& value, char* buffer,
-                 unsigned int size = 0);
+  /// on into later sections. False, too, for a value that does not fit the buffer.
+  bool ScanValue(const char* path, std::string_view section, std::string_view key,
+                 const qel::ValueBuffer& value);
 
   /// The caller's own pointer, or null when the file was given by a wide path or a stream.
   [[nodiscard]] const char* narrow_path() const { return path_; }
@@ -89,10 +86,10 @@ class CQELPROIO {
 
   /// A lookup by key that neither uses nor extends the index of offsets, over the path or the held
   /// stream.
-  qel::Result ReadOnce(const char* section, const char* key, char*& value, char* buffer,
-                       unsigned int size);
+  qel::Result ReadOnce(std::string_view section, std::string_view key,
+                       const qel::ValueBuffer& value);
   /// A store by path, or into the held stream where there is none.
-  qel::Result WriteOnce(const char* section, const char* key, const char* value);
+  qel::Result WriteOnce(std::string_view section, std::string_view key, std::string_view value);
 
  private:
   template <class Character>
@@ -116,11 +113,12 @@ class CQELPROIO {
   std::string path_copy_;
   std::wstring wide_path_copy_;
   qel::SectionIndex index_;
-  std::uint64_t read_identity_ = 0;  // of the file that was opened for reading last
-  std::uint32_t seen_changes_ =
-      0;  // what this program had written to the file when the index was last right
-  qel::platform::OsFile file_;                         // opened by this document for reading
-  std::unique_ptr<qel::platform::CallerStream> lent_;  // lent by the caller
+  // Of the file that was opened for reading last.
+  std::uint64_t read_identity_ = 0;
+  // What this program had written to that file when the index was last right.
+  std::uint32_t seen_changes_ = 0;
+  qel::platform::OsFile file_;  // opened by this document for reading
+  std::unique_ptr<qel::platform::CallerStream> lent_;
   std::FILE* stream_ = nullptr;  // the lent stream, or one handed out over `file_`
   bool attached_ = false;
   bool indexed_ = false;

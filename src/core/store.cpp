@@ -1,6 +1,7 @@
 #include "core/store.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/text.h"
 
@@ -15,8 +16,8 @@ std::string_view without_trailing_break(std::string_view value) {
   return text::trim_end(value, "\r\n");
 }
 
-// The longest line that may be written; its line break counts as one character.
-bool fits(std::string_view line) { return line.size() + 1 <= text::kLongestLine; }
+// Whether a line of so many characters may be written; its line break counts as one.
+bool fits(std::size_t size) { return size + 1 <= text::kLongestLine; }
 
 std::string line_of(const Entry& entry) {
   const std::string_view value = without_trailing_break(entry.value);
@@ -50,31 +51,34 @@ bool is_refused(const Entry& entry) {
   if (holds_end_mark(target.section) || holds_end_mark(target.key) || holds_end_mark(entry.value)) {
     return true;  // some programs would take it for the end of the file
   }
-  if (!fits(target.section) || has_line_break(without_trailing_break(entry.value))) {
+  const std::string_view value = without_trailing_break(entry.value);
+  if (!fits(target.section.size()) || has_line_break(value)) {
     return true;
   }
   if (target.by_key()) {
     return !text::is_section_name(target.section) || !text::is_key(target.key) ||
-           !fits(inserted_line_of(entry));
+           !fits(target.key.size() + text::kAssignment.size() + value.size());
   }
   // A positional section is asked for by the first token of its header, which may be an open
   // bracket and a word. A line that reads as a header would end the section it stands in.
-  const std::string line = line_of(entry);
   return target.index == 0 || !text::is_findable(target.section) || target.section.front() != '[' ||
-         !fits(line) || text::is_header(line);
+         !fits(value.size()) || text::is_header(value);
 }
 
-Result Store::replace_line(const Line& old, std::string_view line) {
-  return done_if(edit_.replace(static_cast<std::size_t>(old.start),
-                               static_cast<std::size_t>(old.end), with_break(line)));
+Result Store::replace_line(const Line& old, std::string line) {
+  return done_if(fits(line.size()) &&
+                 edit_.replace(static_cast<std::size_t>(old.start),
+                               static_cast<std::size_t>(old.end), line.append(edit_.line_break())));
 }
 
-Result Store::insert_line(std::size_t at, std::string_view line) {
-  return done_if(edit_.insert(at, with_break(line)));
+Result Store::insert_line(std::size_t at, std::string line) {
+  line.append(edit_.line_break());
+  return done_if(edit_.insert(at, std::move(line)));
 }
 
-Result Store::append_section(std::string_view header, std::string_view line) {
-  return done_if(fits(line) && edit_.append_section(header, with_break(line)));
+Result Store::append_section(std::string_view header, std::string line) {
+  return done_if(fits(line.size()) &&
+                 edit_.append_section(header, line.append(edit_.line_break())));
 }
 
 Result Store::set(const Entry& entry, bool may_insert) {
@@ -82,22 +86,22 @@ Result Store::set(const Entry& entry, bool may_insert) {
     return Result::no_open;
   }
   const Target& target = entry.target;
-  const std::string entry_line = line_of(entry);
   LineScanner lines(edit_.contents());
   Line line;
   if (!find_plain_header(lines, target.section, line)) {
-    return append_section(target.by_key() ? target.section : text::kPositionalHeader, entry_line);
+    return append_section(target.by_key() ? target.section : text::kPositionalHeader,
+                          line_of(entry));
   }
   for (int position = 1; lines.next(line); ++position) {
     if (!target.by_key() && text::is_header(line.text)) {
-      return insert_line(static_cast<std::size_t>(line.start), entry_line);
+      return insert_line(static_cast<std::size_t>(line.start), line_of(entry));
     }
     if (is_target(target, line, position)) {
-      return fits(entry_line) ? replace_line(line, entry_line) : Result::no_open;
+      return replace_line(line, line_of(entry));
     }
   }
   if (!target.by_key()) {
-    return insert_line(edit_.contents().size(), entry_line);
+    return insert_line(edit_.contents().size(), line_of(entry));
   }
   return may_insert ? insert_into_section(entry) : Result::absent;
 }
@@ -108,18 +112,17 @@ Result Store::insert(const Entry& entry) {
 
 Result Store::insert_into_section(const Entry& entry) {
   const Target& target = entry.target;
-  const std::string entry_line = inserted_line_of(entry);
   LineScanner lines(edit_.contents());
   Line line;
   if (!find_plain_header(lines, target.section, line)) {
-    return append_section(target.section, entry_line);
+    return append_section(target.section, inserted_line_of(entry));
   }
   while (lines.next(line)) {
     if (text::is_header(line.text) || assigns(line.text, target.key)) {
-      return insert_line(static_cast<std::size_t>(line.start), entry_line);
+      return insert_line(static_cast<std::size_t>(line.start), inserted_line_of(entry));
     }
   }
-  return insert_line(edit_.contents().size(), entry_line);
+  return insert_line(edit_.contents().size(), inserted_line_of(entry));
 }
 
 Result Store::replace(const Entry& entry) {
@@ -128,22 +131,22 @@ Result Store::replace(const Entry& entry) {
   }
   edit_.drop_padding();
   const Target& target = entry.target;
-  const std::string entry_line = inserted_line_of(entry);
   LineScanner lines(edit_.contents());
   Line line;
   if (!find_plain_header(lines, target.section, line)) {
-    return append_section(target.section, entry_line);
+    return append_section(target.section, inserted_line_of(entry));
   }
   while (lines.next(line)) {
     if (text::first_token_is(line.text, target.key)) {
-      return replace_line(line, entry_line);
+      return replace_line(line, inserted_line_of(entry));
     }
     if (line.text.find('[') != std::string_view::npos) {
       // Any bracket counts as the next section here, and an empty line sets it off.
-      return insert_line(static_cast<std::size_t>(line.start), with_break(entry_line));
+      return insert_line(static_cast<std::size_t>(line.start),
+                         inserted_line_of(entry).append(edit_.line_break()));
     }
   }
-  return insert_line(edit_.contents().size(), entry_line);
+  return insert_line(edit_.contents().size(), inserted_line_of(entry));
 }
 
 }  // namespace qel

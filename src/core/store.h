@@ -43,13 +43,10 @@ class Store {
   Result replace(const Entry& entry);
 
  private:
-  Result replace_line(const Line& old, std::string_view line);
-  Result insert_line(std::size_t at, std::string_view line);
-  Result append_section(std::string_view header, std::string_view line);
+  Result replace_line(const Line& old, std::string line);
+  Result insert_line(std::size_t at, std::string line);
+  Result append_section(std::string_view header, std::string line);
   Result insert_into_section(const Entry& entry);
-  [[nodiscard]] std::string with_break(std::string_view line) const {
-    return std::string(line).append(edit_.line_break());
-  }
 
   FileEdit edit_;
 };

@@ -110,16 +110,27 @@ bool is_section_name(std::string_view name) {
 
 bool is_key(std::string_view name) { return is_findable(name) && name.front() != '['; }
 
-std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect) {
-  std::string line(key);
-  if (line.size() < dialect.key_columns) {
-    line.append(dialect.key_columns - line.size(), ' ');
+namespace {
+
+// With room for a line break.
+std::string entry_of(std::string_view key, std::string_view value, std::size_t key_columns) {
+  std::string line;
+  line.reserve(std::max(key.size(), key_columns) + kAssignment.size() + value.size() + 2);
+  line.append(key);
+  if (key.size() < key_columns) {
+    line.append(key_columns - key.size(), ' ');
   }
-  return line.append(" = ").append(value);
+  return line.append(kAssignment).append(value);
+}
+
+}  // namespace
+
+std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect) {
+  return entry_of(key, value, dialect.key_columns);
 }
 
 std::string plain_entry(std::string_view key, std::string_view value) {
-  return std::string(key).append(" = ").append(value);
+  return entry_of(key, value, 0);
 }
 
 }  // namespace qel::text

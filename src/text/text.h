@@ -66,6 +66,9 @@ bool is_findable(std::string_view name);
 bool is_section_name(std::string_view name);
 bool is_key(std::string_view name);
 
+/// What stands between the key and the value of an entry that is written.
+inline constexpr std::string_view kAssignment = " = ";
+
 /// "%-20s = %s", or as wide as the dialect has it: the layout of an entry that is appended or
 /// replaced.
 std::string padded_entry(std::string_view key, std::string_view value, const Dialect& dialect = {});

@@ -70,14 +70,13 @@ TEST(Block, CutsItsNameAt255Characters) {
 TEST(NumberedName, HasTheNumberInThePlaceOfItsPattern) {
   EXPECT_EQ(NumberedName("[Flow-%ld]", 7).str(), "[Flow-7]");
   EXPECT_EQ(NumberedName("[Cure-%d]", -2147483647 - 1).str(), "[Cure--2147483648]");
-  EXPECT_STREQ(NumberedName("FR-%d", 0).c_str(), "FR-0");
+  EXPECT_EQ(NumberedName("FR-%d", 0).str(), "FR-0");
 }
 
 TEST(NumberedName, IsAPatternWithoutAPlaceAsItStands) {
   for (const std::string pattern : {"[Unit]", "", "[100%]", "d%", "%"}) {
     const NumberedName name(pattern, 7);
     EXPECT_EQ(name.str(), pattern);
-    EXPECT_EQ(name.c_str(), pattern);
   }
 }
 

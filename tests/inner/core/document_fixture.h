@@ -34,15 +34,15 @@ inline std::string look(CQELPROIO& document, const char* section, const char* ke
 }
 
 inline std::string look_once(CQELPROIO& document, const char* section, const char* key) {
-  char* value = nullptr;
-  const qel::Result result = document.ReadOnce(section, key, value, nullptr, 0);
-  return result == kDone ? value : std::to_string(to_int(result));
+  const auto value = qel::ValueBuffer::of_thread();
+  const qel::Result result = document.ReadOnce(section, key, value);
+  return result == kDone ? value.text : std::to_string(to_int(result));
 }
 
 inline std::string scan(CQELPROIO& document, const char* path, const char* section,
                         const char* key) {
-  char* value = nullptr;
-  return document.ScanValue(path, section, key, value, nullptr) ? value : "(nothing)";
+  const auto value = qel::ValueBuffer::of_thread_for_scans();
+  return document.ScanValue(path, section, key, value) ? value.text : "(nothing)";
 }
 
 class Document : public testing::Test {

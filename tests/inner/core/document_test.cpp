@@ -19,7 +19,7 @@ TEST_F(Document, HasNoFileAtFirst) {
   EXPECT_EQ(document.SetValue("[A]", "x", "1", kByKey), kNoFile);
   EXPECT_EQ(document.WriteOnce("[A]", "x", "1"), kNoFile);
   EXPECT_EQ(document.ReplaceValue("[A]", "x", "1"), kNoOpen);
-  EXPECT_EQ(document.VisitLines("[A]", 1, [](const char*) {}), kNoFile);
+  EXPECT_EQ(document.VisitLines("[A]", 1, [](std::string_view) {}), kNoFile);
   EXPECT_FALSE(document.GetFilePtr(stream));
   EXPECT_EQ(document.narrow_path(), nullptr);
   document.CloseFile();
@@ -30,19 +30,20 @@ TEST_F(Document, TakesNullForAMistake) {
   EXPECT_FALSE(document.SetFilePath(static_cast<const wchar_t*>(nullptr), CQELPROIO::kWriting));
   EXPECT_FALSE(document.SetFilePtr(stream));
   write("[A]\nx = 1\n");
-  char* value = nullptr;
-  EXPECT_EQ(document.GetValue(nullptr, "x", value, kByKey), kAbsent);
-  EXPECT_EQ(document.GetValue("[A]", nullptr, value, kByKey), kAbsent);
-  EXPECT_EQ(document.GetValue("[A]", nullptr, value, 1), kDone);
-  EXPECT_EQ(document.SetValue(nullptr, "x", "1", kByKey), kNoOpen);
-  EXPECT_EQ(document.SetValue("[A]", nullptr, "1", kByKey), kNoOpen);
-  EXPECT_EQ(document.SetValue("[A]", "x", nullptr, kByKey), kNoOpen);
   EXPECT_EQ(document.InsertValue(nullptr, "[A]", "x", "1"), kNoOpen);
-  EXPECT_EQ(document.InsertValue(path.c_str(), "[A]", "x", nullptr), kNoOpen);
-  EXPECT_EQ(document.ReplaceValue("[A]", nullptr, "1"), kNoOpen);
-  EXPECT_FALSE(document.ScanValue(nullptr, "[A]", "x", value, nullptr));
-  EXPECT_FALSE(document.ScanValue(path.c_str(), nullptr, "x", value, nullptr));
-  EXPECT_FALSE(document.ScanValue(path.c_str(), "[A]", nullptr, value, nullptr));
+  EXPECT_EQ(scan(document, nullptr, "[A]", "x"), "(nothing)");
+  EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
+}
+
+TEST_F(Document, FindsAndStoresNothingWithoutAName) {
+  write("[A]\nx = 1\n");
+  char* value = nullptr;
+  EXPECT_EQ(document.GetValue("", "x", value, kByKey), kAbsent);
+  EXPECT_EQ(document.GetValue("[A]", "", value, kByKey), kAbsent);
+  EXPECT_EQ(document.GetValue("[A]", "", value, 1), kDone);
+  EXPECT_EQ(document.SetValue("", "x", "1", kByKey), kNoOpen);
+  EXPECT_EQ(document.SetValue("[A]", "", "1", kByKey), kNoOpen);
+  EXPECT_EQ(document.ReplaceValue("[A]", "", "1"), kNoOpen);
   EXPECT_EQ(bytes_of(path), "[A]\nx = 1\n");
 }
 
@@ -233,17 +234,16 @@ TEST_F(Document, LooksUpPlainlyInThePathThatItWritesTo) {
 TEST_F(Document, VisitsLinesAfterAHeaderOnTheFirstByte) {
   read("[A]\n first \nsecond\n");
   std::string visited;
-  EXPECT_EQ(document.VisitLines("[A]", 2,
-                                [&visited](const char* line) { visited.append(line).append("|"); }),
+  EXPECT_EQ(document.VisitLines(
+                "[A]", 2, [&visited](std::string_view line) { visited.append(line).append("|"); }),
             kDone);
   EXPECT_EQ(visited, "first|second|");
-  EXPECT_EQ(document.VisitLines("[A]", 3, [](const char*) {}), kAbsent);
-  EXPECT_EQ(document.VisitLines("[B]", 1, [](const char*) {}), kAbsent);
+  EXPECT_EQ(document.VisitLines("[A]", 3, [](std::string_view) {}), kAbsent);
+  EXPECT_EQ(document.VisitLines("[B]", 1, [](std::string_view) {}), kAbsent);
 }
 
-TEST_F(Document, ReplacesNothingByNoValueNorInAFileThatItLeft) {
+TEST_F(Document, ReplacesNothingInAFileThatItLeft) {
   write("[A]\nx = 1\n");
-  EXPECT_EQ(document.ReplaceValue("[A]", "x", nullptr), kNoOpen);
   stream = std::fopen(scratch.file("[A]\nx = 2\n", "lent.pro").c_str(), "r+");
   ASSERT_TRUE(document.SetFilePtr(stream));
   EXPECT_EQ(document.ReplaceValue("[A]", "x", "3"), kNoOpen);
@@ -257,7 +257,7 @@ TEST_F(Document, WritesNothingWhereAFolderHasTakenItsFilesPlace) {
   std::filesystem::create_directory(path);
   EXPECT_EQ(document.WriteOnce("[A]", "x", "2"), kNoOpen);
   EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kNoOpen);
-  EXPECT_EQ(document.VisitLines("[A]", 1, [](const char*) {}), kNoOpen);
+  EXPECT_EQ(document.VisitLines("[A]", 1, [](std::string_view) {}), kNoOpen);
   EXPECT_EQ(look(document, "[A]", "x"), "0");
 }
 
@@ -283,20 +283,16 @@ TEST_F(Document, GivesAKeyLineWithoutAnEqualsSignAnEmptyValue) {
 TEST_F(Document, CopiesIntoTheCallersBuffer) {
   read("[A]\nx = value\n");
   char buffer[6] = {};
-  char* value = nullptr;
-  EXPECT_EQ(document.GetValue("[A]", "x", value, buffer, sizeof buffer, kByKey), kDone);
-  EXPECT_EQ(value, buffer);
+  EXPECT_EQ(document.LookUp({"[A]", "x"}, {buffer, sizeof buffer}), kDone);
   EXPECT_STREQ(buffer, "value");
 }
 
 TEST_F(Document, DoesNotOverrunACallersBuffer) {
   read("[A]\nx = value\n");
   char buffer[6] = "keep!";
-  char* value = nullptr;
-  EXPECT_EQ(document.GetValue("[A]", "x", value, buffer, 5, kByKey), kNoOpen);
-  EXPECT_EQ(document.GetValue("[A]", "x", value, buffer, 0, kByKey), kNoOpen);
+  EXPECT_EQ(document.LookUp({"[A]", "x"}, {buffer, 5}), kNoOpen);
+  EXPECT_EQ(document.LookUp({"[A]", "x"}, {buffer, 0}), kNoOpen);
   EXPECT_STREQ(buffer, "keep!");
-  EXPECT_EQ(value, nullptr);
 }
 
 TEST_F(Document, SharesOneValueBufferAmongAllDocuments) {
@@ -313,11 +309,11 @@ TEST_F(Document, SharesOneValueBufferAmongAllDocuments) {
 TEST_F(Document, KeepsTheBufferOfTheWholeTextScanApart) {
   read("[A]\nx = 1\ny = 2\n");
   char* looked_up = nullptr;
-  char* scanned = nullptr;
+  const auto scanned = qel::ValueBuffer::of_thread_for_scans();
   ASSERT_EQ(document.GetValue("[A]", "x", looked_up, kByKey), kDone);
-  ASSERT_TRUE(document.ScanValue(path.c_str(), "[A]", "y", scanned, nullptr));
+  ASSERT_TRUE(document.ScanValue(path.c_str(), "[A]", "y", scanned));
   EXPECT_STREQ(looked_up, "1");
-  EXPECT_STREQ(scanned, "2");
+  EXPECT_STREQ(scanned.text, "2");
 }
 
 TEST_F(Document, ReadsTheLongestLineWhole) {

@@ -596,17 +596,16 @@ Answer look(CQELPROIO& document, const std::string& section, const std::string& 
 }
 
 Answer look_once(CQELPROIO& document, const std::string& section, const std::string& key) {
-  char* value = nullptr;
-  const int result =
-      qel::to_int(document.ReadOnce(section.c_str(), key.c_str(), value, nullptr, 0));
-  return {result, result == naive::kDone ? value : ""};
+  const auto value = qel::ValueBuffer::of_thread();
+  const int result = qel::to_int(document.ReadOnce(section, key, value));
+  return {result, result == naive::kDone ? value.text : ""};
 }
 
 Answer scan(CQELPROIO& document, const std::string& path, const std::string& section,
             const std::string& key) {
-  char* value = nullptr;
-  const bool found = document.ScanValue(path.c_str(), section.c_str(), key.c_str(), value, nullptr);
-  return {found ? naive::kDone : 0, found ? value : ""};
+  const auto value = qel::ValueBuffer::of_thread_for_scans();
+  const bool found = document.ScanValue(path.c_str(), section, key, value);
+  return {found ? naive::kDone : 0, found ? value.text : ""};
 }
 
 // One file that is stored into and read in every way.

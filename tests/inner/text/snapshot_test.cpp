@@ -35,12 +35,12 @@ TEST(Snapshot, AnswersAsAOneShotReadDoes) {
          {"x", "FR-1", "FR-2", "FR", "FR-10", "late", "later", "y", "z", "bare", "[not", ""}) {
       CQELPROIO document;
       ASSERT_TRUE(document.SetFilePath(path.c_str(), CQELPROIO::kReading));
-      char* text = nullptr;
-      const bool found = document.ReadOnce(section, key, text, nullptr, 0) == qel::Result::done;
+      const auto text = qel::ValueBuffer::of_thread();
+      const bool found = document.ReadOnce(section, key, text) == qel::Result::done;
       const auto value = snapshot.value(section, key);
       ASSERT_EQ(value.has_value(), found) << section << ' ' << key;
       if (found) {
-        EXPECT_EQ(*value, text) << section << ' ' << key;
+        EXPECT_EQ(*value, text.text) << section << ' ' << key;
       }
     }
   }
