@@ -26,16 +26,13 @@ struct Row;
 /// Numbers scan as "%d" and "%lf" do, whatever the program's locale is.
 ///
 /// - A key is searched for from its section's header to the end of the file: a key that its section
-/// lacks is taken from a
-///   later section that has it.
+///   lacks is taken from a later section that has it.
 /// - A line of more than 127 characters, its line break counted, is seen as several lines. A value
-/// is cut there; replacing
-///   it replaces the line to its real end.
-/// - A text result is all that stands after "=" and the blanks that follow: trailing blanks and
-/// the line feed that ended
-///   the line belong to it. It points into a buffer of the thread and stays valid until the
-///   thread's next read through any object of this class; names of rows have buffers of their own,
-///   one for each kind. Copy it to keep it, and never free it.
+///   is cut there; replacing it replaces the line to its real end.
+/// - A text result is all that stands after "=" and the blanks that follow: trailing blanks and the
+///   line feed that ended the line belong to it. It points into a buffer of the thread and stays
+///   valid until the thread's next read through any object of this class; names of rows have
+///   buffers of their own, one for each kind. Copy it to keep it, and never free it.
 ///
 /// Setters. An entry that exists is replaced where the search finds it, in a later section too. A
 /// new one is added at the end of the file, after a new header where the section is missing. A
@@ -1587,22 +1584,22 @@ class QELPROENGINE_API CPROIO_Manipulator {
   int Write(const char* section, const char* key, const char* value, bool stampDate, int index);
   bool checkIsThisPROFileSupport(int version);
 
-  // What the accessors are made of: an entry and its items.
-  static const char* SectionOf(const qel::proio::Row& entry);
-  static const char* KeyOf(const qel::proio::Row& entry);
-  template <class... Items>
-  bool Get(const qel::proio::Row& entry, Items&&... items);
-  template <class... Items>
-  bool GetZeroed(const qel::proio::Row& entry, Items&&... items);
-  template <class... Items>
-  bool GetGated(const qel::proio::Row& entry, Items&... items);
-  template <class... Items>
-  bool Set(const qel::proio::Row& entry, Items... items);
-  bool GetFlag(const qel::proio::Row& entry, bool& flag);
+  // What the accessors are made of: a row and its values.
+  static const char* SectionOf(const qel::proio::Row& row);
+  static const char* KeyOf(const qel::proio::Row& row);
+  template <class... Values>
+  bool Get(const qel::proio::Row& row, Values&&... values);
+  template <class... Values>
+  bool GetZeroed(const qel::proio::Row& row, Values&&... values);
+  template <class... Values>
+  bool GetGated(const qel::proio::Row& row, Values&... values);
+  template <class... Values>
+  bool Set(const qel::proio::Row& row, Values... values);
+  bool GetFlag(const qel::proio::Row& row, bool& flag);
 
   static bool GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& record);
   static bool GetBC(const char* text, int& count, char*& name, int& type);
-  bool SetCoefficient(const qel::proio::Row& entry, double value);
+  bool SetCoefficient(const qel::proio::Row& row, double value);
   bool GetMoldRow(const qel::proio::Row& row, double& first, double& second, double& third,
                   char*& name);
   bool SetMoldRow(const qel::proio::Row& row, const QELPRO_MMM_MECHANICAL& record);

@@ -8,18 +8,16 @@ class CQELPROReader;
 
 /// Reads a process file, key by key.
 ///
-/// A process file is plain text: section headers such as "[Unit]" and entries such as "FillTime
-/// = 1.5". Numbered sections
-/// ("[Flow-1]" is the first inlet's filling stage) take their number as a member's last argument;
-/// points of a profile
-/// ("FR-1" is the first flow rate point) take theirs before it. Numbers count from 1 and are used
-/// as they are given.
+/// A process file is plain text: section headers such as "[Unit]" and entries such as "FillTime =
+/// 1.5". Numbered sections ("[Flow-1]" is the first inlet's filling stage) take their number as a
+/// member's last argument; points of a profile ("FR-1" is the first flow rate point) take theirs
+/// before it. Numbers count from 1 and are used as they are given.
 ///
 /// Every section member reads one key, and yields false when there is no file, or when the section
 /// or the key is not there: its outputs are untouched then. It yields true once the key is found,
 /// even where its text does not scan: what cannot be scanned keeps the caller's value, unless the
-/// member says otherwise. Reals and integers scan as "%lf" and
-/// "%d" do, whatever the program's locale is.
+/// member says otherwise. Reals and integers scan as "%lf" and "%d" do, whatever the program's
+/// locale is.
 ///
 /// A text result points into a buffer of the thread. It stays valid until the thread's next read
 /// through any reader or writer; a name among the fields of a line has a buffer of its own, and
@@ -1180,17 +1178,16 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// whatever `line` says, and after a call that found nothing the header itself is line 1. Over a
   /// lent stream each call finds its own line, and a `line` after the section's last one is a line
   /// of a later section. What the text lacks is 0. Arguments: the number of setting lines, the
-  /// name, the integer, the line, from
-  /// 1. The name is valid until the next read of its kind. False, outputs untouched: not in the
-  /// file.
+  /// name, the integer, the line, from 1. The name is valid until the next read of its kind. False,
+  /// outputs untouched: not in the file.
   bool MoldTemperatureBCX_ReadBC(int& first, char*& name, int& second, int line);
   /// [SURFACE ELEMENT BOUNDARY CONDITION NAME] setting line: after all header lines, one condition
   /// after the other: a number, "=", and two reals. Line `offset` + `setting` + the sum of the
-  /// first integers of header lines 1 to `bc` -
-  /// 1. Nothing is there after the next header: where the header lines or the line itself stand
-  /// after it or nowhere, the result is false and the outputs are untouched. A member of
-  /// [MoldTemperatureBC-%d] that was called before hides the section. Arguments: the first real,
-  /// the second real, the setting line, the condition, the number of header lines.
+  /// first integers of header lines 1 to `bc` - 1. Nothing is there after the next header: where
+  /// the header lines or the line itself stand after it or nowhere, the result is false and the
+  /// outputs are untouched. A member of [MoldTemperatureBC-%d] that was called before hides the
+  /// section. Arguments: the first real, the second real, the setting line, the condition, the
+  /// number of header lines.
   bool MoldTemperatureBCX_ReadBCSetting(double& a, double& b, int setting, int bc, int offset);
 
  private:

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <string_view>
-#include <type_traits>
 
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
 #include "QELPROEngine/CQELPROWriter_Manipulator.h"
 #include "api/session.h"
 #include "objects/attempt.h"
+#include "objects/null.h"
 
 /// What every exported section member does: hand its arguments to the session's block of that
 /// section.
@@ -17,15 +17,6 @@ using Session = CQELPROIOBase;
 /// A section or key of null is one without characters, which no line has.
 inline std::string_view name_of(const char* text) {
   return text != nullptr ? std::string_view(text) : std::string_view();
-}
-
-template <class Value>
-bool is_null([[maybe_unused]] Value value) {
-  if constexpr (std::is_pointer_v<Value>) {
-    return value == nullptr;
-  } else {
-    return false;
-  }
 }
 
 /// Whether the work of a session's block was done.

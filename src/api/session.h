@@ -5,7 +5,7 @@
 #include "blocks/sections.h"
 #include "core/document.h"
 
-/// What stands behind one exported reader or writer: one block of each section kind, and the
+/// What serves one exported reader or writer: one block of each section kind, and the
 /// document that they share.
 class CQELPROIOBase {
  public:

@@ -11,8 +11,7 @@
 /// functions:
 ///
 /// - `scan` sets what the text supplies, in order. What it does not supply keeps its value, or is 0
-/// where the encoding
-///   says that it clears its outputs;
+///   where the encoding says that it clears its outputs;
 /// - `print` gives the text to store.
 ///
 /// `Values` are the types that `scan` sets, and `kArguments` how members name them; `Written` and

@@ -3,8 +3,8 @@
 
 #include "platform/os_file.h"
 #include "proio/dialect.h"
-#include "proio/entries.h"
 #include "proio/line_store.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 #include "proio/words.h"
 #include "text/file_edit.h"
@@ -36,7 +36,7 @@ Place place_of(Source& source, int condition, int point) {
   Buffer text;
   int conditions = 0;
   if (read(head, kConditions, text) == Code::success) {
-    scan_items(text.text(), conditions);
+    scan_values(text.text(), conditions);
   }
   Place place;
   place.line = static_cast<long long>(conditions) + point;
@@ -51,7 +51,7 @@ Place place_of(Source& source, int condition, int point) {
       break;
     }
     int count = 0;
-    scan_items(text.assign(name.text).text(), count);
+    scan_values(text.assign(name.text).text(), count);
     place.line += count;
   }
   place.named = k >= condition;
@@ -84,12 +84,12 @@ bool CPROIO_Manipulator::GetBC(const char* text, int& count, char*& name, int& t
   name = buffer.text();
   const Words words(text);
   if (words.count() < 4) {
-    scan_items(text, count, Word{name, buffer}, type);
+    scan_values(text, count, Word{name, buffer}, type);
     return true;
   }
   const std::size_t last = words.count() - 1;
-  scan_items(words[0].data(), count);
-  scan_items(words[last].data(), type);
+  scan_values(words[0].data(), count);
+  scan_values(words[last].data(), type);
   buffer.assign(words.stretch(1, last - 1));
   return true;
 }
@@ -100,7 +100,7 @@ bool CPROIO_Manipulator::GetBCCountName(int line, int& count, char*& name) {
 }
 
 bool CPROIO_Manipulator::SetBCCountName(int line, int count, char* name) {
-  return !is_null(name) &&
+  return !qel::is_null(name) &&
          qel::attempt([&] { return WriteBC(line, fields::print("\t", count, name).c_str()); });
 }
 
@@ -127,7 +127,7 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
     }
     int number = 0;
     x = y = 0;
-    scan_items(text.text(), number, fields::Separator{}, x, y);
+    scan_values(text.text(), number, fields::Separator{}, x, y);
     return true;
   });
 }

@@ -1,4 +1,4 @@
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;
@@ -86,10 +86,10 @@ bool CPROIO_Manipulator::SetPackHeatTransferCoefficient(double value) {
 
 // The file's date stays as it is, on purpose: the two coefficients have always been written without
 // a stamp.
-bool CPROIO_Manipulator::SetCoefficient(const Row& entry, double value) {
+bool CPROIO_Manipulator::SetCoefficient(const Row& row, double value) {
   constexpr const char* kUnit = "        (W/m^2.K)";
   return qel::attempt([&] {
-    return IsOK(Write(SectionOf(entry), KeyOf(entry),
-                      (qel::fields::print_one(value) + kUnit).c_str(), false, kByKey));
+    return IsOK(Write(SectionOf(row), KeyOf(row), (qel::fields::print_one(value) + kUnit).c_str(),
+                      false, kByKey));
   });
 }

@@ -1,7 +1,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;

@@ -1,4 +1,4 @@
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;

@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;
@@ -83,9 +83,9 @@ bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name,
     return true;
   }
   if (skip_missing_name(at)) {
-    scan_items(at, temperature);
+    scan_values(at, temperature);
   } else {
-    scan_items(at, Word{name, buffer}, temperature);
+    scan_values(at, Word{name, buffer}, temperature);
   }
   return true;
 }

@@ -3,7 +3,7 @@
 
 #include "platform/clock.h"
 #include "platform/os_file.h"
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 
 using namespace qel::proio;

@@ -32,11 +32,10 @@ Code read(LineScanner& lines, const Target& target, Buffer& value);
 /// Writes a line.
 ///
 /// - A line that is found is replaced, with all of it that stands after the 127 characters that a
-/// scan sees.
+///   scan sees.
 /// - A position after its section's last line becomes the new last line of that section.
 /// - A new key goes to the end of the file. Where the positional section stands there it would be
-/// one of its lines: it becomes the
-///   last line of its own section instead.
+///   one of its lines: it becomes the last line of its own section instead.
 /// - Where the section is missing a new header comes first, at the end of the file.
 ///
 /// False when the file could not take it; it is as it was then.

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "proio/entries.h"
+#include "proio/rows.h"
 #include "proio/typed.h"
 #include "proio/words.h"
 
@@ -28,14 +28,14 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
   const Words words(text);
   if (words.count() <= 2 * kNumbersOnEachSide + 1) {
     char* parsed = nullptr;
-    scan_items(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0],
-               mechanical[1], mechanical[2]);
+    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0],
+                mechanical[1], mechanical[2]);
     return true;
   }
   const std::size_t after_name = words.count() - kNumbersOnEachSide;
   for (std::size_t i = 0; i < kNumbersOnEachSide; ++i) {
-    scan_items(words[i].data(), thermal[i]);
-    scan_items(words[after_name + i].data(), mechanical[i]);
+    scan_values(words[i].data(), thermal[i]);
+    scan_values(words[after_name + i].data(), mechanical[i]);
   }
   name.assign(words.stretch(kNumbersOnEachSide, after_name - 1));
   return true;

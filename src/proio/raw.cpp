@@ -39,13 +39,13 @@ char* CPROIO_Manipulator::GetKey(int number, KEY kind) {
   return key_name(number, kind, scratch().key);
 }
 
-const char* CPROIO_Manipulator::SectionOf(const Row& entry) {
-  return entry.section.text != nullptr ? entry.section.text
-                                       : GetBlock(entry.section_number, entry.section.kind);
+const char* CPROIO_Manipulator::SectionOf(const Row& row) {
+  return row.section.text != nullptr ? row.section.text
+                                     : GetBlock(row.section_number, row.section.kind);
 }
 
-const char* CPROIO_Manipulator::KeyOf(const Row& entry) {
-  return entry.key.text != nullptr ? entry.key.text : GetKey(entry.key_number, entry.key.kind);
+const char* CPROIO_Manipulator::KeyOf(const Row& row) {
+  return row.key.text != nullptr ? row.key.text : GetKey(row.key_number, row.key.kind);
 }
 
 bool CPROIO_Manipulator::IsOK(int code) { return code == to_int(Code::success); }
@@ -86,8 +86,8 @@ bool CPROIO_Manipulator::checkIsThisPROFileSupport(int version) {
   return GetFileVersion(file_version) && file_version >= version;
 }
 
-bool CPROIO_Manipulator::GetFlag(const Row& entry, bool& flag) {
+bool CPROIO_Manipulator::GetFlag(const Row& row, bool& flag) {
   int value = 0;
-  Get(entry, value);
+  Get(row, value);
   return flag = value == 1;
 }

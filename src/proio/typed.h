@@ -1,50 +1,51 @@
 #pragma once
 
 #include "objects/attempt.h"
-#include "proio/entry.h"
-#include "proio/items.h"
+#include "objects/null.h"
+#include "proio/row.h"
+#include "proio/values.h"
 
-/// What the accessors are made of: the raw layer, with a value of one or several items.
+/// What the accessors are made of: the raw layer, with a text of one or several values.
 
-template <class... Items>
-bool CPROIO_Manipulator::Get(const qel::proio::Row& entry, Items&&... items) {
+template <class... Values>
+bool CPROIO_Manipulator::Get(const qel::proio::Row& row, Values&&... values) {
   char* text = nullptr;
-  const bool found = IsOK(Read(SectionOf(entry), KeyOf(entry), text, kByKey));
+  const bool found = IsOK(Read(SectionOf(row), KeyOf(row), text, kByKey));
   if (found) {
-    qel::proio::scan_items(text, items...);
+    qel::proio::scan_values(text, values...);
   }
   return found;
 }
 
-/// Items that the value does not supply become 0, or null.
-template <class... Items>
-bool CPROIO_Manipulator::GetZeroed(const qel::proio::Row& entry, Items&&... items) {
+/// Values that the text does not supply become 0, or null.
+template <class... Values>
+bool CPROIO_Manipulator::GetZeroed(const qel::proio::Row& row, Values&&... values) {
   char* text = nullptr;
-  const bool found = Get(entry, text);
+  const bool found = Get(row, text);
   if (found) {
-    (qel::proio::clear_item(items), ...);
-    qel::proio::scan_items(text, items...);
+    (qel::proio::clear_value(values), ...);
+    qel::proio::scan_values(text, values...);
   }
   return found;
 }
 
 /// For keys that files of an older layout have not: 0 there, even where the key stands in the file.
-template <class... Items>
-bool CPROIO_Manipulator::GetGated(const qel::proio::Row& entry, Items&... items) {
+template <class... Values>
+bool CPROIO_Manipulator::GetGated(const qel::proio::Row& row, Values&... values) {
   if (checkIsThisPROFileSupport(kGatedVersion)) {
-    return Get(entry, items...);
+    return Get(row, values...);
   }
-  ((items = 0), ...);
+  ((values = 0), ...);
   return false;
 }
 
-template <class... Items>
-bool CPROIO_Manipulator::Set(const qel::proio::Row& entry, Items... items) {
-  if ((qel::proio::is_null(items) || ...)) {
+template <class... Values>
+bool CPROIO_Manipulator::Set(const qel::proio::Row& row, Values... values) {
+  if ((qel::is_null(values) || ...)) {
     return false;
   }
   return qel::attempt([&] {
-    return IsOK(Write(SectionOf(entry), KeyOf(entry), qel::fields::print("\t", items...).c_str(),
-                      true, kByKey));
+    return IsOK(Write(SectionOf(row), KeyOf(row), qel::fields::print("\t", values...).c_str(), true,
+                      kByKey));
   });
 }

@@ -21,11 +21,10 @@ struct Line {
 /// Walks over the lines of a file.
 ///
 /// - A line ends at "\n" or "\r\n". One that is longer than the dialect's longest comes as several
-/// lines.
+///   lines.
 /// - A byte order mark at the start of the file belongs to no line.
-/// - Blanks after the last line break are padding that an earlier store left, and no line; so is
-/// an end mark there. One that ends
-///   the last line belongs to no text.
+/// - Blanks after the last line break are padding that an earlier store left, and no line; so is an
+///   end mark there. One that ends the last line belongs to no text.
 class LineScanner {
  public:
   /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects

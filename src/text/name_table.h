@@ -102,8 +102,8 @@ class NameTable {
 
   std::string names_;  // one after the other
   std::vector<Named> entries_;
-  std::vector<std::uint32_t>
-      slots_;  // 0, or 1 + an entry's position; a power of two of them, at most half taken
+  // 0, or 1 + an entry's position; a power of two of them, at most half taken.
+  std::vector<std::uint32_t> slots_;
 };
 
 }  // namespace qel

@@ -75,8 +75,8 @@ class SectionedText {
   std::string contents_;
   std::vector<std::size_t> begins_;  // of the lines
   std::size_t end_ = 0;              // of the last one
-  std::vector<std::size_t>
-      pieces_;  // the indexes of the lines that stand after another one in one line of the file
+  // The indexes of the lines that stand after another one in one line of the file.
+  std::vector<std::size_t> pieces_;
   std::vector<TextSection> sections_;
   std::vector<std::size_t> by_name_;  // the sections by name, those of one name in the file's order
 };

@@ -35,9 +35,9 @@ older() {
     elif [[ $statement =~ 'constexpr Row '[^\"]*\"([^\"]*)\" ]]; then
       printf '%s\t%s\n' "$section" "${BASH_REMATCH[1]}"
     fi
-  done < <(grep -v '^ *//' "$src/proio/entries.h" | tr '\n' ' ' | tr ';' '\n')
+  done < <(grep -v '^ *//' "$src/proio/rows.h" | tr '\n' ' ' | tr ';' '\n')
   # Lines that have a position, and no key.
-  grep -q 'kPositionalSection;' "$src/proio/entries.h"
+  grep -q 'kPositionalSection;' "$src/proio/rows.h"
   printf '[SURFACE ELEMENT BOUNDARY CONDITION NAME]\t%s\n' 'header line' 'setting line'
 }
 

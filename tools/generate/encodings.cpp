@@ -92,8 +92,7 @@ const std::vector<EncodingText>& encodings() {
       written<MoldInsertLine>(kInsert, 4, "Plate", 90.0),
       read_only<PartInsertLineOfFour>(kInsertOfFour, "3\tCore Pin A\t80\t2"),
       read_only<MoldInsertLineOfFour>(kInsertOfFour, "4\tPlate\t90\t1"),
-      {ContactAngle::kName,
-       "the text between the first two double quotes, and the number behind it",
+      {ContactAngle::kName, "the text between the first two double quotes, and the number after it",
        ContactAngle::print("Rib", 40.0), true,
        "is an error without two quotes; a missing angle is 0"},
       written<PositionalHeader>(

@@ -181,8 +181,8 @@ class JsonPrinter : public Printer {
 
   bool any_section_ = false;
   bool any_entry_ = false;
-  std::deque<std::size_t>
-      passed_over_;  // the lines: a deque, which does not hold them twice while it grows
+  // The lines: a deque, which does not hold them twice while it grows.
+  std::deque<std::size_t> passed_over_;
   std::deque<Why> whys_;
   std::vector<std::string> notes_;
 };

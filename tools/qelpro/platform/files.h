@@ -46,7 +46,7 @@ class NewFile {
   NewFile(const std::string& file, std::size_t room);
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
-  /// Nothing is left behind unless `publish` came back.
+  /// Nothing is left over unless `publish` came back.
   ~NewFile();
 
   [[nodiscard]] std::string& temporary_path() { return temporary_; }

@@ -139,7 +139,7 @@ void sync_folder(const std::string& file) {
   }
 }
 
-// While it lives, signals that end a program wait: no temporary file is left behind.
+// While it lives, signals that end a program wait: no temporary file is left over.
 class SignalsWait {
  public:
   SignalsWait() {

@@ -34,7 +34,7 @@
 #include "blocks/transient_inlet_conv.h"
 #include "blocks/unit.h"
 #include "blocks/var_cool_ctl.h"
-#include "proio/entry.h"
+#include "proio/row.h"
 
 /// Every entry that the object reads or writes, by section: names for rows of the catalogue. The
 /// accessors spell no key.

@@ -1,11 +1,11 @@
-#include "proio/items.h"
+#include "objects/null.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-TEST(Items, NullTextIsOne) {
-  using qel::proio::is_null;
+TEST(Null, IsATextAlone) {
+  using qel::is_null;
   char text[] = "";
   EXPECT_TRUE(is_null(static_cast<char*>(nullptr)));
   EXPECT_TRUE(is_null(static_cast<const char*>(nullptr)));
