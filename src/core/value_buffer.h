@@ -7,9 +7,10 @@ namespace qel {
 
 /// Room for the text of a value, which ends with a NUL there.
 struct ValueBuffer {
-  char* text = nullptr;
-  std::size_t size = 0;
+  char* text;
+  std::size_t size;
 
+  ValueBuffer(char* room, std::size_t room_size) : text(room), size(room_size) {}
   /// Of the thread: a text in it lives until the thread's next lookup through any document.
   static ValueBuffer of_thread();
   /// Of the thread as well, and of scans of a whole text alone.

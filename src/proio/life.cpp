@@ -14,6 +14,7 @@ CPROIO_Manipulator::CPROIO_Manipulator(const CPROIO_Manipulator& other) = defaul
 CPROIO_Manipulator& CPROIO_Manipulator::operator=(const CPROIO_Manipulator& other) = default;
 CPROIO_Manipulator::~CPROIO_Manipulator() = default;
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the signature is the exported one.
 void CPROIO_Manipulator::SetFilePath(char* path) {
   path_ = path;
 }  // NOLINT(readability-non-const-parameter): the constant one looks at the file
