@@ -15,27 +15,31 @@ if found=$(git grep -nE '_WIN32|__linux__|__APPLE__|__unix__' -- src tools/qelpr
   complain "a platform is tested for outside src/platform:"$'\n'"$found"
 fi
 
-# Arrows point one way: what each room of src may include, beside itself and the public headers.
-while read -r room allowed; do
-  allowed=$(tr ' ' '|' <<<"$room $allowed")
-  if found=$(git grep -nE '#include "[a-z]+/' -- "src/$room" | grep -vE "#include \"($allowed|QELG|QELPROEngine)/"); then
-    complain "src/$room includes what it may not:"$'\n'"$found"
+# Arrows point one way: what each room may include, beside itself and the public headers.
+while read -r folder allowed; do
+  allowed=$(tr ' ' '|' <<<"${folder##*/} $allowed")
+  if found=$(git grep -nE '#include "[a-z]+/' -- "$folder" | grep -vE "#include \"($allowed|QELG|QELPROEngine)/"); then
+    complain "$folder includes what it may not:"$'\n'"$found"
   fi
 done <<'EOF'
-platform
-text platform
-core text platform
-blocks core text platform qelg
-objects
-api objects blocks core text platform refdata
-process objects blocks core text platform qelg
-proio objects blocks text platform
-refdata objects text platform
-qelg
+src/platform
+src/text platform
+src/core text platform
+src/blocks core text platform qelg
+src/objects
+src/api objects blocks core text platform refdata
+src/process objects blocks core text platform qelg
+src/proio objects blocks text platform
+src/refdata objects text platform
+src/qelg
+tools/qelpro blocks text platform qelg
+tools/generate blocks proio refdata text qelg
 EOF
 if found=$(git grep -nE '#include "((text|core|blocks|process|platform)/|api/[a-z_]+\.h)' -- include tests/api examples); then
   complain "what is outside includes what is hidden:"$'\n'"$found"
 fi
+
+tools/draw_rooms.sh --check || failed=1
 
 # No path of a machine.
 if found=$(git grep -nIE '(^|[^[:alnum:]_.])/(home|root|Users)/' -- . ':!tools/check_tree.sh'); then
