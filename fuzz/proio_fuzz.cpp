@@ -1,7 +1,7 @@
 #include <string>
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
-#include "proio/accessors.h"
+#include "api/proio/accessors.h"
 #include "support.h"
 
 // Any file: every getter of the self-contained object answers; a setter is read back, and never

@@ -10,10 +10,10 @@
 
 namespace {
 
-constexpr std::string_view kBegin =
+constexpr std::string_view kItemsBegin =
     "// Made by \"./dev generate\" from src/qelg/items.inc and the rows of src/blocks.\n"
     "// clang-format off\n";
-constexpr std::string_view kEnd = "// clang-format on\n";
+constexpr std::string_view kItemsEnd = "// clang-format on\n";
 
 struct Item {
   std::string object;
@@ -111,12 +111,12 @@ std::string region_of(const std::vector<Item>& items) {
 }  // namespace
 
 std::string with_items(const std::string& header) {
-  const std::size_t begin = header.find(kBegin);
-  const std::size_t end = header.find(kEnd);
+  const std::size_t begin = header.find(kItemsBegin);
+  const std::size_t end = header.find(kItemsEnd);
   if (begin == std::string::npos || end == std::string::npos) {
     throw std::runtime_error("a header without the region of the items");
   }
-  return header.substr(0, begin) + std::string(kBegin) + "\n// Items of the whole process.\n" +
+  return header.substr(0, begin) + std::string(kItemsBegin) + "\n// Items of the whole process.\n" +
          region_of(process_items()) + "\n// Items of one inlet.\n" + region_of(inlet_items()) +
          "\n" + header.substr(end);
 }
