@@ -43,20 +43,21 @@ template <const auto& keys>
 consteval auto steps_of() {
   std::array<LoadStep, step_count<keys>()> steps{};
   std::size_t size = 0;
-  const KeyInfo* count = nullptr;
+  std::string_view count;  // of the points that follow
+  Destination counted;
   for (const KeyInfo& key : keys) {
     if (!is_somewhere(key.details.loader)) {
       continue;
     }
-    if (count != nullptr && (counts_points(key) || key.details.loader != count->details.loader)) {
+    if (!count.empty() && (counts_points(key) || key.details.loader != counted)) {
       throw "a count without its points";
     }
     if (counts_points(key)) {
-      count = &key;
+      count = key.text;
+      counted = key.details.loader;
     } else {
-      steps[size++] = {&key, prefix_of(key.text), is_numbered(key.text),
-                       count != nullptr ? std::string_view(count->text) : std::string_view()};
-      count = nullptr;
+      steps[size++] = {&key, prefix_of(key.text), is_numbered(key.text), count};
+      count = {};
     }
   }
   return steps;
