@@ -11,7 +11,7 @@ arrows() {
   local folder room header
   for folder in src/*/ tools/qelpro/ tools/generate/; do
     room=$(basename "$folder")
-    git grep -hoE '^#include ["<][A-Za-z]+/[A-Za-z_/.]+' -- "$folder" | sed -E 's|.*["<]||' | sort -u |
+    grep -rhoE '^#include ["<][A-Za-z]+/[A-Za-z_/.]+' "$folder" | sed -E 's|.*["<]||' | sort -u |
       while read -r header; do
         case $header in
           QELPROEngine/* | QELG/*) echo "$room include" ;;

@@ -6,6 +6,9 @@
 #define QELPROENGINE_API
 #elif defined(_WIN32)
 #if defined(QELPROENGINE_BUILDING)
+// MinGW's g++ exports the type information of all classes that a file makes, unless it knows
+// std::type_info before the first exported one.
+#include <typeinfo>
 #define QELPROENGINE_API __declspec(dllexport)
 #else
 #define QELPROENGINE_API __declspec(dllimport)
