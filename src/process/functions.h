@@ -6,7 +6,7 @@
 #include "QELG/QELG.h"
 #include "blocks/destination.h"
 
-/// The simulator's functions after the destinations of a load.
+/// The simulator's functions that the destinations of a load stand for.
 namespace qel {
 
 /// A setter's type says how the text is converted.

@@ -10,7 +10,7 @@
 #include "support/line_break.h"
 #include "support/scratch.h"
 
-// What reader and writer share: the session after an object, and which file it stands for.
+// What reader and writer share: the session of an object, and which file it stands for.
 
 namespace qelpro_test {
 namespace {
