@@ -11,7 +11,7 @@
 
 namespace {
 
-// What a line after a blank says is not found, though it stands there.
+// What a line that begins with a blank says is not found, though it stands there.
 std::string why_not_found(const SectionedText& document, const TextSection* section,
                           const std::string& key) {
   if (section == nullptr) {
