@@ -9,7 +9,7 @@ last='<!-- made so far -->'
 
 arrows() {
   local folder room header
-  for folder in src/*/ tools/qelpro/ tools/generate/; do
+  for folder in src/*/ tools/*/; do
     room=$(basename "$folder")
     grep -rhoE '^#include ["<][A-Za-z]+/[A-Za-z_/.]+' "$folder" | sed -E 's|.*["<]||' | sort -u |
       while read -r header; do

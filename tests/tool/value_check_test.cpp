@@ -1,4 +1,4 @@
-#include "value_check.h"
+#include "file/value_check.h"
 
 #include <gmock/gmock.h>
 
@@ -10,6 +10,8 @@
 #include "blocks/mold_temperature_bc_x.h"
 
 namespace {
+
+using namespace qelpro;
 
 std::string unread(const char* section, const char* key, const std::string& text) {
   int number = 0;

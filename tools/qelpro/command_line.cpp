@@ -12,7 +12,9 @@
 
 #include "commands.h"
 #include "output.h"
-#include "status.h"
+#include "system/failure.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -222,3 +224,5 @@ bool reads_as(const std::string& word, int& number) {
 bool reads_as(const std::string& word, double& number) {
   return CLI::detail::lexical_cast(word, number);
 }
+
+}  // namespace qelpro

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace qelpro {
+
 /// One function a command, with what was given to it. Each yields the exit status that the program
 /// ends with.
 
@@ -58,3 +60,5 @@ int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
+
+}  // namespace qelpro

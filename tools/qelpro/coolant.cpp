@@ -10,11 +10,13 @@
 
 #include "command_line.h"
 #include "commands.h"
-#include "json_text.h"
+#include "json/json_text.h"
 #include "output.h"
-#include "platform/files.h"
 #include "reference_text.h"
-#include "status.h"
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -145,7 +147,7 @@ std::string in_columns(const std::vector<double>& numbers) {
 
 int run_coolant(const CoolantArguments& arguments) {
   const Request request = request_of(arguments);
-  const std::string contents = platform::read_file(request.file);
+  const std::string contents = read_file(request.file);
   CQELPCSInterpolator tables;
   if (!tables.LoadDataFromFile(request.file.c_str())) {
     throw Failure(kFileError,
@@ -173,3 +175,5 @@ int run_coolant(const CoolantArguments& arguments) {
   }
   return kDone;
 }
+
+}  // namespace qelpro

@@ -3,11 +3,13 @@
 #include <string>
 
 #include "commands.h"
-#include "document_text.h"
-#include "names.h"
+#include "file/document_text.h"
+#include "file/names.h"
 #include "output.h"
-#include "status.h"
+#include "system/failure.h"
 #include "text/text.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -57,3 +59,5 @@ int run_get(const GetArguments& arguments) {
            << '\n';
   return kDone;
 }
+
+}  // namespace qelpro

@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "commands.h"
-#include "json_text.h"
+#include "json/json_text.h"
 #include "output.h"
-#include "platform/files.h"
 #include "reference_text.h"
-#include "status.h"
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -78,7 +80,7 @@ int run_machines(const MachinesArguments& arguments) {
     throw Failure(kUsage,
                   "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
   }
-  const std::string contents = platform::read_file(arguments.bank);
+  const std::string contents = read_file(arguments.bank);
   CQELMachineIdentification machines;
   machines.SetMachineUserBankPath(arguments.bank.c_str());
   const BankVersion version = bank_version_of(contents);
@@ -102,3 +104,5 @@ int run_machines(const MachinesArguments& arguments) {
   list_grades(machines, *arguments.maker, arguments.json);
   return kDone;
 }
+
+}  // namespace qelpro

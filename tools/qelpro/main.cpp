@@ -3,11 +3,13 @@
 
 #include "command_line.h"
 #include "output.h"
-#include "platform/streams.h"
-#include "status.h"
+#include "system/failure.h"
+#include "system/streams.h"
+
+using namespace qelpro;
 
 int main(int count, char** arguments) try {
-  platform::prepare_streams();
+  prepare_streams();
   return run_command_line(count, arguments);
 } catch (const Failure& failure) {
   complain(failure.what());

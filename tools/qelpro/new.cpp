@@ -4,8 +4,10 @@
 #include <string>
 
 #include "commands.h"
-#include "platform/files.h"
-#include "status.h"
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -16,7 +18,7 @@ constexpr std::size_t kExpectedSize = std::size_t{16} * 1024;
 
 int run_new(const NewArguments& arguments) {
   const std::string& path = arguments.file;
-  platform::NewFile file(path, kExpectedSize);
+  NewFile file(path, kExpectedSize);
   CPROIO_Manipulator document;
   document.SetFilePath(file.temporary_path().data());
   document.SetDefault();
@@ -29,3 +31,5 @@ int run_new(const NewArguments& arguments) {
   file.publish();
   return kDone;
 }
+
+}  // namespace qelpro

@@ -3,31 +3,32 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "platform/streams.h"
-#include "status.h"
-#include "visible.h"
+#include "system/failure.h"
+#include "system/streams.h"
+#include "system/visible.h"
+
+namespace qelpro {
 
 namespace {
 
 [[noreturn]] void fail_to_write() {
   const int error = errno;
   if (error == EPIPE) {
-    platform::end_without_reader();
+    end_without_reader();
   }
   throw Failure(kFileError, "standard output: cannot be written: " + reason_of(error));
 }
 
 }  // namespace
 
-Output::Output() : to_terminal_(platform::is_terminal(stdout)) {}
+Output::Output() : to_terminal_(is_terminal(stdout)) {}
 
-Output& Output::operator<<(std::string_view text) {
+void Output::put(std::string_view text) {
   constexpr std::size_t kBlock = std::size_t{64} * 1024;
   pending_ += text;
   if (pending_.size() >= kBlock) {
     flush();
   }
-  return *this;
 }
 
 void Output::flush() {
@@ -58,3 +59,5 @@ Output& answer() {
   static Output output;
   return output;
 }
+
+}  // namespace qelpro

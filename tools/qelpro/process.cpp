@@ -8,12 +8,14 @@
 #include <vector>
 
 #include "commands.h"
-#include "document_text.h"
-#include "json_text.h"
+#include "file/document_text.h"
+#include "json/json_text.h"
 #include "output.h"
 #include "process_items.h"
 #include "process_notes.h"
-#include "status.h"
+#include "system/failure.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -187,3 +189,5 @@ int run_process(const ProcessArguments& arguments) {
   }
   return kDone;
 }
+
+}  // namespace qelpro

@@ -4,6 +4,8 @@
 
 #include <variant>
 
+namespace qelpro {
+
 /// The items and lists of a simulator process by name, from the simulator's own list of them.
 template <class Source>
 struct NamedItem {
@@ -38,3 +40,5 @@ inline constexpr NamedList<QELG_SimulatorFlowPackProcess> kInletLists[] = {
 #define QELG_INLET_LIST(type, name, title) {title, &QELG_SimulatorFlowPackProcess::Get##name},
 #include "qelg/items.inc"
 };
+
+}  // namespace qelpro

@@ -16,8 +16,10 @@
 #include "blocks/flow_ctl_info.h"
 #include "blocks/inlet_source.h"
 #include "blocks/sections.h"
+#include "file/value_check.h"
 #include "text/text.h"
-#include "value_check.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -527,3 +529,5 @@ class Diagnosis {
 std::vector<ProcessNote> process_notes(const std::string& file, const SectionedText& document) {
   return Diagnosis(file, document).run();
 }
+
+}  // namespace qelpro

@@ -3,8 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "document_text.h"
-#include "status.h"
+#include "file/document_text.h"
+#include "system/failure.h"
+
+namespace qelpro {
 
 /// Something that the file says and the simulator process does not: dropped, replaced, or read as
 /// something else.
@@ -16,3 +18,5 @@ struct ProcessNote {
 /// The notes of a file in the order in which the loader takes its sections. A diagnosis of its own,
 /// from the rows that the loader has its keys from.
 std::vector<ProcessNote> process_notes(const std::string& file, const SectionedText& document);
+
+}  // namespace qelpro

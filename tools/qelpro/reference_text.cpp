@@ -6,6 +6,8 @@
 
 #include "platform/number.h"
 
+namespace qelpro {
+
 namespace {
 
 constexpr int kBankVersion = 7007;
@@ -99,3 +101,5 @@ BankVersion bank_version_of(const std::string& contents) {
   }
   return result;
 }
+
+}  // namespace qelpro

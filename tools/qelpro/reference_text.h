@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace qelpro {
+
 /// What the two reference files say, for messages: the library hands out answers and no reasons.
 
 /// A coolant of a settings file.
@@ -24,3 +26,5 @@ struct BankVersion {
 };
 /// Whether the header of a machine bank gives the version that is read.
 BankVersion bank_version_of(const std::string& contents);
+
+}  // namespace qelpro

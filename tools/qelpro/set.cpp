@@ -6,13 +6,15 @@
 
 #include "blocks/catalogue.h"
 #include "commands.h"
-#include "document_text.h"
-#include "names.h"
-#include "platform/files.h"
-#include "status.h"
+#include "file/document_text.h"
+#include "file/names.h"
+#include "file/value_check.h"
+#include "system/failure.h"
+#include "system/files.h"
 #include "text/entry_edit.h"
 #include "text/text.h"
-#include "value_check.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -45,7 +47,7 @@ bool is_read_back(const std::string& file, const std::string& section, const std
 }
 
 void store(const SetArguments& arguments, const std::string& section, const std::string& value) {
-  platform::Replacement file(arguments.file);
+  Replacement file(arguments.file);
   const SectionedText document = document_text(arguments.file, file.old_contents());
   const std::string contents = qel::with_entry(document, section, arguments.key, value);
   if (contents == document.contents()) {
@@ -80,3 +82,5 @@ int run_set(const SetArguments& arguments) {
   store(arguments, section, value);
   return kDone;
 }
+
+}  // namespace qelpro

@@ -7,14 +7,16 @@
 
 #include "blocks/catalogue.h"
 #include "commands.h"
-#include "document_text.h"
-#include "entry_json.h"
-#include "json_text.h"
-#include "names.h"
+#include "file/document_text.h"
+#include "file/entry_json.h"
+#include "file/names.h"
+#include "file/positional.h"
+#include "json/json_text.h"
 #include "output.h"
-#include "positional.h"
-#include "status.h"
+#include "system/failure.h"
 #include "text/text.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -359,3 +361,5 @@ int run_show(const ShowArguments& arguments) {
   printer->end();
   return kDone;
 }
+
+}  // namespace qelpro

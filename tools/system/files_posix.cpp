@@ -13,11 +13,11 @@
 #include <functional>
 #include <vector>
 
-#include "platform/beside.h"
-#include "platform/files.h"
-#include "status.h"
+#include "system/beside.h"
+#include "system/failure.h"
+#include "system/files.h"
 
-namespace platform {
+namespace qelpro {
 namespace {
 
 [[noreturn]] void fail(const std::string& file, const std::string& what, int error = errno) {
@@ -311,4 +311,4 @@ void NewFile::publish() {
   sync_folder(file_);
 }
 
-}  // namespace platform
+}  // namespace qelpro

@@ -1,10 +1,12 @@
-#include "names.h"
+#include "file/names.h"
 
 #include <algorithm>
 #include <string_view>
 
-#include "status.h"
+#include "system/failure.h"
 #include "text/text.h"
+
+namespace qelpro {
 
 namespace text = qel::text;
 
@@ -71,3 +73,5 @@ void check_entry(const std::string& section, const std::string& key, const std::
            std::to_string(text::kLongestLine));
   }
 }
+
+}  // namespace qelpro

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-namespace platform {
+namespace qelpro {
 
 /// A path for a temporary file in the folder of the file.
 inline std::string path_beside(const std::string& file) {
@@ -20,4 +20,4 @@ inline std::string folder_of(const std::string& file) {
   return folder.empty() ? "." : folder;
 }
 
-}  // namespace platform
+}  // namespace qelpro

@@ -3,8 +3,10 @@
 #include <functional>
 #include <string>
 
-#include "document_text.h"
-#include "json_text.h"
+#include "file/document_text.h"
+#include "json/json_text.h"
+
+namespace qelpro {
 
 /// Who takes the lines of a section that are addressed by position, one at a time: there may be
 /// very many.
@@ -19,3 +21,5 @@ struct PositionalVisitor {
 /// says and the section holds.
 void visit_positional_lines(const SectionedText& document, const TextSection& section,
                             const PositionalVisitor& visitor);
+
+}  // namespace qelpro

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 /// The standard streams of the tool.
-namespace platform {
+namespace qelpro {
 
 /// To be called first. A stream that the caller closed gets a place of its own where nothing can be
 /// written or read, so that no file that is opened later is taken for it; and a limit on the sizes
@@ -15,4 +15,4 @@ bool is_terminal(std::FILE* stream);
 /// Ends the program as one whose reader has gone: without a message.
 [[noreturn]] void end_without_reader();
 
-}  // namespace platform
+}  // namespace qelpro

@@ -1,4 +1,6 @@
-#include "visible.h"
+#include "system/visible.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -87,3 +89,5 @@ std::string visible(std::string_view text, Controls controls) {
   }
   return result;
 }
+
+}  // namespace qelpro

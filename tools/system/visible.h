@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace qelpro {
+
 /// Which characters are made visible.
 enum class Controls {
   line_breaks,     ///< "\n" and "\r": what is to be one line is one line.
@@ -16,3 +18,5 @@ std::string visible(std::string_view text, Controls controls);
 
 /// How many bytes the UTF-8 character has with which the text begins; 0 where it begins with none.
 std::size_t utf8_length(std::string_view text);
+
+}  // namespace qelpro

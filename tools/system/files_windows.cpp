@@ -7,11 +7,11 @@
 #include <functional>
 #include <system_error>
 
-#include "platform/beside.h"
-#include "platform/files.h"
-#include "status.h"
+#include "system/beside.h"
+#include "system/failure.h"
+#include "system/files.h"
 
-namespace platform {
+namespace qelpro {
 namespace {
 
 [[noreturn]] void fail(const std::string& file, const std::string& what) {
@@ -149,4 +149,4 @@ void NewFile::publish() {
   temporary_.clear();
 }
 
-}  // namespace platform
+}  // namespace qelpro

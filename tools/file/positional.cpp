@@ -1,13 +1,15 @@
-#include "positional.h"
+#include "file/positional.h"
 
 #include <cstdint>
 #include <vector>
 
 #include "blocks/catalogue.h"
 #include "blocks/scan_and_print.h"
-#include "entry_json.h"
+#include "file/entry_json.h"
+#include "file/value_check.h"
 #include "text/text.h"
-#include "value_check.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -126,3 +128,5 @@ void visit_positional_lines(const SectionedText& document, const TextSection& se
     }
   }
 }
+
+}  // namespace qelpro

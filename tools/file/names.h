@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace qelpro {
+
 /// The section's name with its brackets, which the user leaves out or writes both. Anything else is
 /// a `Failure` of usage.
 std::string section_name(const std::string& argument);
@@ -9,3 +11,5 @@ std::string section_name(const std::string& argument);
 /// Refuses, with a `Failure` of usage that names the rule, an entry that could not be found again
 /// or not be read back as it is given.
 void check_entry(const std::string& section, const std::string& key, const std::string& value);
+
+}  // namespace qelpro

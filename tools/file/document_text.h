@@ -4,6 +4,8 @@
 
 #include "text/sectioned_text.h"
 
+namespace qelpro {
+
 using qel::LineKind;
 using qel::SectionedText;
 using qel::TextLine;
@@ -15,3 +17,5 @@ SectionedText load_document(const std::string& file);
 
 /// What of the line the engine does not read as it stands, for a message; or empty.
 std::string limit_of(const TextLine& line);
+
+}  // namespace qelpro

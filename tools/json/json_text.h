@@ -2,7 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "output.h"
+#include "system/sink.h"
+
+namespace qelpro {
 
 using Json = nlohmann::ordered_json;
 
@@ -11,7 +13,9 @@ using Json = nlohmann::ordered_json;
 ///
 /// Numbers that JSON does not know are their texts: "nan", "inf", "-inf". A byte of a text that is
 /// no UTF-8 is the escape of the lone surrogate U+DC00 + byte, so that nothing is lost.
-void write_json(Output& output, const Json& value, std::size_t indent = 0);
+void write_json(Sink& output, const Json& value, std::size_t indent = 0);
 
 /// A value of one line, as a person reads it: a text as it is, anything else as JSON has it.
 std::string plain_text(const Json& value);
+
+}  // namespace qelpro

@@ -1,10 +1,12 @@
-#include "status.h"
+#include "system/failure.h"
 
 #include <cstdio>
 #include <system_error>
 
-#include "platform/streams.h"
-#include "visible.h"
+#include "system/streams.h"
+#include "system/visible.h"
+
+namespace qelpro {
 
 std::string at(const Where& where, std::string_view what) {
   std::string text = where.file;
@@ -27,9 +29,11 @@ void complain(std::string_view message) {
   while (!message.empty() && (message.back() == '\n' || message.back() == '\r')) {
     message.remove_suffix(1);
   }
-  const Controls controls = platform::is_terminal(stderr) ? Controls::all : Controls::line_breaks;
+  const Controls controls = is_terminal(stderr) ? Controls::all : Controls::line_breaks;
   const std::string line = "qelpro: " + visible(message, controls) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 std::string reason_of(int error) { return std::generic_category().message(error); }
+
+}  // namespace qelpro

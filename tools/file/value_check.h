@@ -6,6 +6,8 @@
 
 #include "blocks/key.h"
 
+namespace qelpro {
+
 /// Whether a key's encoding reads a text whole. The encodings take what scans and pass over the
 /// rest; this tells the rest.
 
@@ -31,3 +33,5 @@ std::optional<std::string> unread_part_of_real(std::string_view text);
 
 /// Whether the encoding of that name is known here. Every one of the catalogue is.
 bool is_checked(std::string_view encoding);
+
+}  // namespace qelpro

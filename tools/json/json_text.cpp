@@ -1,4 +1,4 @@
-#include "json_text.h"
+#include "json/json_text.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "visible.h"
+#include "system/visible.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -68,7 +70,7 @@ bool is_beyond_json(const Json& value) {
 
 }  // namespace
 
-void write_json(Output& output, const Json& value, std::size_t indent) {
+void write_json(Sink& output, const Json& value, std::size_t indent) {
   if (value.is_string()) {
     output << escaped(value.get_ref<const std::string&>());
     return;
@@ -101,3 +103,5 @@ std::string plain_text(const Json& value) {
   }
   return is_beyond_json(value) ? number_text(value.get<double>()) : value.dump();
 }
+
+}  // namespace qelpro

@@ -1,9 +1,11 @@
-#include "entry_json.h"
+#include "file/entry_json.h"
 
 #include <type_traits>
 #include <variant>
 
 #include "text/text.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -43,3 +45,5 @@ Json typed_entry(const std::string& key, const TextLine& line, const std::string
   }
   return entry;
 }
+
+}  // namespace qelpro

@@ -1,4 +1,4 @@
-#include "value_check.h"
+#include "file/value_check.h"
 
 #include <array>
 #include <cmath>
@@ -12,6 +12,8 @@
 #include "blocks/name_encoding.h"
 #include "blocks/positional_encoding.h"
 #include "blocks/words.h"
+
+namespace qelpro {
 
 namespace {
 
@@ -367,3 +369,5 @@ std::optional<std::string> unread_part_of_integer(std::string_view text) {
 std::optional<std::string> unread_part_of_real(std::string_view text) {
   return read_fields(text, "f");
 }
+
+}  // namespace qelpro

@@ -7,7 +7,7 @@
 
 /// Files as the tool reads and replaces them. Whatever fails is a `Failure` that names the file and
 /// has the operating system's reason.
-namespace platform {
+namespace qelpro {
 
 /// The bytes of a regular file, all of them.
 std::string read_file(const std::string& file);
@@ -61,4 +61,4 @@ class NewFile {
   std::string temporary_;
 };
 
-}  // namespace platform
+}  // namespace qelpro

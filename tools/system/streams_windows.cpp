@@ -1,10 +1,10 @@
-#include "platform/streams.h"
+#include "system/streams.h"
 
 #include <io.h>
 
 #include <cstdlib>
 
-namespace platform {
+namespace qelpro {
 
 // A stream that the caller closed has no descriptor here, and a write to it fails.
 void prepare_streams() {}
@@ -13,4 +13,4 @@ bool is_terminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; 
 
 void end_without_reader() { std::_Exit(0); }
 
-}  // namespace platform
+}  // namespace qelpro

@@ -1,4 +1,4 @@
-#include "platform/streams.h"
+#include "system/streams.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <initializer_list>
 
-namespace platform {
+namespace qelpro {
 
 void prepare_streams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -31,4 +31,4 @@ void end_without_reader() {
   std::_Exit(kAsIfBySignal);
 }
 
-}  // namespace platform
+}  // namespace qelpro

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace qelpro {
+
 /// The exit statuses of the tool.
 enum Status : int { kDone = 0, kNotFound = 1, kUsage = 2, kFileError = 3 };
 
@@ -37,3 +39,5 @@ void complain(std::string_view message);
 
 /// The operating system's words for an error number.
 std::string reason_of(int error);
+
+}  // namespace qelpro

@@ -1,10 +1,12 @@
-#include "document_text.h"
+#include "file/document_text.h"
 
 #include <utility>
 
-#include "platform/files.h"
-#include "status.h"
+#include "system/failure.h"
+#include "system/files.h"
 #include "text/text.h"
+
+namespace qelpro {
 
 SectionedText document_text(const std::string& file, std::string contents) {
   if (qel::is_utf16(contents)) {
@@ -15,7 +17,7 @@ SectionedText document_text(const std::string& file, std::string contents) {
 }
 
 SectionedText load_document(const std::string& file) {
-  return document_text(file, platform::read_file(file));
+  return document_text(file, read_file(file));
 }
 
 std::string limit_of(const TextLine& line) {
@@ -27,3 +29,5 @@ std::string limit_of(const TextLine& line) {
                    " characters another line is read"
              : std::string();
 }
+
+}  // namespace qelpro
