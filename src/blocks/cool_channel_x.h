@@ -38,7 +38,8 @@ inline constexpr KeyInfo kKeys[] = {
         "an "
         "integer",
         {.older = {"GetCoolChannelControlPoint", "SetcoolChannelControlPoint"},
-         .adapter = {"SetCoolChannelX_WriteControlPointSetting", "SetCoolingChannelData"}}},
+         .adapter = {"SetCoolChannelX_WriteControlPointSetting", "SetCoolingChannelData"},
+         .counted_by = "TimeSet"}},
     Key<ControlPoint>{
         "TCPP-%d",
         {"CoolChannelX_ReadPressureControlPointSetting", "CoolChannelX_ReadControlPointSetting"},
@@ -46,7 +47,8 @@ inline constexpr KeyInfo kKeys[] = {
         "a control point by pressure: a real, the coolant system, the temperature, the pressure, "
         "an "
         "integer",
-        {.adapter = {"SetCoolChannelX_WritePressureControlPointSetting", "SetCoolingChannelData"}}},
+        {.adapter = {"SetCoolChannelX_WritePressureControlPointSetting", "SetCoolingChannelData"},
+         .counted_by = "TimeSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

@@ -46,7 +46,9 @@ inline constexpr KeyInfo kKeys[] = {
         {"CureX_ReadCPProfile"},
         {"CureX_WriteCPProfile"},
         "a point of the curing pressure profile: the time in the stage, and the pressure, in MPa",
-        {.older = {"GetCPProfile", "SetCPProfile"}, .loader = InletList::PackingPressureProfile}},
+        {.older = {"GetCPProfile", "SetCPProfile"},
+         .loader = InletList::PackingPressureProfile,
+         .counted_by = "CPSet"}},
     Key<Integer>{"UserCPSet",
                  {"CureX_ReadUserCPSection"},
                  {"CureX_WriteUserCPSection"},
@@ -56,7 +58,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {"CureX_ReadUserCPProfile"},
                   {"CureX_WriteUserCPProfile"},
                   "a point of the curing pressure profile as the user entered it: x and y",
-                  {.older = {"GetUserCPProfile"}}},
+                  {.older = {"GetUserCPProfile"}, .counted_by = "UserCPSet"}},
     Key<Integer>{"CTDisplayType",
                  {"CureX_ReadCTDisplayType"},
                  {},
@@ -73,7 +75,8 @@ inline constexpr KeyInfo kKeys[] = {
                   {"CureX_ReadCTProfile"},
                   {},
                   "a point of the curing temperature profile: the time in the stage, and the "
-                  "temperature, in oC"},
+                  "temperature, in oC",
+                  {.counted_by = "CTSet"}},
     Key<Integer>{"UserCTSet",
                  {"CureX_ReadUserCTSection"},
                  {},
@@ -81,7 +84,8 @@ inline constexpr KeyInfo kKeys[] = {
     Key<RealPair>{"UserCT-%d",
                   {"CureX_ReadUserCTProfile"},
                   {},
-                  "a point of the curing temperature profile as the user entered it: x and y"},
+                  "a point of the curing temperature profile as the user entered it: x and y",
+                  {.counted_by = "UserCTSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

@@ -17,14 +17,14 @@ inline constexpr KeyInfo kKeys[] = {
                      {"FlowCTLInfo_ReadFlowCTL"},
                      {},
                      "two control codes of an inlet, the second its control type",
-                     {.number = {"inlet", "the inlet"}}},
+                     {.number = {"inlet", "the inlet"}, .counted_by = "TotalInlet"}},
     // Only the loader takes these.
     Key<IntegerPair>{
         "FlowCTL-%d]",
         {},
         {},
         "the same two codes as the loader looks for them: the closing bracket belongs to the key",
-        {.loader = InletItem::InletControlType, .loads_second = true}},
+        {.loader = InletItem::InletControlType, .loads_second = true, .counted_by = "TotalInlet"}},
 };
 
 inline constexpr SectionInfo kInfo{

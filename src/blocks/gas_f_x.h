@@ -65,7 +65,8 @@ inline constexpr KeyInfo kKeys[] = {
         {.reading =
              "In spite of its name `GasFX_ReadUserGRProfile` reads this key, too: what the user "
              "entered is read with `ReadString`.",
-         .older = {"GetGasFRProfile", "SetGasFRProfile"}}},
+         .older = {"GetGasFRProfile", "SetGasFRProfile"},
+         .counted_by = "GRSet"}},
     Key<Integer>{
         "GPSet",
         {"GasFX_ReadGPSection", "GasFX_ReadUserGPSection"},
@@ -83,19 +84,21 @@ inline constexpr KeyInfo kKeys[] = {
         {.reading =
              "In spite of its name `GasFX_ReadUserGPProfile` reads this key, too: what the user "
              "entered is read with `ReadString`.",
-         .older = {"GetGasGPProfile", "SetGasGPProfile"}}},
+         .older = {"GetGasGPProfile", "SetGasGPProfile"},
+         .counted_by = "GPSet"}},
     Key<Integer>{
         "UserGRSet",
         {},
         {"GasFX_WriteUserGRSection"},
         "the number of points of the gas flow rate profile as the user entered it",
         {.writing = "No member of the reader reads it.", .older = {"GetUserGasFRSection"}}},
-    Key<RealPair>{
-        "UserGR-%d",
-        {},
-        {"GasFX_WriteUserGRProfile"},
-        "a point of the gas flow rate profile as the user entered it: x and y",
-        {.writing = "No member of the reader reads it.", .older = {"GetUserGasFRProfile"}}},
+    Key<RealPair>{"UserGR-%d",
+                  {},
+                  {"GasFX_WriteUserGRProfile"},
+                  "a point of the gas flow rate profile as the user entered it: x and y",
+                  {.writing = "No member of the reader reads it.",
+                   .older = {"GetUserGasFRProfile"},
+                   .counted_by = "UserGRSet"}},
     Key<Integer>{
         "UserGPSet",
         {},
@@ -107,7 +110,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {"GasFX_WriteUserGPProfile"},
                   "a point of the gas pressure profile as the user "
                   "entered it, under a key with a capital S: x and y",
-                  {.writing = "No member of the reader reads it."}},
+                  {.writing = "No member of the reader reads it.", .counted_by = "UserGPSet"}},
     // Only the older object serves this one.
     Key<RealPair>{"UserGP-%d",
                   {},
@@ -115,7 +118,7 @@ inline constexpr KeyInfo kKeys[] = {
                   "a point of the gas pressure profile as the user entered it, as the older object "
                   "looks for it: "
                   "x and y",
-                  {.older = {"GetUserGasGPProfile"}}},
+                  {.older = {"GetUserGasGPProfile"}, .counted_by = "UserGPSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

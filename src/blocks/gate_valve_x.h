@@ -28,11 +28,13 @@ inline constexpr KeyInfo kKeys[] = {
                    "integer",
                    {.older = {"GetValveGateTimeSwitch", "SetValveGateTimeSwitch",
                               "GetValveGateControlData", "SetValveGateControlData"},
-                    .adapter = {"SetGateValveX_GateSetting"}}},
+                    .adapter = {"SetGateValveX_GateSetting"},
+                    .counted_by = "GCSet"}},
     Key<GatePointShort>{"GC-%d",
                         {"GateValveX_ReadGateSetting"},
                         {"GateValveX_WriteGateSetting", "GateValveX_WriteGateSettingByValveGateID"},
-                        "a control point without its last integer"},
+                        "a control point without its last integer",
+                        {.counted_by = "GCSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

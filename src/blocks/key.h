@@ -22,11 +22,12 @@ struct Details {
   Argument unused{};                      ///< A number that the members take and nobody looks at.
   const char* reading = "";               ///< What else a member that reads does, in sentences.
   const char* writing = "";
-  Members older{};            ///< Members of CPROIO_Manipulator.
-  Members adapter{};          ///< Members of CQEL_ProcessAdapter.
-  Destination loader{};       ///< Where CQELProcessData_Manipulator puts the value.
-  bool loads_second = false;  ///< It takes the second number of a pair, not the first.
-  Members value_reader{};     ///< Members of CQELProcessValueReader.
+  Members older{};                   ///< Members of CPROIO_Manipulator.
+  Members adapter{};                 ///< Members of CQEL_ProcessAdapter.
+  Destination loader{};              ///< Where CQELProcessData_Manipulator puts the value.
+  bool loads_second = false;         ///< It takes the second number of a pair, not the first.
+  Members value_reader{};            ///< Members of CQELProcessValueReader.
+  const char* counted_by = nullptr;  ///< The key of the same section that counts such points.
 };
 
 /// What members and documents need to know of an encoding.

@@ -17,14 +17,15 @@ inline constexpr KeyInfo kKeys[] = {
                         {"MoldInsertInitialTemperature_ReadMoldInsert"},
                         {"MoldInsertInitialTemperature_WriteMoldInsert"},
                         "a mold insert: its identifier, its name, its initial temperature, in oC",
-                        {.number = {"insert", "the insert"}}},
-    Key<MoldInsertLineOfFour>{"MoldInsert-%d",
-                              {"MoldInsertInitialTemperature_ReadMoldInsert"},
-                              {},
-                              "a mold insert: its identifier, its name, which may hold blanks, its "
-                              "initial temperature, in "
-                              "oC, and an integer",
-                              {.number = {"insert", "the insert"}}},
+                        {.number = {"insert", "the insert"}, .counted_by = "TotalMoldInsert"}},
+    Key<MoldInsertLineOfFour>{
+        "MoldInsert-%d",
+        {"MoldInsertInitialTemperature_ReadMoldInsert"},
+        {},
+        "a mold insert: its identifier, its name, which may hold blanks, its "
+        "initial temperature, in "
+        "oC, and an integer",
+        {.number = {"insert", "the insert"}, .counted_by = "TotalMoldInsert"}},
 };
 
 inline constexpr SectionInfo kInfo{kSection, "MoldInsertInitialTemperature",

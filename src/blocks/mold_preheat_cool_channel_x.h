@@ -31,14 +31,16 @@ inline constexpr KeyInfo kKeys[] = {
         "a control point by flow rate: a real, the coolant system, the temperature, the flow rate, "
         "an "
         "integer",
-        {.older = {"GetMPreheatCoolChannelControlPoint", "SetMPreheatCoolChannelControlPoint"}}},
+        {.older = {"GetMPreheatCoolChannelControlPoint", "SetMPreheatCoolChannelControlPoint"},
+         .counted_by = "TimeSet"}},
     Key<ControlPoint>{"TCPP-%d",
                       {"MoldPreheat_CoolChannelX_ReadPressureControlPointSetting",
                        "MoldPreheat_CoolChannelX_ReadControlPointSetting"},
                       {},
                       "a control point by pressure: a real, the coolant system, the temperature, "
                       "the pressure, an "
-                      "integer"},
+                      "integer",
+                      {.counted_by = "TimeSet"}},
 };
 
 inline constexpr SectionInfo kInfo{kSection,

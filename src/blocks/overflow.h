@@ -15,15 +15,19 @@ inline constexpr KeyInfo kKeys[] = {
                  {},
                  "the number of control points of the overflow valve",
                  {.older = {"GetOverFlowControlNo"}}},
-    Key<GatePoint>{"GC-%d",
-                   {"OverflowX_ReadGateSetting"},
-                   {},
-                   "a control point: the switching value, an integer, the mode (1 to 4), and for "
-                   "modes 2 and 3 an "
-                   "integer",
-                   {.older = {"GetOverFlowTimeSwitch", "GetOverFlowControlData"}}},
-    Key<GatePointShort>{
-        "GC-%d", {"OverflowX_ReadGateSetting"}, {}, "a control point without its last integer"},
+    Key<GatePoint>{
+        "GC-%d",
+        {"OverflowX_ReadGateSetting"},
+        {},
+        "a control point: the switching value, an integer, the mode (1 to 4), and for "
+        "modes 2 and 3 an "
+        "integer",
+        {.older = {"GetOverFlowTimeSwitch", "GetOverFlowControlData"}, .counted_by = "GCSet"}},
+    Key<GatePointShort>{"GC-%d",
+                        {"OverflowX_ReadGateSetting"},
+                        {},
+                        "a control point without its last integer",
+                        {.counted_by = "GCSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

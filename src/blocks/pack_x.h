@@ -53,7 +53,9 @@ inline constexpr KeyInfo kKeys[] = {
         {"PackX_ReadPPProfile"},
         {"PackX_WritePPProfile"},
         "a point of the packing pressure profile: the time in the stage, and the pressure, in MPa",
-        {.older = {"GetPPProfile", "SetPPProfile"}, .loader = InletList::PackingPressureProfile}},
+        {.older = {"GetPPProfile", "SetPPProfile"},
+         .loader = InletList::PackingPressureProfile,
+         .counted_by = "PPSet"}},
     Key<Integer>{"UserPPSet",
                  {"PackX_ReadUserPPSection"},
                  {"PackX_WriteUserPPSection"},
@@ -63,7 +65,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {"PackX_ReadUserPPProfile"},
                   {"PackX_WriteUserPPProfile"},
                   "a point of the packing pressure profile as the user entered it: x and y",
-                  {.older = {"GetUserPPProfile"}}},
+                  {.older = {"GetUserPPProfile"}, .counted_by = "UserPPSet"}},
     // Only the loader takes these.
     Key<Real>{"MaxPressSlop",
               {},
@@ -102,7 +104,7 @@ inline constexpr KeyInfo kKeys[] = {
         {},
         {},
         "a point of the fluid pressure profile: the time in the stage, and the pressure, in MPa",
-        {.loader = InletList::FluidPressureProfile}},
+        {.loader = InletList::FluidPressureProfile, .counted_by = "FluidSet"}},
 };
 
 inline constexpr SectionInfo kInfo{

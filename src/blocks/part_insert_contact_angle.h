@@ -17,7 +17,7 @@ inline constexpr KeyInfo kKeys[] = {
                       {"PartInsertContactAngle_ReadAngle", "PartInsertContactAngle_ReadAngle"},
                       {"PartInsertContactAngle_WriteGroup"},
                       "a group of part inserts: its name in double quotes, and its contact angle",
-                      {.number = {"group", "the group"}}},
+                      {.number = {"group", "the group"}, .counted_by = "GroupCount"}},
 };
 
 inline constexpr SectionInfo kInfo{kSection, "PartInsertContactAngle",

@@ -18,14 +18,17 @@ inline constexpr KeyInfo kKeys[] = {
                         {"PartInsertInitialTemperature_ReadPartInsert"},
                         {"PartInsertInitialTemperature_WritePartInsert"},
                         "a part insert: its identifier, its name, its initial temperature, in oC",
-                        {.number = {"insert", "the insert"}, .older = {"GetPartInsertSetting"}}},
-    Key<PartInsertLineOfFour>{"PartInsert-%d",
-                              {"PartInsertInitialTemperature_ReadPartInsert"},
-                              {},
-                              "a part insert: its identifier, its name, which may hold blanks, its "
-                              "initial temperature, in "
-                              "oC, and an integer",
-                              {.number = {"insert", "the insert"}}},
+                        {.number = {"insert", "the insert"},
+                         .older = {"GetPartInsertSetting"},
+                         .counted_by = "TotalPartInsert"}},
+    Key<PartInsertLineOfFour>{
+        "PartInsert-%d",
+        {"PartInsertInitialTemperature_ReadPartInsert"},
+        {},
+        "a part insert: its identifier, its name, which may hold blanks, its "
+        "initial temperature, in "
+        "oC, and an integer",
+        {.number = {"insert", "the insert"}, .counted_by = "TotalPartInsert"}},
 };
 
 inline constexpr SectionInfo kInfo{kSection, "PartInsertInitialTemperature",

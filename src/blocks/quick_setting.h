@@ -49,7 +49,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {},
                   {},
                   "a point of the flow rate profile: x, and the flow rate",
-                  {.older = {"GetQSFRProfile", "SetQSFRProfile"}}},
+                  {.older = {"GetQSFRProfile", "SetQSFRProfile"}, .counted_by = "Q_Section"}},
     Key<Integer>{"Pi_Section",
                  {},
                  {},
@@ -59,7 +59,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {},
                   {},
                   "a point of the injection pressure profile: x, and the pressure",
-                  {.older = {"GetQSIPProfile", "SetQSIPProfile"}}},
+                  {.older = {"GetQSIPProfile", "SetQSIPProfile"}, .counted_by = "Pi_Section"}},
     Key<Integer>{"Pp_Section",
                  {},
                  {},
@@ -69,7 +69,7 @@ inline constexpr KeyInfo kKeys[] = {
                   {},
                   {},
                   "a point of the packing pressure profile: x, and the pressure",
-                  {.older = {"GetQSPPProfile", "SetQSPPProfile"}}},
+                  {.older = {"GetQSPPProfile", "SetQSPPProfile"}, .counted_by = "Pp_Section"}},
 };
 
 inline constexpr SectionInfo kInfo{

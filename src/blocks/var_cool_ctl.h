@@ -14,12 +14,13 @@ inline constexpr KeyInfo kKeys[] = {
                  {"VarCoolCTL_WriteCoolantCount"},
                  "the number of entries of variable cooling",
                  {.older = {"GetTotalCoolantNo", "SetTotalCoolantNo"}}},
-    Key<FourRealsAndInteger>{
-        "Coolant-%d",
-        {"VarCoolCTL_ReadCoolant"},
-        {"VarCoolCTL_WriteCoolant"},
-        "an entry of variable cooling: four reals and an integer",
-        {.number = {"entry", "the entry"}, .older = {"GetCoolant", "SetCoolant"}}},
+    Key<FourRealsAndInteger>{"Coolant-%d",
+                             {"VarCoolCTL_ReadCoolant"},
+                             {"VarCoolCTL_WriteCoolant"},
+                             "an entry of variable cooling: four reals and an integer",
+                             {.number = {"entry", "the entry"},
+                              .older = {"GetCoolant", "SetCoolant"},
+                              .counted_by = "CoolantNo"}},
 };
 
 inline constexpr SectionInfo kInfo{kSection, "VarCoolCTL", "variable cooling", kKeys};

@@ -4,7 +4,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "blocks/key.h"
@@ -36,7 +35,10 @@ class Entries {
   /// The entries of a section, in order: a part of `all`.
   [[nodiscard]] std::span<const FileEntry> of(const TextSection& section) const;
 
-  /// `section` with or without brackets. Null where there is none.
+  /// The first section of that name, with or without brackets. The name of the section whose lines
+  /// have a position may be its first word.
+  [[nodiscard]] const TextSection* find_section(std::string_view name) const;
+  /// Null where there is none.
   [[nodiscard]] const FileEntry* find(std::string_view section, std::string_view key) const;
   [[nodiscard]] const FileEntry* find(const Address& address) const {
     return find(address.section, address.key);
@@ -56,9 +58,9 @@ class Entries {
 
   const SectionedText& document_;
   std::vector<FileEntry> entries_;
-  std::vector<std::size_t> first_of_section_;                // one more than there are sections
-  std::vector<const qel::SectionInfo*> known_;               // of each section
-  std::unordered_map<std::string, std::size_t> by_address_;  // section index, key
+  std::vector<std::size_t> first_of_section_;   // one more than there are sections
+  std::vector<const qel::SectionInfo*> known_;  // of each section
+  std::vector<std::size_t> by_key_;             // of each section by key
 };
 
 }  // namespace qelpro

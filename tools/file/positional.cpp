@@ -84,6 +84,10 @@ class MissingSettings {
 
 }  // namespace
 
+const qel::KeyInfo& positional_kind(std::string_view line) {
+  return catalogue_row().keys[is_setting_line(line) ? 1 : 0];
+}
+
 void visit_positional_lines(const SectionedText& document, const TextSection& section,
                             const PositionalVisitor& visitor) {
   const qel::SectionInfo& row = catalogue_row();

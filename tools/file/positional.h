@@ -2,6 +2,9 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+
+#include "blocks/key.h"
 
 #include "file/document_text.h"
 #include "json/json_text.h"
@@ -16,6 +19,9 @@ struct PositionalVisitor {
       passed_over;  ///< The index of a line that nobody counts as a setting.
   std::function<void(const std::string&)> note;
 };
+
+/// How such a line is read by itself: as a setting where it has the form of one, else as a header.
+const qel::KeyInfo& positional_kind(std::string_view line);
 
 /// Its lines: header lines first, then as many setting lines for each condition as its header line
 /// says and the section holds.

@@ -7,6 +7,7 @@
 
 #include "blocks/key.h"
 #include "file/entries.h"
+#include "file/typed.h"
 
 namespace qelpro {
 
@@ -32,6 +33,7 @@ struct ProfilePoint {
 /// A table of a file.
 struct Profile {
   ProfileKind kind;
+  const qel::SectionInfo* section_info = nullptr;
   std::string section;               ///< Without brackets.
   const FileEntry* count = nullptr;  ///< Null where the file does not say it.
   int promised = 0;                  ///< What it says; 0 where it is none or not whole.
@@ -39,6 +41,7 @@ struct Profile {
 
   /// "Flow-1.FR"
   [[nodiscard]] std::string address() const { return section + "." + kind.name; }
+  [[nodiscard]] TypedValue typed_value_of(const ProfilePoint& point) const;
   /// The points that the count promises and that are there whole, as a curve.
   [[nodiscard]] std::vector<std::array<double, 2>> curve() const;
 };

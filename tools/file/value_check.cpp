@@ -314,6 +314,26 @@ const Row* row_of(std::string_view encoding) {
 
 }  // namespace
 
+std::string_view fields_of_encoding(std::string_view encoding) {
+  if (is_material(encoding)) {
+    return "fffwfff";
+  }
+  if (is_insert_of_three(encoding)) {
+    return "dwf";
+  }
+  if (is_insert_of_four(encoding)) {
+    return "dwfd";
+  }
+  if (encoding == qel::PositionalHeader::kName) {
+    return "dwd";
+  }
+  if (encoding == qel::ZoneCount::kName) {
+    return "d";
+  }
+  const Row* row = row_of(encoding);
+  return row != nullptr && row->kinds != nullptr ? row->kinds : "";
+}
+
 bool is_checked(std::string_view encoding) {
   return row_of(encoding) != nullptr || is_material(encoding) || is_insert_of_three(encoding) ||
          is_insert_of_four(encoding) || encoding == qel::ZoneCount::kName ||

@@ -31,6 +31,12 @@ std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view
 std::optional<std::string> unread_part_of_integer(std::string_view text);
 std::optional<std::string> unread_part_of_real(std::string_view text);
 
+/// The fields of an encoding's text in order, a letter each: "d" a whole number, "o" one that is
+/// dropped and may be missing, "g" one that some modes have, "f" a real, "s" a size, "w" a name,
+/// "q" one in double quotes, "c" the character between two, "e" a "=", "n" a note in parentheses.
+/// Empty where the text is the value.
+std::string_view fields_of_encoding(std::string_view encoding);
+
 /// Whether the encoding of that name is known here. Every one of the catalogue is.
 bool is_checked(std::string_view encoding);
 

@@ -64,13 +64,36 @@ std::string number_text(double value) {
   return value > 0 ? "inf" : "-inf";
 }
 
+constexpr Json::binary_t::subtype_type kNumber = 1;
+
 bool is_beyond_json(const Json& value) {
   return value.is_number_float() && !std::isfinite(value.get<double>());
 }
 
 }  // namespace
 
+Json number_of_text(std::string_view text) {
+  return Json::binary({text.begin(), text.end()}, kNumber);
+}
+
+bool is_number_text(const Json& value) {
+  return value.is_binary() && value.get_binary().has_subtype() &&
+         value.get_binary().subtype() == kNumber;
+}
+
+std::string number_text(const Json& value) {
+  if (is_number_text(value)) {
+    const Json::binary_t& bytes = value.get_binary();
+    return {bytes.begin(), bytes.end()};
+  }
+  return is_beyond_json(value) ? number_text(value.get<double>()) : value.dump();
+}
+
 void write_json(Sink& output, const Json& value, std::size_t indent) {
+  if (is_number_text(value)) {
+    output << number_text(value);
+    return;
+  }
   if (value.is_string()) {
     output << escaped(value.get_ref<const std::string&>());
     return;
@@ -101,7 +124,7 @@ std::string plain_text(const Json& value) {
   if (value.is_string()) {
     return value.get<std::string>();
   }
-  return is_beyond_json(value) ? number_text(value.get<double>()) : value.dump();
+  return number_text(value);
 }
 
 }  // namespace qelpro
