@@ -53,6 +53,20 @@ struct CoolantArguments {
   bool json = false;
 };
 
+struct DiffArguments {
+  std::vector<std::string> words;  // A B, or the seven words of git, nine where a file got a name
+  double relative = 0;
+  double absolute = 0;
+  bool points = false;
+  bool json = false;
+  std::string color = "auto";
+};
+
+struct ExplainArguments {
+  std::vector<std::string> words;  // nothing, SECTION, SECTION.KEY, or SECTION KEY
+  bool json = false;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -60,5 +74,7 @@ int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
+int run_diff(const DiffArguments& arguments);
+int run_explain(const ExplainArguments& arguments);
 
 }  // namespace qelpro

@@ -31,9 +31,20 @@ void Output::put(std::string_view text) {
   }
 }
 
+void Output::put_escape(std::string_view sequence) {
+  if (to_terminal_) {
+    shown_ += visible(pending_, Controls::all_but_layout);
+    shown_ += sequence;
+    pending_.clear();
+  } else {
+    put(sequence);
+  }
+}
+
 void Output::flush() {
   if (to_terminal_) {
-    pending_ = visible(pending_, Controls::all_but_layout);
+    pending_ = shown_ + visible(pending_, Controls::all_but_layout);
+    shown_.clear();
   }
   errno = 0;
   if (std::fwrite(pending_.data(), 1, pending_.size(), stdout) != pending_.size() ||
@@ -45,7 +56,7 @@ void Output::flush() {
 }
 
 void Output::finish() {
-  if (pending_.empty()) {
+  if (pending_.empty() && shown_.empty()) {
     return;
   }
   flush();

@@ -16,6 +16,8 @@ class Output : public Sink {
  public:
   Output();
   void put(std::string_view text) override;
+  /// An escape sequence of the tool's own, which a terminal is to get as it is.
+  void put_escape(std::string_view sequence);
 
   /// Only after this is it known that everything was written.
   void finish();
@@ -24,6 +26,7 @@ class Output : public Sink {
   void flush();
 
   bool to_terminal_;
+  std::string shown_;  // what a terminal gets, up to the last escape sequence
   std::string pending_;
 };
 
