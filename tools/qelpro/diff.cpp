@@ -108,7 +108,9 @@ int run_for_git(const DiffArguments& arguments) {
     answer() << words.header();
   }
   try {
-    compare(arguments, words.before(), words.after());
+    if (!compare(arguments, words.before(), words.after()) && !arguments.json) {
+      answer() << "(no entry differs)\n";
+    }
   } catch (const Failure& failure) {
     complain(at(arguments.words.front(), failure.what()));
   }

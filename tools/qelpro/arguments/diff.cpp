@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/words.h"
 #include "commands.h"
 
 namespace qelpro {
@@ -10,9 +11,7 @@ void add_diff(CLI::App& app, int& status) {
   auto arguments = std::make_shared<DiffArguments>();
   CLI::App* command =
       app.add_subcommand("diff", "Compare two files by sections, entries and profiles");
-  command->add_option("FILE", arguments->words, "A and B, the two files; - for standard input")
-      ->required()
-      ->type_name("");
+  add_words(*command, "A B", arguments->words, "The two files; - for standard input");
   command
       ->add_option("--tolerance", arguments->relative,
                    "How far two reals may differ, relative to the larger one")
