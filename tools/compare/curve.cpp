@@ -102,7 +102,7 @@ std::optional<LargestDifference> largest_difference(const Curve& before, const C
     }
   }
   std::ranges::sort(places);
-  places.erase(std::ranges::unique(places).begin(), places.end());
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   std::optional<LargestDifference> largest;
   const auto take = [&](double x, const Value& one, const Value& other) {
     const double difference = std::abs(one.y - other.y);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "compare/curve.h"
 #include "compare/tolerance.h"
 #include "file/address.h"
 #include "file/document_text.h"
@@ -21,11 +22,10 @@ struct Difference {
   Address address;     ///< The key of a profile is what its count is called, "FR".
   std::string before;  ///< The text as it stands; "5 points" of a profile.
   std::string after;
-  std::string remark;       ///< "largest difference 3.2 at 40" of a profile.
-  Json typed_before;        ///< The typed value; the points of a profile.
-  Json typed_after;         ///< Null, as the other one is, where there is none.
-  Json largest_difference;  ///< Of two profiles that have points, and where it is.
-  Json largest_at;
+  std::string remark;                ///< "largest difference 3.2 at 40" of a profile.
+  std::optional<Json> typed_before;  ///< The typed value; the points of a profile.
+  std::optional<Json> typed_after;
+  std::optional<LargestDifference> largest;  ///< Of two profiles that have points.
 };
 
 /// In the order of the first file, then what the second alone has in its order.

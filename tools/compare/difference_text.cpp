@@ -63,15 +63,15 @@ Json json_of(const Difference& difference) {
     return json;
   }
   json[difference.of == Of::profile ? "profile" : "key"] = difference.address.key;
-  if (difference.kind != Kind::added) {
-    json["before"] = difference.typed_before;
+  if (difference.typed_before) {
+    json["before"] = *difference.typed_before;
   }
-  if (difference.kind != Kind::removed) {
-    json["after"] = difference.typed_after;
+  if (difference.typed_after) {
+    json["after"] = *difference.typed_after;
   }
-  if (!difference.largest_difference.is_null()) {
-    json["largest_difference"] = difference.largest_difference;
-    json["at"] = difference.largest_at;
+  if (difference.largest) {
+    json["largest_difference"] = difference.largest->difference;
+    json["at"] = difference.largest->at;
   }
   return json;
 }

@@ -25,8 +25,8 @@ std::optional<std::array<double, 2>> pair_of(const TypedValue& typed) {
   if (typed.unread || typed.fields.size() != 2) {
     return std::nullopt;
   }
-  const auto* const x = std::get_if<double>(&typed.fields[0]);
-  const auto* const y = std::get_if<double>(&typed.fields[1]);
+  const auto* const x = std::get_if<double>(&typed.fields.front());
+  const auto* const y = std::get_if<double>(&typed.fields.back());
   if (x == nullptr || y == nullptr) {
     return std::nullopt;
   }
@@ -94,8 +94,7 @@ void add_largest(Difference& difference, const LargestDifference& largest) {
   constexpr int kDigitsOfPlace = 12;
   difference.remark = "largest difference " + rounded(largest.difference, kDigitsOfDifference) +
                       " at " + rounded(largest.at, kDigitsOfPlace);
-  difference.largest_difference = largest.difference;
-  difference.largest_at = largest.at;
+  difference.largest = largest;
 }
 
 // Keeps what two profiles of one kind say, unless they are no curves that can be compared.
