@@ -1,7 +1,7 @@
 #include "compare/difference.h"
 
 #include <algorithm>
-#include <map>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -81,24 +81,30 @@ class Comparison {
       if (other != nullptr && after_.is_taken(*other)) {
         continue;
       }
-      if (other == nullptr ||
-          !is_same(before_.value_of(entry), after_.value_of(*other), tolerances_)) {
+      if (other == nullptr || !has_same_value(entry, *other)) {
         differences.push_back(entry_difference(&entry, other));
       }
     }
   }
 
   // What the second file alone has, in its order.
-  void added(std::vector<Difference>& differences) {
+  [[nodiscard]] std::vector<Difference> added() {
+    std::vector<Difference> differences;
     for (const FileEntry& entry : after_.all()) {
       told_of(entry, differences);
       if (!after_.is_taken(entry) && before_.find(entry.key) == nullptr) {
         differences.push_back(entry_difference(nullptr, &entry));
       }
     }
+    return differences;
   }
 
  private:
+  [[nodiscard]] bool has_same_value(const FileEntry& before, const FileEntry& after) const {
+    return before.value == after.value ||
+           is_same(before_.value_of(before), after_.value_of(after), tolerances_);
+  }
+
   void told_of(const FileEntry& entry, std::vector<Difference>& differences) {
     for (ComparedProfiles::Told& told : profiles_.told) {
       if (told.first == &entry) {
@@ -138,24 +144,25 @@ std::vector<Difference> differences(const SectionedText& before, const Sectioned
   const Entries old_entries(before);
   const Entries new_entries(after);
   std::vector<Difference> found;
+  std::unordered_map<const TextSection*, std::vector<Difference>> added;
   for (const TextSection& section : before.sections()) {
     if (section.repeated) {
       continue;
     }
     if (const TextSection* const other = after.find(section.name); other != nullptr) {
-      Comparison({old_entries, new_entries, section, *other}, tolerances)
-          .changed_and_removed(found);
+      Comparison comparison({old_entries, new_entries, section, *other}, tolerances);
+      comparison.changed_and_removed(found);
+      if (std::vector<Difference> own = comparison.added(); !own.empty()) {
+        added.emplace(other, std::move(own));
+      }
     } else {
       found.push_back(section_difference(Kind::removed, section));
     }
   }
   for (const TextSection& section : after.sections()) {
-    if (section.repeated) {
-      continue;
-    }
-    if (const TextSection* const other = before.find(section.name); other != nullptr) {
-      Comparison({old_entries, new_entries, *other, section}, tolerances).added(found);
-    } else {
+    if (const auto own = added.find(&section); own != added.end()) {
+      std::ranges::move(own->second, std::back_inserter(found));
+    } else if (!section.repeated && before.find(section.name) == nullptr) {
       found.push_back(section_difference(Kind::added, section));
     }
   }
