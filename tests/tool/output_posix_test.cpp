@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "support/environment.h"
 #include "support/scratch.h"
 #include "tool/shell.h"
 
@@ -36,6 +37,10 @@ const std::vector<std::string> kAnswers = {
     "machines \"$2\" Tessaro --json",
     "coolant \"$3\" 6 10",
     "coolant \"$3\" --table 6 --from 1 --to 2 --step 1 --json",
+    "diff \"$1\" \"$2\"",
+    "diff \"$1\" \"$2\" --json",
+    "explain",
+    "explain Flow-1 --json",
     "--help",
     "get --help",
     "--version"};
@@ -151,6 +156,24 @@ TEST(Output, ToATerminalShowsControlCharactersAsEscapes) {
     EXPECT_NE(*text, "");
   }
   EXPECT_EQ(on_terminal({"get", file, "Flow-1", "Remark"}), "\\x1B[31mred\\x07 \\x9B ok\r\n");
+}
+
+TEST(Output, ToATerminalHasTheColorsOfTheToolAlone) {
+  const Scratch scratch;
+  const std::string before = scratch.file(kFile);
+  const std::string after = scratch.file("[Flow-1]\nFillTime = 1.5\nRemark = new\n", "b.pro");
+  const KeptEnvironment kept("NO_COLOR");
+  set_environment("NO_COLOR", std::nullopt);
+  const std::optional<std::string> colored = on_terminal({"diff", before, after});
+  if (!colored) {
+    GTEST_SKIP() << "no terminal could be opened: " << std::strerror(errno);
+  }
+  EXPECT_EQ(*colored,
+            "~ Flow-1.Remark: \x1b[31m\\x1B[31mred\\x07 \\x9B ok\x1b[m -> \x1b[32mnew\x1b[m\r\n");
+  const std::string plain = "~ Flow-1.Remark: \\x1B[31mred\\x07 \\x9B ok -> new\r\n";
+  EXPECT_EQ(on_terminal({"diff", before, after, "--color=never"}), plain);
+  set_environment("NO_COLOR", "1");
+  EXPECT_EQ(on_terminal({"diff", before, after}), plain);
 }
 
 TEST(Output, ToAPipeOrAFileHasTheBytes) {
