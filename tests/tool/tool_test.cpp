@@ -115,7 +115,7 @@ TEST(Set, ReplacesAnEntryAndNothingElse) {
   EXPECT_EQ(qelpro({"set", file, "Flow-2", "MeltTemp", "231"}).status, 0);
   EXPECT_EQ(bytes_of(file),
             "[FileHeader]\nName = a.pro\n\n[Flow-1]\nFillTime = 1.5\n\n[Flow-2]\nFillTime = "
-            "2.5\nMeltTemp             = 231\n");
+            "2.5\nMeltTemp = 231\n");
 }
 
 TEST(Set, LeavesALaterSectionsKeyOfTheSameNameAlone) {
@@ -123,8 +123,8 @@ TEST(Set, LeavesALaterSectionsKeyOfTheSameNameAlone) {
   const std::string file = scratch.file(kFile);
   EXPECT_EQ(qelpro({"set", file, "Flow-1", "MeltTemp", "200"}).status, 0);
   EXPECT_EQ(bytes_of(file),
-            "[FileHeader]\nName = a.pro\n\n[Flow-1]\nFillTime = 1.5\n\nMeltTemp = "
-            "200\n[Flow-2]\nFillTime = 2.5\nMeltTemp = 230\n");
+            "[FileHeader]\nName = a.pro\n\n[Flow-1]\nFillTime = 1.5\nMeltTemp = "
+            "200\n\n[Flow-2]\nFillTime = 2.5\nMeltTemp = 230\n");
 }
 
 TEST(Set, LeavesALaterSectionAloneInAFileWithDosLineBreaksAndAByteOrderMark) {

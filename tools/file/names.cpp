@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "file/address.h"
 #include "system/failure.h"
 #include "text/text.h"
 
@@ -34,6 +35,23 @@ void check_name(const std::string& kind, const std::string& name) {
   }
 }
 
+void check_value(const std::string& value) {
+  if (value.find_first_of("\r\n") != std::string::npos) {
+    refuse("the value holds a line break: it is one line");
+  }
+  if (value.find(kEndOfText) != std::string::npos) {
+    refuse("the value holds a character 0x1A, where other programs end the file");
+  }
+}
+
+void check_length(std::size_t length) {
+  if (length + 1 > text::kLongestLine) {
+    refuse("line too long: it would have " + std::to_string(length + 1) +
+           " characters with its line break, of which the engine reads " +
+           std::to_string(text::kLongestLine));
+  }
+}
+
 }  // namespace
 
 std::string section_name(const std::string& argument) {
@@ -60,18 +78,19 @@ void check_entry(const std::string& section, const std::string& key, const std::
   if (key.front() == ';' || key.front() == '#' || key.substr(0, 2) == "//") {
     refuse("key " + quoted(key) + ": a line that begins so is a comment");
   }
-  if (value.find_first_of("\r\n") != std::string::npos) {
-    refuse("the value holds a line break: it is one line");
+  check_value(value);
+  check_length(std::max(text::padded_entry(key, value).size(), section.size()));
+}
+
+void check_positional_line(const std::string& position, const std::string& line) {
+  if (position_of(position) == 0) {
+    refuse("key " + quoted(position) + ": its lines have a position and no key: #1, #2, ...");
   }
-  if (value.find(kEndOfText) != std::string::npos) {
-    refuse("the value holds a character 0x1A, where other programs end the file");
+  check_value(line);
+  if (text::is_header(line)) {
+    refuse("the line " + quoted(line) + " reads as a section");
   }
-  const std::size_t length = std::max(text::padded_entry(key, value).size(), section.size()) + 1;
-  if (length > text::kLongestLine) {
-    refuse("line too long: it would have " + std::to_string(length) +
-           " characters with its line break, of which the engine reads " +
-           std::to_string(text::kLongestLine));
-  }
+  check_length(line.size());
 }
 
 }  // namespace qelpro

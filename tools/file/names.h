@@ -12,4 +12,7 @@ std::string section_name(const std::string& argument);
 /// or not be read back as it is given.
 void check_entry(const std::string& section, const std::string& key, const std::string& value);
 
+/// The same of a line that has a position, "#3", and no key.
+void check_positional_line(const std::string& position, const std::string& line);
+
 }  // namespace qelpro

@@ -9,7 +9,7 @@
 /// has the operating system's reason.
 namespace qelpro {
 
-/// The bytes of a regular file, all of them.
+/// The bytes of a regular file, all of them; "-" is standard input.
 std::string read_file(const std::string& file);
 
 /// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are
@@ -60,5 +60,15 @@ class NewFile {
   std::string file_;
   std::string temporary_;
 };
+
+/// Puts the contents into a file, whole or not at all: into a new one, or in the place of a regular
+/// file that is there, which keeps its permissions, its owner and the links to it.
+void write_whole(const std::string& file, std::string_view contents);
+
+/// Whether there is something of that name, a link to nothing too.
+bool exists(const std::string& file);
+
+/// All that standard input gives.
+std::string read_standard_input();
 
 }  // namespace qelpro

@@ -181,6 +181,9 @@ int make_beside(const std::string& file, const std::string& target, mode_t mode,
 }  // namespace
 
 std::string read_file(const std::string& file) {
+  if (file == "-") {
+    return read_standard_input();
+  }
   check_is_regular(file);
   const Descriptor descriptor(open_file(file, O_RDONLY));
   if (!descriptor.is_open()) {

@@ -42,6 +42,9 @@ Stream make_beside(const std::string& file, const std::string& target, std::stri
 }  // namespace
 
 std::string read_file(const std::string& file) {
+  if (file == "-") {
+    return read_standard_input();
+  }
   std::error_code error;
   const auto kind = std::filesystem::status(file, error);
   if (std::filesystem::exists(kind) && !std::filesystem::is_regular_file(kind)) {

@@ -1,5 +1,6 @@
 #include "system/streams.h"
 
+#include <fcntl.h>
 #include <io.h>
 
 #include <cstdlib>
@@ -7,7 +8,7 @@
 namespace qelpro {
 
 // A stream that the caller closed has no descriptor here, and a write to it fails.
-void prepare_streams() {}
+void prepare_streams() { ::_setmode(::_fileno(stdin), _O_BINARY); }
 
 bool is_terminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
 

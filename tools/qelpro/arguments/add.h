@@ -1,0 +1,19 @@
+#pragma once
+
+namespace CLI {
+class App;
+}
+
+/// Each declares the arguments of a command and, when it is given, runs it and hands out its exit
+/// status.
+namespace qelpro {
+
+void add_check(CLI::App& app, int& status);
+void add_completion(CLI::App& app, int& status);
+void add_diff(CLI::App& app, int& status);
+void add_explain(CLI::App& app, int& status);
+void add_plot(CLI::App& app, int& status);
+void add_report(CLI::App& app, int& status);
+void add_sweep(CLI::App& app, int& status);
+
+}  // namespace qelpro

@@ -1,0 +1,62 @@
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
+namespace {
+
+void write_into(const std::string& path, const std::string& file, std::string_view contents) {
+  errno = 0;
+  std::ofstream out(path, std::ios::binary);
+  out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  out.close();
+  if (!out) {
+    throw Failure(kFileError, at(file, "cannot be written: " + reason_of(errno)));
+  }
+}
+
+}  // namespace
+
+bool exists(const std::string& file) {
+  std::error_code error;
+  return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+}
+
+void write_whole(const std::string& file, std::string_view contents) {
+  std::error_code error;
+  const auto kind = std::filesystem::status(file, error).type();
+  if (kind == std::filesystem::file_type::character || kind == std::filesystem::file_type::fifo) {
+    write_into(file, file, contents);
+  } else if (exists(file)) {
+    Replacement replacement(file);
+    replacement.write(contents);
+    replacement.commit();
+  } else {
+    NewFile made(file, contents.size());
+    write_into(made.temporary_path(), file, contents);
+    made.publish();
+  }
+}
+
+std::string read_standard_input() {
+  constexpr std::size_t kBlock = std::size_t{64} * 1024;
+  std::string contents;
+  std::size_t got = 1;
+  while (got != 0) {
+    const std::size_t length = contents.size();
+    contents.resize(length + kBlock);
+    errno = 0;
+    got = std::fread(contents.data() + length, 1, kBlock, stdin);
+    contents.resize(length + got);
+  }
+  if (std::ferror(stdin) != 0) {
+    throw Failure(kFileError, "standard input: cannot be read: " + reason_of(errno));
+  }
+  return contents;
+}
+
+}  // namespace qelpro
