@@ -20,7 +20,8 @@ Json descriptor_of(const Rule& rule) {
 }
 
 std::size_t index_of(const std::string& code) {
-  const auto found = std::ranges::find_if(rules(), [&](const Rule& rule) { return rule.code == code; });
+  const auto found =
+      std::ranges::find_if(rules(), [&](const Rule& rule) { return rule.code == code; });
   return static_cast<std::size_t>(found - rules().begin());
 }
 
@@ -66,22 +67,6 @@ std::string uri_of(const std::string& path) {
   return uri;
 }
 
-Json json_of(const std::vector<Finding>& findings) {
-  Json list = Json::array();
-  for (const Finding& finding : findings) {
-    list.push_back({{"file", finding.file},
-                    {"line", finding.line},
-                    {"column", finding.column},
-                    {"severity", name_of(finding.severity)},
-                    {"code", finding.code},
-                    {"message", finding.message},
-                    {"section", finding.section},
-                    {"key", finding.key},
-                    {"hint", finding.hint}});
-  }
-  return list;
-}
-
 Json sarif_of(const std::vector<Finding>& findings, const std::string& version) {
   Json descriptors = Json::array();
   for (const Rule& rule : rules()) {
@@ -94,9 +79,7 @@ Json sarif_of(const std::vector<Finding>& findings, const std::string& version) 
   const Json driver = {{"name", "qelpro"}, {"version", version}, {"rules", descriptors}};
   return {{"version", kVersion},
           {"$schema", kSchema},
-          {"runs", Json::array({{{"tool", {{"driver", driver}}},
-                                 {"columnKind", "utf16CodeUnits"},
-                                 {"results", results}}})}};
+          {"runs", Json::array({{{"tool", {{"driver", driver}}}, {"results", results}}})}};
 }
 
 }  // namespace qelpro

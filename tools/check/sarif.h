@@ -8,10 +8,7 @@
 
 namespace qelpro {
 
-/// What the list of findings says, in the layout of `qelpro check --json`.
-Json json_of(const std::vector<Finding>& findings);
-
-/// The same as a log of SARIF 2.1.0, for programs that show what tools find. `version` is this
+/// Findings as a log of SARIF 2.1.0, for programs that show what tools find. `version` is this
 /// tool's.
 Json sarif_of(const std::vector<Finding>& findings, const std::string& version);
 

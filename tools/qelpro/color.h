@@ -3,22 +3,24 @@
 #include <string>
 #include <string_view>
 
+#include "output.h"
+
 namespace qelpro {
 
-/// Colors of an answer on a terminal.
 enum class Color { red, green, yellow, cyan, bold };
 
-/// What `--color` says.
-enum class ColorMode { automatic, always, never };
+/// Colors an answer, or leaves it as it is.
+class Painter {
+ public:
+  /// `mode` is "always", "never", or "auto": where standard output is a terminal that knows colors
+  /// and the environment has no NO_COLOR.
+  explicit Painter(const std::string& mode);
 
-/// "auto", "always" or "never"; a `Failure` of usage for anything else.
-ColorMode color_mode(const std::string& word);
+  /// Prints the text in a color.
+  void print(Output& output, std::string_view text, Color color) const;
 
-/// Whether the answer is to have colors: always, never, or where standard output is a terminal that
-/// knows them and the environment has no NO_COLOR.
-bool is_colored(ColorMode mode);
-
-/// The text in a color, or as it is.
-std::string colored(std::string_view text, Color color, bool is_colored);
+ private:
+  bool is_on_;
+};
 
 }  // namespace qelpro

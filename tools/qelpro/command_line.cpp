@@ -10,20 +10,20 @@
 #include <string_view>
 #include <vector>
 
+#include "arguments/add.h"
 #include "commands.h"
 #include "output.h"
 #include "system/failure.h"
 
 namespace qelpro {
 
-namespace {
-
-// 9103 is 9.1.3.
-std::string version() {
+std::string tool_version() {
   const int number = GetPRODLLVersion();
   return std::to_string(number / 1000) + "." + std::to_string(number / 100 % 10) + "." +
          std::to_string(number % 100);
 }
+
+namespace {
 
 bool is_option(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
@@ -191,7 +191,7 @@ void add_coolant(CLI::App& app, int& status) {
 int run_command_line(int count, char** arguments) {
   CLI::App app("Reads and writes process files of injection-molding simulation.", "qelpro");
   app.allow_windows_style_options(false);  // a path may begin with a slash on every platform
-  app.set_version_flag("--version", version());
+  app.set_version_flag("--version", tool_version());
   app.footer("Exit status: 0 done, 1 not found, 2 usage, 3 file error.");
   app.require_subcommand(1);
 
@@ -203,6 +203,7 @@ int run_command_line(int count, char** arguments) {
   add_process(app, status);
   add_machines(app, status);
   add_coolant(app, status);
+  add_check(app, status);
   try {
     app.parse(count, arguments);
   } catch (const CLI::ParseError& error) {
