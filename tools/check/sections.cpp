@@ -61,10 +61,10 @@ const qel::SectionInfo* misnumbered(std::string_view name) {
 
 void add_misnumbered(const Checked& file, const TextLine& header, std::string_view name,
                      const qel::SectionInfo& kind) {
-  file.findings.add(rule("P104"), at_line(header, name),
-                    "the number of " + std::string(name) +
-                        " is not 1 or more, written without zeros in front: nobody reads it",
-                    numbered_like(kind.name, name));
+  std::string right = numbered_like(kind.name, name);
+  std::string message =
+      std::string(name) + " has no section number of 1 or more, as " + right + " has";
+  file.findings.add(rule("P104"), at_line(header, name), std::move(message), std::move(right));
 }
 
 void check_name(const Checked& file, const TextSection& section, const TextLine& header) {
