@@ -82,6 +82,16 @@ struct CoolantArguments {
   bool json = false;
 };
 
+struct CheckArguments {
+  std::vector<std::string> files;
+  std::vector<std::string> disabled;
+  std::string color = "auto";
+  bool strict = false;
+  bool json = false;
+  bool sarif = false;
+  bool quiet = false;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -93,5 +103,6 @@ int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
+int run_check(const CheckArguments& arguments);
 
 }  // namespace qelpro
