@@ -6,7 +6,6 @@
 #include <set>
 #include <utility>
 
-#include "blocks/catalogue.h"
 #include "file/entries.h"
 #include "system/failure.h"
 #include "text/text.h"
@@ -43,23 +42,6 @@ Plan plan_of(const StudyRequest& request) {
                          : Plan(std::move(ranges));
 }
 
-// Which reading of an address that is not there is meant: that of a section of the file, then that
-// of one of the catalogue, then the first.
-const Address& new_address(const Entries& entries, const std::vector<Address>& readings) {
-  for (const Address& reading : readings) {
-    if (entries.find_section(reading.section) != nullptr) {
-      return reading;
-    }
-  }
-  for (const Address& reading : readings) {
-    int number = 0;
-    if (qel::find_section(with_brackets(reading.section).c_str(), number) != nullptr) {
-      return reading;
-    }
-  }
-  return readings.front();
-}
-
 int digits_for(std::uint64_t count) {
   constexpr int kFewest = 4;
   return std::max(kFewest, static_cast<int>(std::to_string(count).size()));
@@ -86,15 +68,11 @@ void Study::find_targets() {
     Target& target = targets_.emplace_back();
     target.setting = setting;
     const Request request = requests_of({halves(setting).first}).front();
-    for (const FileEntry* entry : entries.find(request)) {
-      target.addresses.push_back(entries.address_of(*entry));
-    }
+    target.addresses = entries.targets_of(request);
     if (target.addresses.empty()) {
-      if (request.is_pattern) {
-        throw Failure(kNotFound, at(file_, "no entry matches \"" + request.argument +
-                                               "\"; qelpro list tells which there are"));
-      }
-      target.addresses.push_back(new_address(entries, request.addresses));
+      throw Failure(kNotFound, at(file_, "\"" + request.argument +
+                                             "\" matches no entry; qelpro list tells which there "
+                                             "are"));
     }
     for (const Address& address : target.addresses) {
       if (!seen.emplace(address.section, address.key).second) {
