@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -92,6 +93,19 @@ struct CheckArguments {
   bool quiet = false;
 };
 
+struct SweepArguments {
+  std::string file;
+  std::vector<std::string> settings;
+  std::string folder;
+  std::optional<std::uint64_t> sample;
+  std::optional<std::uint64_t> seed;
+  bool resume = false;
+  bool overwrite = false;
+  bool dry_run = false;
+  bool force = false;
+  bool json = false;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -104,5 +118,6 @@ int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
 int run_check(const CheckArguments& arguments);
+int run_sweep(const SweepArguments& arguments);
 
 }  // namespace qelpro
