@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "arguments/add.h"
 #include "commands.h"
 #include "output.h"
 #include "system/failure.h"
@@ -203,6 +204,8 @@ int run_command_line(int count, char** arguments) {
   add_process(app, status);
   add_machines(app, status);
   add_coolant(app, status);
+  add_report(app, status);
+  add_plot(app, status);
   try {
     app.parse(count, arguments);
   } catch (const CLI::ParseError& error) {

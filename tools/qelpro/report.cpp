@@ -1,0 +1,39 @@
+#include "picture/report.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "output.h"
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
+
+namespace {
+
+struct Loaded {
+  explicit Loaded(const std::string& file) : document(load_document(file)) {}
+  SectionedText document;
+};
+
+}  // namespace
+
+int run_report(const ReportArguments& arguments) {
+  std::deque<Loaded> documents;  // whose places stay
+  std::vector<ReportedFile> files;
+  for (const std::string& file : arguments.files) {
+    files.push_back({file, &documents.emplace_back(file).document});
+  }
+  if (!arguments.output || *arguments.output == "-") {
+    write_report(answer(), files);
+    return kDone;
+  }
+  TextSink page;
+  write_report(page, files);
+  write_whole(*arguments.output, page.text());
+  return kDone;
+}
+
+}  // namespace qelpro
