@@ -12,6 +12,7 @@
 #include "blocks/name_encoding.h"
 #include "blocks/positional_encoding.h"
 #include "blocks/words.h"
+#include "system/visible.h"
 
 namespace qelpro {
 
@@ -20,8 +21,6 @@ namespace {
 using Complaint = std::optional<std::string>;
 
 constexpr const char* kBlanks = " \t\n\v\f\r";
-
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 /// Walks over the fields of a text as a scan format does.
 class Fields {
@@ -121,7 +120,7 @@ class Fields {
       return {};
     }
     const bool comma = *at_ == ',' && at_ != text_.c_str() && at_[1] >= '0' && at_[1] <= '9';
-    return quoted(at_) + " is not read" + (comma ? ": the decimal point is \".\"" : "");
+    return in_quotes(at_) + " is not read" + (comma ? ": the decimal point is \".\"" : "");
   }
 
  private:
@@ -134,7 +133,7 @@ class Fields {
       return field_ == 1 ? what + " is missing" : field + "is missing";
     }
     return field + "does not begin with " +
-           quoted(std::string_view(at_, std::strcspn(at_, kBlanks)));
+           in_quotes(std::string_view(at_, std::strcspn(at_, kBlanks)));
   }
 
   std::string text_;

@@ -21,10 +21,9 @@ struct Step {
   [[nodiscard]] double times(std::int64_t count) const {
     const auto whole = static_cast<double>(count * leading);
     // A division by a power of ten that is exact gives the double nearest to the decimal number.
-    return exponent >= 0 ? whole * std::pow(10, exponent)
-           : exponent > -300
-               ? whole / std::pow(10, -exponent)
-               : whole / std::pow(10, 300) / std::pow(10, -exponent - 300);
+    return exponent >= 0     ? whole * std::pow(10, exponent)
+           : exponent > -300 ? whole / std::pow(10, -exponent)
+                             : whole / std::pow(10, 300) / std::pow(10, -exponent - 300);
   }
   void grow() {
     leading = leading == 1 ? 2 : leading == 2 ? 5 : 1;

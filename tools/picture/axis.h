@@ -32,6 +32,7 @@ struct Axis {
 
 /// An axis of at most so many steps (2 or more) around a range. A range of one number, or of none,
 /// gets room around it; a range of one sign that reaches near 0 is drawn from 0.
+/// None goes beyond 1e308.
 Axis axis_over(Range range, int steps);
 
 }  // namespace qelpro

@@ -46,8 +46,8 @@ class Canvas {
  private:
   // Where curves meet their signs take turns.
   void put(long x, long y, std::size_t curve) {
-    char& cell = cells_.at(cells_.size() - 1 - static_cast<std::size_t>(y))
-                     .at(static_cast<std::size_t>(x));
+    char& cell =
+        cells_.at(cells_.size() - 1 - static_cast<std::size_t>(y)).at(static_cast<std::size_t>(x));
     if (cell == ' ' || (static_cast<std::size_t>(x) + curve) % 2 == 0) {
       cell = kSigns[curve % kSigns.size()];
     }

@@ -11,11 +11,11 @@ namespace qelpro {
 
 namespace {
 
-constexpr double kTop = 30;           // the y axis' title, and half a tick's label
-constexpr double kBottom = 46;        // the x axis' labels and title
-constexpr double kGap = 6;            // between a label and its tick
-constexpr double kMargin = 12;        // on the right
-constexpr std::size_t kMarked = 60;   // more points than these have no markers
+constexpr double kTop = 30;          // the y axis' title, and half a tick's label
+constexpr double kBottom = 46;       // the x axis' labels and title
+constexpr double kGap = 6;           // between a label and its tick
+constexpr double kMargin = 12;       // on the right
+constexpr std::size_t kMarked = 60;  // more points than these have no markers
 
 using Points = std::vector<std::array<double, 2>>;
 
@@ -211,8 +211,9 @@ std::string description_of(const Chart& chart) {
   for (const Curve& curve : chart.curves) {
     const std::vector<Points> points{finite_points(curve)};
     const std::size_t count = points.front().size();
-    words += (words.empty() ? "" : " ") + curve.name + ": " +
-             (count == 0 ? "no points" : std::to_string(count) + (count == 1 ? " point" : " points"));
+    words +=
+        (words.empty() ? "" : " ") + curve.name + ": " +
+        (count == 0 ? "no points" : std::to_string(count) + (count == 1 ? " point" : " points"));
     if (count > 0) {
       words += ", " + chart.y + " " + range_in_words(range_of(points, 1), chart.y_unit) + " over " +
                chart.x + " " + range_in_words(range_of(points, 0), chart.x_unit);
@@ -251,12 +252,12 @@ svg .paper{fill:var(--paper)}
 
 void write_chart(Markup& markup, const Chart& chart, const std::string& id, const ChartSize& size) {
   const Drawing drawing(chart, size);
-  markup.open("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
-                      {"class", "picture"},
-                      {"role", "img"},
-                      {"aria-labelledby", id + "-title " + id + "-words"},
-                      {"viewBox", "0 0 " + coordinate(size.width) + " " +
-                                      coordinate(drawing.height())}});
+  markup.open("svg",
+              {{"xmlns", "http://www.w3.org/2000/svg"},
+               {"class", "picture"},
+               {"role", "img"},
+               {"aria-labelledby", id + "-title " + id + "-words"},
+               {"viewBox", "0 0 " + coordinate(size.width) + " " + coordinate(drawing.height())}});
   markup.element("title", {{"id", id + "-title"}}, chart.title);
   markup.element("desc", {{"id", id + "-words"}}, description_of(chart));
   drawing.write(markup);
@@ -289,7 +290,8 @@ void write_picture(Markup& markup, const std::vector<Chart>& charts, const std::
   markup.empty("rect", {{"class", "paper"}, {"width", width}, {"height", total}});
   double top = kEdge;
   for (std::size_t index = 0; index < charts.size(); ++index) {
-    markup.open("g", {{"transform", "translate(" + coordinate(kEdge) + " " + coordinate(top) + ")"}});
+    markup.open("g",
+                {{"transform", "translate(" + coordinate(kEdge) + " " + coordinate(top) + ")"}});
     write_label(markup, "label strong", 2, 14, Anchor::start,
                 shortened(charts[index].title, size.width / 1.15));
     markup.close();

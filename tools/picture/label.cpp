@@ -95,8 +95,8 @@ void write_label(Markup& markup, std::string_view style, double x, double y, Anc
 std::string colour_class(std::size_t index) { return "c" + std::to_string(index % 6); }
 
 std::string dash_of(std::size_t index) {
-  constexpr std::array<const char*, 6> kDashes{"none",        "8 3",           "2 3",
-                                               "10 3 2 3",    "5 2",           "10 3 2 3 2 3"};
+  constexpr std::array<const char*, 6> kDashes{"none",     "8 3", "2 3",
+                                               "10 3 2 3", "5 2", "10 3 2 3 2 3"};
   return kDashes.at((index + index / kDashes.size()) % kDashes.size());
 }
 

@@ -95,9 +95,9 @@ std::string printable(std::string_view text) {
     text.remove_prefix(character.size());
     const std::uint32_t code =
         length == 0 ? static_cast<unsigned char>(character.front()) : code_point(character);
-    if (length == 0 || is_control(code)) {
+    if (length == 0 || (length == 1 && is_control(code))) {
       result += "\\x" + hexadecimal(code, 2);
-    } else if (is_unwanted(code)) {
+    } else if (is_control(code) || is_unwanted(code)) {
       result += code > 0xFFFF ? "\\U" + hexadecimal(code, 8) : "\\u" + hexadecimal(code, 4);
     } else {
       result += character;

@@ -41,9 +41,8 @@ std::vector<const Profile*> profiles_for(const Request& request,
                                          const std::vector<Profile>& profiles) {
   std::vector<const Profile*> found;
   for (const Profile& profile : profiles) {
-    if (std::ranges::any_of(request.addresses, [&](const Address& address) {
-          return is_meant(profile, address);
-        })) {
+    if (std::ranges::any_of(request.addresses,
+                            [&](const Address& address) { return is_meant(profile, address); })) {
       found.push_back(&profile);
     }
   }
@@ -85,8 +84,9 @@ void add_words(std::string& all, const std::string& words) {
 
 Chart chart_of(const ProfileKind& kind) {
   ProfileWords words = words_of(kind);
-  return {std::move(words.title), std::move(words.x), unit_for_people(words.x_unit),
-          std::move(words.y),     unit_for_people(words.y_unit), {}};
+  return {std::move(words.title),        std::move(words.x),
+          unit_for_people(words.x_unit), std::move(words.y),
+          unit_for_people(words.y_unit), {}};
 }
 
 std::vector<Chart> plot_of(const std::string& file, const Entries& entries,
@@ -106,8 +106,8 @@ std::vector<Chart> plot_of(const std::string& file, const Entries& entries,
       }
       drawn.push_back(profile);
       Chart chart = chart_of(profile->kind);
-      const auto alike = std::ranges::find_if(
-          charts, [&](const Chart& other) { return is_alike(chart, other); });
+      const auto alike =
+          std::ranges::find_if(charts, [&](const Chart& other) { return is_alike(chart, other); });
       Chart& target = alike != charts.end() ? *alike : charts.emplace_back(chart);
       add_words(target.title, chart.title);
       add_words(target.y, chart.y);

@@ -76,7 +76,8 @@ class Report {
 
   void write_head() {
     markup_.open("head").empty("meta", {{"charset", "utf-8"}});
-    markup_.empty("meta", {{"name", "viewport"}, {"content", "width=device-width, initial-scale=1"}});
+    markup_.empty("meta",
+                  {{"name", "viewport"}, {"content", "width=device-width, initial-scale=1"}});
     markup_.empty("meta", {{"name", "color-scheme"}, {"content", "light dark"}});
     markup_.element("title", title() + " \xE2\x80\x93 process report");
     markup_.open("style").verbatim(picture_style()).verbatim(report_style()).close();
@@ -189,8 +190,8 @@ class Report {
       return;
     }
     markup_.open("div", {{"class", page_.is_comparison() ? "parts wide"
-                                   : groups.size() == 1 ? "parts one"
-                                                        : "parts"}});
+                                   : groups.size() == 1  ? "parts one"
+                                                         : "parts"}});
     for (const SectionGroup& group : groups) {
       page_.section(group, 3);
     }

@@ -114,8 +114,8 @@ Timeline control_points(const ReportSources& sources, const std::vector<SectionG
         if (at + 1 < points.size()) {
           span.to = points[at + 1].value;
         }
-        span.words = "from " + shortest(point.value) + " on integer " +
-                     std::to_string(point.flag) + ", mode " + std::to_string(point.mode);
+        span.words = "from " + shortest(point.value) + " on integer " + std::to_string(point.flag) +
+                     ", mode " + std::to_string(point.mode);
         row.series[file].push_back(std::move(span));
       }
     }

@@ -22,7 +22,8 @@ std::string code_words(const TypedValue& typed) {
     return "";
   }
   const auto codes = codes_of(typed.key->meaning);
-  const auto found = std::ranges::find_if(codes, [&](const auto& one) { return one.first == *code; });
+  const auto found =
+      std::ranges::find_if(codes, [&](const auto& one) { return one.first == *code; });
   // Of a single code, and of yes and no, the meaning itself says it.
   return codes.size() < 2 || found == codes.end() || codes.back().second == "otherwise"
              ? ""
@@ -49,8 +50,7 @@ void write_mark(Markup& markup) {
 }
 
 std::string kind_of_section(const SectionGroup& group) {
-  return group.info == nullptr ? "a section that the catalogue does not know"
-                               : group.info->subject;
+  return group.info == nullptr ? "a section that the catalogue does not know" : group.info->subject;
 }
 
 }  // namespace
@@ -74,10 +74,8 @@ void ReportPage::heading(int level, std::string_view title, std::string_view nam
 }
 
 void ReportPage::open_table(const std::string& caption, std::string_view style) {
-  markup_.open("div", {{"class", "box"},
-                       {"role", "region"},
-                       {"aria-label", caption},
-                       {"tabindex", "0"}});
+  markup_.open("div",
+               {{"class", "box"}, {"role", "region"}, {"aria-label", caption}, {"tabindex", "0"}});
   markup_.open("table", {{"class", std::string(style)}});
 }
 

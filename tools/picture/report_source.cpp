@@ -82,8 +82,9 @@ SectionGroups::SectionGroups(const ReportSources& sources) {
 }
 
 std::vector<SectionGroup> SectionGroups::take(const qel::SectionInfo& info) {
-  const auto taken = std::stable_partition(
-      groups_.begin(), groups_.end(), [&](const SectionGroup& group) { return group.info != &info; });
+  const auto taken =
+      std::stable_partition(groups_.begin(), groups_.end(),
+                            [&](const SectionGroup& group) { return group.info != &info; });
   std::vector<SectionGroup> found(std::make_move_iterator(taken),
                                   std::make_move_iterator(groups_.end()));
   groups_.erase(taken, groups_.end());
@@ -100,12 +101,12 @@ std::map<int, InletStages> SectionGroups::take_inlets(const ReportSources& sourc
   const auto stage_of = [&](const qel::SectionInfo* info,
                             std::size_t file) -> SectionGroup InletStages::* {
     const qel::InletSource& kind = *kinds[file];
-    return info == nullptr                        ? nullptr
-           : info == kind.flow                    ? &InletStages::filling
-           : info == kind.pack                    ? &InletStages::packing
-           : info == kind.cure                    ? &InletStages::curing
+    return info == nullptr                            ? nullptr
+           : info == kind.flow                        ? &InletStages::filling
+           : info == kind.pack                        ? &InletStages::packing
+           : info == kind.cure                        ? &InletStages::curing
            : info == &qel::co_injection_flow_x::kInfo ? &InletStages::second_skin
-                                                  : nullptr;
+                                                      : nullptr;
   };
   std::map<int, InletStages> inlets;
   for (SectionGroup& group : groups_) {
@@ -121,8 +122,7 @@ std::map<int, InletStages> SectionGroups::take_inlets(const ReportSources& sourc
         target.info = group.info;
         target.number = group.number;
         target.name = group.name;
-      } else if (target.info != group.info &&
-                 !target.name.ends_with(group.name)) {
+      } else if (target.info != group.info && !target.name.ends_with(group.name)) {
         target.name += " " + group.name;
       }
     }

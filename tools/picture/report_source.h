@@ -32,9 +32,9 @@ std::vector<std::string> labels_of(const std::vector<std::string>& names);
 
 /// A section of each file, side by side.
 struct SectionGroup {
-  const qel::SectionInfo* info = nullptr;  ///< Null where the catalogue does not know it.
-  int number = 0;                          ///< That of the section's name.
-  std::string name;                        ///< As it stands, with brackets.
+  const qel::SectionInfo* info = nullptr;   ///< Null where the catalogue does not know it.
+  int number = 0;                           ///< That of the section's name.
+  std::string name;                         ///< As it stands, with brackets.
   std::vector<const TextSection*> of_file;  ///< Null where a file lacks it.
 };
 

@@ -62,8 +62,8 @@ class Drawing {
     }
     left_ = std::max(left_, room_for(axis_.ticks.front().label) / 2 + 2);
     right_ = width - std::max(kMargin, room_for(axis_.ticks.back().label) / 2 + 2);
-    bottom_ = kTop + row_height() * static_cast<double>(std::max<std::size_t>(
-                                        timeline.rows.size(), 1));
+    bottom_ =
+        kTop + row_height() * static_cast<double>(std::max<std::size_t>(timeline.rows.size(), 1));
   }
 
   [[nodiscard]] double height() const {
@@ -95,9 +95,7 @@ class Drawing {
   [[nodiscard]] double x_at(double value) const {
     return left_ + axis_.part(value) * (right_ - left_);
   }
-  [[nodiscard]] double row_height() const {
-    return kRowGap + kLane * static_cast<double>(lanes_);
-  }
+  [[nodiscard]] double row_height() const { return kRowGap + kLane * static_cast<double>(lanes_); }
 
   void write_row(Markup& markup, const TimelineRow& row, double top) const {
     write_label(markup, "label", left_ - 8, top + row_height() / 2 + 4, Anchor::end,
@@ -157,8 +155,7 @@ std::string description_of(const Timeline& timeline) {
   return words.empty() ? "Nothing." : words;
 }
 
-void write_timeline(Markup& markup, const Timeline& timeline, const std::string& id,
-                    double width) {
+void write_timeline(Markup& markup, const Timeline& timeline, const std::string& id, double width) {
   const Drawing drawing(timeline, width);
   markup.open("svg",
               {{"xmlns", "http://www.w3.org/2000/svg"},

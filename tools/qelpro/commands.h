@@ -15,16 +15,45 @@ struct NewArguments {
 
 struct GetArguments {
   std::string file;
-  std::string section;
-  std::string key;
+  std::vector<std::string> words;  // addresses, patterns, pairs of section and key
+  bool typed = false;
+  std::optional<std::string> otherwise;
+  bool json = false;
 };
 
 struct SetArguments {
   std::string file;
-  std::string section;
-  std::string key;
-  std::string value;
+  std::vector<std::string> words;  // ADDRESS=VALUE, or SECTION KEY VALUE
+  std::optional<std::string> from;
   bool force = false;
+  bool dry_run = false;
+};
+
+struct UnsetArguments {
+  std::string file;
+  std::vector<std::string> words;
+  bool dry_run = false;
+};
+
+struct ListArguments {
+  std::string file;
+  std::optional<std::string> pattern;
+  bool sections = false;
+  bool json = false;
+};
+
+struct ExportArguments {
+  std::string file;
+  std::optional<std::string> out;
+  bool exact = false;
+};
+
+struct ImportArguments {
+  std::string form;
+  std::optional<std::string> out;
+  std::optional<std::string> onto;
+  bool force = false;
+  bool dry_run = false;
 };
 
 struct ShowArguments {
@@ -67,6 +96,10 @@ struct PlotArguments {
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
+int run_unset(const UnsetArguments& arguments);
+int run_list(const ListArguments& arguments);
+int run_export(const ExportArguments& arguments);
+int run_import(const ImportArguments& arguments);
 int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);

@@ -6,7 +6,6 @@
 #include "commands.h"
 #include "output.h"
 #include "system/failure.h"
-#include "system/files.h"
 #include "system/streams.h"
 
 namespace qelpro {
@@ -29,10 +28,8 @@ int run_plot(const PlotArguments& arguments) {
   const std::vector<Chart> charts = plot_of(file, entries, arguments.profiles);
   if (!arguments.output) {
     answer() << characters_of(charts, width_of_answer());
-  } else if (*arguments.output == "-") {
-    answer() << svg_of(charts, file);
   } else {
-    write_whole(*arguments.output, svg_of(charts, file));
+    write_answer(arguments.output, [&](Sink& picture) { picture << svg_of(charts, file); });
   }
   return kDone;
 }

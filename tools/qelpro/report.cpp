@@ -7,7 +7,6 @@
 #include "commands.h"
 #include "output.h"
 #include "system/failure.h"
-#include "system/files.h"
 
 namespace qelpro {
 
@@ -26,13 +25,7 @@ int run_report(const ReportArguments& arguments) {
   for (const std::string& file : arguments.files) {
     files.push_back({file, &documents.emplace_back(file).document});
   }
-  if (!arguments.output || *arguments.output == "-") {
-    write_report(answer(), files);
-    return kDone;
-  }
-  TextSink page;
-  write_report(page, files);
-  write_whole(*arguments.output, page.text());
+  write_answer(arguments.output, [&files](Sink& page) { write_report(page, files); });
   return kDone;
 }
 

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/words.h"
 #include "commands.h"
 
 namespace qelpro {
@@ -11,13 +12,10 @@ void add_plot(CLI::App& app, int& status) {
   CLI::App* command =
       app.add_subcommand("plot", "Draw profiles of a process file, overlaid, as a picture");
   command->add_option("FILE", arguments->file, "The process file; - is standard input")->required();
+  add_words(*command, "SECTION.PROFILE", arguments->profiles,
+            "The profiles, such as Flow-1.FR; or patterns, such as 'Flow-*.FR'");
   command
-      ->add_option("SECTION.PROFILE", arguments->profiles,
-                   "The profiles, such as Flow-1.FR; or patterns, such as 'Flow-*.FR'")
-      ->required()
-      ->expected(1, -1);
-  command
-      ->add_option("-o", arguments->output,
+      ->add_option("-o,--output", arguments->output,
                    "The picture, as SVG; one that exists is replaced, and - is standard output. "
                    "Without it the plot is made of characters")
       ->type_name("OUT.svg");

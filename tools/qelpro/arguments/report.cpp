@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/words.h"
 #include "commands.h"
 
 namespace qelpro {
@@ -10,11 +11,9 @@ void add_report(CLI::App& app, int& status) {
   auto arguments = std::make_shared<ReportArguments>();
   CLI::App* command = app.add_subcommand(
       "report", "Make a page of HTML about a process file, or about several side by side");
-  command->add_option("FILE", arguments->files, "The process files; - is standard input")
-      ->required()
-      ->expected(1, -1);
+  add_words(*command, "FILE", arguments->files, "The process files; - is standard input");
   command
-      ->add_option("-o", arguments->output,
+      ->add_option("-o,--output", arguments->output,
                    "The page; one that exists is replaced (standard output where it is left out)")
       ->type_name("OUT.html");
   command->footer(
