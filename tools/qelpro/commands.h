@@ -106,6 +106,17 @@ struct SweepArguments {
   bool json = false;
 };
 
+struct ReportArguments {
+  std::vector<std::string> files;
+  std::optional<std::string> output;
+};
+
+struct PlotArguments {
+  std::string file;
+  std::vector<std::string> profiles;
+  std::optional<std::string> output;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -119,5 +130,7 @@ int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
 int run_check(const CheckArguments& arguments);
 int run_sweep(const SweepArguments& arguments);
+int run_report(const ReportArguments& arguments);
+int run_plot(const PlotArguments& arguments);
 
 }  // namespace qelpro
