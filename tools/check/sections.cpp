@@ -9,11 +9,14 @@ namespace qelpro {
 namespace {
 
 std::string near_section(std::string_view name) {
-  Nearest nearest(name);
-  for (const qel::SectionInfo* section : qel::Catalogue()) {
-    nearest.offer(numbered_like(section->name, name));
-  }
-  return nearest.name();
+  static const NearNames names = [] {
+    NearNames all;
+    for (const qel::SectionInfo* section : qel::Catalogue()) {
+      all.add(section->name);
+    }
+    return all;
+  }();
+  return names.near(name);
 }
 
 // What stands where the number of such a section does, if the name has that form.
@@ -68,10 +71,11 @@ void add_misnumbered(const Checked& file, const TextLine& header, std::string_vi
 }
 
 void check_name(const Checked& file, const TextSection& section, const TextLine& header) {
-  const std::string name(section.name);
+  const std::string_view name = section.name;
   int number = 0;
   if (const qel::SectionInfo* const known = file.entries.known_section(section)) {
-    if (qel::is_numbered(known->name) && (qel::find_section(name.c_str(), number), number < 1)) {
+    if (qel::is_numbered(known->name) &&
+        (qel::find_section(std::string(name).c_str(), number), number < 1)) {
       add_misnumbered(file, header, name, *known);
     }
     return;
@@ -84,7 +88,7 @@ void check_name(const Checked& file, const TextSection& section, const TextLine&
     return;
   }
   std::string near = near_section(name);
-  std::string message = name + " is no section of the catalogue" + question(near);
+  std::string message = std::string(name) + " is no section of the catalogue" + question(near);
   file.findings.add(rule("P101"), at_line(header, name), std::move(message), std::move(near));
 }
 

@@ -10,10 +10,13 @@ namespace {
 
 void check_value(const Checked& file, std::string_view section, const qel::SectionInfo& known,
                  const FileEntry& entry) {
+  if (file.key_of(entry) == nullptr) {
+    return;
+  }
   const TextLine line = file.document.line(entry.line);
   const Reading reading = reading_of(&known, entry.key, entry.value);
-  if (reading.key == nullptr || line.goes_on || line.whole.size() != line.text.size()) {
-    return;  // unknown, or a line of which less is read than stands there
+  if (line.goes_on || line.whole.size() != line.text.size()) {
+    return;  // less is read than stands there
   }
   const bool has_equals = line.text.find('=') != std::string_view::npos;
   const bool has_words = line.text.find_first_not_of(" \t", entry.key.size()) < line.text.size();
@@ -43,6 +46,10 @@ const Rule& rule_of(Fault fault) {
     default:
       return rule("P205");
   }
+}
+
+bool is_whole_number(const qel::KeyInfo& key) {
+  return key.encoding->read.size() == 1 && key.encoding->read.front().kind == qel::Kind::integer;
 }
 
 std::optional<int> whole_number(const qel::KeyInfo& key, std::string_view text) {
