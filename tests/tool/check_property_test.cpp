@@ -125,6 +125,17 @@ std::vector<std::string> split(std::string text, char separator) {
   return pieces;
 }
 
+// Numbers with any one character between them.
+std::vector<std::string> sizes_in(const std::string& text) {
+  std::vector<std::string> sizes;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find_first_not_of("0123456789.+-eE", at), text.size());
+    sizes.push_back(text.substr(at, end - at));
+    at = end + 1;
+  }
+  return sizes;
+}
+
 // What the outputs of an encoding are to be; nothing where the text does not hold them all.
 Values values_in(const std::string& text, const std::string& encoding, const std::string& outputs) {
   const std::vector<std::string> words = words_of(text);
@@ -133,7 +144,7 @@ Values values_in(const std::string& text, const std::string& encoding, const std
     return std::vector<Value>{text};
   }
   if (has("pair of sizes") || has("triple of sizes")) {
-    return numbers_in(split(text, 'x'), outputs);
+    return numbers_in(sizes_in(text), outputs);
   }
   if (has("integer, or a sum") && text.find('+', 1) != std::string::npos) {
     const auto both = numbers_in(split(text, '+'), "ii");

@@ -53,13 +53,14 @@ const qel::SectionInfo* misnumbered(std::string_view name) {
   if (found == nullptr || is_number(found_number)) {
     return found;
   }
-  const bool is_one_word = found_number.find_first_of("- \t") == std::string_view::npos;
+  if (found_number.find_first_of("- \t") != std::string_view::npos) {
+    return nullptr;
+  }
   const std::string near = near_section(name);
   int ignored = 0;
   const qel::SectionInfo* const near_kind =
       near.empty() ? nullptr : qel::find_section(near.c_str(), ignored);
-  return is_one_word && (near_kind == nullptr || qel::is_numbered(near_kind->name)) ? found
-                                                                                    : nullptr;
+  return near_kind == nullptr || qel::is_numbered(near_kind->name) ? found : nullptr;
 }
 
 void add_misnumbered(const Checked& file, const TextLine& header, std::string_view name,

@@ -73,14 +73,19 @@ class Printer {
 
  private:
   void print_line(const Finding& finding) {
-    const std::string place = finding.file + ":" + std::to_string(finding.line) + ":" +
-                              std::to_string(finding.column) + ":";
-    painter_.print(answer(), visible(place, Controls::line_breaks), Color::bold);
+    painter_.print(answer(),
+                   in_one_line(finding.file + ":" + std::to_string(finding.line) + ":" +
+                               std::to_string(finding.column) + ":"),
+                   Color::bold);
     answer() << ' ';
-    painter_.print(answer(), std::string(name_of(finding.severity)) + ":",
+    painter_.print(answer(), name_of(finding.severity) + std::string(":"),
                    color_of(finding.severity));
-    answer() << ' ' << visible(finding.message, Controls::line_breaks) << " [" << finding.code
-             << "]\n";
+    answer() << ' ' << in_one_line(finding.message) << " [" << finding.code << "]\n";
+  }
+
+  static std::string in_one_line(std::string text) {
+    return text.find_first_of("\r\n") == std::string::npos ? text
+                                                           : visible(text, Controls::line_breaks);
   }
 
   const CheckArguments& arguments_;
