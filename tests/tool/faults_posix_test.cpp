@@ -217,7 +217,7 @@ TEST(Set, KeepsOwnerModeAndSymbolicLinks) {
   std::filesystem::create_symlink("file.pro", scratch.path("link.pro"));
   ASSERT_EQ(shell("cd \"$1\"; umask 077; \"$0\" set link.pro A x 2", {scratch.path("")}).status, 0);
   EXPECT_EQ(std::filesystem::read_symlink(scratch.path("link.pro")), "file.pro");
-  EXPECT_EQ(bytes_of(file), "[A]\nx                    = 2\n");
+  EXPECT_EQ(bytes_of(file), "[A]\nx = 2\n");
   struct stat status {};
   ASSERT_EQ(::stat(file.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0640U);

@@ -80,7 +80,7 @@ TEST(Output, OfASilentCommandMayHaveNowhereToGo) {
   const std::string file = scratch.file("[A]\nx = 1\n");
   const Outcome outcome = shell("\"$0\" set \"$1\" A x 2 >&- 2>&- <&-", {file});
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(bytes_of(file), "[A]\nx                    = 2\n");
+  EXPECT_EQ(bytes_of(file), "[A]\nx = 2\n");
 }
 
 TEST(Output, NeverLandsInAFileWhenTheStreamsAreClosed) {

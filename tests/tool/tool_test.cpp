@@ -234,18 +234,17 @@ TEST(Set, StoresAValueThatDoesNotScanOnlyByForce) {
 TEST(Set, LeavesEveryOtherByteAlone) {
   const Scratch scratch;
   const std::vector<std::vector<std::string>> rows = {
-      {"[A]\nx = long value\ny = 2\n", "x", "1", "[A]\nx                    = 1\ny = 2\n"},
-      {"[A]\r\nx = 1\r\n   \r\n[B]", "x", "2", "[A]\r\nx                    = 2\r\n   \r\n[B]"},
-      {"[A]\nx = 1", "x", "2", "[A]\nx                    = 2"},
+      {"[A]\nx = long value\ny = 2\n", "x", "1", "[A]\nx = 1\ny = 2\n"},
+      {"[A]\r\nx = 1\r\n   \r\n[B]", "x", "2", "[A]\r\nx = 2\r\n   \r\n[B]"},
+      {"[A]\nx = 1", "x", "2", "[A]\nx = 2"},
       {"[A]\nx = 1", "y", "2", "[A]\nx = 1\ny = 2\n"},
       {"[A]\nx = 1\n     ", "y", "2", "[A]\nx = 1\ny = 2\n     "},
       {"[A]\nx = 1\n\x1A", "y", "2", "[A]\nx = 1\ny = 2\n\x1A"},
-      {"[A]\n; x = 0\n;x = 0\nx = 1 # note\n", "x", "2",
-       "[A]\n; x = 0\n;x = 0\nx                    = 2\n"},
+      {"[A]\n; x = 0\n;x = 0\nx = 1 # note\n", "x", "2", "[A]\n; x = 0\n;x = 0\nx = 2\n"},
       {"[A]\nx\n", "x", "2", "[A]\nx                    = 2\n"},
-      {"[A]\n[A]\nx = 1\n", "x", "2", "[A]\nx = 2\n[A]\nx = 1\n"},
-      {"", "x", "2", "\n[A]\nx                    = 2\n"},
-      {"\xEF\xBB\xBF", "x", "2", "\xEF\xBB\xBF\n[A]\nx                    = 2\n"}};
+      {"[A]\n[A]\nx = 1\n", "x", "2", "[A]\nx                    = 2\n[A]\nx = 1\n"},
+      {"", "x", "2", "[A]\nx                    = 2\n"},
+      {"\xEF\xBB\xBF", "x", "2", "\xEF\xBB\xBF[A]\nx                    = 2\n"}};
   for (const auto& row : rows) {
     const std::string file = scratch.file(row[0]);
     EXPECT_EQ(qelpro({"set", file, "A", row[1], row[2]}).err, "") << row[0];
@@ -260,7 +259,7 @@ TEST(Set, StoresIntoTheSectionThatTheTailOfALongLineBegins) {
   const std::string front = "[B]\ny = " + std::string(4091, 'v') + "[A]\n";
   const std::string file = scratch.file(front + "x = 1\n[A]\nx = 2\n");
   EXPECT_EQ(qelpro({"set", file, "A", "x", "3"}).status, 0);
-  EXPECT_EQ(bytes_of(file), front + "x                    = 3\n[A]\nx = 2\n");
+  EXPECT_EQ(bytes_of(file), front + "x = 3\n[A]\nx = 2\n");
 }
 
 TEST(EveryCommand, TakesAHeaderWithWordsAfterItForAHeader) {

@@ -87,15 +87,20 @@ int position_of(std::string_view key) {
              : 0;
 }
 
+Request request_of(const std::string& section, const std::string& key) {
+  const std::string name(without_brackets(section_name(section)));
+  if (key.empty()) {
+    refuse("[" + name + "]: the key is empty");
+  }
+  return {name + "." + key, {{name, key}}, true, false};
+}
+
 std::vector<Request> requests_of(const std::vector<std::string>& words) {
   std::vector<Request> requests;
   for (std::size_t at = 0; at < words.size(); ++at) {
     const std::string& word = words[at];
-    if (word.empty()) {
-      refuse("\"\": an address is SECTION.KEY");
-    }
     const bool has_dot = word.find('.') != std::string::npos;
-    if (word.front() != '[' && (has_dot || has_pattern_characters(word))) {
+    if (!word.starts_with('[') && (has_dot || has_pattern_characters(word))) {
       requests.push_back({word, has_dot ? readings_of(word) : std::vector<Address>(), false,
                           has_pattern_characters(word)});
       continue;
@@ -104,12 +109,8 @@ std::vector<Request> requests_of(const std::vector<std::string>& words) {
       refuse("\"" + word +
              "\": KEY is missing; give SECTION.KEY, or the section and the key in two words");
     }
-    const std::string& key = words[++at];
-    if (key.empty()) {
-      refuse("\"" + word + "\": the key is empty");
-    }
-    const std::string section(without_brackets(section_name(word)));
-    requests.push_back({section + "." + key, {{section, key}}, true, false});
+    ++at;
+    requests.push_back(request_of(word, words[at]));
   }
   return requests;
 }

@@ -40,6 +40,10 @@ struct Request {
 /// `Failure` of usage where a section is without its key.
 std::vector<Request> requests_of(const std::vector<std::string>& words);
 
+/// A section, with both brackets or none, and a key that were given in two words. A `Failure` of
+/// usage where they are no names.
+Request request_of(const std::string& section, const std::string& key);
+
 /// Whether a pattern matches the whole of a text: "*" any characters, "?" one, "[a-z]" and "[!a-z]"
 /// one of a set; a bracket that is never closed stands for itself.
 bool matches_pattern(std::string_view pattern, std::string_view text);

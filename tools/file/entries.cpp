@@ -168,6 +168,20 @@ std::vector<const FileEntry*> Entries::find(const Request& request) const {
   return found;
 }
 
+std::vector<Address> Entries::targets_of(const Request& request) const {
+  std::vector<Address> targets;
+  for (const FileEntry* entry : find(request)) {
+    targets.push_back(address_of(*entry));
+  }
+  if (!targets.empty() || request.is_pattern) {
+    return targets;
+  }
+  const auto own = std::ranges::find_if(request.addresses, [this](const Address& address) {
+    return find_section(address.section) != nullptr;
+  });
+  return {own != request.addresses.end() ? *own : request.addresses.front()};
+}
+
 Address Entries::address_of(const FileEntry& entry) const {
   return {std::string(without_brackets(section_of(entry))), entry.key};
 }

@@ -46,6 +46,10 @@ class Entries {
   /// What an argument asks for; nothing where nothing is there.
   [[nodiscard]] std::vector<const FileEntry*> find(const Request& request) const;
 
+  /// The addresses that an argument means for a change: of the entries that it asks for, or of a
+  /// new one. None where a pattern matches nothing.
+  [[nodiscard]] std::vector<Address> targets_of(const Request& request) const;
+
   [[nodiscard]] Address address_of(const FileEntry& entry) const;
   /// The name of the entry's section, with brackets.
   [[nodiscard]] std::string_view section_of(const FileEntry& entry) const;

@@ -5,6 +5,7 @@
 
 #include "file/address.h"
 #include "system/failure.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -17,20 +18,18 @@ constexpr char kEndOfText = '\x1A';
 
 [[noreturn]] void refuse(const std::string& what) { throw Failure(kUsage, what); }
 
-std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
-
 void check_name(const std::string& kind, const std::string& name) {
   if (name.find_first_of(" \t") != std::string::npos) {
-    refuse(kind + " " + quoted(name) + ": a name holds no blank and no tab");
+    refuse(kind + " " + in_quotes(name) + ": a name holds no blank and no tab");
   }
   if (name.find('=') != std::string::npos) {
-    refuse(kind + " " + quoted(name) + ": a name holds no \"=\"");
+    refuse(kind + " " + in_quotes(name) + ": a name holds no \"=\"");
   }
   if (name.find_first_of("\r\n") != std::string::npos) {
-    refuse(kind + " " + quoted(name) + ": a name holds no line break");
+    refuse(kind + " " + in_quotes(name) + ": a name holds no line break");
   }
   if (name.find(kEndOfText) != std::string::npos) {
-    refuse(kind + " " + quoted(name) +
+    refuse(kind + " " + in_quotes(name) +
            ": a name holds no character 0x1A, where other programs end the file");
   }
 }
@@ -61,7 +60,7 @@ std::string section_name(const std::string& argument) {
     refuse("section \"" + argument + "\": the name is empty");
   }
   if (opened != closed || argument == "[") {
-    refuse("section " + quoted(argument) + ": give both brackets, or none");
+    refuse("section " + in_quotes(argument) + ": give both brackets, or none");
   }
   return opened ? argument : "[" + argument + "]";
 }
@@ -73,10 +72,10 @@ void check_entry(const std::string& section, const std::string& key, const std::
   }
   check_name("key", key);
   if (key.front() == '[') {
-    refuse("key " + quoted(key) + ": a key that begins with \"[\" reads as a section");
+    refuse("key " + in_quotes(key) + ": a key that begins with \"[\" reads as a section");
   }
   if (key.front() == ';' || key.front() == '#' || key.substr(0, 2) == "//") {
-    refuse("key " + quoted(key) + ": a line that begins so is a comment");
+    refuse("key " + in_quotes(key) + ": a line that begins so is a comment");
   }
   check_value(value);
   check_length(std::max(text::padded_entry(key, value).size(), section.size()));
@@ -84,11 +83,11 @@ void check_entry(const std::string& section, const std::string& key, const std::
 
 void check_positional_line(const std::string& position, const std::string& line) {
   if (position_of(position) == 0) {
-    refuse("key " + quoted(position) + ": its lines have a position and no key: #1, #2, ...");
+    refuse("key " + in_quotes(position) + ": its lines have a position and no key: #1, #2, ...");
   }
   check_value(line);
   if (text::is_header(line)) {
-    refuse("the line " + quoted(line) + " reads as a section");
+    refuse("the line " + in_quotes(line) + " reads as a section");
   }
   check_length(line.size());
 }

@@ -110,7 +110,7 @@ bool has_last_field(std::span<const qel::Field> fields) {
 }
 
 // The fields of an encoding in its layout.
-std::string composed(std::string_view kinds, std::span<const qel::Field> fields,
+std::string composed(std::string_view kinds, std::span<const GivenField> fields,
                      std::vector<qel::Field>& taken) {
   std::string text;
   bool is_separated = true;
@@ -127,12 +127,14 @@ std::string composed(std::string_view kinds, std::span<const qel::Field> fields,
     if (next >= fields.size()) {
       refuse(next, "is missing");
     }
-    taken.push_back(as_kind(fields[next], kind, next));
+    const GivenField& given = fields[next];
+    taken.push_back(as_kind(given.value, kind, next));
     ++next;
     if (kind == 'g' && !has_last_field(taken)) {
       continue;
     }
-    const std::string field = text_of(taken.back());
+    const bool has_digits = !given.digits.empty() && std::holds_alternative<double>(taken.back());
+    const std::string field = has_digits ? given.digits : text_of(taken.back());
     text += (is_separated ? "" : "\t") + (kind == 'q' ? "\"" + field + "\"" : field);
     is_separated = false;
   }
@@ -222,13 +224,14 @@ std::string text_of(const qel::Field& field) {
       field);
 }
 
-std::string text_of(const qel::KeyInfo& key, int number, std::span<const qel::Field> fields) {
+std::string text_of(const qel::KeyInfo& key, int number, std::span<const GivenField> fields) {
   const std::string_view kinds = fields_of_encoding(key.encoding->name);
   if (kinds.empty()) {
     if (fields.size() != 1) {
       throw Failure(kUsage, "the value is one text");
     }
-    return text_of(fields.front());
+    const GivenField& given = fields.front();
+    return given.digits.empty() ? text_of(given.value) : given.digits;
   }
   std::vector<qel::Field> wanted;
   const std::string text = composed(kinds, fields, wanted);

@@ -32,10 +32,16 @@ Json json_of(const Entries& entries, const FileEntry& entry);
 /// A field for a person: the fewest digits that read back as the same number.
 std::string text_of(const qel::Field& field);
 
+/// A field that somebody gives, with the digits that it is written with where those count.
+struct GivenField {
+  qel::Field value;
+  std::string digits;
+};
+
 /// The text that an encoding reads as these fields, in the layout in which the library writes it,
-/// with the fewest digits that read back as the same numbers. A `Failure` of usage that names the
-/// field where there is none.
-std::string text_of(const qel::KeyInfo& key, int number, std::span<const qel::Field> fields);
+/// with the digits that are given or else the fewest that read back as the same numbers. A
+/// `Failure` of usage that names the field where there is none.
+std::string text_of(const qel::KeyInfo& key, int number, std::span<const GivenField> fields);
 
 /// The fewest digits, with the exponent of three digits that process files have: 1e-007.
 std::string shortest(double value);

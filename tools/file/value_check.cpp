@@ -12,6 +12,7 @@
 #include "blocks/name_encoding.h"
 #include "blocks/positional_encoding.h"
 #include "blocks/words.h"
+#include "system/visible.h"
 
 namespace qelpro {
 
@@ -24,8 +25,6 @@ constexpr const char* kBlanks = " \t\n\v\f\r";
 constexpr const char* kWordBlanks = " \t\n";
 // The names that are read stand in buffers of that size.
 constexpr std::size_t kLongestName = 255;
-
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 Complaint not_read(std::string text) { return ValueFault{Fault::not_read, std::move(text)}; }
 
@@ -89,7 +88,7 @@ class Fields {
     }
     if (!std::isfinite(value) && !infinite_) {
       infinite_ = ValueFault{Fault::not_finite, "field " + std::to_string(field_) + ", " +
-                                                    quoted(read) + ", is no finite number"};
+                                                    in_quotes(read) + ", is no finite number"};
     }
     last_field_ = 'f';
     return is_apart ? Complaint() : not_apart();
@@ -168,8 +167,8 @@ class Fields {
     } else if (goes_on && last_field_ == 'd' && (comma || is_other_number())) {
       fault = Fault::not_read;
     }
-    return ValueFault{fault,
-                      quoted(at_) + " is not read" + (comma ? ": the decimal point is \".\"" : "")};
+    return ValueFault{
+        fault, in_quotes(at_) + " is not read" + (comma ? ": the decimal point is \".\"" : "")};
   }
 
   /// The first real that is none of finite size, though it is read.
@@ -212,7 +211,7 @@ class Fields {
     }
     const std::string_view word(at_, std::strcspn(at_, kBlanks));
     return ValueFault{field_ > 1 && comma ? Fault::decimal_comma : Fault::not_read,
-                      field + "does not begin with " + quoted(word) +
+                      field + "does not begin with " + in_quotes(word) +
                           (field_ > 1 && comma ? ": the decimal point is \".\"" : "")};
   }
 
@@ -307,7 +306,7 @@ Complaint material(std::string_view text) {
   const std::string_view name = between_words(text, 3, 3);
   return is_where_it_is_read(text, name)
              ? name_of_length(name.size())
-             : not_read("a word of the name " + quoted(name) +
+             : not_read("a word of the name " + in_quotes(name) +
                         " occurs outside it too, and more than the name is read for it");
 }
 
@@ -366,12 +365,12 @@ Complaint insert_in_words(std::vector<std::string> words, int insert, bool has_t
   const char* last = words.back().c_str();
   int number = 0;
   if (!qel::platform::scan_int(last, number)) {
-    return not_read("the last word, " + quoted(words.back()) +
+    return not_read("the last word, " + in_quotes(words.back()) +
                     ", begins with no digit, and all words are read as the name");
   }
   if (number <= insert) {
     if (has_temperature_last || *last != '\0') {
-      return not_read("the last word, " + quoted(words.back()) +
+      return not_read("the last word, " + in_quotes(words.back()) +
                       ", is read as the fourth field: four pieces between tabs are read as they "
                       "stand");
     }

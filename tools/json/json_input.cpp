@@ -149,10 +149,7 @@ class Builder : public nlohmann::json_sax<Json> {
     } else if (open_.back().value.is_array()) {
       open_.back().value.push_back(std::move(value));
     } else {
-      // That the name is new is known: the object need not look for it.
-      using Members = std::vector<std::pair<const std::string, Json>>;
-      Members& members = open_.back().value.get_ref<Json::object_t&>();
-      members.emplace_back(open_.back().name, std::move(value));
+      append_member(open_.back().value, open_.back().name, std::move(value));
     }
     return true;
   }

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "system/visible.h"
 
@@ -71,6 +73,11 @@ bool is_beyond_json(const Json& value) {
 }
 
 }  // namespace
+
+void append_member(Json& object, std::string name, Json value) {
+  std::vector<std::pair<const std::string, Json>>& members = object.get_ref<Json::object_t&>();
+  members.emplace_back(std::move(name), std::move(value));
+}
 
 Json number_of_text(std::string_view text) {
   return Json::binary({text.begin(), text.end()}, kNumber);

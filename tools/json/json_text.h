@@ -17,6 +17,10 @@ using Json = nlohmann::ordered_json;
 /// no UTF-8 is the escape of the lone surrogate U+DC00 + byte, so that nothing is lost.
 void write_json(Sink& output, const Json& value, std::size_t indent = 0);
 
+/// Adds a member of whose name it is known that the object has it not: without a look at the
+/// others.
+void append_member(Json& object, std::string name, Json value);
+
 /// A number as it is written, which may have more digits than a double keeps. It travels as a
 /// binary value, of which JSON itself has none.
 Json number_of_text(std::string_view text);

@@ -4,14 +4,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <memory>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "arguments/add.h"
-#include "commands.h"
 #include "output.h"
 #include "system/failure.h"
 
@@ -81,109 +79,30 @@ std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int
          " --help";
 }
 
-// Each declares the arguments of a command and, when it is given, runs it.
+// The parser takes a word in brackets for a list of its own. With this behind it a word is none.
+constexpr char kNoList = '\x1F';
 
-void add_new(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<NewArguments>();
-  CLI::App* command = app.add_subcommand("new", "Make a process file with default values");
-  command->add_option("FILE", arguments->file, "The process file; one that exists is left alone")
-      ->required();
-  command->footer("Example: qelpro new Default.pro");
-  command->callback([arguments, &status] { status = run_new(*arguments); });
+std::vector<std::string> without_lists(int count, char** arguments) {
+  std::vector<std::string> words(arguments + std::min(count, 1), arguments + count);
+  for (std::string& word : words) {
+    if (word.starts_with('[') && word.ends_with(']')) {
+      word += kNoList;
+    }
+  }
+  std::reverse(words.begin(), words.end());  // as the parser wants them
+  return words;
 }
 
-void add_get(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<GetArguments>();
-  CLI::App* command = app.add_subcommand("get", "Print the value of a key");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
-      ->required();
-  command->add_option("KEY", arguments->key, "The key")->required();
-  command->footer("Example: qelpro get Default.pro Flow-1 FillTime");
-  command->callback([arguments, &status] { status = run_get(*arguments); });
-}
-
-void add_set(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<SetArguments>();
-  CLI::App* command = app.add_subcommand("set", "Change the value of a key, or add it");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "The section, with or without its brackets")
-      ->required();
-  command->add_option("KEY", arguments->key, "The key")->required();
-  command->add_option("VALUE", arguments->value, "The value, as it is to stand in the file")
-      ->required();
-  command->add_flag("--force", arguments->force,
-                    "Store a value too that the key's encoding does not read back whole");
-  command->footer(
-      "A value that begins with a dash comes behind '--'.\nExample: qelpro set Default.pro Flow-1 "
-      "FillTime 1.5");
-  command->callback([arguments, &status] { status = run_set(*arguments); });
-}
-
-void add_show(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<ShowArguments>();
-  CLI::App* command = app.add_subcommand(
-      "show",
-      "Print every entry with its meaning and its typed value, and the lines that are never read");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer("Example: qelpro show Default.pro Flow-1");
-  command->callback([arguments, &status] { status = run_show(*arguments); });
-}
-
-void add_process(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<ProcessArguments>();
-  CLI::App* command =
-      app.add_subcommand("process", "Build the simulator process of a file and print it");
-  command->add_option("FILE", arguments->file, "The process file")->required();
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer(
-      "What of the file does not reach the process as it stands is told on stderr, and under "
-      "\"notes\" in JSON.\nExample: qelpro process Default.pro "
-      "--json");
-  command->callback([arguments, &status] { status = run_process(*arguments); });
-}
-
-void add_machines(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<MachinesArguments>();
-  CLI::App* command = app.add_subcommand(
-      "machines",
-      "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
-  command->add_option("FILE", arguments->bank, "The machine bank")->required();
-  command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer("Example: qelpro machines machines.bank 'Any Maker'");
-  command->callback([arguments, &status] { status = run_machines(*arguments); });
-}
-
-void add_coolant(CLI::App& app, int& status) {
-  auto arguments = std::make_shared<CoolantArguments>();
-  CLI::App* command = app.add_subcommand(
-      "coolant", "Print the four properties of a coolant at a temperature, or a table of them");
-  command
-      ->add_option("FILE ID TEMPERATURE", arguments->words,
-                   "The coolant settings file (the user's own where it is left out), the coolant's "
-                   "identifier, the temperature")
-      ->type_name("...")
-      ->expected(0, -1);
-  command
-      ->add_option("--table", arguments->table,
-                   "The coolant whose properties are printed as a table, a row a temperature")
-      ->type_name("ID");
-  command->add_option("--from", arguments->from, "The table's first temperature")->type_name("T");
-  command->add_option("--to", arguments->to, "The temperature that the table does not exceed")
-      ->type_name("T");
-  command->add_option("--step", arguments->step, "The step between two temperatures")
-      ->type_name("D");
-  command->add_flag("--json", arguments->json, "Print JSON");
-  command->footer(
-      "ID is 0, 1 or 2 for the section [Coolant-0], [Coolant-1] or [Coolant-2], and from 6 on the "
-      "section's number plus 3: 6 is [Coolant-3], 7 is\n"
-      "[Coolant-4]. 3, 4 and 5 identify no coolant. An ID that is not found is answered with those "
-      "that are there.\n"
-      "Example: qelpro coolant coolants.pcs 6 25");
-  command->callback([arguments, &status] { status = run_coolant(*arguments); });
+void take_words_as_given(CLI::App& app) {
+  for (CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+    for (CLI::Option* option : command->get_options()) {
+      if (option->get_items_expected_max() > 0) {
+        option->transform([](std::string word) {
+          return word.ends_with(kNoList) ? word.substr(0, word.size() - 1) : word;
+        });
+      }
+    }
+  }
 }
 
 }  // namespace
@@ -196,16 +115,14 @@ int run_command_line(int count, char** arguments) {
   app.require_subcommand(1);
 
   int status = kDone;
-  add_new(app, status);
-  add_get(app, status);
-  add_set(app, status);
-  add_show(app, status);
-  add_process(app, status);
-  add_machines(app, status);
-  add_coolant(app, status);
-  add_check(app, status);
+  for (const auto add :
+       {add_get, add_set, add_unset, add_list, add_show, add_export, add_import, add_new,
+        add_process, add_machines, add_coolant, add_check, add_sweep, add_report, add_plot}) {
+    add(app, status);
+  }
+  take_words_as_given(app);
   try {
-    app.parse(count, arguments);
+    app.parse(without_lists(count, arguments));
   } catch (const CLI::ParseError& error) {
     std::ostringstream out;
     std::ostringstream ignored;

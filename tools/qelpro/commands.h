@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,16 +16,45 @@ struct NewArguments {
 
 struct GetArguments {
   std::string file;
-  std::string section;
-  std::string key;
+  std::vector<std::string> words;  // addresses, patterns, pairs of section and key
+  bool typed = false;
+  std::optional<std::string> otherwise;
+  bool json = false;
 };
 
 struct SetArguments {
   std::string file;
-  std::string section;
-  std::string key;
-  std::string value;
+  std::vector<std::string> words;  // ADDRESS=VALUE, or SECTION KEY VALUE
+  std::optional<std::string> from;
   bool force = false;
+  bool dry_run = false;
+};
+
+struct UnsetArguments {
+  std::string file;
+  std::vector<std::string> words;
+  bool dry_run = false;
+};
+
+struct ListArguments {
+  std::string file;
+  std::optional<std::string> pattern;
+  bool sections = false;
+  bool json = false;
+};
+
+struct ExportArguments {
+  std::string file;
+  std::optional<std::string> out;
+  bool exact = false;
+};
+
+struct ImportArguments {
+  std::string form;
+  std::optional<std::string> out;
+  std::optional<std::string> onto;
+  bool force = false;
+  bool dry_run = false;
 };
 
 struct ShowArguments {
@@ -63,13 +93,44 @@ struct CheckArguments {
   bool quiet = false;
 };
 
+struct SweepArguments {
+  std::string file;
+  std::vector<std::string> settings;
+  std::string folder;
+  std::optional<std::uint64_t> sample;
+  std::optional<std::uint64_t> seed;
+  bool resume = false;
+  bool overwrite = false;
+  bool dry_run = false;
+  bool force = false;
+  bool json = false;
+};
+
+struct ReportArguments {
+  std::vector<std::string> files;
+  std::optional<std::string> output;
+};
+
+struct PlotArguments {
+  std::string file;
+  std::vector<std::string> profiles;
+  std::optional<std::string> output;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
+int run_unset(const UnsetArguments& arguments);
+int run_list(const ListArguments& arguments);
+int run_export(const ExportArguments& arguments);
+int run_import(const ImportArguments& arguments);
 int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
 int run_check(const CheckArguments& arguments);
+int run_sweep(const SweepArguments& arguments);
+int run_report(const ReportArguments& arguments);
+int run_plot(const PlotArguments& arguments);
 
 }  // namespace qelpro

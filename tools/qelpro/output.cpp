@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "system/failure.h"
+#include "system/files.h"
 #include "system/streams.h"
 #include "system/visible.h"
 
@@ -66,6 +67,16 @@ void Output::finish() {
 Output& answer() {
   static Output output;
   return output;
+}
+
+void write_answer(const std::optional<std::string>& file, const std::function<void(Sink&)>& write) {
+  if (!file || *file == "-") {
+    write(answer());
+    return;
+  }
+  TextSink contents;
+  write(contents);
+  write_whole(*file, contents.text());
 }
 
 }  // namespace qelpro

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,5 +34,9 @@ class Output : public Sink {
 };
 
 Output& answer();
+
+/// Puts an answer into the file that the user names, whole or not at all, or to standard output
+/// where there is none or it is "-".
+void write_answer(const std::optional<std::string>& file, const std::function<void(Sink&)>& write);
 
 }  // namespace qelpro

@@ -17,6 +17,7 @@
 #include "blocks/inlet_source.h"
 #include "blocks/sections.h"
 #include "file/value_check.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -29,8 +30,6 @@ constexpr int kMostInlets = QELG_SimulatorProcess::kMostInlets;
 constexpr const qel::KeyInfo& kControlType =
     row_to(qel::flow_ctl_info::kKeys, qel::InletItem::InletControlType);
 constexpr const qel::KeyInfo& kTotalInlet = row_to(qel::flow_ctl_info::kKeys, qel::InletCount{});
-
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 // The number that a text holds as it is printed; 0 for any other text.
 int printed_number(std::string_view text) {
@@ -191,10 +190,10 @@ class Diagnosis {
     const std::string value(qel::text::entry_value(line.text));
     if (const auto what = unread(section.name, key, value, kind)) {
       add(section, &line, key,
-          quoted(value) + " is read as " + read_as(value, kind) + ": " + *what);
+          in_quotes(value) + " is read as " + read_as(value, kind) + ": " + *what);
     } else if (kind == qel::Kind::integer && qel::platform::to_int(value.c_str()) < 0) {
       add(section, &line, key,
-          quoted(value) + " is read as " + read_as(value, kind) + ": it is not negative there");
+          in_quotes(value) + " is read as " + read_as(value, kind) + ": it is not negative there");
     }
   }
 
@@ -207,7 +206,7 @@ class Diagnosis {
     if (!qel::platform::scan_int(at, number) ||
         (takes_second && !qel::platform::scan_int(at, number))) {
       add(section, &line, key,
-          quoted(value) + " is read as 0: " +
+          in_quotes(value) + " is read as 0: " +
               (takes_second ? "two whole numbers are expected" : "a whole number is missing"));
     }
   }
@@ -272,7 +271,7 @@ class Diagnosis {
     if (!first) {
       const Giver& before = place->second;
       add(section, line, key,
-          "replaces " + quoted(before.key) + " of " + before.section + " (line " +
+          "replaces " + in_quotes(before.key) + " of " + before.section + " (line " +
               std::to_string(before.line->number) + ")");
       place->second = {section.name, key, line};
     }
@@ -290,7 +289,7 @@ class Diagnosis {
     if (!first) {
       const Giver& before = place->second;
       add(section, line, count.text,
-          "its points are appended to those of " + quoted(before.key) +
+          "its points are appended to those of " + in_quotes(before.key) +
               (before.section != section.name ? " of " + before.section : ""));
     }
   }
@@ -326,7 +325,7 @@ class Diagnosis {
       count = qel::platform::to_int(value.c_str());
       if (const auto what = unread_part_of_integer(value)) {
         add(section, line, count_key,
-            quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
+            in_quotes(value) + " is read as " + std::to_string(count) + ": " + *what);
       } else if (count < 0) {
         add(section, line, count_key, "a negative count is read as 0");
       }
@@ -373,7 +372,7 @@ class Diagnosis {
   void point(const Entries& section, const TextLine& line, const std::string& key) {
     const std::string value(qel::text::entry_value(line.text));
     if (const auto what = unread(section.name, key, value, qel::Kind::real)) {
-      add(section, &line, key, quoted(value) + " is not read whole: " + *what);
+      add(section, &line, key, in_quotes(value) + " is not read whole: " + *what);
     }
   }
 
@@ -405,13 +404,15 @@ class Diagnosis {
     const int said = qel::platform::to_int(value.c_str());
     const std::int64_t count = said < 0 || said > kMostInlets ? kMostInlets : said;
     if (const auto what = unread_part_of_integer(value)) {
-      add(*info, line, key, quoted(value) + " is read as " + std::to_string(count) + ": " + *what);
+      add(*info, line, key,
+          in_quotes(value) + " is read as " + std::to_string(count) + ": " + *what);
     } else if (count != said) {
       add(*info, line, key,
-          quoted(value) + " is out of range: the process has " + std::to_string(count) + " inlets");
+          in_quotes(value) + " is out of range: the process has " + std::to_string(count) +
+              " inlets");
     } else if (source.fixed && count != source.count) {
       add(*info, line, key,
-          quoted(value) + " is not " + std::to_string(source.count) + ": of project type " +
+          in_quotes(value) + " is not " + std::to_string(source.count) + ": of project type " +
               std::to_string(type) +
               (count > source.count ? " two inlets are loaded"
                : count == 1         ? " one inlet is loaded"
@@ -482,7 +483,7 @@ class Diagnosis {
       } else if (printed_number(at->first.substr(prefix.size())) != 0 &&
                  info->find(taken_key) == nullptr) {
         add(*info, &at->second, key,
-            "dropped: the process takes the control type from " + quoted(taken_key));
+            "dropped: the process takes the control type from " + in_quotes(taken_key));
       }
     }
   }

@@ -41,6 +41,8 @@ bool is_high_control(unsigned char byte) { return byte >= 0x80 && byte <= 0x9F; 
 
 }  // namespace
 
+std::string in_quotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
 std::size_t utf8_length(std::string_view text) {
   constexpr std::size_t kLongest = 4;
   if (text.empty()) {

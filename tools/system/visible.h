@@ -16,6 +16,9 @@ enum class Controls {
 /// of Unicode among them.
 std::string visible(std::string_view text, Controls controls);
 
+/// Between double quotes, for a message.
+std::string in_quotes(std::string_view text);
+
 /// How many bytes the UTF-8 character has with which the text begins; 0 where it begins with none.
 std::size_t utf8_length(std::string_view text);
 

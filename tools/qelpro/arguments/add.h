@@ -10,10 +10,21 @@ namespace qelpro {
 
 void add_check(CLI::App& app, int& status);
 void add_completion(CLI::App& app, int& status);
+void add_coolant(CLI::App& app, int& status);
 void add_diff(CLI::App& app, int& status);
 void add_explain(CLI::App& app, int& status);
+void add_export(CLI::App& app, int& status);
+void add_get(CLI::App& app, int& status);
+void add_import(CLI::App& app, int& status);
+void add_list(CLI::App& app, int& status);
+void add_machines(CLI::App& app, int& status);
+void add_new(CLI::App& app, int& status);
 void add_plot(CLI::App& app, int& status);
+void add_process(CLI::App& app, int& status);
 void add_report(CLI::App& app, int& status);
+void add_set(CLI::App& app, int& status);
+void add_show(CLI::App& app, int& status);
 void add_sweep(CLI::App& app, int& status);
+void add_unset(CLI::App& app, int& status);
 
 }  // namespace qelpro

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/words.h"
 #include "commands.h"
 
 namespace qelpro {
@@ -10,8 +11,7 @@ void add_check(CLI::App& app, int& status) {
   auto arguments = std::make_shared<CheckArguments>();
   CLI::App* command =
       app.add_subcommand("check", "Find what is wrong in process files, line by line");
-  command->add_option("FILE", arguments->files, "The process files; \"-\" is standard input")
-      ->required();
+  add_words(*command, "FILE", arguments->files, "The process files; - is standard input");
   command->add_flag("--strict", arguments->strict, "End with 1 where there is a warning, too");
   CLI::Option* json = command->add_flag("--json", arguments->json, "Print JSON");
   CLI::Option* sarif = command->add_flag("--sarif", arguments->sarif, "Print SARIF 2.1.0");

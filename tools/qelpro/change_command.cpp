@@ -1,0 +1,19 @@
+#include "change_command.h"
+
+#include "output.h"
+#include "system/files.h"
+
+namespace qelpro {
+
+void make_changes(const std::string& file, bool dry_run,
+                  const std::function<std::vector<Change>(const SectionedText&)>& make) {
+  if (!dry_run) {
+    change_file(file, make);
+    return;
+  }
+  const SectionedText before = load_document(file);
+  const SectionedText after(with_changes(before, make(before)));
+  answer() << (before.contents() == after.contents() ? "" : "changed\n");
+}
+
+}  // namespace qelpro
