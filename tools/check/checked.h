@@ -1,6 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "check/findings.h"
+#include "check/known_keys.h"
 #include "file/entries.h"
 
 namespace qelpro {
@@ -9,7 +12,13 @@ namespace qelpro {
 struct Checked {
   const SectionedText& document;
   const Entries& entries;
+  const KnownKeys& known;
+  const std::vector<const qel::KeyInfo*>& keys;  ///< Of each entry; null where it is not known.
   Findings& findings;
+
+  [[nodiscard]] const qel::KeyInfo* key_of(const FileEntry& entry) const {
+    return keys[static_cast<std::size_t>(&entry - entries.all().data())];
+  }
 };
 
 /// The families of rules.

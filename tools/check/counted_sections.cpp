@@ -150,9 +150,7 @@ std::vector<const qel::KeyInfo*> counts_of(const qel::SectionInfo& section) {
   constexpr std::string_view kNumberOf = "the number of ";
   std::vector<const qel::KeyInfo*> counts;
   for (const qel::KeyInfo& key : section.keys) {
-    const bool is_whole =
-        key.encoding->read.size() == 1 && key.encoding->read.front().kind == qel::Kind::integer;
-    if (is_whole && std::string_view(key.meaning).starts_with(kNumberOf) &&
+    if (is_whole_number(key) && std::string_view(key.meaning).starts_with(kNumberOf) &&
         !counts_points(section, key)) {
       counts.push_back(&key);
     }

@@ -1,7 +1,8 @@
 #include "check/findings.h"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace qelpro {
 
@@ -30,20 +31,32 @@ Place at_value(const TextLine& line, std::string_view section, std::string_view 
 }
 
 void Findings::add(const Rule& rule, const Place& place, std::string message, std::string hint) {
-  findings_.push_back({file_, place.line, place.column, rule.severity, rule.code,
-                       std::move(message), std::string(place.section), std::string(place.key),
-                       std::move(hint)});
+  found_.push_back({&rule, place, std::move(message), std::move(hint)});
 }
 
-std::vector<Finding> Findings::in_order() && {
-  const auto place = [](const Finding& finding) {
-    return std::tie(finding.line, finding.column, finding.code);
+void Findings::in_order(const std::string& file, const std::function<void(Finding&&)>& take) {
+  // The rules stand in the order of their codes.
+  struct Sorted {
+    std::size_t line;
+    std::size_t column;
+    const Rule* rule;
+    std::size_t index;
+    auto operator<=>(const Sorted&) const = default;
   };
-  // Most rules go through the file in its order.
-  if (!std::ranges::is_sorted(findings_, {}, place)) {
-    std::ranges::stable_sort(findings_, {}, place);
+  std::vector<Sorted> sorted;
+  sorted.reserve(found_.size());
+  for (const Found& found : found_) {
+    sorted.push_back({found.place.line, found.place.column, found.rule, sorted.size()});
   }
-  return std::move(findings_);
+  if (!std::ranges::is_sorted(sorted)) {
+    std::ranges::sort(sorted);
+  }
+  for (const Sorted& each : sorted) {
+    Found& found = found_[each.index];
+    take({file, each.line, each.column, each.rule->severity, each.rule->code,
+          std::move(found.message), std::string(found.place.section), std::string(found.place.key),
+          std::move(found.hint)});
+  }
 }
 
 std::string question(std::string_view near) {

@@ -53,15 +53,14 @@ class UnknownKeys {
   }
 
   void check(const TextSection& section, const qel::SectionInfo& known, const FileEntry& entry) {
-    int number = 0;
-    if (qel::find_key(known, entry.key.c_str(), number) != nullptr) {
+    if (file_.key_of(entry) != nullptr) {
       return;
     }
     const TextLine line = file_.document.line(entry.line);
     const Place place = at_line(line, section.name, entry.key);
-    const std::vector<KnownKeys::Owner> owners = keys_.owners_of(entry.key);
+    const std::vector<KnownKeys::Owner> owners = file_.known.owners_of(entry.key);
     if (owners.empty()) {
-      std::string near = KnownKeys::near(known, entry.key);
+      std::string near = file_.known.near(known, entry.key);
       std::string message =
           std::string(section.name) + " has no key \"" + entry.key + "\"" + question(near);
       file_.findings.add(rule("P102"), place, std::move(message), std::move(near));
@@ -98,7 +97,6 @@ class UnknownKeys {
   }
 
   const Checked& file_;
-  KnownKeys keys_;
   std::unordered_map<const qel::SectionInfo*, std::size_t> first_of_;  // where its header stands
 };
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "blocks/catalogue.h"
-#include "check/near.h"
 #include "platform/number.h"
 
 namespace qelpro {
@@ -20,7 +19,9 @@ bool is_printed_number(const std::string& text) {
 
 KnownKeys::KnownKeys() {
   for (const qel::SectionInfo* section : qel::Catalogue()) {
+    NearNames& names = names_[section];
     for (const qel::KeyInfo& key : section->keys) {
+      names.add(key.text);
       std::vector<Owner>& owners = by_pattern_[key.text];
       if (owners.empty() || owners.back().section != section) {
         owners.push_back({section, &key});
@@ -29,40 +30,53 @@ KnownKeys::KnownKeys() {
   }
 }
 
-std::vector<KnownKeys::Owner> KnownKeys::owners_of(std::string_view key) const {
-  std::vector<Owner> owners;
-  const auto add = [&](std::string_view pattern) {
+template <class Take>
+void KnownKeys::visit_owners(std::string_view key, const Take& take) const {
+  const auto find = [&](std::string_view pattern) {
     if (const auto found = by_pattern_.find(pattern); found != by_pattern_.end()) {
-      owners.insert(owners.end(), found->second.begin(), found->second.end());
+      std::ranges::for_each(found->second, take);
     }
   };
-  add(key);
+  find(key);
   // A number may stand anywhere in it, with a sign of its own; no key of the catalogue holds
   // several.
-  constexpr int kMostNumbers = 4;
+  constexpr int kMostNumbers = 2;
+  std::string pattern;
   std::size_t begin = key.find_first_of(kDigits);
   for (int number = 0; number < kMostNumbers && begin != std::string_view::npos; ++number) {
     const std::size_t end = std::min(key.find_first_not_of(kDigits, begin), key.size());
     for (const std::size_t sign : {std::size_t{0}, std::size_t{1}}) {
-      if (begin < sign || (sign == 1 && key[begin - 1] != '-')) {
-        continue;
-      }
-      const std::string digits(key.substr(begin - sign, end - begin + sign));
-      if (is_printed_number(digits)) {
-        add(std::string(key.substr(0, begin - sign)) + "%d" + std::string(key.substr(end)));
+      const bool has_sign = begin > 0 && key[begin - 1] == '-';
+      if ((sign == 0 || has_sign) &&
+          is_printed_number(std::string(key.substr(begin - sign, end - begin + sign)))) {
+        pattern.assign(key.substr(0, begin - sign)).append("%d").append(key.substr(end));
+        find(pattern);
       }
     }
     begin = key.find_first_of(kDigits, end);
   }
+}
+
+std::vector<KnownKeys::Owner> KnownKeys::owners_of(std::string_view key) const {
+  std::vector<Owner> owners;
+  visit_owners(key, [&](const Owner& owner) { owners.push_back(owner); });
   return owners;
 }
 
-std::string KnownKeys::near(const qel::SectionInfo& section, std::string_view key) {
-  Nearest nearest(key);
-  for (const qel::KeyInfo& known : section.keys) {
-    nearest.offer(numbered_like(known.text, key));
+std::vector<const qel::KeyInfo*> KnownKeys::keys_of(const Entries& entries) const {
+  std::vector<const qel::KeyInfo*> keys(entries.all().size());
+  const std::vector<TextSection>& sections = entries.document().sections();
+  for (std::size_t index = 0; index < keys.size(); ++index) {
+    const FileEntry& entry = entries.all()[index];
+    if (const qel::SectionInfo* known = entries.known_section(sections[entry.section])) {
+      visit_owners(entry.key, [&](const Owner& owner) {
+        if (owner.section == known) {
+          keys[index] = owner.key;
+        }
+      });
+    }
   }
-  return nearest.name();
+  return keys;
 }
 
 }  // namespace qelpro

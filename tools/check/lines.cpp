@@ -9,6 +9,8 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
+std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
 std::string_view without_indent(std::string_view line) {
   line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
   return line;
@@ -39,9 +41,9 @@ void check_indented(const Checked& file, const TextLine& line, std::string_view 
     return;
   }
   if (kind == LineKind::entry && text.size() < line.text.size()) {
-    const std::string key(qel::text::first_token(text));
+    const std::string_view key = qel::text::first_token(text);
     file.findings.add(rule("P003"), at_line(line, section, key),
-                      "the line begins with a blank, so that \"" + key + "\" is never found",
+                      "the line begins with a blank, so that " + quoted(key) + " is never found",
                       "remove what stands in front of the key");
   } else if (is_read_by_keys) {
     const bool is_header = qel::text::is_header(text);
@@ -76,9 +78,9 @@ void check_before_sections(const Checked& file) {
     const LineKind kind = qel::kind_of(line);
     if (kind == LineKind::entry ||
         (kind == LineKind::indented && kind_without_indent(line) == LineKind::entry)) {
-      const std::string key(qel::text::first_token(without_indent(line.text)));
+      const std::string_view key = qel::text::first_token(without_indent(line.text));
       file.findings.add(rule("P002"), at_line(line, {}, key),
-                        "\"" + key + "\" stands before the first section and is never read");
+                        quoted(key) + " stands before the first section and is never read");
     }
   }
 }

@@ -60,7 +60,7 @@ class PositionalLines {
             {}};
   }
 
-  std::optional<ValueFault> check_value(std::size_t index, const qel::KeyInfo& kind) {
+  void check_value(std::size_t index, const qel::KeyInfo& kind) {
     const TextLine line = file_.document.line(index);
     const std::string_view text = qel::text::index_value(line.whole);
     const bool is_cut = line.goes_on || line.whole.size() != line.text.size();
@@ -69,17 +69,16 @@ class PositionalLines {
       file_.findings.add(rule_of(fault->fault), place_of(index),
                          "the " + std::string(kind.text) + ": " + fault->text);
     }
-    return fault;
   }
 
   // How many setting lines the condition has, of those that are left.
   std::int64_t check_header(std::size_t index, std::int64_t left) {
     const qel::KeyInfo& kind = kind_of(index);
-    const auto fault = check_value(index, kind);
-    if (fault && fault->fault != Fault::text_behind && fault->fault != Fault::missing_field) {
+    check_value(index, kind);
+    const std::string text(qel::text::index_value(file_.document.line(index).text));
+    if (unread_part_of_integer(text.substr(0, text.find_first_of(" \t")))) {
       return 0;
     }
-    const std::string text(qel::text::index_value(file_.document.line(index).text));
     const int count = std::get<int>(kind.encoding->fields(text.c_str(), 0).front());
     if (count < 0) {
       file_.findings.add(rule("P303"), place_of(index), "the number of settings is negative");

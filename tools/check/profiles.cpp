@@ -142,11 +142,18 @@ class SectionProfiles {
   std::string_view section_;
 };
 
+bool may_have_profiles(const Checked& file, const TextSection& section) {
+  return std::ranges::any_of(file.entries.of(section), [&](const FileEntry& entry) {
+    const qel::KeyInfo* const key = file.key_of(entry);
+    return key != nullptr && (key->details.counted_by != nullptr || is_whole_number(*key));
+  });
+}
+
 }  // namespace
 
 void check_profiles(const Checked& file) {
   for (const TextSection& section : file.document.sections()) {
-    if (section.repeated || file.entries.of(section).empty()) {
+    if (!may_have_profiles(file, section)) {
       continue;
     }
     const std::vector<Profile> profiles = profiles_of(file.entries, section);

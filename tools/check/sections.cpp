@@ -9,11 +9,14 @@ namespace qelpro {
 namespace {
 
 std::string near_section(std::string_view name) {
-  Nearest nearest(name);
-  for (const qel::SectionInfo* section : qel::Catalogue()) {
-    nearest.offer(numbered_like(section->name, name));
-  }
-  return nearest.name();
+  static const NearNames names = [] {
+    NearNames all;
+    for (const qel::SectionInfo* section : qel::Catalogue()) {
+      all.add(section->name);
+    }
+    return all;
+  }();
+  return names.near(name);
 }
 
 // What stands where the number of such a section does, if the name has that form.
@@ -50,13 +53,14 @@ const qel::SectionInfo* misnumbered(std::string_view name) {
   if (found == nullptr || is_number(found_number)) {
     return found;
   }
-  const bool is_one_word = found_number.find_first_of("- \t") == std::string_view::npos;
+  if (found_number.find_first_of("- \t") != std::string_view::npos) {
+    return nullptr;
+  }
   const std::string near = near_section(name);
   int ignored = 0;
   const qel::SectionInfo* const near_kind =
       near.empty() ? nullptr : qel::find_section(near.c_str(), ignored);
-  return is_one_word && (near_kind == nullptr || qel::is_numbered(near_kind->name)) ? found
-                                                                                    : nullptr;
+  return near_kind == nullptr || qel::is_numbered(near_kind->name) ? found : nullptr;
 }
 
 void add_misnumbered(const Checked& file, const TextLine& header, std::string_view name,
@@ -68,10 +72,11 @@ void add_misnumbered(const Checked& file, const TextLine& header, std::string_vi
 }
 
 void check_name(const Checked& file, const TextSection& section, const TextLine& header) {
-  const std::string name(section.name);
+  const std::string_view name = section.name;
   int number = 0;
   if (const qel::SectionInfo* const known = file.entries.known_section(section)) {
-    if (qel::is_numbered(known->name) && (qel::find_section(name.c_str(), number), number < 1)) {
+    if (qel::is_numbered(known->name) &&
+        (qel::find_section(std::string(name).c_str(), number), number < 1)) {
       add_misnumbered(file, header, name, *known);
     }
     return;
@@ -84,7 +89,7 @@ void check_name(const Checked& file, const TextSection& section, const TextLine&
     return;
   }
   std::string near = near_section(name);
-  std::string message = name + " is no section of the catalogue" + question(near);
+  std::string message = std::string(name) + " is no section of the catalogue" + question(near);
   file.findings.add(rule("P101"), at_line(header, name), std::move(message), std::move(near));
 }
 

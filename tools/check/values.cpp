@@ -8,12 +8,34 @@
 namespace qelpro {
 namespace {
 
+// A size that is served as text, too: a text that begins with a number is to be one.
+std::optional<ValueFault> fault_of_size(const qel::SectionInfo& section, const Reading& reading,
+                                        std::string_view text) {
+  const bool is_text = reading.key->encoding->read.front().kind == qel::Kind::text &&
+                       reading.key->encoding->read.size() == 1;
+  if (!is_text || text.find_first_of("0123456789") != 0) {
+    return std::nullopt;
+  }
+  for (const qel::KeyInfo& other : section.keys) {
+    if (&other != reading.key && std::string_view(other.text) == reading.key->text) {
+      return fault_of(other, text, reading.number);
+    }
+  }
+  return std::nullopt;
+}
+
 void check_value(const Checked& file, std::string_view section, const qel::SectionInfo& known,
                  const FileEntry& entry) {
+  if (file.key_of(entry) == nullptr) {
+    return;
+  }
   const TextLine line = file.document.line(entry.line);
-  const Reading reading = reading_of(&known, entry.key, entry.value);
-  if (reading.key == nullptr || line.goes_on || line.whole.size() != line.text.size()) {
-    return;  // unknown, or a line of which less is read than stands there
+  Reading reading = reading_of(&known, entry.key, entry.value);
+  if (!reading.fault) {
+    reading.fault = fault_of_size(known, reading, entry.value);
+  }
+  if (line.goes_on || line.whole.size() != line.text.size()) {
+    return;  // less is read than stands there
   }
   const bool has_equals = line.text.find('=') != std::string_view::npos;
   const bool has_words = line.text.find_first_not_of(" \t", entry.key.size()) < line.text.size();
@@ -43,6 +65,10 @@ const Rule& rule_of(Fault fault) {
     default:
       return rule("P205");
   }
+}
+
+bool is_whole_number(const qel::KeyInfo& key) {
+  return key.encoding->read.size() == 1 && key.encoding->read.front().kind == qel::Kind::integer;
 }
 
 std::optional<int> whole_number(const qel::KeyInfo& key, std::string_view text) {

@@ -53,6 +53,7 @@ class Fields {
     std::int64_t wide = 0;
     int value = 0;
     const char* probe = at_;
+    const bool is_apart = stands_apart();
     ++field_;
     if (!qel::platform::scan_int(at_, value)) {
       return missing("a whole number");
@@ -63,17 +64,17 @@ class Fields {
     }
     last_ = value;
     last_field_ = 'd';
-    return {};
+    return is_apart ? Complaint() : not_apart();
   }
 
   /// A number that is dropped, and may be missing.
   Complaint further_integer() {
-    skip_blanks();
-    return *at_ == '\0' ? Complaint() : integer();
+    return at_[std::strspn(at_, kBlanks)] == '\0' ? Complaint() : integer();
   }
 
   Complaint real() {
     double value = 0;
+    const bool is_apart = stands_apart();
     skip_blanks();
     const char* const begin = at_;
     ++field_;
@@ -90,7 +91,7 @@ class Fields {
                                                     in_quotes(read) + ", is no finite number"};
     }
     last_field_ = 'f';
-    return {};
+    return is_apart ? Complaint() : not_apart();
   }
 
   /// A real of decimal digits: a "0" before an "x" is a number of its own.
@@ -108,14 +109,19 @@ class Fields {
 
   Complaint word() {
     std::string value;
+    const bool is_apart = stands_apart();
     ++field_;
     last_field_ = 'w';
-    return qel::platform::scan_word(at_, value) ? name_of_length(value.size()) : missing("a word");
+    if (!qel::platform::scan_word(at_, value)) {
+      return missing("a word");
+    }
+    return is_apart ? name_of_length(value.size()) : not_apart();
   }
 
   Complaint separator() {
     last_field_ = 'c';
-    return *at_ != '\0' ? (++at_, Complaint()) : lacking("the separator is missing");
+    return *at_ != '\0' ? (++at_, Complaint())
+                        : ValueFault{Fault::missing_field, "the separator is missing"};
   }
 
   Complaint equals() {
@@ -170,6 +176,16 @@ class Fields {
 
  private:
   void skip_blanks() { at_ += std::strspn(at_, kBlanks); }
+
+  // Whether a blank tells a number or word from the one before it. Without one they scan, too:
+  // "4+2" as 4 and 2.
+  [[nodiscard]] bool stands_apart() const {
+    return last_field_ == '\0' || last_field_ == 'c' || last_field_ == 'q' ||
+           std::strchr(kBlanks, *at_) != nullptr;
+  }
+  [[nodiscard]] Complaint not_apart() const {
+    return not_read("no blank stands in front of field " + std::to_string(field_));
+  }
 
   // What follows a whole number directly makes another number of it: ".5", "e3".
   [[nodiscard]] bool is_other_number() const {
@@ -511,9 +527,16 @@ Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::s
   const std::string_view pattern = reading.key->text;
   for (std::size_t index = 0; reading.fault && index < section->keys.size(); ++index) {
     const qel::KeyInfo& other = section->keys[index];
-    if (pattern == other.text && !fault_of(other, text, reading.number)) {
+    if (pattern != other.text) {
+      continue;
+    }
+    std::optional<ValueFault> fault = fault_of(other, text, reading.number);
+    if (!fault) {
       reading.key = &other;
       reading.fault.reset();
+    } else if (reading.fault->fault == Fault::text_behind && other.readers.front() != nullptr) {
+      // What is behind one may be a field that another one misreads.
+      reading.fault = std::move(fault);
     }
   }
   reading.unread = unread(reading.fault);

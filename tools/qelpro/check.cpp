@@ -42,19 +42,17 @@ class Printer {
   explicit Printer(const CheckArguments& arguments)
       : arguments_(arguments), painter_(arguments.color) {}
 
-  void print(std::vector<Finding> findings) {
-    for (Finding& finding : findings) {
-      ++count_;
-      has_error_ = has_error_ || finding.severity == Severity::error;
-      has_warning_ = has_warning_ || finding.severity == Severity::warning;
-      if (arguments_.sarif) {
-        for_sarif_.push_back(std::move(finding));
-      } else if (arguments_.json) {
-        answer() << (count_ == 1 ? "[\n  " : ",\n  ");
-        write_json(answer(), json_of(finding), 2);
-      } else if (!arguments_.quiet) {
-        print_line(finding);
-      }
+  void print(Finding&& finding) {
+    ++count_;
+    has_error_ = has_error_ || finding.severity == Severity::error;
+    has_warning_ = has_warning_ || finding.severity == Severity::warning;
+    if (arguments_.sarif) {
+      for_sarif_.push_back(std::move(finding));
+    } else if (arguments_.json) {
+      answer() << (count_ == 1 ? "[\n  " : ",\n  ");
+      write_json(answer(), json_of(finding), 2);
+    } else if (!arguments_.quiet) {
+      print_line(finding);
     }
   }
 
@@ -75,14 +73,19 @@ class Printer {
 
  private:
   void print_line(const Finding& finding) {
-    const std::string place = finding.file + ":" + std::to_string(finding.line) + ":" +
-                              std::to_string(finding.column) + ":";
-    painter_.print(answer(), visible(place, Controls::line_breaks), Color::bold);
+    painter_.print(answer(),
+                   in_one_line(finding.file + ":" + std::to_string(finding.line) + ":" +
+                               std::to_string(finding.column) + ":"),
+                   Color::bold);
     answer() << ' ';
-    painter_.print(answer(), std::string(name_of(finding.severity)) + ":",
+    painter_.print(answer(), name_of(finding.severity) + std::string(":"),
                    color_of(finding.severity));
-    answer() << ' ' << visible(finding.message, Controls::line_breaks) << " [" << finding.code
-             << "]\n";
+    answer() << ' ' << in_one_line(finding.message) << " [" << finding.code << "]\n";
+  }
+
+  static std::string in_one_line(std::string text) {
+    return text.find_first_of("\r\n") == std::string::npos ? text
+                                                           : visible(text, Controls::line_breaks);
   }
 
   const CheckArguments& arguments_;
@@ -93,15 +96,13 @@ class Printer {
   std::vector<Finding> for_sarif_;
 };
 
-std::vector<Finding> findings_in(const std::string& file,
-                                 const std::vector<std::string>& disabled) {
-  std::vector<Finding> findings = check_document(file, load_document(file));
-  if (!disabled.empty()) {
-    std::erase_if(findings, [&](const Finding& finding) {
-      return std::ranges::find(disabled, finding.code) != disabled.end();
-    });
-  }
-  return findings;
+void check_file(const std::string& file, const std::vector<std::string>& disabled,
+                Printer& printer) {
+  check_document(file, load_document(file), [&](Finding&& finding) {
+    if (std::ranges::find(disabled, finding.code) == disabled.end()) {
+      printer.print(std::move(finding));
+    }
+  });
 }
 
 }  // namespace
@@ -112,7 +113,7 @@ int run_check(const CheckArguments& arguments) {
   int status = kDone;
   for (const std::string& file : arguments.files) {
     try {
-      printer.print(findings_in(file, arguments.disabled));
+      check_file(file, arguments.disabled, printer);
     } catch (const Failure& failure) {
       // The other files are answered.
       if (failure.status() != kFileError) {
