@@ -13,9 +13,9 @@
 #include "blocks/inlet_source.h"
 #include "blocks/summary.h"
 #include "check/checked.h"
-#include "check/near.h"
 #include "check/numbers.h"
 #include "check/values.h"
+#include "file/near.h"
 
 namespace qelpro {
 namespace {

@@ -6,7 +6,7 @@
 #include "blocks/catalogue.h"
 #include "check/checked.h"
 #include "check/known_keys.h"
-#include "check/near.h"
+#include "file/near.h"
 #include "proio/dialect.h"
 #include "text/text.h"
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "blocks/key.h"
-#include "check/near.h"
 #include "file/entries.h"
+#include "file/near.h"
 
 namespace qelpro {
 

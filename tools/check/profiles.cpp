@@ -7,9 +7,9 @@
 
 #include "blocks/destination.h"
 #include "check/checked.h"
-#include "check/near.h"
 #include "check/numbers.h"
 #include "check/values.h"
+#include "file/near.h"
 #include "file/profile.h"
 #include "file/typed.h"
 

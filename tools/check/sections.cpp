@@ -3,7 +3,7 @@
 
 #include "blocks/catalogue.h"
 #include "check/checked.h"
-#include "check/near.h"
+#include "file/near.h"
 
 namespace qelpro {
 namespace {

@@ -115,9 +115,9 @@ int run_command_line(int count, char** arguments) {
   app.require_subcommand(1);
 
   int status = kDone;
-  for (const auto add :
-       {add_get, add_set, add_unset, add_list, add_show, add_export, add_import, add_new,
-        add_process, add_machines, add_coolant, add_check, add_sweep, add_report, add_plot}) {
+  for (const auto add : {add_get, add_set, add_unset, add_list, add_show, add_export, add_import,
+                         add_new, add_process, add_machines, add_coolant, add_check, add_sweep,
+                         add_report, add_plot, add_diff, add_explain}) {
     add(app, status);
   }
   take_words_as_given(app);

@@ -117,6 +117,20 @@ struct PlotArguments {
   std::optional<std::string> output;
 };
 
+struct DiffArguments {
+  std::vector<std::string> words;  // A B, or the seven words of git, nine where a file got a name
+  double relative = 0;
+  double absolute = 0;
+  bool points = false;
+  bool json = false;
+  std::string color = "auto";
+};
+
+struct ExplainArguments {
+  std::vector<std::string> words;  // nothing, SECTION, SECTION.KEY, or SECTION KEY
+  bool json = false;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -132,5 +146,7 @@ int run_check(const CheckArguments& arguments);
 int run_sweep(const SweepArguments& arguments);
 int run_report(const ReportArguments& arguments);
 int run_plot(const PlotArguments& arguments);
+int run_diff(const DiffArguments& arguments);
+int run_explain(const ExplainArguments& arguments);
 
 }  // namespace qelpro

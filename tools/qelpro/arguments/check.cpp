@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/color.h"
 #include "arguments/words.h"
 #include "commands.h"
 
@@ -20,11 +21,7 @@ void add_check(CLI::App& app, int& status) {
       ->allow_extra_args(false);
   CLI::Option* quiet =
       command->add_flag("--quiet", arguments->quiet, "Print the number of findings alone");
-  command
-      ->add_option("--color", arguments->color,
-                   "When to color: auto (on a terminal, without NO_COLOR), always or never")
-      ->type_name("WHEN")
-      ->check(CLI::IsMember({"auto", "always", "never"}));
+  add_color(*command, arguments->color);
   json->excludes(sarif, quiet);
   sarif->excludes(json, quiet);
   command->footer(

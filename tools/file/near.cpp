@@ -1,4 +1,4 @@
-#include "check/near.h"
+#include "file/near.h"
 
 #include <algorithm>
 #include <utility>
