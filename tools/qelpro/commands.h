@@ -96,6 +96,10 @@ struct SweepArguments {
   bool json = false;
 };
 
+struct CompletionArguments {
+  std::string shell;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -107,6 +111,7 @@ int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
+int run_completion(const CompletionArguments& arguments);
 int run_sweep(const SweepArguments& arguments);
 
 }  // namespace qelpro
