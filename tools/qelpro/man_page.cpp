@@ -132,6 +132,11 @@ void print_synopsis(const CLI::App& command) {
   }
   answer() << (has_options ? " [" + italic("OPTIONS") + "]" : "");
   for (const CLI::Option* option : command.get_options()) {
+    if (!option->get_positional() && option->get_required()) {
+      answer() << " " << bold(option->get_name()) << " " << italic(value_name(*option));
+    }
+  }
+  for (const CLI::Option* option : command.get_options()) {
     if (option->get_positional()) {
       answer() << " " << positional(*option);
     }
