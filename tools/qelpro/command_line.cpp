@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "arguments/add.h"
+#include "complete.h"
+#include "man_page.h"
 #include "output.h"
 #include "system/failure.h"
 
@@ -105,6 +107,19 @@ void take_words_as_given(CLI::App& app) {
   }
 }
 
+// What the program says of itself to shells and manuals, for which there are no commands to see.
+bool is_about_itself(const CLI::App& app, const std::vector<std::string>& words, int& status) {
+  if (words.size() >= 2 && words[0] == "complete" && words[1] == "--") {
+    status = complete(app, {words.begin() + 2, words.end()});
+    return true;
+  }
+  if (!words.empty() && words.size() <= 2 && words[0] == "man") {
+    status = print_man_page(app, words.size() == 2 ? words[1] : "", tool_version());
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 int run_command_line(int count, char** arguments) {
@@ -116,11 +131,15 @@ int run_command_line(int count, char** arguments) {
 
   int status = kDone;
   for (const auto add : {add_get, add_set, add_unset, add_list, add_show, add_export, add_import,
-                         add_new, add_process, add_machines, add_coolant, add_check, add_sweep,
-                         add_report, add_plot, add_diff, add_explain}) {
+                         add_explain, add_new, add_check, add_diff, add_report, add_plot, add_sweep,
+                         add_process, add_machines, add_coolant, add_completion}) {
     add(app, status);
   }
   take_words_as_given(app);
+  if (is_about_itself(app, {arguments + std::min(count, 1), arguments + count}, status)) {
+    answer().finish();
+    return status;
+  }
   try {
     app.parse(without_lists(count, arguments));
   } catch (const CLI::ParseError& error) {

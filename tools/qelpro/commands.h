@@ -131,6 +131,10 @@ struct ExplainArguments {
   bool json = false;
 };
 
+struct CompletionArguments {
+  std::string shell;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -143,6 +147,7 @@ int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
 int run_check(const CheckArguments& arguments);
+int run_completion(const CompletionArguments& arguments);
 int run_sweep(const SweepArguments& arguments);
 int run_report(const ReportArguments& arguments);
 int run_plot(const PlotArguments& arguments);

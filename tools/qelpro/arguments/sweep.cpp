@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
-#include "add.h"
+#include "arguments/add.h"
 #include "commands.h"
 
 namespace qelpro {
