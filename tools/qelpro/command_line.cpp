@@ -15,14 +15,13 @@
 
 namespace qelpro {
 
-namespace {
-
-// 9103 is 9.1.3.
-std::string version() {
+std::string tool_version() {
   const int number = GetPRODLLVersion();
   return std::to_string(number / 1000) + "." + std::to_string(number / 100 % 10) + "." +
          std::to_string(number % 100);
 }
+
+namespace {
 
 bool is_option(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
@@ -111,13 +110,14 @@ void take_words_as_given(CLI::App& app) {
 int run_command_line(int count, char** arguments) {
   CLI::App app("Reads and writes process files of injection-molding simulation.", "qelpro");
   app.allow_windows_style_options(false);  // a path may begin with a slash on every platform
-  app.set_version_flag("--version", version());
+  app.set_version_flag("--version", tool_version());
   app.footer("Exit status: 0 done, 1 not found, 2 usage, 3 file error.");
   app.require_subcommand(1);
 
   int status = kDone;
-  for (const auto add : {add_get, add_set, add_unset, add_list, add_show, add_export, add_import,
-                         add_new, add_process, add_machines, add_coolant, add_report, add_plot}) {
+  for (const auto add :
+       {add_get, add_set, add_unset, add_list, add_show, add_export, add_import, add_new,
+        add_process, add_machines, add_coolant, add_check, add_sweep, add_report, add_plot}) {
     add(app, status);
   }
   take_words_as_given(app);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -93,6 +94,29 @@ struct PlotArguments {
   std::optional<std::string> output;
 };
 
+struct CheckArguments {
+  std::vector<std::string> files;
+  std::vector<std::string> disabled;
+  std::string color = "auto";
+  bool strict = false;
+  bool json = false;
+  bool sarif = false;
+  bool quiet = false;
+};
+
+struct SweepArguments {
+  std::string file;
+  std::vector<std::string> settings;
+  std::string folder;
+  std::optional<std::uint64_t> sample;
+  std::optional<std::uint64_t> seed;
+  bool resume = false;
+  bool overwrite = false;
+  bool dry_run = false;
+  bool force = false;
+  bool json = false;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -106,5 +130,7 @@ int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
 int run_report(const ReportArguments& arguments);
 int run_plot(const PlotArguments& arguments);
+int run_check(const CheckArguments& arguments);
+int run_sweep(const SweepArguments& arguments);
 
 }  // namespace qelpro

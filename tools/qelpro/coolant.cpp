@@ -13,6 +13,7 @@
 #include "json/json_text.h"
 #include "output.h"
 #include "reference_text.h"
+#include "system/engine_file.h"
 #include "system/failure.h"
 #include "system/files.h"
 
@@ -148,8 +149,9 @@ std::string in_columns(const std::vector<double>& numbers) {
 int run_coolant(const CoolantArguments& arguments) {
   const Request request = request_of(arguments);
   const std::string contents = read_file(request.file);
+  const EngineFile file(request.file, contents);
   CQELPCSInterpolator tables;
-  if (!tables.LoadDataFromFile(request.file.c_str())) {
+  if (!tables.LoadDataFromFile(file.path().c_str())) {
     throw Failure(kFileError,
                   at(request.file, "cannot be loaded: out of memory, or changed meanwhile"));
   }

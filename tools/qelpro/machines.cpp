@@ -8,6 +8,7 @@
 #include "json/json_text.h"
 #include "output.h"
 #include "reference_text.h"
+#include "system/engine_file.h"
 #include "system/failure.h"
 #include "system/files.h"
 
@@ -81,8 +82,9 @@ int run_machines(const MachinesArguments& arguments) {
                   "machines: maker \"\": the name is empty; qelpro machines FILE lists the makers");
   }
   const std::string contents = read_file(arguments.bank);
+  const EngineFile bank(arguments.bank, contents);
   CQELMachineIdentification machines;
-  machines.SetMachineUserBankPath(arguments.bank.c_str());
+  machines.SetMachineUserBankPath(bank.path().c_str());
   const BankVersion version = bank_version_of(contents);
   const bool loaded = machines.LoadFileData();
   if (version.problem == BankProblem::holds_total || (loaded && machines.GetMakerCount() == 0)) {

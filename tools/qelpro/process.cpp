@@ -13,6 +13,7 @@
 #include "output.h"
 #include "process_items.h"
 #include "process_notes.h"
+#include "system/engine_file.h"
 #include "system/failure.h"
 
 namespace qelpro {
@@ -168,9 +169,10 @@ int run_process(const ProcessArguments& arguments) {
     throw Failure(kFileError, at(arguments.file,
                                  "no process file: it has no section (a line such as [Flow-1])"));
   }
+  const EngineFile file(arguments.file, document.contents());
   CQELProcessData_Manipulator loader;
   const std::unique_ptr<const QELG_SimulatorProcess> process(
-      loader.GetProcessDataStructure(arguments.file.c_str()));
+      loader.GetProcessDataStructure(file.path().c_str()));
   if (!process) {
     throw Failure(kFileError,
                   at(arguments.file, "cannot be loaded: out of memory, or changed meanwhile"));

@@ -1,0 +1,25 @@
+#include "system/engine_file.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "system/beside.h"
+#include "system/files.h"
+
+namespace qelpro {
+
+EngineFile::EngineFile(const std::string& file, std::string_view contents) : path_(file) {
+  if (file == "-") {
+    path_ = path_beside((std::filesystem::temp_directory_path() / "standard_input").string());
+    write_whole(path_, contents);
+    is_temporary_ = true;
+  }
+}
+
+EngineFile::~EngineFile() {
+  if (is_temporary_) {
+    std::remove(path_.c_str());
+  }
+}
+
+}  // namespace qelpro
