@@ -10,6 +10,8 @@ cp tests/data/injection_two_inlets.pro "$folder/lid_run05.pro"
 cp tests/data/injection_two_inlets.pro "$folder/lid_run06.pro"
 "$qelpro" set "$folder/lid_run06.pro" Flow-1.FillTime=1.35 Flow-1.MeltTemp=242 'Flow-1.FR-2=20	48' 'Flow-1.FR-3=80	72.5' \
   'Flow-1.IP-2=60	152' 'Pack-1.PP-2=3	64' Pack-1.PackTime=6 'Pack-1.PP-3=6	35'
+"$qelpro" unset "$folder/lid_run05.pro" 'Flow-1.User*'
+"$qelpro" unset "$folder/lid_run06.pro" 'Flow-1.User*'
 "$qelpro" report "$folder/lid_run05.pro" "$folder/lid_run06.pro" -o "$folder/report.html"
 # The page as it stands, from its first inlet on.
 cat >"$folder/frame.html" <<'HTML'
