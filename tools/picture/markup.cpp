@@ -159,8 +159,8 @@ Markup& Markup::text(std::string_view text) {
   return *this;
 }
 
-Markup& Markup::element(std::string_view element, Attributes attributes, std::string_view content) {
-  return open(element, attributes).text(content).close();
+Markup& Markup::element(std::string_view name, Attributes attributes, std::string_view content) {
+  return open(name, attributes).text(content).close();
 }
 
 Markup& Markup::verbatim(std::string_view markup) {

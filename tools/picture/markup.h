@@ -38,7 +38,7 @@ class Markup {
   /// An element that never holds anything.
   Markup& empty(std::string_view element, Attributes attributes = {});
   Markup& text(std::string_view text);
-  Markup& element(std::string_view element, Attributes attributes, std::string_view text);
+  Markup& element(std::string_view name, Attributes attributes, std::string_view content);
   Markup& element(std::string_view name, std::string_view content) {
     return element(name, {}, content);
   }

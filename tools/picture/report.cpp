@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "blocks/inlet_source.h"
 #include "blocks/sections.h"
@@ -19,9 +20,9 @@ namespace {
 
 ReportSources sources_of(const std::vector<ReportedFile>& files) {
   std::vector<std::string> names;
-  for (const ReportedFile& file : files) {
-    names.push_back(file.name == "-" ? "standard input" : file.name);
-  }
+  std::ranges::transform(files, std::back_inserter(names), [](const ReportedFile& file) {
+    return file.name == "-" ? std::string("standard input") : file.name;
+  });
   const std::vector<std::string> labels = labels_of(names);
   ReportSources sources;
   for (std::size_t at = 0; at < files.size(); ++at) {
@@ -144,7 +145,7 @@ class Report {
     });
     fact("V/P switch-over", [](const ReportSource& source) {
       constexpr const char* kKey = qel::key_of(flow::kKeys, "VPSwitchCtrl");
-      const std::string value = source.value(flow::kSection, kKey);
+      std::string value = source.value(flow::kSection, kKey);
       const qel::KeyInfo* const key = std::ranges::find_if(
           flow::kKeys, [](const qel::KeyInfo& row) { return std::string_view(row.text) == kKey; });
       for (const auto& [code, words] : codes_of(key->meaning)) {

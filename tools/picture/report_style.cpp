@@ -34,6 +34,7 @@ a{color:var(--k0)}
 table{border-collapse:collapse;font-size:.875rem;font-variant-numeric:tabular-nums;}
 th,td{text-align:left;vertical-align:top;padding:.28rem .9rem .28rem .5rem;border-bottom:1px solid var(--grid);max-width:28rem}
 th bdi,td bdi{display:inline-block;width:max-content;max-width:min(22rem,60vw);overflow-wrap:break-word}
+.facts td{max-width:none}
 .facts td bdi{max-width:min(30rem,50vw)}
 thead th{color:var(--soft);font-weight:600;border-bottom:1.5px solid var(--rule);white-space:normal}
 thead th small{display:block;font-weight:400;max-width:14rem}
