@@ -63,8 +63,8 @@ void check_line(const Checked& file, const TextLine& line, std::string_view sect
     case LineKind::without_equals:
       if (is_read_by_keys) {
         file.findings.add(rule("P006"), at_line(line, section),
-                          "the line is no entry: it has no \"=\"",
-                          "begin a comment with \";\", \"#\" or \"//\"");
+                          R"(the line is no entry: it has no "=")",
+                          R"(begin a comment with ";", "#" or "//")");
       }
       break;
     default:
@@ -128,9 +128,8 @@ void check_bytes(const Checked& file) {
     if (here != first_break && !is_mixed) {
       is_mixed = true;
       file.findings.add(rule("P009"), at_line(line),
-                        std::string("the line ends with ") +
-                            (here == 2 ? "\"\\r\\n\"" : "\"\\n\"") + ", and lines before it with " +
-                            (here == 2 ? "\"\\n\"" : "\"\\r\\n\""));
+                        std::string("the line ends with ") + (here == 2 ? R"("\r\n")" : R"("\n")") +
+                            ", and lines before it with " + (here == 2 ? R"("\n")" : R"("\r\n")"));
     }
   }
 }

@@ -25,7 +25,7 @@ inline constexpr Rule kRules[] = {
      "blank and no comment"},
     {"P007", Severity::warning, "words behind a header"},
     {"P008", Severity::note, "no line break at the end of the last line"},
-    {"P009", Severity::warning, "line breaks \"\\n\" and \"\\r\\n\" mixed"},
+    {"P009", Severity::warning, R"(line breaks "\n" and "\r\n" mixed)"},
     {"P010", Severity::error, "a NUL byte"},
     {"P101", Severity::warning, "a section that the catalogue does not know"},
     {"P102", Severity::warning, "a key that its section does not know"},

@@ -42,7 +42,7 @@ void check_value(const Checked& file, std::string_view section, const qel::Secti
   if (!has_equals && (reading.fault || has_words)) {
     file.findings.add(rule_of(Fault::not_read), at_value(line, section, entry.key),
                       "\"" + entry.key + "\" has no value: no \"=\" stands in its line",
-                      "put a \"=\" behind the key");
+                      R"(put a "=" behind the key)");
   } else if (reading.fault) {
     file.findings.add(rule_of(reading.fault->fault), at_value(line, section, entry.key),
                       "the value of \"" + entry.key + "\": " + reading.fault->text,
