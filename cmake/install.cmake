@@ -30,6 +30,13 @@ endforeach()
 
 if(QELPRO_TOOL)
   install(TARGETS qelpro RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  if(NOT CMAKE_CROSSCOMPILING)
+    set(pages ${PROJECT_BINARY_DIR}/tool_pages)
+    install(DIRECTORY ${pages}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR})
+    foreach(shell bash-completion zsh fish)
+      install(DIRECTORY ${pages}/${shell} DESTINATION ${CMAKE_INSTALL_DATAROOTDIR})
+    endforeach()
+  endif()
 endif()
 
 if(QELPRO_TOP_LEVEL)

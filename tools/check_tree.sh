@@ -35,7 +35,7 @@ src/qelg
 tools/system text
 tools/json system
 tools/file blocks text platform system json
-tools/check file blocks text platform system json
+tools/check file blocks proio text platform system json
 tools/compare file blocks text platform system json
 tools/picture compare check file blocks text platform qelg system json
 tools/study file blocks text platform system json

@@ -26,7 +26,8 @@ struct LoadedKeys {
         taken[count] = key;
         taken[count].readers = {};
         taken[count].writers = {};
-        taken[count++].details = {.loader = key.details.loader};
+        taken[count++].details = {.loader = key.details.loader,
+                                  .counted_by = key.details.counted_by};
       }
     }
     return taken;

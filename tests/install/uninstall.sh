@@ -11,6 +11,7 @@ mkdir -p "$prefix/share/other" "$prefix/include/QELPROEngine"
 touch "$prefix/share/other/file" "$prefix/include/QELPROEngine/own.h"
 cmake --install "$build" --prefix "$prefix" >/dev/null
 [[ -f $prefix/include/QELG/QELG.h ]] || fail "nothing is installed in $prefix"
+[[ -f $prefix/share/man/man1/qelpro.1 ]] || fail "no manual page is installed in $prefix"
 cmake --build "$build" --target uninstall >/dev/null
 left=$(cd "$prefix" && find . ! -type d | sort | xargs)
 [[ $left == './include/QELPROEngine/own.h ./share/other/file' ]] || fail "left: $left"

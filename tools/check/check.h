@@ -1,22 +1,20 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "check/finding.h"
+#include "check/rules.h"
 #include "file/document_text.h"
 
 namespace qelpro {
 
-/// What is found in a file, in the file's order.
+/// What is found in a file, in the file's order: by line, column and code. `file` is what the
+/// findings call it.
 std::vector<Finding> check_document(const std::string& file, const SectionedText& document);
-
-/// The codes with their severity and what each finds, for a list of rules.
-struct Rule {
-  const char* code;
-  Severity severity;
-  const char* finds;
-};
-const std::vector<Rule>& rules();
+/// The same, one after the other: there may be very many.
+void check_document(const std::string& file, const SectionedText& document,
+                    const std::function<void(Finding&&)>& take);
 
 }  // namespace qelpro

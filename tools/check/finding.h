@@ -2,11 +2,13 @@
 
 #include <cstddef>
 #include <string>
-#include <vector>
 
 namespace qelpro {
 
 enum class Severity { error, warning, note };
+
+/// "error"
+const char* name_of(Severity severity);
 
 /// Something that is wrong, or may be, with a file.
 struct Finding {
@@ -20,7 +22,5 @@ struct Finding {
   std::string key;
   std::string hint;  ///< The name that is near, or what to do; may be empty.
 };
-
-const char* name_of(Severity severity);
 
 }  // namespace qelpro

@@ -178,10 +178,10 @@ std::string did_you_mean(const std::string& name) {
 
 [[noreturn]] void refuse_section(const std::string& word, const std::string& behind) {
   std::string holders;
-  Nearest nearest(word);
+  NearNames names;
   for (const qel::SectionInfo* section : qel::Catalogue()) {
     const std::string_view name = without_brackets(section->name);
-    nearest.offer(numbered_like(name, word));
+    names.add(name);
     if (behind.empty() && !keys_of(*section, word).empty()) {
       holders += (holders.empty() ? "" : ", ") + std::string(name);
     }
@@ -190,8 +190,8 @@ std::string did_you_mean(const std::string& name) {
   if (!holders.empty()) {
     what += "; it is a key of " + holders;
   }
-  if (!nearest.name().empty()) {
-    what += did_you_mean(nearest.name() + behind);
+  if (const std::string near = names.near(word); !near.empty()) {
+    what += did_you_mean(near + behind);
   } else if (holders.empty()) {
     what += "; qelpro explain lists them";
   }
@@ -200,13 +200,13 @@ std::string did_you_mean(const std::string& name) {
 
 [[noreturn]] void refuse_key(const qel::SectionInfo& section, const std::string& word,
                              const std::string& key) {
-  Nearest nearest(key);
+  NearNames names;
   for (const qel::KeyInfo& row : section.keys) {
-    nearest.offer(numbered_like(row.text, key));
+    names.add(row.text);
   }
-  const std::string hint = nearest.name().empty()
-                               ? "; qelpro explain " + word + " lists those that are"
-                               : did_you_mean(nearest.name());
+  const std::string near = names.near(key);
+  const std::string hint =
+      near.empty() ? "; qelpro explain " + word + " lists those that are" : did_you_mean(near);
   throw Failure(kNotFound,
                 with_brackets(word) + ": \"" + key + "\" is no key that is known" + hint);
 }

@@ -1,7 +1,7 @@
 #include "file/near.h"
 
 #include <algorithm>
-#include <bit>
+#include <utility>
 #include <vector>
 
 #include "blocks/key.h"
@@ -12,19 +12,37 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-// A set of the characters, a few of which share a place.
-unsigned long long letters_of(std::string_view name) {
-  unsigned long long letters = 0;
+// A set of the characters but for digits, a few of which share a place.
+std::uint64_t letters_of(std::string_view name) {
+  std::uint64_t letters = 0;
   for (const char character : name) {
-    letters |= 1ULL << (static_cast<unsigned char>(character) % 64U);
+    const bool is_digit = character >= '0' && character <= '9';
+    letters |= is_digit ? 0 : std::uint64_t{1} << (static_cast<unsigned char>(character) % 64U);
   }
   return letters;
+}
+
+// Whether more letters are in one than so many changes take away.
+bool has_more(std::uint64_t letters, std::uint64_t others) {
+  std::uint64_t more = letters & ~others;
+  for (std::size_t change = 0; change < NearNames::kMost; ++change) {
+    more &= more - (more != 0 ? 1 : 0);
+  }
+  return more != 0;
 }
 
 // Letters of ASCII, whatever the program's locale is.
 char in_lower_case(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
                                               : character;
+}
+
+// The number that stands in a name, or 1.
+std::string number_like(std::string_view name) {
+  const std::size_t first = name.find_first_of(kDigits);
+  const std::string digits(first == std::string_view::npos ? std::string_view("1")
+                                                           : name.substr(first));
+  return qel::platform::print_int(std::max(qel::platform::to_int(digits.c_str()), 1));
 }
 
 bool is_same_but_for_capitals(std::string_view a, std::string_view b) {
@@ -66,26 +84,44 @@ std::size_t edit_distance(std::string_view a, std::string_view b, std::size_t mo
   return std::min(last[a.size()], most + 1);
 }
 
-Nearest::Nearest(std::string_view wanted) : wanted_(wanted), letters_(letters_of(wanted)) {}
+void NearNames::add(std::string_view pattern) {
+  const std::string_view before = qel::prefix_of(pattern);
+  const bool is_numbered = before.size() < pattern.size();
+  const std::string_view behind =
+      is_numbered ? pattern.substr(pattern.find('d', before.size()) + 1) : std::string_view();
+  patterns_.push_back({before, behind, is_numbered, letters_of(before) | letters_of(behind)});
+}
 
-void Nearest::offer(std::string_view name) {
-  if (name.size() > wanted_.size() + kMost || wanted_.size() > name.size() + kMost) {
-    return;
+std::string NearNames::near(std::string_view name) const {
+  const std::uint64_t letters = letters_of(name);
+  const std::string number = number_like(name);
+  std::size_t nearest = kMost + 1;
+  std::string found;
+  for (const Pattern& pattern : patterns_) {
+    const std::size_t size =
+        pattern.before.size() + pattern.behind.size() + (pattern.is_numbered ? number.size() : 0);
+    if (size > name.size() + kMost || name.size() > size + kMost) {
+      continue;
+    }
+    const bool is_far = has_more(letters, pattern.letters) || has_more(pattern.letters, letters);
+    if (is_far && size != name.size()) {
+      continue;
+    }
+    std::string known(pattern.before);
+    known.append(pattern.is_numbered ? number : std::string()).append(pattern.behind);
+    std::size_t distance = is_far ? kMost + 1 : edit_distance(name, known, kMost);
+    if (distance >= std::min(known.size(), name.size())) {
+      distance = kMost + 1;  // nothing of the name is left
+    }
+    if (distance > kMost && is_same_but_for_capitals(known, name)) {
+      distance = kMost;
+    }
+    if (distance < nearest) {
+      nearest = distance;
+      found = std::move(known);
+    }
   }
-  // One change takes a letter away, brings one, or both.
-  const bool may_be_near = std::popcount(letters_ & ~letters_of(name)) <= static_cast<int>(kMost) &&
-                           std::popcount(letters_of(name) & ~letters_) <= static_cast<int>(kMost);
-  std::size_t distance = may_be_near ? edit_distance(wanted_, name, kMost) : kMost + 1;
-  if (distance >= std::min(name.size(), wanted_.size())) {
-    distance = kMost + 1;  // nothing of the name is left
-  }
-  if (distance > kMost && is_same_but_for_capitals(name, wanted_)) {
-    distance = kMost;
-  }
-  if (distance < distance_) {
-    distance_ = distance;
-    name_ = name;
-  }
+  return found;
 }
 
 std::string with_number(std::string_view pattern, int number) {
@@ -98,13 +134,8 @@ std::string with_number(std::string_view pattern, int number) {
 }
 
 std::string numbered_like(std::string_view pattern, std::string_view like) {
-  if (!qel::is_numbered(pattern)) {
-    return std::string(pattern);
-  }
-  const std::size_t first = like.find_first_of(kDigits);
-  const std::string digits(first == std::string_view::npos ? std::string_view("1")
-                                                           : like.substr(first));
-  return with_number(pattern, std::max(qel::platform::to_int(digits.c_str()), 1));
+  const int number = qel::platform::to_int(number_like(like).c_str());
+  return with_number(pattern, number);
 }
 
 }  // namespace qelpro

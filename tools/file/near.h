@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qelpro {
 
@@ -10,27 +12,29 @@ namespace qelpro {
 /// `most` + 1 where it takes more than `most`.
 std::size_t edit_distance(std::string_view a, std::string_view b, std::size_t most);
 
-/// Takes names one after another and keeps the one that is nearest to what was asked for: at a
-/// distance of 2 or less, and with something in common; or the same but for capitals.
-class Nearest {
+/// Names of the catalogue, of which one may be near to what a file has: at a distance of 2 or less,
+/// and with something in common; or the same but for capitals.
+class NearNames {
  public:
-  explicit Nearest(std::string_view wanted);
+  /// The pattern has the number of what it is compared with in the place of its "%d", or 1.
+  void add(std::string_view pattern);
 
-  void offer(std::string_view name);
   /// The first one of those that are equally near; empty where none is near.
-  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] std::string near(std::string_view name) const;
 
   static constexpr std::size_t kMost = 2;
 
  private:
-  std::string_view wanted_;
-  unsigned long long letters_;
-  std::size_t distance_ = kMost + 1;
-  std::string name_;
+  struct Pattern {
+    std::string_view before;  // the number, or the whole name
+    std::string_view behind;
+    bool is_numbered;
+    std::uint64_t letters;
+  };
+  std::vector<Pattern> patterns_;
 };
 
-/// A name of the catalogue with a number in it, for a comparison with `like`: the number that
-/// stands in that, or 1.
+/// A name of the catalogue with the number, if it has one, that stands in `like`, or 1.
 std::string numbered_like(std::string_view pattern, std::string_view like);
 
 /// The pattern with this number.

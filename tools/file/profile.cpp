@@ -83,7 +83,8 @@ std::vector<std::array<double, 2>> Profile::curve() const {
       break;
     }
     const TypedValue typed = typed_value_of(point);
-    if (!typed.unread) {
+    // A text of one number may be whole, as another encoding of the key.
+    if (typed.key == kind.point && !typed.unread) {
       curve.push_back({std::get<double>(typed.fields[0]), std::get<double>(typed.fields[1])});
     }
   }

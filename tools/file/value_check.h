@@ -11,6 +11,20 @@ namespace qelpro {
 /// Whether a key's encoding reads a text whole. The encodings take what scans and pass over the
 /// rest; this tells the rest.
 
+/// What is wrong with a value, as its encoding reads it.
+enum class Fault {
+  not_read,       ///< A field is not read, or not as it stands.
+  missing_field,  ///< A value of several fields lacks some.
+  text_behind,    ///< More stands there than is read.
+  decimal_comma,  ///< A real goes on with "," and a digit.
+  too_large,      ///< A real is too large to be read.
+  not_finite      ///< A real says itself that it is not finite ("nan"), and is read so.
+};
+struct ValueFault {
+  Fault fault;
+  std::string text;  ///< For a message.
+};
+
 /// How the catalogue reads an entry.
 struct Reading {
   const qel::KeyInfo* key =
@@ -18,13 +32,18 @@ struct Reading {
   int number = 0;  ///< The key's number.
   std::optional<std::string>
       unread;  ///< What of the text is not read as it stands, and why, for a message.
+  std::optional<ValueFault> fault = {};
 };
 
 /// Of several encodings of one key the first that reads the text whole, or else the first.
 /// `section` may be null.
 Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text);
 
-/// What one encoding does not read of the text.
+/// What is wrong with the text for one encoding; the first fault of several.
+std::optional<ValueFault> fault_of(const qel::KeyInfo& key, std::string_view text, int number);
+
+/// What one encoding does not read of the text: its fault, but not a real that says itself that it
+/// is not finite.
 std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view text, int number);
 
 /// The same for one number as `atoi` and `atof` take it.

@@ -1,5 +1,6 @@
 #include "change_command.h"
 
+#include "compare/difference.h"
 #include "output.h"
 #include "system/files.h"
 
@@ -13,7 +14,9 @@ void make_changes(const std::string& file, bool dry_run,
   }
   const SectionedText before = load_document(file);
   const SectionedText after(with_changes(before, make(before)));
-  answer() << (before.contents() == after.contents() ? "" : "changed\n");
+  for (const Difference& difference : differences(before, after)) {
+    answer() << line_of(difference) << '\n';
+  }
 }
 
 }  // namespace qelpro

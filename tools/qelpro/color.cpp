@@ -3,29 +3,46 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "output.h"
-#include "system/failure.h"
 #include "system/streams.h"
 
 namespace qelpro {
+namespace {
 
-bool wants_color(const std::string& when) {
-  if (when != "auto" && when != "always" && when != "never") {
-    throw Failure(kUsage, "--color: \"" + when + "\" is none of auto, always and never");
+const char* escape_of(Color color) {
+  switch (color) {
+    case Color::red:
+      return "\x1B[1;31m";
+    case Color::green:
+      return "\x1B[32m";
+    case Color::yellow:
+      return "\x1B[1;33m";
+    case Color::cyan:
+      return "\x1B[1;36m";
+    default:
+      return "\x1B[1m";
   }
-  const char* const no_color = std::getenv("NO_COLOR");
-  return when == "always" ||
-         (when == "auto" && is_terminal(stdout) && (no_color == nullptr || *no_color == '\0'));
 }
 
-void put_colored(std::string_view text, Color color, bool is_colored) {
-  if (is_colored) {
-    answer().put_escape(color == Color::red ? "\x1B[31m" : "\x1B[32m");
+// A variable that is there and not empty.
+std::string_view variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+}  // namespace
+
+Painter::Painter(const std::string& mode)
+    : is_on_(mode == "always" || (mode != "never" && variable("NO_COLOR").empty() &&
+                                  variable("TERM") != "dumb" && is_terminal(stdout))) {}
+
+void Painter::print(Output& output, std::string_view text, Color color) const {
+  if (!is_on_) {
+    output << text;
+    return;
   }
-  answer() << text;
-  if (is_colored) {
-    answer().put_escape("\x1B[m");
-  }
+  output.put_escape(escape_of(color));
+  output << text;
+  output.put_escape("\x1B[0m");
 }
 
 }  // namespace qelpro

@@ -3,15 +3,24 @@
 #include <string>
 #include <string_view>
 
+#include "output.h"
+
 namespace qelpro {
 
-/// Whether an answer is coloured: "always", "never", or "auto", which is where standard output is a
-/// terminal and NO_COLOR is not set. Any other word is a `Failure` of usage.
-bool wants_color(const std::string& when);
+enum class Color { red, green, yellow, cyan, bold };
 
-enum class Color { red, green };
+/// Colors an answer, or leaves it as it is.
+class Painter {
+ public:
+  /// `mode` is "always", "never", or "auto": where standard output is a terminal that knows colors
+  /// and the environment has no NO_COLOR.
+  explicit Painter(const std::string& mode);
 
-/// Puts a text into the answer, coloured or not.
-void put_colored(std::string_view text, Color color, bool is_colored);
+  /// Prints the text in a color.
+  void print(Output& output, std::string_view text, Color color) const;
+
+ private:
+  bool is_on_;
+};
 
 }  // namespace qelpro

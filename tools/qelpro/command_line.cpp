@@ -10,19 +10,20 @@
 #include <vector>
 
 #include "arguments/add.h"
+#include "complete.h"
+#include "man_page.h"
 #include "output.h"
 #include "system/failure.h"
 
 namespace qelpro {
 
-namespace {
-
-// 9103 is 9.1.3.
-std::string version() {
+std::string tool_version() {
   const int number = GetPRODLLVersion();
   return std::to_string(number / 1000) + "." + std::to_string(number / 100 % 10) + "." +
          std::to_string(number % 100);
 }
+
+namespace {
 
 bool is_option(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
@@ -106,21 +107,39 @@ void take_words_as_given(CLI::App& app) {
   }
 }
 
+// What the program says of itself to shells and manuals, for which there are no commands to see.
+bool is_about_itself(const CLI::App& app, const std::vector<std::string>& words, int& status) {
+  if (words.size() >= 2 && words[0] == "complete" && words[1] == "--") {
+    status = complete(app, {words.begin() + 2, words.end()});
+    return true;
+  }
+  if (!words.empty() && words.size() <= 2 && words[0] == "man") {
+    status = print_man_page(app, words.size() == 2 ? words[1] : "", tool_version());
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 int run_command_line(int count, char** arguments) {
   CLI::App app("Reads and writes process files of injection-molding simulation.", "qelpro");
   app.allow_windows_style_options(false);  // a path may begin with a slash on every platform
-  app.set_version_flag("--version", version());
+  app.set_version_flag("--version", tool_version());
   app.footer("Exit status: 0 done, 1 not found, 2 usage, 3 file error.");
   app.require_subcommand(1);
 
   int status = kDone;
   for (const auto add : {add_get, add_set, add_unset, add_list, add_show, add_export, add_import,
-                         add_new, add_process, add_machines, add_coolant, add_diff, add_explain}) {
+                         add_explain, add_new, add_check, add_diff, add_report, add_plot, add_sweep,
+                         add_process, add_machines, add_coolant, add_completion}) {
     add(app, status);
   }
   take_words_as_given(app);
+  if (is_about_itself(app, {arguments + std::min(count, 1), arguments + count}, status)) {
+    answer().finish();
+    return status;
+  }
   try {
     app.parse(without_lists(count, arguments));
   } catch (const CLI::ParseError& error) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -82,6 +83,40 @@ struct CoolantArguments {
   bool json = false;
 };
 
+struct CheckArguments {
+  std::vector<std::string> files;
+  std::vector<std::string> disabled;
+  std::string color = "auto";
+  bool strict = false;
+  bool json = false;
+  bool sarif = false;
+  bool quiet = false;
+};
+
+struct SweepArguments {
+  std::string file;
+  std::vector<std::string> settings;
+  std::string folder;
+  std::optional<std::uint64_t> sample;
+  std::optional<std::uint64_t> seed;
+  bool resume = false;
+  bool overwrite = false;
+  bool dry_run = false;
+  bool force = false;
+  bool json = false;
+};
+
+struct ReportArguments {
+  std::vector<std::string> files;
+  std::optional<std::string> output;
+};
+
+struct PlotArguments {
+  std::string file;
+  std::vector<std::string> profiles;
+  std::optional<std::string> output;
+};
+
 struct DiffArguments {
   std::vector<std::string> words;  // A B, or the seven words of git, nine where a file got a name
   double relative = 0;
@@ -96,6 +131,10 @@ struct ExplainArguments {
   bool json = false;
 };
 
+struct CompletionArguments {
+  std::string shell;
+};
+
 int run_new(const NewArguments& arguments);
 int run_get(const GetArguments& arguments);
 int run_set(const SetArguments& arguments);
@@ -107,6 +146,11 @@ int run_show(const ShowArguments& arguments);
 int run_process(const ProcessArguments& arguments);
 int run_machines(const MachinesArguments& arguments);
 int run_coolant(const CoolantArguments& arguments);
+int run_check(const CheckArguments& arguments);
+int run_completion(const CompletionArguments& arguments);
+int run_sweep(const SweepArguments& arguments);
+int run_report(const ReportArguments& arguments);
+int run_plot(const PlotArguments& arguments);
 int run_diff(const DiffArguments& arguments);
 int run_explain(const ExplainArguments& arguments);
 

@@ -22,21 +22,21 @@ SectionedText document_of(const std::string& file) {
   return file == kNoFile ? SectionedText("") : load_document(file);
 }
 
-void print(const std::vector<Difference>& differences, bool is_colored) {
+void print(const std::vector<Difference>& differences, const Painter& painter) {
   for (const Difference& difference : differences) {
     const DifferenceText text = text_of(difference);
     switch (difference.kind) {
       case Difference::Kind::added:
-        put_colored(text.head, Color::green, is_colored);
+        painter.print(answer(), text.head, Color::green);
         break;
       case Difference::Kind::removed:
-        put_colored(text.head, Color::red, is_colored);
+        painter.print(answer(), text.head, Color::red);
         break;
       case Difference::Kind::changed:
         answer() << text.head;
-        put_colored(text.before, Color::red, is_colored);
+        painter.print(answer(), text.before, Color::red);
         answer() << text.between;
-        put_colored(text.after, Color::green, is_colored);
+        painter.print(answer(), text.after, Color::green);
         answer() << text.tail;
     }
     answer() << '\n';
@@ -60,7 +60,7 @@ bool compare(const DiffArguments& arguments, const std::string& before, const st
   if (arguments.json) {
     print_json(found);
   } else {
-    print(found, wants_color(arguments.color));
+    print(found, Painter(arguments.color));
   }
   return !found.empty();
 }
@@ -130,7 +130,6 @@ void check_tolerance(const char* option, double value) {
 int run_diff(const DiffArguments& arguments) {
   check_tolerance("--tolerance", arguments.relative);
   check_tolerance("--absolute", arguments.absolute);
-  wants_color(arguments.color);
   const std::vector<std::string>& files = arguments.words;
   if (files.size() == GitWords::kPlain || files.size() == GitWords::kRenamed) {
     return run_for_git(arguments);

@@ -27,37 +27,34 @@ Output::Output() : to_terminal_(is_terminal(stdout)) {}
 void Output::put(std::string_view text) {
   constexpr std::size_t kBlock = std::size_t{64} * 1024;
   pending_ += text;
-  if (pending_.size() >= kBlock) {
+  if (pending_.size() + settled_.size() >= kBlock) {
     flush();
   }
 }
 
-void Output::put_escape(std::string_view sequence) {
-  if (to_terminal_) {
-    shown_ += visible(pending_, Controls::all_but_layout);
-    shown_ += sequence;
-    pending_.clear();
-  } else {
-    put(sequence);
-  }
+void Output::put_escape(std::string_view escape) {
+  settle();
+  settled_ += escape;
 }
 
-void Output::flush() {
-  if (to_terminal_) {
-    pending_ = shown_ + visible(pending_, Controls::all_but_layout);
-    shown_.clear();
-  }
-  errno = 0;
-  if (std::fwrite(pending_.data(), 1, pending_.size(), stdout) != pending_.size() ||
-      std::fflush(stdout) != 0) {
-    pending_.clear();
-    fail_to_write();
-  }
+void Output::settle() {
+  settled_ += to_terminal_ ? visible(pending_, Controls::all_but_layout) : pending_;
   pending_.clear();
 }
 
+void Output::flush() {
+  settle();
+  errno = 0;
+  if (std::fwrite(settled_.data(), 1, settled_.size(), stdout) != settled_.size() ||
+      std::fflush(stdout) != 0) {
+    settled_.clear();
+    fail_to_write();
+  }
+  settled_.clear();
+}
+
 void Output::finish() {
-  if (pending_.empty() && shown_.empty()) {
+  if (pending_.empty() && settled_.empty()) {
     return;
   }
   flush();

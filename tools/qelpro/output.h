@@ -18,18 +18,19 @@ class Output : public Sink {
  public:
   Output();
   void put(std::string_view text) override;
-  /// An escape sequence of the tool's own, which a terminal is to get as it is.
-  void put_escape(std::string_view sequence);
+  /// The same, but for what a terminal is to obey.
+  void put_escape(std::string_view escape);
 
   /// Only after this is it known that everything was written.
   void finish();
 
  private:
   void flush();
+  void settle();
 
   bool to_terminal_;
-  std::string shown_;  // what a terminal gets, up to the last escape sequence
-  std::string pending_;
+  std::string pending_;  // as it was put
+  std::string settled_;  // as it is to be written, before what is pending
 };
 
 Output& answer();

@@ -11,6 +11,8 @@ namespace qelpro {
 void prepare_streams();
 
 bool is_terminal(std::FILE* stream);
+/// How many columns the terminal has; 0 where the stream is none, or nobody knows.
+int terminal_columns(std::FILE* stream);
 
 /// Ends the program as one whose reader has gone: without a message.
 [[noreturn]] void end_without_reader();

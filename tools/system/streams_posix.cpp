@@ -1,6 +1,7 @@
 #include "system/streams.h"
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -22,6 +23,11 @@ void prepare_streams() {
 }
 
 bool is_terminal(std::FILE* stream) { return ::isatty(::fileno(stream)) == 1; }
+
+int terminal_columns(std::FILE* stream) {
+  winsize size{};
+  return ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
 
 void end_without_reader() {
   // A caller that ignores the signal sees an exit status that says the same.

@@ -617,7 +617,7 @@ SymVolRatio 2
 TotalNodeHR 4
 TotalSTLNodeEC 6
 TotalSTLNodeHR 8
-TotalGrpCCL 1
+TotalGrpCCL 2
 TotalGrpCCS 3
 TotalOverFlowCTL 1
 IsTransientInletConv 0

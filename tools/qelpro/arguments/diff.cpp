@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "arguments/add.h"
+#include "arguments/color.h"
 #include "arguments/words.h"
 #include "commands.h"
 
@@ -23,7 +24,7 @@ void add_diff(CLI::App& app, int& status) {
   command->add_flag("--points", arguments->points,
                     "Compare the points of profiles, not the curves that they make");
   command->add_flag("--json", arguments->json, "Print JSON");
-  command->add_option("--color", arguments->color, "auto, always or never")->type_name("WHEN");
+  add_color(*command, arguments->color);
   command->footer(
       "Order, spacing, comments and the spelling of numbers do not count. Exit status: 0 the same, "
       "1 different.\n"

@@ -1,0 +1,17 @@
+# What the tool says of itself, as files: completions for three shells and the manual pages. usage:
+# cmake -DTOOL=qelpro -DFOLDER=FOLDER -P tool_pages.cmake
+file(REMOVE_RECURSE "${FOLDER}")
+function(answer_to file)
+  get_filename_component(folder "${FOLDER}/${file}" DIRECTORY)
+  file(MAKE_DIRECTORY "${folder}")
+  execute_process(COMMAND "${TOOL}" ${ARGN} OUTPUT_FILE "${FOLDER}/${file}" COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+answer_to(bash-completion/completions/qelpro completion bash)
+answer_to(zsh/site-functions/_qelpro completion zsh)
+answer_to(fish/vendor_completions.d/qelpro.fish completion fish)
+answer_to(man/man1/qelpro.1 man)
+execute_process(COMMAND "${TOOL}" complete -- "" OUTPUT_VARIABLE commands COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[^\r\n]+" commands "${commands}")
+foreach(command IN LISTS commands)
+  answer_to(man/man1/qelpro-${command}.1 man ${command})
+endforeach()

@@ -1,0 +1,37 @@
+#include "picture/plot.h"
+
+#include <cstdio>
+#include <string>
+
+#include "commands.h"
+#include "output.h"
+#include "system/failure.h"
+#include "system/streams.h"
+
+namespace qelpro {
+
+namespace {
+
+// As wide as the terminal, whose last column some terminals break lines at.
+std::size_t width_of_answer() {
+  constexpr int kUsual = 80;
+  const int columns = terminal_columns(stdout);
+  return static_cast<std::size_t>(columns > 1 ? columns - 1 : kUsual);
+}
+
+}  // namespace
+
+int run_plot(const PlotArguments& arguments) {
+  const SectionedText document = load_document(arguments.file);
+  const Entries entries(document);
+  const std::string file = arguments.file == "-" ? "standard input" : arguments.file;
+  const std::vector<Chart> charts = plot_of(file, entries, arguments.profiles);
+  if (!arguments.output) {
+    answer() << characters_of(charts, width_of_answer());
+  } else {
+    write_answer(arguments.output, [&](Sink& picture) { picture << svg_of(charts, file); });
+  }
+  return kDone;
+}
+
+}  // namespace qelpro

@@ -1,0 +1,127 @@
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "system/failure.h"
+#include "system/files.h"
+#include "system/new_files.h"
+
+namespace qelpro {
+namespace {
+
+[[noreturn]] void fail(const std::string& file, int error) {
+  throw Failure(kFileError, at(file, "cannot be written: " + reason_of(error)));
+}
+
+bool write_all(int descriptor, std::string_view contents) {
+  while (!contents.empty()) {
+    const ssize_t put = ::write(descriptor, contents.data(), contents.size());
+    if (put > 0) {
+      contents.remove_prefix(static_cast<std::size_t>(put));
+    } else if (put == 0 || errno != EINTR) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string link_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
+
+}  // namespace
+
+// Files without a name: the system takes them away when the program ends, however it does.
+struct NewFiles::Held {
+  std::vector<std::pair<std::string, int>> files;
+  bool are_nameless = true;  // Not every file system has such.
+
+  void close_all() {
+    for (const auto& [file, descriptor] : files) {
+      ::close(descriptor);
+    }
+    files.clear();
+  }
+};
+
+NewFiles::NewFiles(std::string folder)
+    : folder_(std::move(folder)), held_(std::make_unique<Held>()) {}
+
+NewFiles::~NewFiles() { held_->close_all(); }
+
+std::size_t NewFiles::most_at_once(std::size_t threads) {
+  constexpr std::size_t kEnough = 256;
+  rlimit limit{};
+  const std::size_t open_files =
+      ::getrlimit(RLIMIT_NOFILE, &limit) == 0 ? static_cast<std::size_t>(limit.rlim_cur) : 0;
+  return std::clamp(open_files / 2 / std::max<std::size_t>(threads, 1), std::size_t{1}, kEnough);
+}
+
+void NewFiles::add(const std::string& name, std::string_view contents) {
+  constexpr mode_t kAsTheUserWants = 0666;
+  const std::string file = folder_ + "/" + name;
+  const int descriptor =
+      held_->are_nameless
+          ? ::open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kAsTheUserWants)
+          : -1;
+  if (descriptor < 0) {
+    if (held_->are_nameless && errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) {
+      fail(file, errno);
+    }
+    held_->are_nameless = false;
+    write_whole(file, contents);
+    return;
+  }
+  held_->files.emplace_back(file, descriptor);
+  if (::access(link_of(descriptor).c_str(), F_OK) != 0) {
+    // They cannot be given a name here.
+    ::close(descriptor);
+    held_->files.pop_back();
+    held_->are_nameless = false;
+    write_whole(file, contents);
+    return;
+  }
+  if (!write_all(descriptor, contents)) {
+    fail(file, errno);
+  }
+}
+
+void NewFiles::publish() {
+  if (held_->files.empty()) {
+    return;
+  }
+  const int folder = ::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0 || ::syncfs(folder) != 0) {
+    const int error = errno;
+    if (folder >= 0) {
+      ::close(folder);
+    }
+    fail(folder_, error);
+  }
+  int error = 0;
+  std::string failed;
+  for (const auto& [file, descriptor] : held_->files) {
+    // Does not take the place of what is there.
+    if (::linkat(AT_FDCWD, link_of(descriptor).c_str(), AT_FDCWD, file.c_str(),
+                 AT_SYMLINK_FOLLOW) != 0) {
+      error = errno;
+      failed = file;
+      break;
+    }
+  }
+  // So that the names last through a crash of the machine; where that cannot be had, the files are
+  // there nevertheless.
+  ::fsync(folder);
+  ::close(folder);
+  held_->close_all();
+  if (error != 0) {
+    if (error == EEXIST) {
+      throw Failure(kFileError, at(failed, "exists already"));
+    }
+    fail(failed, error);
+  }
+}
+
+}  // namespace qelpro
