@@ -172,12 +172,12 @@ TEST(Near, CountsChangesOfLettersAndSwapsOfNeighbours) {
 }
 
 TEST(Near, TakesTheNearestNameOfDistanceTwoOrLess) {
-  qelpro::Nearest nearest("PackTme");
-  nearest.offer("FillTime");
-  EXPECT_EQ(nearest.name(), "");
-  nearest.offer("PackTimes");
-  nearest.offer("PackTime");
-  EXPECT_EQ(nearest.name(), "PackTime");
+  qelpro::NearNames names;
+  names.add("FillTime");
+  EXPECT_EQ(names.near("PackTme"), "");
+  names.add("PackTimes");
+  names.add("PackTime");
+  EXPECT_EQ(names.near("PackTme"), "PackTime");
 }
 
 }  // namespace
