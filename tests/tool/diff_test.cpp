@@ -458,8 +458,8 @@ TEST(Diff, ColorsWhereAskedTo) {
   const std::string a = scratch.file("[Cool]\nCoolTime = 15\n[Gone]\n", "a.pro");
   const std::string b = scratch.file("[Cool]\nCoolTime = 16\nOpenTime = 5\n", "b.pro");
   EXPECT_EQ(diff({a, b, "--color=always"}).out,
-            "~ Cool.CoolTime: \x1b[31m15\x1b[m -> \x1b[32m16\x1b[m\n\x1b[31m- [Gone]\x1b[m\n"
-            "\x1b[32m+ Cool.OpenTime: 5\x1b[m\n");
+            "~ Cool.CoolTime: \x1b[1;31m15\x1b[0m -> \x1b[32m16\x1b[0m\n\x1b[1;31m- [Gone]\x1b[0m\n"
+            "\x1b[32m+ Cool.OpenTime: 5\x1b[0m\n");
   EXPECT_THAT(diff({a, b}).out, Not(HasSubstr("\x1b")));
   EXPECT_THAT(diff({a, b, "--color=never"}).out, Not(HasSubstr("\x1b")));
 }

@@ -163,13 +163,16 @@ TEST(Output, ToATerminalHasTheColorsOfTheToolAlone) {
   const std::string before = scratch.file(kFile);
   const std::string after = scratch.file("[Flow-1]\nFillTime = 1.5\nRemark = new\n", "b.pro");
   const KeptEnvironment kept("NO_COLOR");
+  const KeptEnvironment terminal("TERM");
   set_environment("NO_COLOR", std::nullopt);
+  set_environment("TERM", "xterm");
   const std::optional<std::string> colored = on_terminal({"diff", before, after});
   if (!colored) {
     GTEST_SKIP() << "no terminal could be opened: " << std::strerror(errno);
   }
-  EXPECT_EQ(*colored,
-            "~ Flow-1.Remark: \x1b[31m\\x1B[31mred\\x07 \\x9B ok\x1b[m -> \x1b[32mnew\x1b[m\r\n");
+  EXPECT_EQ(
+      *colored,
+      "~ Flow-1.Remark: \x1b[1;31m\\x1B[31mred\\x07 \\x9B ok\x1b[0m -> \x1b[32mnew\x1b[0m\r\n");
   const std::string plain = "~ Flow-1.Remark: \\x1B[31mred\\x07 \\x9B ok -> new\r\n";
   EXPECT_EQ(on_terminal({"diff", before, after, "--color=never"}), plain);
   set_environment("NO_COLOR", "1");

@@ -30,6 +30,8 @@ list.json      list FILE --json
 list.json      list FILE --json --sections
 export.json    export FILE
 export.json    export FILE --exact
+check.json     check FILE --json
+manifest.json  sweep FILE --set Cool.CoolTime=10:12:1 -o OUT --dry-run --json
 explain.json   explain --json
 explain.json   explain --json Flow-1
 explain.json   explain --json Flow-1.FR
