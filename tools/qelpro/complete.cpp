@@ -225,7 +225,7 @@ class Line {
         continue;
       }
       for (const std::string& key : names.keys(section)) {
-        const std::string address = section + "." + key;
+        const std::string address = text_of(Address{section, key});
         if (kind != Kind::assignment) {
           found.push_back(address);
         } else if (equals == std::string::npos) {

@@ -182,7 +182,7 @@ void print_head(const std::string& name, const std::string& description,
   std::ranges::transform(title, title.begin(), [](char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
   });
-  answer() << ".TH \"" << escaped(title) << "\" \"1\" \"\" \"qelpro " << version
+  answer() << ".TH \"" << escaped(title) << R"(" "1" "" "qelpro )" << version
            << "\" \"Process files\"\n.SH NAME\n"
            << escaped(name) << " \\- " << escaped(description) << "\n.SH SYNOPSIS\n";
 }
@@ -198,7 +198,7 @@ void print_tail(const Footer& footer, const std::string& status) {
   answer() << ".SH \"EXIT STATUS\"\n" << escaped(status) << "\n";
 }
 
-std::string without_dot(std::string text) {
+std::string without_dot(const std::string& text) {
   return text.ends_with('.') ? text.substr(0, text.size() - 1) : text;
 }
 
