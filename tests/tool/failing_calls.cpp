@@ -2,6 +2,7 @@
 //
 // QELPRO_TEST_FAIL    the name of a call that always fails with EIO
 // QELPRO_TEST_SIGNAL  the name of a call in front of which the program is interrupted
+// QELPRO_TEST_KILL    the same, and it is killed
 // QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
 //
 // A file whose name holds "unreadable" fails after its first 16 KiB.
@@ -31,6 +32,9 @@ bool fails(std::string_view call) {
   if (const char* signalled = std::getenv("QELPRO_TEST_SIGNAL");
       signalled != nullptr && call == signalled) {
     ::kill(::getpid(), SIGTERM);
+  }
+  if (const char* killed = std::getenv("QELPRO_TEST_KILL"); killed != nullptr && call == killed) {
+    ::kill(::getpid(), SIGKILL);
   }
   const char* name = std::getenv("QELPRO_TEST_FAIL");
   if (name == nullptr || call != name) {

@@ -77,7 +77,7 @@ TEST(SweepInTrouble, LeavesWholeFilesWhenItIsInterruptedAndResumes) {
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
     const std::size_t made = whole_files(folder);
     EXPECT_GT(made, 0U);
-    EXPECT_LT(made, 1500U);
+    EXPECT_LE(made, 1500U);
     const Outcome resumed = shell(
         "\"$0\" sweep \"$1\" --set Flow-1.FillTime=1:1500:1 -o \"$2\" --resume", {file, folder});
     EXPECT_EQ(resumed.status, 0) << resumed.err;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -44,20 +45,18 @@ class SectionProfiles {
 
   void check(Tables tables) {
     const FileEntry* const count = tables.front().count;
-    std::optional<int> promised;
-    if (count != nullptr) {
-      promised = whole_number(*tables.front().kind.count, count->value);
-    }
+    const std::optional<int> promised =
+        count != nullptr ? whole_number(*tables.front().kind.count, count->value) : std::nullopt;
+    int most = kMostPoints;
     if (promised && (*promised < 0 || *promised > kMostPoints)) {
       check_size(*count, *promised);
-      promised.reset();
-    }
-    if (promised) {
-      check_missing(tables, *count, *promised);
-      check_beyond(tables, *count, *promised);
+    } else if (promised) {
+      most = *promised;
+      check_missing(tables, *count, most);
+      check_beyond(tables, *count, most);
     }
     for (const Profile& table : tables) {
-      check_falling(table, promised.value_or(kMostPoints));
+      check_falling(table, most);
     }
   }
 
@@ -119,19 +118,20 @@ class SectionProfiles {
     if (!table.kind.is_curve() || is_over_stroke(table)) {
       return;
     }
-    std::optional<double> last;
+    constexpr double kNone = -std::numeric_limits<double>::infinity();
+    double last = kNone;
     std::string last_key;
     for (const ProfilePoint& point : table.points) {
       const TypedValue typed = table.typed_value_of(point);
       if (typed.unread || point.number > most) {
-        last.reset();
+        last = kNone;
         continue;
       }
       const double x = std::get<double>(typed.fields.front());
-      if (last && x < *last) {
+      if (x < last) {
         file_.findings.add(rule("P304"), value_of(*point.entry),
                            "\"" + point.entry->key + "\" falls back to " + shortest(x) +
-                               ", behind the " + shortest(*last) + " of \"" + last_key + "\"");
+                               ", behind the " + shortest(last) + " of \"" + last_key + "\"");
       }
       last = x;
       last_key = point.entry->key;
