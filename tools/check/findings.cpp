@@ -1,6 +1,7 @@
 #include "check/findings.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -41,15 +42,18 @@ void Findings::in_order(const std::string& file, const std::function<void(Findin
     std::size_t column;
     const Rule* rule;
     std::size_t index;
-    auto operator<=>(const Sorted&) const = default;
+    bool operator<(const Sorted& other) const {
+      return std::tie(line, column, rule, index) <
+             std::tie(other.line, other.column, other.rule, other.index);
+    }
   };
   std::vector<Sorted> sorted;
   sorted.reserve(found_.size());
   for (const Found& found : found_) {
     sorted.push_back({found.place.line, found.place.column, found.rule, sorted.size()});
   }
-  if (!std::ranges::is_sorted(sorted)) {
-    std::ranges::sort(sorted);
+  if (!std::is_sorted(sorted.begin(), sorted.end())) {
+    std::sort(sorted.begin(), sorted.end());
   }
   for (const Sorted& each : sorted) {
     Found& found = found_[each.index];

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "check/checked.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -41,7 +42,7 @@ void check_value(const Checked& file, std::string_view section, const qel::Secti
   const bool has_words = line.text.find_first_not_of(" \t", entry.key.size()) < line.text.size();
   if (!has_equals && (reading.fault || has_words)) {
     file.findings.add(rule_of(Fault::not_read), at_value(line, section, entry.key),
-                      "\"" + entry.key + "\" has no value: no \"=\" stands in its line",
+                      in_quotes(entry.key) + R"( has no value: no "=" stands in its line)",
                       R"(put a "=" behind the key)");
   } else if (reading.fault) {
     file.findings.add(rule_of(reading.fault->fault), at_value(line, section, entry.key),

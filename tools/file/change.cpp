@@ -219,8 +219,8 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
       end <=
       (document.contents().starts_with(text::kByteOrderMark) ? text::kByteOrderMark.size() : 0);
   for (const auto& [header, lines] : new_sections) {
-    splices.insert(end,
-                   (is_first ? "" : splices.line_break()) + header + splices.line_break() + lines);
+    std::string section = is_first ? "" : splices.line_break();
+    splices.insert(end, section.append(header).append(splices.line_break()).append(lines));
     is_first = false;
   }
   return splices.apply();

@@ -38,8 +38,8 @@ class Entries {
   /// The first section of that name, with or without brackets. The name of the section whose lines
   /// have a position may be its first word.
   [[nodiscard]] const TextSection* find_section(std::string_view name) const;
-  /// Null where there is none.
-  [[nodiscard]] const FileEntry* find(std::string_view section, std::string_view key) const;
+  /// The entry of a section of that name; null where there is none.
+  [[nodiscard]] const FileEntry* find(std::string_view name, std::string_view key) const;
   [[nodiscard]] const FileEntry* find(const Address& address) const {
     return find(address.section, address.key);
   }

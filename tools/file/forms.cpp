@@ -149,7 +149,7 @@ std::string contents_of(const std::string& name, const Json& form) {
     std::vector<Change> changes;
     add_changes(name, section, keys, changes);
     const std::string header = with_brackets(section);
-    contents += (contents.empty() ? "" : line_break) + header + line_break;
+    contents.append(contents.empty() ? "" : line_break).append(header).append(line_break);
     for (const Change& change : changes) {
       contents +=
           (qel::is_positional(header) ? change.value

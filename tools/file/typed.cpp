@@ -234,7 +234,7 @@ std::string text_of(const qel::KeyInfo& key, int number, std::span<const GivenFi
     return given.digits.empty() ? text_of(given.value) : given.digits;
   }
   std::vector<qel::Field> wanted;
-  const std::string text = composed(kinds, fields, wanted);
+  std::string text = composed(kinds, fields, wanted);
   const std::vector<qel::Field> read = key.encoding->fields(text.c_str(), number);
   for (std::size_t index = 0; index < wanted.size(); ++index) {
     if (index >= read.size() || !is_same(read[index], wanted[index])) {

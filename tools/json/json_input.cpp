@@ -48,7 +48,7 @@ std::string with_marks(std::string_view text) {
     const std::optional<unsigned int> unit = unit_of_escape(text);
     const std::optional<unsigned int> next =
         is_high(unit) ? unit_of_escape(text.substr(kEscape)) : std::nullopt;
-    std::size_t taken = std::min<std::size_t>(text.size(), 1);
+    std::size_t taken = std::min<std::size_t>(text.size(), text.starts_with("\\") ? 2 : 1);
     if (text.starts_with(kMark)) {
       marked += kMarkItself;
       taken = kMark.size();
@@ -63,7 +63,6 @@ std::string with_marks(std::string_view text) {
       marked += {kDigits[(*unit & 0xF0U) >> 4U], kDigits[*unit & 0xFU]};
       taken = kEscape;
     } else {
-      taken = std::min<std::size_t>(text.size(), text.starts_with("\\") ? 2 : 1);
       marked += text.substr(0, taken);
     }
     text.remove_prefix(taken);
@@ -122,8 +121,8 @@ class Builder : public nlohmann::json_sax<Json> {
   }
   bool parse_error(std::size_t position, const std::string& /*token*/,
                    const nlohmann::detail::exception& error) override {
-    const auto end = text_.begin() + static_cast<std::ptrdiff_t>(std::min(position, text_.size()));
-    const auto line = static_cast<std::size_t>(std::count(text_.begin(), end, '\n')) + 1;
+    const std::string_view before = text_.substr(0, position);
+    const auto line = static_cast<std::size_t>(std::ranges::count(before, '\n')) + 1;
     const std::string what = error.what();
     const std::size_t words = what.find("column");
     throw Failure(kFileError, at(Where{file_, line, "", ""},

@@ -126,7 +126,9 @@ int run_command_line(int count, char** arguments) {
   CLI::App app("Reads and writes process files of injection-molding simulation.", "qelpro");
   app.allow_windows_style_options(false);  // a path may begin with a slash on every platform
   app.set_version_flag("--version", tool_version());
-  app.footer("Exit status: 0 done; 1 the answer is no: not found, different, findings; 2 usage; 3 file error.");
+  app.footer(
+      "Exit status: 0 done; 1 the answer is no: not found, different, findings; 2 usage; 3 file "
+      "error.");
   app.require_subcommand(1);
 
   int status = kDone;
