@@ -83,7 +83,7 @@ class Printer {
     answer() << ' ' << in_one_line(finding.message) << " [" << finding.code << "]\n";
   }
 
-  static std::string in_one_line(std::string text) {
+  static std::string in_one_line(const std::string& text) {
     return text.find_first_of("\r\n") == std::string::npos ? text
                                                            : visible(text, Controls::line_breaks);
   }

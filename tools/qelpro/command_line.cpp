@@ -99,7 +99,7 @@ void take_words_as_given(CLI::App& app) {
   for (CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
     for (CLI::Option* option : command->get_options()) {
       if (option->get_items_expected_max() > 0) {
-        option->transform([](std::string word) {
+        option->transform([](const std::string& word) {
           return word.ends_with(kNoList) ? word.substr(0, word.size() - 1) : word;
         });
       }

@@ -1,3 +1,6 @@
+#include <utility>
+#include <vector>
+
 #include "change_command.h"
 #include "commands.h"
 #include "file/forms.h"
@@ -20,12 +23,12 @@ int run_import(const ImportArguments& arguments) {
     write_answer(arguments.out, [&contents](Sink& sink) { sink << contents; });
     return kDone;
   }
-  const std::vector<Change> changes = changes_of_form(name, form);
+  std::vector<Change> changes = changes_of_form(name, form);
   for (const Change& change : changes) {
     check_change(*arguments.onto, change, arguments.force);
   }
   make_changes(*arguments.onto, arguments.dry_run,
-               [&changes](const SectionedText&) { return changes; });
+               [&changes](const SectionedText&) { return std::move(changes); });
   return kDone;
 }
 
