@@ -98,9 +98,9 @@ void add_largest(Difference& difference, const LargestDifference& largest) {
 }
 
 // Keeps what two profiles of one kind say, unless they are no curves that can be compared.
-class Comparison {
+class ProfileComparison {
  public:
-  Comparison(const Tolerances& tolerances, ComparedProfiles& result)
+  ProfileComparison(const Tolerances& tolerances, ComparedProfiles& result)
       : tolerances_(tolerances), result_(result) {}
 
   void compare(const Profile* before, const Profile* after) {
@@ -166,7 +166,7 @@ ComparedProfiles compare_profiles(const SectionPair& sections, const Tolerances&
   }
   const std::vector<Profile> before = profiles_of(sections.before, sections.section_before);
   const std::vector<Profile> after = profiles_of(sections.after, sections.section_after);
-  Comparison comparison(tolerances, result);
+  ProfileComparison comparison(tolerances, result);
   for (const Profile& profile : before) {
     if (profile.kind.is_curve()) {
       comparison.compare(&profile, find(after, profile.kind));

@@ -44,8 +44,6 @@ std::size_t taken_by(std::string_view pattern, std::size_t at, char character) {
   return pattern[at] == character ? 1 : 0;
 }
 
-[[noreturn]] void refuse(const std::string& what) { throw Failure(kUsage, what); }
-
 // What an address may mean: a name may hold dots, so that every dot may be the one between them.
 std::vector<Address> readings_of(const std::string& word) {
   std::vector<Address> readings;
@@ -55,8 +53,8 @@ std::vector<Address> readings_of(const std::string& word) {
     }
   }
   if (readings.empty()) {
-    refuse("\"" + word + "\": an address is SECTION.KEY, and this one has no " +
-           (word.front() == '.' ? "section" : "key"));
+    refuse_usage("\"" + word + "\": an address is SECTION.KEY, and this one has no " +
+                 (word.front() == '.' ? "section" : "key"));
   }
   return readings;
 }
@@ -90,7 +88,7 @@ int position_of(std::string_view key) {
 Request request_of(const std::string& section, const std::string& key) {
   const std::string name(without_brackets(section_name(section)));
   if (key.empty()) {
-    refuse("[" + name + "]: the key is empty");
+    refuse_usage("[" + name + "]: the key is empty");
   }
   return {name + "." + key, {{name, key}}, true, false};
 }
@@ -106,8 +104,8 @@ std::vector<Request> requests_of(const std::vector<std::string>& words) {
       continue;
     }
     if (at + 1 == words.size()) {
-      refuse("\"" + word +
-             "\": KEY is missing; give SECTION.KEY, or the section and the key in two words");
+      refuse_usage("\"" + word +
+                   "\": KEY is missing; give SECTION.KEY, or the section and the key in two words");
     }
     ++at;
     requests.push_back(request_of(word, words[at]));

@@ -12,8 +12,6 @@
 namespace qelpro {
 namespace {
 
-[[noreturn]] void refuse(const std::string& what) { throw Failure(kUsage, what); }
-
 bool is_number(const Json& value) { return value.is_number() || is_number_text(value); }
 
 double real_of(const std::string& digits) {
@@ -28,7 +26,7 @@ GivenField field_of(const Json& value) {
     return {value.get<std::string>(), ""};
   }
   if (!is_number(value)) {
-    refuse("a field is a number or a text");
+    refuse_usage("a field is a number or a text");
   }
   if (value.is_number_integer()) {
     const bool fits = value.is_number_unsigned()
@@ -50,14 +48,15 @@ std::string text_of_json(const qel::SectionInfo* section, std::string_view key, 
     return value.get<std::string>();
   }
   if (!is_number(value) && !value.is_array()) {
-    refuse("a value is a number, a text or a list of them");
+    refuse_usage("a value is a number, a text or a list of them");
   }
   int number = 0;
   const qel::KeyInfo* const known =
       section != nullptr ? qel::find_key(*section, std::string(key).c_str(), number) : nullptr;
   if (known == nullptr) {
     if (value.is_array()) {
-      refuse("the catalogue does not know how the fields of this key are written: give a text");
+      refuse_usage(
+          "the catalogue does not know how the fields of this key are written: give a text");
     }
     return number_text(value);
   }

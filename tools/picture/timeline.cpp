@@ -11,25 +11,25 @@ namespace qelpro {
 
 namespace {
 
-constexpr double kTop = 8;
+constexpr double kAbove = 8;
 constexpr double kLane = 16;
 constexpr double kRowGap = 8;
-constexpr double kBottom = 46;
-constexpr double kMargin = 16;
+constexpr double kBelow = 46;
+constexpr double kAround = 16;
 constexpr double kMostForNames = 150;
 
 std::optional<double> finite(const std::optional<double>& value) {
   return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
-class Drawing {
+class TimelineDrawing {
  public:
-  Drawing(const Timeline& timeline, double width)
+  TimelineDrawing(const Timeline& timeline, double width)
       : timeline_(timeline),
         lanes_(std::max<std::size_t>(timeline.series.size(), 1)),
         legend_(timeline.series.size() > 1 ? timeline.series : std::vector<std::string>{},
                 Swatch::bar, width - 8),
-        right_(width - kMargin) {
+        right_(width - kAround) {
     Range range;
     range.add(0);
     double names = 0;
@@ -61,34 +61,34 @@ class Drawing {
       }
     }
     left_ = std::max(left_, room_for(axis_.ticks.front().label) / 2 + 2);
-    right_ = width - std::max(kMargin, room_for(axis_.ticks.back().label) / 2 + 2);
+    right_ = width - std::max(kAround, room_for(axis_.ticks.back().label) / 2 + 2);
     bottom_ =
-        kTop + row_height() * static_cast<double>(std::max<std::size_t>(timeline.rows.size(), 1));
+        kAbove + row_height() * static_cast<double>(std::max<std::size_t>(timeline.rows.size(), 1));
   }
 
   [[nodiscard]] double height() const {
-    return bottom_ + kBottom + (legend_.height() > 0 ? legend_.height() + 4 : 0);
+    return bottom_ + kBelow + (legend_.height() > 0 ? legend_.height() + 4 : 0);
   }
 
   void write(Markup& markup) const {
     std::string grid;
     for (const Tick& tick : axis_.ticks) {
       const double x = x_at(tick.value);
-      grid += "M" + coordinate(x) + " " + coordinate(bottom_) + "V" + coordinate(kTop);
+      grid += "M" + coordinate(x) + " " + coordinate(bottom_) + "V" + coordinate(kAbove);
       write_label(markup, "label soft", x, bottom_ + 20, Anchor::middle, tick.label);
     }
     markup.empty("path", {{"class", "grid"}, {"d", grid}});
-    double top = kTop;
+    double top = kAbove;
     for (const TimelineRow& row : timeline_.rows) {
       write_row(markup, row, top);
       top += row_height();
     }
     markup.empty("path", {{"class", "axis"},
-                          {"d", "M" + coordinate(left_) + " " + coordinate(kTop) + "V" +
+                          {"d", "M" + coordinate(left_) + " " + coordinate(kAbove) + "V" +
                                     coordinate(bottom_) + "H" + coordinate(right_)}});
     write_label(markup, "label", right_, bottom_ + 38, Anchor::end,
                 shortened(with_unit(timeline_.x, timeline_.x_unit), right_ - 2));
-    legend_.write(markup, 4, bottom_ + kBottom);
+    legend_.write(markup, 4, bottom_ + kBelow);
   }
 
  private:
@@ -156,7 +156,7 @@ std::string description_of(const Timeline& timeline) {
 }
 
 void write_timeline(Markup& markup, const Timeline& timeline, const std::string& id, double width) {
-  const Drawing drawing(timeline, width);
+  const TimelineDrawing drawing(timeline, width);
   markup.open("svg",
               {{"xmlns", "http://www.w3.org/2000/svg"},
                {"class", "picture"},

@@ -8,6 +8,8 @@
 
 namespace qelpro {
 
+void refuse_usage(const std::string& what) { throw Failure(kUsage, what); }
+
 std::string at(const Where& where, std::string_view what) {
   std::string text = where.file;
   if (where.line != 0) {

@@ -21,6 +21,9 @@ class Failure : public std::runtime_error {
   Status status_;
 };
 
+/// Throws a `Failure` of usage.
+[[noreturn]] void refuse_usage(const std::string& what);
+
 /// Where something is, for a message. What is empty, or line 0, is left out.
 struct Where {
   std::string file;

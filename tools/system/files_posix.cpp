@@ -10,10 +10,10 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <vector>
 
 #include "system/beside.h"
+#include "system/calls_posix.h"
 #include "system/failure.h"
 #include "system/files.h"
 
@@ -22,15 +22,6 @@ namespace {
 
 [[noreturn]] void fail(const std::string& file, const std::string& what, int error = errno) {
   throw Failure(kFileError, at(file, what + reason_of(error)));
-}
-
-// A call that a signal interrupted is made again.
-long retried(const std::function<long()>& call) {
-  long result = -1;
-  do {
-    result = call();
-  } while (result < 0 && errno == EINTR);
-  return result;
 }
 
 class Descriptor {
@@ -102,17 +93,6 @@ std::string read_all(int descriptor, const std::string& file) {
     }
     length += static_cast<std::size_t>(got);
   }
-}
-
-bool write_all(int descriptor, std::string_view contents) {
-  while (!contents.empty()) {
-    const long put = retried([&] { return ::write(descriptor, contents.data(), contents.size()); });
-    if (put <= 0) {
-      return false;
-    }
-    contents.remove_prefix(static_cast<std::size_t>(put));
-  }
-  return true;
 }
 
 // Access lists and the like; what the file system or the user's rights do not allow is left.

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "system/calls_posix.h"
 #include "system/failure.h"
 #include "system/files.h"
 #include "system/new_files.h"
@@ -15,18 +16,6 @@ namespace {
 
 [[noreturn]] void fail(const std::string& file, int error) {
   throw Failure(kFileError, at(file, "cannot be written: " + reason_of(error)));
-}
-
-bool write_all(int descriptor, std::string_view contents) {
-  while (!contents.empty()) {
-    const ssize_t put = ::write(descriptor, contents.data(), contents.size());
-    if (put > 0) {
-      contents.remove_prefix(static_cast<std::size_t>(put));
-    } else if (put == 0 || errno != EINTR) {
-      return false;
-    }
-  }
-  return true;
 }
 
 std::string link_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
