@@ -129,6 +129,30 @@ TEST(Import, OntoAFileSetsItsEntriesAndLeavesTheRest) {
   EXPECT_THAT(bytes_of(file), HasSubstr("FillTime=fast\n"));
 }
 
+TEST(Import, TakesEverythingThatExportPrints) {
+  const Scratch scratch;
+  const std::string file =
+      scratch.file("[Flow-1]\nFillTime = nan\nFR-1 = nan inf\nFR-2 = 1 x\n[SURFACE x]\na\n\nb\n");
+  const std::string form = scratch.path("form.json");
+  ASSERT_EQ(qelpro_tool({"export", file, "-o", form}).status, 0);
+  const std::string copy = scratch.path("copy.pro");
+  EXPECT_EQ(qelpro_tool({"import", form, "-o", copy}).err, "");
+  EXPECT_EQ(qelpro_tool({"export", copy}).out, bytes_of(form));
+}
+
+TEST(Import, RefusesLinesThatTheEngineWouldReadAsTwo) {
+  EXPECT_THROW(contents_of("f", {{"A", {{"b", std::string(4072, 'x') + "c=1"}}}}), Failure);
+  EXPECT_NE(contents_of("f", {{"A", {{"b", std::string(5000, 'x')}}}}), "");
+}
+
+TEST(Import, TellsANumberThatIsTooLarge) {
+  const Scratch scratch;
+  const std::string form = scratch.file("{\"Flow-1\":\n{\"FillTime\": 1e400}}", "form.json");
+  const Outcome outcome = qelpro_tool({"import", form, "-o", scratch.path("x.pro")});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("form.json:2: a number is too large"));
+}
+
 TEST(Import, WantsOneFileToWriteTo) {
   const Scratch scratch;
   const std::string form = scratch.path("form.json");
@@ -136,6 +160,12 @@ TEST(Import, WantsOneFileToWriteTo) {
   EXPECT_EQ(qelpro_tool({"import", form}).status, 2);
   EXPECT_EQ(qelpro_tool({"import", form, "-o", "a", "--onto", "b"}).status, 2);
   EXPECT_EQ(qelpro_tool({"import", form, "-o", "-"}).out, "");
+  for (const char* option : {"--dry-run", "--force"}) {
+    EXPECT_EQ(qelpro_tool({"import", form, "-o", scratch.path("x.pro"), option}).status, 2);
+    EXPECT_FALSE(std::filesystem::exists(scratch.path("x.pro"))) << option;
+  }
+  put_bytes(form, "{\"exact\": []}");
+  EXPECT_EQ(qelpro_tool({"import", form, "--onto", scratch.file("[A]\n")}).status, 2);
 }
 
 TEST(Json, KeepsBytesThatAreNoUtf8) {

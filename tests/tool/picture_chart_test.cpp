@@ -18,7 +18,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-Chart chart(std::vector<Curve> curves) {
+Chart chart(std::vector<NamedCurve> curves) {
   return {"flow rate profile", "how far", "", "flow rate", "cc/sec", std::move(curves)};
 }
 
@@ -81,7 +81,7 @@ TEST(Chart, OfEqualXIsAStep) {
 }
 
 TEST(Chart, OfManyPointsHasNoMarkers) {
-  Curve curve{"FR", {}};
+  NamedCurve curve{"FR", {}};
   for (int at = 0; at < 5000; ++at) {
     curve.points.push_back({static_cast<double>(at), std::sin(at)});
   }

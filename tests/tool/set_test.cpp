@@ -100,8 +100,18 @@ TEST_F(ChangeOfAFile, SetsLinesThatHaveAPosition) {
   const std::string section = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]\n";
   EXPECT_EQ(after(section + "1 Wall 0\n1 = 2 3\n\n[B]\n", {"set", "SURFACE.#2=1 = 4 5"}),
             section + "1 Wall 0\n1 = 4 5\n\n[B]\n");
-  EXPECT_EQ(after(section + "1 Wall 0\n\n[B]\n", {"set", "SURFACE.#9=1 = 4 5"}),
-            section + "1 Wall 0\n1 = 4 5\n\n[B]\n");
+  EXPECT_EQ(after(section + "1 Wall 0\n\n[B]\n", {"set", "SURFACE.#2=1 = 4 5"}),
+            section + "1 Wall 0\n1 = 4 5\n[B]\n");
+  EXPECT_EQ(after(section + "1 Wall 0\n\n[B]\n", {"set", "SURFACE.#3=1 = 4 5"}),
+            section + "1 Wall 0\n\n1 = 4 5\n[B]\n")
+      << "an empty line has a position, too";
+  EXPECT_EQ(after(section + "1 Wall 0\n", {"set", "SURFACE.#2=1 = 4 5", "SURFACE.#3=1 = 6 7"}),
+            section + "1 Wall 0\n1 = 4 5\n1 = 6 7\n");
+  EXPECT_EQ(after(section + "1 Wall 0\n[B]\n", {"set", "SURFACE.#9=1 = 4 5"}, 2),
+            section + "1 Wall 0\n[B]\n");
+  EXPECT_THAT(last_.err, HasSubstr("the section's next line is #2"));
+  EXPECT_EQ(after("[A]\n", {"set", "SURFACE.#2=1 Wall 0"}, 2), "[A]\n");
+  EXPECT_EQ(after(section + "1 Wall 0\n", {"set", "SURFACE.#1="}, 2), section + "1 Wall 0\n");
   EXPECT_EQ(after("[A]\n", {"set", "SURFACE.#1=1 Wall 0", "SURFACE.#2=1 = 2 3"}),
             "[A]\n\n" + section + "1 Wall 0\n1 = 2 3\n");
   EXPECT_EQ(after(section, {"set", "SURFACE.#1=[B]"}, 2), section);
@@ -128,8 +138,20 @@ TEST_F(ChangeOfAFile, RemovesSectionsWithTheirHeaders) {
 
 TEST_F(ChangeOfAFile, TellsWhatItDidNotFindAndRemovesTheRest) {
   EXPECT_EQ(after("[A]\nx = 1\ny = 2\n", {"unset", "A.x", "A.gone", "G.*"}, 1), "[A]\ny = 2\n");
-  EXPECT_THAT(last_.err, HasSubstr("A.gone: not found"));
-  EXPECT_THAT(last_.err, HasSubstr("G.*: not found"));
+  EXPECT_THAT(last_.err, HasSubstr("\"A.gone\": not found"));
+  EXPECT_THAT(last_.err, HasSubstr("\"G.*\": not found"));
+}
+
+TEST_F(ChangeOfAFile, TakesWordsThatBeginWithADashBehindTwo) {
+  EXPECT_EQ(after("[A]\nx = 1\n", {"set", "A", "x", "-5"}), "[A]\nx = -5\n");
+  EXPECT_EQ(after("[A]\nx = 1\n", {"set", "A", "x", "--", "-5"}), "[A]\nx = -5\n");
+  EXPECT_EQ(after("[A]\nx = 1\n", {"set", "--", "A", "x", "--force"}), "[A]\nx = --force\n");
+  EXPECT_EQ(after("[A]\nx = 1\n", {"set", "A", "x", "--farce"}, 2), "[A]\nx = 1\n");
+}
+
+TEST_F(ChangeOfAFile, RemovesOfALineThatGoesOnWhatIsReadByItself) {
+  const std::string front = "b = " + std::string(4091, 'v');
+  EXPECT_EQ(after("[A]\n" + front + "c = 3\nd = 4\n", {"unset", "A.b"}), "[A]\nc = 3\nd = 4\n");
 }
 
 TEST_F(ChangeOfAFile, DryRunWritesNothing) {

@@ -6,8 +6,9 @@
 #include "blocks/catalogue.h"
 #include "check/checked.h"
 #include "check/known_keys.h"
+#include "check/older_object.h"
 #include "file/near.h"
-#include "proio/dialect.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -53,7 +54,8 @@ class UnknownKeys {
   }
 
   void check(const TextSection& section, const qel::SectionInfo& known, const FileEntry& entry) {
-    if (file_.key_of(entry) != nullptr) {
+    if (const qel::KeyInfo* const key = file_.key_of(entry)) {
+      check_point_number(section, known, entry, *key);
       return;
     }
     const TextLine line = file_.document.line(entry.line);
@@ -81,18 +83,25 @@ class UnknownKeys {
   }
 
  private:
-  // The older object stores a new key behind the file's last line, whatever its section is, and
-  // finds it there from its section's header on.
+  void check_point_number(const TextSection& section, const qel::SectionInfo& known,
+                          const FileEntry& entry, const qel::KeyInfo& key) const {
+    int number = 0;
+    if (key.details.counted_by != nullptr &&
+        qel::find_key(known, entry.key.c_str(), number) != nullptr && number < 1) {
+      file_.findings.add(rule("P102"),
+                         at_line(file_.document.line(entry.line), section.name, entry.key),
+                         in_quotes(entry.key) + " is never read: points are numbered from 1",
+                         with_number(key.text, 1));
+    }
+  }
+
   [[nodiscard]] bool is_of_older_object(const TextLine& line, const std::string& key,
                                         const std::vector<KnownKeys::Owner>& owners) const {
-    return line.text.starts_with(qel::text::padded_entry(key, "", qel::proio::kDialect)) &&
+    return is_in_layout_of_older_object(line, key) &&
            std::ranges::any_of(owners, [&](const KnownKeys::Owner& owner) {
              const auto first = first_of_.find(owner.section);
              return first != first_of_.end() &&
-                    file_.document.line(first->second).begin < line.begin &&
-                    std::ranges::any_of(owner.key->details.older, [](const char* member) {
-                      return member != nullptr && std::string_view(member).starts_with("Set");
-                    });
+                    file_.document.line(first->second).begin < line.begin && has_setter(*owner.key);
            });
   }
 

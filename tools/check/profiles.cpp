@@ -6,9 +6,11 @@
 #include <variant>
 #include <vector>
 
+#include "blocks/catalogue.h"
 #include "blocks/destination.h"
 #include "check/checked.h"
 #include "check/numbers.h"
+#include "check/older_object.h"
 #include "check/values.h"
 #include "file/near.h"
 #include "file/profile.h"
@@ -40,8 +42,12 @@ std::string things(int count, const std::string& one) {
 
 class SectionProfiles {
  public:
-  SectionProfiles(const Checked& file, const TextSection& section)
-      : file_(file), section_(section.name) {}
+  SectionProfiles(const Checked& file, const TextSection& section,
+                  const std::vector<const FileEntry*>& astray)
+      : file_(file),
+        section_(section.name),
+        known_(*file.entries.known_section(section)),
+        astray_(astray) {}
 
   void check(Tables tables) {
     const FileEntry* const count = tables.front().count;
@@ -78,7 +84,9 @@ class SectionProfiles {
     if (std::holds_alternative<qel::InletCount>(tables.front().kind.count->details.loader)) {
       return;
     }
-    const std::vector<Run> missing = missing_of(numbers_of(tables), promised);
+    std::vector<int> numbers = numbers_of(tables);
+    add_astray(tables.front(), numbers);
+    const std::vector<Run> missing = missing_of(numbers, promised);
     if (missing.empty()) {
       return;
     }
@@ -89,6 +97,19 @@ class SectionProfiles {
             std::to_string(count_of(missing)) + (count_of(missing) == 1 ? " is" : " are") +
             " missing: " +
             listed(missing, [pattern](int number) { return with_number(pattern, number); }));
+  }
+
+  // The older object puts a new point behind the file's last line, whatever section that is of, and
+  // finds it there.
+  void add_astray(const Profile& table, std::vector<int>& numbers) const {
+    for (const FileEntry* entry : astray_) {
+      int number = 0;
+      if (qel::find_key(known_, entry->key.c_str(), number) == table.kind.point &&
+          has_setter(*table.kind.point)) {
+        numbers.push_back(number);
+      }
+    }
+    std::ranges::sort(numbers);
   }
 
   void check_beyond(Tables tables, const FileEntry& count, int promised) {
@@ -140,6 +161,8 @@ class SectionProfiles {
 
   const Checked& file_;
   std::string_view section_;
+  const qel::SectionInfo& known_;
+  const std::vector<const FileEntry*>& astray_;
 };
 
 bool may_have_profiles(const Checked& file, const TextSection& section) {
@@ -152,12 +175,19 @@ bool may_have_profiles(const Checked& file, const TextSection& section) {
 }  // namespace
 
 void check_profiles(const Checked& file) {
+  std::vector<const FileEntry*> astray;
+  for (const FileEntry& entry : file.entries.all()) {
+    if (file.key_of(entry) == nullptr &&
+        is_in_layout_of_older_object(file.document.line(entry.line), entry.key)) {
+      astray.push_back(&entry);
+    }
+  }
   for (const TextSection& section : file.document.sections()) {
     if (!may_have_profiles(file, section)) {
       continue;
     }
     const std::vector<Profile> profiles = profiles_of(file.entries, section);
-    SectionProfiles checked(file, section);
+    SectionProfiles checked(file, section, astray);
     for (std::size_t begin = 0; begin < profiles.size();) {
       std::size_t end = begin + 1;
       while (end < profiles.size() && profiles[end].kind.count == profiles[begin].kind.count) {

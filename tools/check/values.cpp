@@ -1,5 +1,8 @@
 #include "check/values.h"
 
+#include <algorithm>
+#include <cmath>
+#include <string>
 #include <variant>
 
 #include "check/checked.h"
@@ -25,6 +28,16 @@ std::optional<ValueFault> fault_of_size(const qel::SectionInfo& section, const R
   return std::nullopt;
 }
 
+// Whether the engine reads a real that is not finite, whatever stands behind it.
+bool reads_infinity(const Reading& reading, std::string_view text) {
+  return std::ranges::any_of(
+      reading.key->encoding->fields(std::string(text).c_str(), reading.number),
+      [](const qel::Field& field) {
+        const double* const real = std::get_if<double>(&field);
+        return real != nullptr && !std::isfinite(*real);
+      });
+}
+
 void check_value(const Checked& file, std::string_view section, const qel::SectionInfo& known,
                  const FileEntry& entry) {
   if (file.key_of(entry) == nullptr) {
@@ -34,6 +47,9 @@ void check_value(const Checked& file, std::string_view section, const qel::Secti
   Reading reading = reading_of(&known, entry.key, entry.value);
   if (!reading.fault) {
     reading.fault = fault_of_size(known, reading, entry.value);
+  }
+  if (reading.fault && reads_infinity(reading, entry.value)) {
+    reading.fault->fault = Fault::not_finite;
   }
   if (line.goes_on || line.whole.size() != line.text.size()) {
     return;  // less is read than stands there

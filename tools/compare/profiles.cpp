@@ -55,6 +55,14 @@ std::optional<Whole> whole(const Profile& profile) {
   return result;
 }
 
+// A curve whose x falls is the same curve, listed from its other end.
+Curve rising(Curve curve) {
+  if (!curve.empty() && curve.back()[0] < curve.front()[0]) {
+    std::ranges::reverse(curve);
+  }
+  return curve;
+}
+
 const FileEntry* first_of(const Whole& profile) {
   return *std::ranges::min_element(profile.entries, {}, &FileEntry::line);
 }
@@ -123,13 +131,15 @@ class ProfileComparison {
       take(&before, &after);
       return;
     }
-    if (!are_comparable(before.curve, after.curve)) {
+    const Curve old_curve = rising(before.curve);
+    const Curve new_curve = rising(after.curve);
+    if (!are_comparable(old_curve, new_curve)) {
       return;
     }
     take(&before, &after);
     Difference difference = difference_of(profile, &before, &after);
     if (!before.curve.empty() && !after.curve.empty()) {
-      const auto largest = largest_difference(before.curve, after.curve, tolerances_);
+      const auto largest = largest_difference(old_curve, new_curve, tolerances_);
       if (!largest) {
         return;
       }

@@ -4,6 +4,7 @@
 
 #include "file/names.h"
 #include "system/failure.h"
+#include "system/visible.h"
 
 namespace qelpro {
 namespace {
@@ -102,6 +103,11 @@ std::vector<Request> requests_of(const std::vector<std::string>& words) {
       requests.push_back({word, has_dot ? readings_of(word) : std::vector<Address>(), false,
                           has_pattern_characters(word)});
       continue;
+    }
+    if (word.starts_with('[') && word.find("].") != std::string::npos) {
+      refuse_usage(in_quotes(word) +
+                   ": a word that begins with \"[\" is the section of a pair; "
+                   "leave the brackets out, or give section and key in two words");
     }
     if (at + 1 == words.size()) {
       refuse_usage("\"" + word +

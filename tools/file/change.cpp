@@ -6,6 +6,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "blocks/catalogue.h"
@@ -104,6 +105,13 @@ std::string with_value(const TextLine& line, const std::string& key, const std::
   return changed.append(value).append(line.text.substr(begin + old.size()));
 }
 
+// A new line that has a position is the next one: it would not stand where another number says.
+void check_next(std::size_t next, const std::string& key) {
+  if (static_cast<std::size_t>(position_of(key)) != next) {
+    refuse_usage(key + ": the section's next line is #" + std::to_string(next));
+  }
+}
+
 /// The lines of one section that lookups take, and what is to become of them.
 class SectionChange {
  public:
@@ -130,6 +138,10 @@ class SectionChange {
               (line.goes_on ? splices.line_break() : ""));
       return;
     }
+    if (is_positional()) {
+      check_next(section_.after - section_.header + appended_, key);
+      ++appended_;
+    }
     splices.insert(
         place_of_new_lines(),
         (is_positional() ? value : new_entry(key, value, last_entry())) + splices.line_break());
@@ -141,19 +153,19 @@ class SectionChange {
   [[nodiscard]] std::optional<std::size_t> line_of(const std::string& key) const {
     if (is_positional()) {
       const std::size_t line = section_.header + static_cast<std::size_t>(position_of(key));
-      return line > last_line() ? std::nullopt : std::optional(line);
+      return line >= section_.after ? std::nullopt : std::optional(line);
     }
     const auto found = taken_.find(key);
     return found != taken_.end() ? std::optional(found->second) : std::nullopt;
   }
 
-  // The last line that says something; of keys one that is no comment, which may belong to what
-  // comes next. The header where there is none.
+  // The last line that says something, and is no comment, which may belong to what comes next; of
+  // lines that have a position the last one. The header where there is none.
   [[nodiscard]] std::size_t last_line() const {
     std::size_t last = section_.after - 1;
-    for (; last > section_.header; --last) {
+    for (; last > section_.header && !is_positional(); --last) {
       const LineKind kind = qel::kind_of(document_.line(last));
-      if (kind != LineKind::blank && (is_positional() || kind != LineKind::comment)) {
+      if (kind != LineKind::blank && kind != LineKind::comment) {
         break;
       }
     }
@@ -173,6 +185,7 @@ class SectionChange {
   const SectionedText& document_;
   const TextSection& section_;
   std::map<std::string_view, std::size_t> taken_;
+  std::size_t appended_ = 0;  // lines that have a position
 };
 
 // The header of a section that is to be made.
@@ -189,6 +202,7 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
   std::map<const TextSection*, SectionChange> old_sections;
   std::vector<std::pair<std::string, std::string>> new_sections;  // header, lines
   std::map<std::string, std::size_t> place_of_new;
+  std::size_t new_lines = 0;  // that have a position
   // Of several values of one address the last one counts.
   std::map<std::pair<std::string, std::string>, const Change*> last;
   for (const Change& change : changes) {
@@ -209,6 +223,9 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
     if (is_new) {
       new_sections.emplace_back(header, "");
     }
+    if (qel::is_positional(header)) {
+      check_next(++new_lines, address.key);
+    }
     new_sections[known->second].second +=
         (qel::is_positional(header) ? change.value
                                     : text::padded_entry(address.key, change.value)) +
@@ -226,40 +243,43 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
   return splices.apply();
 }
 
-// Every line of the key in the section, so that none of them comes to light.
-void remove_entry(const SectionedText& document, const TextSection& section, const std::string& key,
-                  Splices& splices) {
-  const int position = qel::is_positional(section.name) ? position_of(key) : 0;
+// Of one section: its keys whose lines are to go, every one of them, so that none comes to light.
+void remove_entries(const SectionedText& document, const TextSection& section,
+                    const std::set<std::string, std::less<>>& keys, Splices& splices) {
+  const bool is_positional = qel::is_positional(section.name);
   for (std::size_t at = section.header + 1; at < section.after; ++at) {
     const TextLine line = document.line(at);
     const LineKind kind = qel::kind_of(line);
-    const bool has_key = (kind == LineKind::entry || kind == LineKind::without_equals) &&
-                         text::first_token_is(line.text, key);
-    if (position != 0 ? at - section.header == static_cast<std::size_t>(position) : has_key) {
-      const std::size_t end = document.contents().find('\n', line.begin);
-      splices.replace(line.begin, end == std::string::npos ? end_of_lines(document) : end + 1, "");
+    const bool has_key = kind == LineKind::entry || kind == LineKind::without_equals;
+    if (is_positional ? keys.contains("#" + std::to_string(at - section.header))
+                      : has_key && keys.contains(text::first_token(line.text))) {
+      const bool is_last = at + 1 == document.line_count();
+      splices.replace(line.begin, is_last ? end_of_lines(document) : line.end, "");
     }
   }
 }
 
 std::string without(const SectionedText& document, std::span<const Change> changes) {
   const Entries entries(document);
-  Splices splices(document.contents());
+  std::map<const TextSection*, std::set<std::string, std::less<>>> keys;
+  std::set<const TextSection*> sections;
   for (const Change& change : changes) {
-    const TextSection* const section = entries.find_section(change.address.section);
-    if (section == nullptr) {
-      continue;
-    }
-    if (change.kind == Change::Kind::remove) {
-      remove_entry(document, *section, change.address.key, splices);
-      continue;
-    }
-    for (const TextSection& other : document.sections()) {
-      const bool is_last = other.after == document.line_count();
-      if (document.find(other.name) == section) {
-        splices.replace(document.line(other.header).begin,
-                        is_last ? end_of_lines(document) : document.line(other.after).begin, "");
+    if (const TextSection* const section = entries.find_section(change.address.section)) {
+      if (change.kind == Change::Kind::remove) {
+        keys[section].insert(change.address.key);
+      } else {
+        sections.insert(section);
       }
+    }
+  }
+  Splices splices(document.contents());
+  for (const TextSection& section : document.sections()) {
+    const bool is_last = section.after == document.line_count();
+    if (sections.contains(document.find(section.name))) {
+      splices.replace(document.line(section.header).begin,
+                      is_last ? end_of_lines(document) : document.line(section.after).begin, "");
+    } else if (const auto own = keys.find(&section); own != keys.end()) {
+      remove_entries(document, section, own->second, splices);
     }
   }
   return splices.apply();

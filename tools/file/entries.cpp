@@ -42,13 +42,14 @@ std::string_view value_of(const SectionedText& document, const TextLine& line) {
 std::vector<FileEntry> positional_lines(const SectionedText& document, std::size_t index) {
   const TextSection& section = document.sections()[index];
   std::vector<FileEntry> lines;
+  std::size_t last = 0;  // that is not empty
   for (std::size_t at = section.header + 1; at < section.after; ++at) {
     const TextLine line = document.line(at);
-    if (qel::kind_of(line) != LineKind::blank) {
-      lines.push_back({index, at, "#" + std::to_string(at - section.header),
-                       qel::text::index_value(line.whole)});
-    }
+    lines.push_back(
+        {index, at, "#" + std::to_string(at - section.header), qel::text::index_value(line.whole)});
+    last = qel::kind_of(line) != LineKind::blank ? lines.size() : last;
   }
+  lines.resize(last);
   return lines;
 }
 

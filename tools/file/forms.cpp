@@ -10,6 +10,7 @@
 #include "file/typed.h"
 #include "platform/line_break.h"
 #include "system/failure.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -87,12 +88,19 @@ std::string exact_contents(const std::string& name, const Json& lines) {
   return contents;
 }
 
-// Everything that was given has to be found in the file again.
+bool is_exact(const Json& form) {
+  return form.size() == 1 && form.contains(kExact) && form[kExact].is_array();
+}
+
+// Everything that was given has to be found in the file again, and nothing else: the end of a line
+// that is too long may read as another entry.
 void check_made(const std::string& name, const std::string& contents,
                 const std::vector<Change>& changes) {
   const SectionedText document(contents);
   const Entries entries(document);
+  std::size_t by_key = 0;
   for (const Change& change : changes) {
+    by_key += position_of(change.address.key) == 0 ? 1U : 0U;
     const FileEntry* const entry = entries.find(change.address);
     const std::string_view wanted = qel::text::index_value(change.value);
     const bool is_empty_line = wanted.empty() && position_of(change.address.key) != 0;
@@ -102,6 +110,13 @@ void check_made(const std::string& name, const std::string& contents,
                                "line break, a blank or a \"=\" in the wrong place, or a second "
                                "entry is taken for the same"));
     }
+  }
+  const auto made = static_cast<std::size_t>(std::ranges::count_if(
+      entries.all(), [](const FileEntry& entry) { return position_of(entry.key) == 0; }));
+  if (made != by_key) {
+    throw Failure(kUsage, at(name, "a line is too long: behind its first " +
+                                       std::to_string(qel::text::kLongestLine) +
+                                       " characters the engine would read another entry"));
   }
 }
 
@@ -139,7 +154,7 @@ Json exact_form(std::string_view contents) {
 
 std::string contents_of(const std::string& name, const Json& form) {
   check_object(name, form);
-  if (form.size() == 1 && form.contains(kExact) && form[kExact].is_array()) {
+  if (is_exact(form)) {
     return exact_contents(name, form[kExact]);
   }
   const std::string line_break(qel::platform::kLineBreak);
@@ -151,10 +166,10 @@ std::string contents_of(const std::string& name, const Json& form) {
     const std::string header = with_brackets(section);
     contents.append(contents.empty() ? "" : line_break).append(header).append(line_break);
     for (const Change& change : changes) {
-      contents +=
-          (qel::is_positional(header) ? change.value
-                                      : qel::text::padded_entry(change.address.key, change.value)) +
-          line_break;
+      const std::string line = qel::is_positional(header)
+                                   ? change.value
+                                   : qel::text::padded_entry(change.address.key, change.value);
+      contents += line + line_break;
     }
     std::ranges::move(changes, std::back_inserter(all));
   }
@@ -164,6 +179,9 @@ std::string contents_of(const std::string& name, const Json& form) {
 
 std::vector<Change> changes_of_form(const std::string& name, const Json& form) {
   check_object(name, form);
+  if (is_exact(form)) {
+    throw Failure(kUsage, at(name, "the exact form is a whole file: give -o FILE"));
+  }
   std::vector<Change> changes;
   for (const auto& [section, keys] : form.items()) {
     add_changes(name, section, keys, changes);
@@ -178,6 +196,9 @@ std::vector<Change> changes_of_addresses(const std::string& name, const Json& ob
   }
   std::vector<Change> changes;
   for (const auto& [word, value] : object.items()) {
+    if (word.find('.') == std::string::npos || word.starts_with('[')) {
+      refuse(name, in_quotes(word) + " is no address: SECTION.KEY");
+    }
     const std::vector<Request> requests = requests_of({word});
     const std::vector<Address> targets = entries.targets_of(requests.front());
     if (targets.empty()) {

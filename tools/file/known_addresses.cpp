@@ -6,18 +6,11 @@
 
 #include "blocks/catalogue.h"
 #include "file/meaning.h"
+#include "file/near.h"
 #include "file/profile.h"
 
 namespace qelpro {
 namespace {
-
-std::string numbered(std::string_view pattern, int number) {
-  const std::size_t at = pattern.find("%d");
-  return at == std::string_view::npos
-             ? std::string(pattern)
-             : std::string(pattern.substr(0, at)) + std::to_string(number) +
-                   std::string(pattern.substr(at + 2));
-}
 
 /// Names in the order in which they come, each once.
 class Names {
@@ -49,13 +42,13 @@ std::vector<std::string> KnownNames::sections() const {
   if (of_catalogue_) {
     for (const qel::SectionInfo* section : qel::Catalogue()) {
       int next = 1;
-      while (names.has(std::string(without_brackets(numbered(section->name, next))))) {
+      while (names.has(std::string(without_brackets(with_number(section->name, next))))) {
         ++next;
         if (!qel::is_numbered(section->name)) {
           break;
         }
       }
-      names.add(std::string(without_brackets(numbered(section->name, next))));
+      names.add(std::string(without_brackets(with_number(section->name, next))));
     }
   }
   return names.take();
@@ -79,7 +72,7 @@ std::vector<std::string> KnownNames::keys(const std::string& section) const {
   if (of_catalogue_ && known != nullptr) {
     for (const qel::KeyInfo& key : known->keys) {
       const auto found = last.find(&key);
-      names.add(numbered(key.text, found == last.end() ? 1 : found->second + 1));
+      names.add(with_number(key.text, found == last.end() ? 1 : found->second + 1));
     }
   }
   return names.take();

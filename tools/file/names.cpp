@@ -85,6 +85,9 @@ void check_positional_line(const std::string& position, const std::string& line)
                  ": its lines have a position and no key: #1, #2, ...");
   }
   check_value(line);
+  if (text::index_value(line).empty()) {
+    refuse_usage("a line that is empty is none: unset removes it");
+  }
   if (text::is_header(line)) {
     refuse_usage("the line " + in_quotes(line) + " reads as a section");
   }

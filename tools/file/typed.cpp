@@ -9,6 +9,7 @@
 
 #include "file/positional.h"
 #include "file/value_check.h"
+#include "platform/number.h"
 #include "system/failure.h"
 #include "text/text.h"
 
@@ -81,8 +82,22 @@ bool is_same(const qel::Field& a, const qel::Field& b) {
   throw Failure(kUsage, "field " + std::to_string(field + 1) + " " + what);
 }
 
+// The number that a text such as "nan" stands for, which JSON has no number for.
+qel::Field with_number_of_text(const qel::Field& field, bool wants_text) {
+  const auto* const text = std::get_if<std::string>(&field);
+  double value = 0;
+  if (text == nullptr || wants_text) {
+    return field;
+  }
+  const char* at = text->c_str();
+  return qel::platform::scan_real(at, value) && *at == '\0' && !std::isfinite(value)
+             ? qel::Field(value)
+             : field;
+}
+
 // A real in the place of a whole number and the reverse, where nothing is lost.
-qel::Field as_kind(const qel::Field& field, char kind, std::size_t index) {
+qel::Field as_kind(const qel::Field& given, char kind, std::size_t index) {
+  const qel::Field field = with_number_of_text(given, kind == 'w' || kind == 'q');
   const auto* const whole = std::get_if<int>(&field);
   const auto* const real = std::get_if<double>(&field);
   const bool wants_text = kind == 'w' || kind == 'q';

@@ -193,7 +193,8 @@ class Fields {
                               is_digit(at_[1 + std::strspn(at_ + 1, "0")]);
     const bool has_exponent =
         (*at_ == 'e' || *at_ == 'E') &&
-        is_digit(at_[1 + static_cast<std::size_t>(at_[1] == '+' || at_[1] == '-')]);
+        is_digit(at_[1 + static_cast<std::size_t>(at_[1] == '+' || at_[1] == '-')]) &&
+        is_digit(at_[1 + std::strspn(at_ + 1, "+-0")]);
     return has_fraction || has_exponent;
   }
 

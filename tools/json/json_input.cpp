@@ -123,6 +123,10 @@ class Builder : public nlohmann::json_sax<Json> {
                    const nlohmann::detail::exception& error) override {
     const std::string_view before = text_.substr(0, position);
     const auto line = static_cast<std::size_t>(std::ranges::count(before, '\n')) + 1;
+    constexpr int kOverflow = 406;
+    if (error.id == kOverflow) {
+      throw Failure(kUsage, at(Where{file_, line, "", ""}, "a number is too large"));
+    }
     const std::string what = error.what();
     const std::size_t words = what.find("column");
     throw Failure(kFileError, at(Where{file_, line, "", ""},

@@ -17,7 +17,7 @@ constexpr std::size_t kLeastWidth = 30;
 
 Range range_of(const Chart& chart, std::size_t coordinate) {
   Range range;
-  for (const Curve& curve : chart.curves) {
+  for (const NamedCurve& curve : chart.curves) {
     for (const auto& point : curve.points) {
       if (std::isfinite(point[0]) && std::isfinite(point[1])) {
         range.add(point.at(coordinate));

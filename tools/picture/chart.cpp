@@ -19,7 +19,7 @@ constexpr std::size_t kMarked = 60;  // more points than these have no markers
 
 using Points = std::vector<std::array<double, 2>>;
 
-Points finite_points(const Curve& curve) {
+Points finite_points(const NamedCurve& curve) {
   Points points;
   std::ranges::copy_if(curve.points, std::back_inserter(points), [](const auto& point) {
     return std::isfinite(point[0]) && std::isfinite(point[1]);
@@ -39,7 +39,7 @@ Range range_of(const std::vector<Points>& curves, std::size_t coordinate) {
 
 std::vector<std::string> names_of(const Chart& chart) {
   std::vector<std::string> names;
-  for (const Curve& curve : chart.curves) {
+  for (const NamedCurve& curve : chart.curves) {
     names.push_back(curve.name);
   }
   return names;
@@ -74,7 +74,7 @@ class Drawing {
         size_(size),
         legend_(chart.curves.size() > 1 ? names_of(chart) : std::vector<std::string>{},
                 Swatch::line, size.width - 8) {
-    for (const Curve& curve : chart.curves) {
+    for (const NamedCurve& curve : chart.curves) {
       curves_.push_back(finite_points(curve));
     }
     constexpr int kSteps = 6;
@@ -208,7 +208,7 @@ std::string unit_for_people(std::string_view unit) {
 
 std::string description_of(const Chart& chart) {
   std::string words;
-  for (const Curve& curve : chart.curves) {
+  for (const NamedCurve& curve : chart.curves) {
     const std::vector<Points> points{finite_points(curve)};
     const std::size_t count = points.front().size();
     words +=

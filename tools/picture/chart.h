@@ -8,7 +8,7 @@
 
 namespace qelpro {
 
-struct Curve {
+struct NamedCurve {
   std::string name;
   std::vector<std::array<double, 2>> points;
 };
@@ -20,7 +20,7 @@ struct Chart {
   std::string x_unit;  ///< Empty where the file states none.
   std::string y;
   std::string y_unit;
-  std::vector<Curve> curves;
+  std::vector<NamedCurve> curves;
 };
 
 /// "pressure (MPa)"

@@ -282,7 +282,9 @@ class Report {
         markup_.element("th", {{"scope", "col"}}, name);
       }
       markup_.close().close().open("tbody");
-      for (const Finding& finding : source.findings) {
+      constexpr std::size_t kMost = 1000;
+      const std::size_t shown = std::min(source.findings.size(), kMost);
+      for (const Finding& finding : std::span(source.findings).first(shown)) {
         const std::string severity = name_of(finding.severity);
         markup_.open("tr");
         markup_.element("th", {{"scope", "row"}, {"class", severity}}, severity);
@@ -293,6 +295,10 @@ class Report {
       }
       markup_.close();
       page_.close_table();
+      if (shown < source.findings.size()) {
+        nothing("And " + std::to_string(source.findings.size() - shown) +
+                " more, which qelpro check prints.");
+      }
     }
     markup_.close();
   }

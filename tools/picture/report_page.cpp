@@ -286,7 +286,7 @@ void ReportPage::charts(const SectionGroup& group, std::vector<const FileEntry*>
     }
     markup_.open("figure");
     markup_.open("figcaption").text(title + " ").element("code", any.kind.name);
-    if (std::ranges::any_of(chart.curves, [&](const Curve& curve) {
+    if (std::ranges::any_of(chart.curves, [&](const NamedCurve& curve) {
           return curve.points != chart.curves.front().points;
         })) {
       write_mark(markup_);

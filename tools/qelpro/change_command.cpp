@@ -1,7 +1,6 @@
 #include "change_command.h"
 
-#include "compare/difference.h"
-#include "output.h"
+#include "print_differences.h"
 #include "system/files.h"
 
 namespace qelpro {
@@ -14,9 +13,7 @@ void make_changes(const std::string& file, bool dry_run,
   }
   const SectionedText before = load_document(file);
   const SectionedText after(with_changes(before, make(before)));
-  for (const Difference& difference : differences(before, after)) {
-    answer() << line_of(difference) << '\n';
-  }
+  print_differences(differences(before, after), Painter("auto"));
 }
 
 }  // namespace qelpro

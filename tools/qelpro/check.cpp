@@ -10,7 +10,9 @@
 #include "command_line.h"
 #include "commands.h"
 #include "output.h"
+#include "progress.h"
 #include "system/failure.h"
+#include "system/streams.h"
 #include "system/visible.h"
 
 namespace qelpro {
@@ -111,6 +113,8 @@ int run_check(const CheckArguments& arguments) {
   check_codes(arguments.disabled);
   Printer printer(arguments);
   int status = kDone;
+  Progress progress(arguments.files.size(), "files");
+  std::uint64_t done = 0;
   for (const std::string& file : arguments.files) {
     try {
       check_file(file, arguments.disabled, printer);
@@ -119,10 +123,16 @@ int run_check(const CheckArguments& arguments) {
       if (failure.status() != kFileError) {
         throw;
       }
+      progress.clear();
       complain(failure.what());
       status = kFileError;
     }
+    // Findings that a person sees are progress enough.
+    if (arguments.files.size() > 1 && !is_terminal(stdout)) {
+      progress.show(++done);
+    }
   }
+  progress.clear();
   printer.finish();
   return status != kDone ? status : printer.status();
 }

@@ -27,6 +27,37 @@ namespace {
 
 bool is_option(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
+// The parser takes a word in brackets for a list of its own, and leaves a command where "--" stands
+// behind its last argument but one. With these at its ends a word is a word.
+constexpr char kNoList = '\x1F';
+constexpr char kNoOption = '\x1E';
+
+std::vector<std::string> words_for_the_parser(int count, char** arguments) {
+  std::vector<std::string> words(arguments + std::min(count, 1), arguments + count);
+  const auto mark = std::find(words.begin(), words.end(), "--");
+  for (auto word = mark; word != words.end(); ++word) {
+    if (word->starts_with('-')) {
+      word->insert(word->begin(), kNoOption);
+    }
+  }
+  if (mark != words.end()) {
+    words.erase(mark);
+  }
+  for (std::string& word : words) {
+    if (word.starts_with('[') && word.ends_with(']')) {
+      word += kNoList;
+    }
+  }
+  std::reverse(words.begin(), words.end());  // as the parser wants them
+  return words;
+}
+
+std::string as_given(std::string_view word) {
+  word.remove_prefix(word.starts_with(kNoOption) ? 1 : 0);
+  word.remove_suffix(word.ends_with(kNoList) ? 1 : 0);
+  return std::string(word);
+}
+
 // Which word of a command's line is wrong, or which one is missing.
 std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
                           const std::vector<std::string>& words) {
@@ -38,7 +69,8 @@ std::string what_is_wrong(const CLI::App& command, const CLI::ParseError& error,
     }
   }
   if (!extras.empty()) {
-    return "\"" + extras.front() + "\" is one word too many, or an option that is not known";
+    return "\"" + as_given(extras.front()) +
+           "\" is one word too many, or an option that is not known";
   }
   for (const CLI::Option* option : command.get_options()) {
     const std::string name = option->get_name();
@@ -81,27 +113,11 @@ std::string what_is_wrong(const CLI::App& app, const CLI::ParseError& error, int
          " --help";
 }
 
-// The parser takes a word in brackets for a list of its own. With this behind it a word is none.
-constexpr char kNoList = '\x1F';
-
-std::vector<std::string> without_lists(int count, char** arguments) {
-  std::vector<std::string> words(arguments + std::min(count, 1), arguments + count);
-  for (std::string& word : words) {
-    if (word.starts_with('[') && word.ends_with(']')) {
-      word += kNoList;
-    }
-  }
-  std::reverse(words.begin(), words.end());  // as the parser wants them
-  return words;
-}
-
 void take_words_as_given(CLI::App& app) {
   for (CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
     for (CLI::Option* option : command->get_options()) {
       if (option->get_items_expected_max() > 0) {
-        option->transform([](const std::string& word) {
-          return word.ends_with(kNoList) ? word.substr(0, word.size() - 1) : word;
-        });
+        option->transform([](const std::string& word) { return as_given(word); });
       }
     }
   }
@@ -143,7 +159,7 @@ int run_command_line(int count, char** arguments) {
     return status;
   }
   try {
-    app.parse(without_lists(count, arguments));
+    app.parse(words_for_the_parser(count, arguments));
   } catch (const CLI::ParseError& error) {
     std::ostringstream out;
     std::ostringstream ignored;

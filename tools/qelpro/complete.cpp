@@ -219,7 +219,13 @@ class Line {
       return found;
     }
     const std::size_t equals = begun.find('=');
-    for (const std::string& section : names.sections()) {
+    Words sections = names.sections();
+    // One that nobody offers, such as "Flow-7", has keys all the same.
+    const std::string named = begun.substr(0, begun.find('.'));
+    if (named.size() < begun.size() && std::ranges::find(sections, named) == sections.end()) {
+      sections.push_back(named);
+    }
+    for (const std::string& section : sections) {
       if (kind == Kind::section || !begun.starts_with(section + ".")) {
         found.push_back(section + behind);
         continue;

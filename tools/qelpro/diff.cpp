@@ -5,10 +5,10 @@
 
 #include "color.h"
 #include "commands.h"
-#include "compare/difference.h"
 #include "file/document_text.h"
 #include "json/json_text.h"
 #include "output.h"
+#include "print_differences.h"
 #include "system/failure.h"
 
 namespace qelpro {
@@ -20,27 +20,6 @@ constexpr const char* kNoFile = "/dev/null";
 
 SectionedText document_of(const std::string& file) {
   return file == kNoFile ? SectionedText("") : load_document(file);
-}
-
-void print(const std::vector<Difference>& differences, const Painter& painter) {
-  for (const Difference& difference : differences) {
-    const DifferenceText text = text_of(difference);
-    switch (difference.kind) {
-      case Difference::Kind::added:
-        painter.print(answer(), text.head, Color::green);
-        break;
-      case Difference::Kind::removed:
-        painter.print(answer(), text.head, Color::red);
-        break;
-      case Difference::Kind::changed:
-        answer() << text.head;
-        painter.print(answer(), text.before, Color::red);
-        answer() << text.between;
-        painter.print(answer(), text.after, Color::green);
-        answer() << text.tail;
-    }
-    answer() << '\n';
-  }
 }
 
 void print_json(const std::vector<Difference>& differences) {
@@ -60,7 +39,7 @@ bool compare(const DiffArguments& arguments, const std::string& before, const st
   if (arguments.json) {
     print_json(found);
   } else {
-    print(found, Painter(arguments.color));
+    print_differences(found, Painter(arguments.color));
   }
   return !found.empty();
 }

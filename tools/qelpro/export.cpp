@@ -15,7 +15,7 @@ int run_export(const ExportArguments& arguments) {
     const SectionedText document = document_text(arguments.file, contents);
     form = plain_form(Entries(document));
   }
-  write_answer(arguments.out, [&form](Sink& sink) {
+  write_answer(arguments.out, {arguments.file}, [&form](Sink& sink) {
     write_json(sink, form);
     sink << '\n';
   });

@@ -5,9 +5,11 @@
 
 #include "commands.h"
 #include "file/entries.h"
+#include "file/near.h"
 #include "file/typed.h"
 #include "output.h"
 #include "system/failure.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -19,7 +21,7 @@ std::string why_not_found(const Entries& entries, const Address& address) {
   const SectionedText& document = entries.document();
   const TextSection* const section = entries.find_section(address.section);
   if (section == nullptr) {
-    return "not found: the file has no such section";
+    return "not found: the file has no such section; qelpro list --sections prints those it has";
   }
   if (qel::is_positional(section->name)) {
     return position_of(address.key) != 0
@@ -36,7 +38,14 @@ std::string why_not_found(const Entries& entries, const Address& address) {
              " begins with a blank and is never read";
     }
   }
-  return "not found: the section has no such key";
+  NearNames names;
+  for (const FileEntry& entry : entries.of(*section)) {
+    names.add(entry.key);
+  }
+  const std::string near = names.near(address.key);
+  return "not found: the section has no such key" +
+         (near.empty() ? "; qelpro list prints those that it has"
+                       : "; did you mean " + in_quotes(near) + "?");
 }
 
 void tell_not_found(const std::string& file, const Entries& entries, const Request& request) {

@@ -2,6 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 #include "system/failure.h"
 #include "system/files.h"
@@ -69,10 +71,17 @@ Output& answer() {
   return output;
 }
 
-void write_answer(const std::optional<std::string>& file, const std::function<void(Sink&)>& write) {
+void write_answer(const std::optional<std::string>& file, const std::vector<std::string>& read,
+                  const std::function<void(Sink&)>& write) {
   if (!file || *file == "-") {
     write(answer());
     return;
+  }
+  for (const std::string& input : read) {
+    std::error_code error;
+    if (std::filesystem::equivalent(*file, input, error)) {
+      throw Failure(kUsage, at(*file, "the output would take the place of what it is made from"));
+    }
   }
   TextSink contents;
   write(contents);

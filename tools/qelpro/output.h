@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "system/sink.h"
 
@@ -36,7 +37,9 @@ class Output : public Sink {
 Output& answer();
 
 /// Puts an answer into the file that the user names, whole or not at all, or to standard output
-/// where there is none or it is "-".
-void write_answer(const std::optional<std::string>& file, const std::function<void(Sink&)>& write);
+/// where there is none or it is "-". A `Failure` of usage where it is one of the files that were
+/// read: those are somebody's work.
+void write_answer(const std::optional<std::string>& file, const std::vector<std::string>& read,
+                  const std::function<void(Sink&)>& write);
 
 }  // namespace qelpro

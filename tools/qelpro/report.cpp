@@ -1,5 +1,6 @@
 #include "picture/report.h"
 
+#include <algorithm>
 #include <deque>
 #include <string>
 #include <vector>
@@ -20,13 +21,26 @@ struct Loaded {
 }  // namespace
 
 int run_report(const ReportArguments& arguments) {
+  if (std::ranges::count(arguments.files, "-") > 1) {
+    throw Failure(kUsage, "report: standard input can be one of the files, not several");
+  }
   std::deque<Loaded> documents;  // whose places stay
   std::vector<ReportedFile> files;
+  int status = kDone;
   for (const std::string& file : arguments.files) {
-    files.push_back({file, &documents.emplace_back(file).document});
+    try {
+      files.push_back({file, &documents.emplace_back(file).document});
+    } catch (const Failure& failure) {
+      // The other files are answered.
+      complain(failure.what());
+      status = kFileError;
+    }
   }
-  write_answer(arguments.output, [&files](Sink& page) { write_report(page, files); });
-  return kDone;
+  if (!files.empty()) {
+    write_answer(arguments.output, arguments.files,
+                 [&files](Sink& page) { write_report(page, files); });
+  }
+  return status;
 }
 
 }  // namespace qelpro

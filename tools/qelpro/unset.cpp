@@ -6,6 +6,7 @@
 #include "file/change.h"
 #include "file/entries.h"
 #include "system/failure.h"
+#include "system/visible.h"
 
 namespace qelpro {
 
@@ -50,7 +51,8 @@ int run_unset(const UnsetArguments& arguments) {
         of_request.push_back({Change::Kind::remove, entries.address_of(*entry), ""});
       }
       if (of_request.empty()) {
-        complain(at(arguments.file, request.argument + ": not found, nothing to remove"));
+        complain(at(arguments.file,
+                    in_quotes(request.argument) + ": not found; qelpro list prints the addresses"));
         status = kNotFound;
       }
       changes.insert(changes.end(), of_request.begin(), of_request.end());

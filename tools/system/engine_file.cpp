@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <system_error>
 
 #include "system/beside.h"
 #include "system/files.h"
@@ -9,7 +10,8 @@
 namespace qelpro {
 
 EngineFile::EngineFile(const std::string& file, std::string_view contents) : path_(file) {
-  if (file == "-") {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) {
     path_ = path_beside((std::filesystem::temp_directory_path() / "standard_input").string());
     write_whole(path_, contents);
     is_temporary_ = true;

@@ -6,7 +6,7 @@
 namespace qelpro {
 
 /// A path under which the engine, which opens files by itself, reads what a command was given: the
-/// file's own, or for standard input that of a temporary file while this lives.
+/// file's own, or for standard input and pipes that of a temporary file while this lives.
 class EngineFile {
  public:
   EngineFile(const std::string& file, std::string_view contents);

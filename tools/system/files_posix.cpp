@@ -56,6 +56,12 @@ int open_file(const std::string& file, int flags, mode_t mode = 0) {
       retried([&] { return ::open(file.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); }));
 }
 
+// What a shell hands over by name, as in "diff <(...) b": it is open already.
+bool is_handed_over(const std::string& file) {
+  return file.starts_with("/dev/fd/") || file.starts_with("/proc/self/fd/") ||
+         file == "/dev/stdin" || file == "/dev/null";
+}
+
 // Only a regular file is opened: to open a named pipe would wait for its other end.
 void check_is_regular(const std::string& file) {
   struct stat status {};
@@ -164,7 +170,9 @@ std::string read_file(const std::string& file) {
   if (file == "-") {
     return read_standard_input();
   }
-  check_is_regular(file);
+  if (!is_handed_over(file)) {
+    check_is_regular(file);
+  }
   const Descriptor descriptor(open_file(file, O_RDONLY));
   if (!descriptor.is_open()) {
     fail(file, "");

@@ -53,7 +53,7 @@ void add_set(CLI::App& app, int& status) {
                     "Store a value too that the key's encoding does not read back whole");
   command->add_flag("--dry-run", arguments->dry_run, "Print what diff would, and write nothing");
   command->footer(
-      "In three words a value that begins with a dash comes behind '--'.\nExample: qelpro set "
+      "A word that begins with a dash and is no number comes behind '--'.\nExample: qelpro set "
       "Default.pro Flow-1.FillTime=1.5 Flow-1.MeltTemp=230");
   command->callback([arguments, &status] { status = run_set(*arguments); });
 }

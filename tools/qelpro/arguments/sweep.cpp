@@ -1,10 +1,31 @@
 #include <CLI/CLI.hpp>
+#include <charconv>
+#include <cstdint>
 #include <memory>
+#include <string>
+#include <system_error>
 
 #include "arguments/add.h"
 #include "commands.h"
 
 namespace qelpro {
+
+namespace {
+
+// The parser itself takes "-4" for a very large number, and one of too many digits for another.
+CLI::Validator is_whole_number(std::uint64_t least) {
+  const auto check = [least](const std::string& text) {
+    std::uint64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, number);
+    return parsed.ec == std::errc() && parsed.ptr == end && number >= least
+               ? std::string()
+               : "\"" + text + "\" is no whole number from " + std::to_string(least) + " on";
+  };
+  return {check, ""};
+}
+
+}  // namespace
 
 void add_sweep(CLI::App& app, int& status) {
   auto arguments = std::make_shared<SweepArguments>();
@@ -27,11 +48,12 @@ void add_sweep(CLI::App& app, int& status) {
                                          "Draw so many files by a Latin hypercube, and do not make "
                                          "every combination")
                             ->type_name("N")
-                            ->check(CLI::PositiveNumber.description(""));
+                            ->check(is_whole_number(1));
   command
       ->add_option("--seed", arguments->seed,
                    "The seed of the sample; the same one draws the same values everywhere")
       ->type_name("S")
+      ->check(is_whole_number(0))
       ->needs(sample);
   CLI::Option* resume = command->add_flag("--resume", arguments->resume,
                                           "Make what is missing of this very study in the folder");
