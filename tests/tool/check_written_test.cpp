@@ -98,5 +98,19 @@ TEST(CheckWritten, FindsNothingInWhatTheOlderObjectWrites) {
   EXPECT_THAT(findings_in(path), testing::IsEmpty()) << bytes_of(path);
 }
 
+// It puts a new key behind the last line, and finds it there.
+TEST(CheckWritten, FindsNothingInPointsThatTheOlderObjectPutAtTheEnd) {
+  const Scratch scratch;
+  const std::string path = scratch.file("");
+  CPROIO_Manipulator object;
+  std::string kept = path;
+  object.SetFilePath(kept.data());
+  ASSERT_TRUE(object.SetTotalCoolantNo(1));
+  ASSERT_TRUE(object.SetCoolTime(3));
+  ASSERT_TRUE(object.SetCoolant(1, 1, 2, 3, 4, 1));
+  ASSERT_THAT(bytes_of(path), testing::ContainsRegex("\\[Cool\\](.|\n)*Coolant-1"));
+  EXPECT_THAT(findings_in(path), testing::IsEmpty()) << bytes_of(path);
+}
+
 }  // namespace
 }  // namespace qelpro_test

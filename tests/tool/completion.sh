@@ -47,6 +47,9 @@ in_bash 'qelpro get ' 'compopt -o default'
 in_bash 'qelpro get a.pro Flo' Flow-1. Flow-2. 'compopt -o nospace'
 in_bash 'qelpro get a.pro Flow-1.Fi' Flow-1.FillTime '!compopt -o nospace'
 in_bash "qelpro get 'my file.pro' Flow-2.Fi" Flow-2.FillTime
+in_bash 'qelpro explain Flow-1.Fi' Flow-1.FillTime
+in_bash 'qelpro explain Flow-1-S' Flow-1-Skin. '!Flow-%ld'
+in_bash 'qelpro set a.pro Flow-7.Fi' Flow-7.FillTime=
 in_bash 'qelpro get my\ file.pro Flow-2.Fi' Flow-2.FillTime
 in_bash 'qelpro get ~/a.pro Flow-2.Fi' Flow-2.FillTime
 in_bash 'qelpro get a.pro Flow-1 Fi' FillTime

@@ -132,6 +132,12 @@ TEST_F(Sweep, ChecksEveryValueAsSetDoesBeforeTheFirstFile) {
   refused({"--set", "Flow-1.FillTime=1", "--set", "Flow-?.FillTime=2"}, 2, "set twice");
   refused({"--set", "Flow-1.FillTime=1:2", "--sample", "0"}, 2, "--sample");
   refused({"--set", "Flow-1.FillTime=1", "--seed", "3"}, 2, "--sample");
+  refused({"--set", "Flow-1.FillTime=1:2", "--sample", "0"}, 2,
+          "\"0\" is no whole number from 1 on");
+  refused({"--set", "Flow-1.FillTime=1:2", "--sample", "3", "--seed", "-4"}, 2,
+          "\"-4\" is no whole");
+  refused({"--set", "Flow-1.FillTime=1:2", "--sample", "3", "--seed", "99999999999999999999"}, 2,
+          "is no whole number");
   refused({"--set", "Flow-1.FillTime=1", "--resume", "--overwrite"}, 2, "--overwrite");
   refused({"--set", "Flow-1.FillTime=1:10000001:1"}, 2, "10000001 files");
   refused({}, 2, "--set");
