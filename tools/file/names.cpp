@@ -6,6 +6,7 @@
 #include "file/address.h"
 #include "system/failure.h"
 #include "system/visible.h"
+#include "text/sectioned_text.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -61,6 +62,13 @@ std::string section_name(const std::string& argument) {
     refuse_usage("section " + in_quotes(argument) + ": give both brackets, or none");
   }
   return opened ? argument : "[" + argument + "]";
+}
+
+std::string header_of(const std::string& section) {
+  const std::string name = with_brackets(section);
+  const std::string_view positional = text::first_token(text::kPositionalHeader).substr(1);
+  return section == positional || qel::is_positional(name) ? std::string(text::kPositionalHeader)
+                                                           : name;
 }
 
 void check_entry(const std::string& section, const std::string& key, const std::string& value) {
