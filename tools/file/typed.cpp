@@ -97,7 +97,7 @@ qel::Field with_number_of_text(const qel::Field& field, bool wants_text) {
 
 // A real in the place of a whole number and the reverse, where nothing is lost.
 qel::Field as_kind(const qel::Field& given, char kind, std::size_t index) {
-  const qel::Field field = with_number_of_text(given, kind == 'w' || kind == 'q');
+  qel::Field field = with_number_of_text(given, kind == 'w' || kind == 'q');
   const auto* const whole = std::get_if<int>(&field);
   const auto* const real = std::get_if<double>(&field);
   const bool wants_text = kind == 'w' || kind == 'q';
