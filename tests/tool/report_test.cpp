@@ -142,10 +142,11 @@ TEST(Report, DrawsGatesAsTimelines) {
 }
 
 TEST(Report, EscapesWhatAFileSays) {
-  const std::string page = report_of(
-      "<b>.pro", std::string("[<svg onload=x>]\n<i>k</i> = <script>alert(1)</script>\xFF\n[Machine]"
-                             "\nMaker = \x1B]0;x\x07\"'&\xE2\x80\xAE\nGrade = a\0b\n",
-                             119));
+  using namespace std::string_literals;
+  const std::string page =
+      report_of("<b>.pro",
+                "[<svg onload=x>]\n<i>k</i> = <script>alert(1)</script>\xFF\n[Machine]"
+                "\nMaker = \x1B]0;x\x07\"'&\xE2\x80\xAE\nGrade = a\0b\n"s);
   EXPECT_THAT(page, AllOf(Not(HasSubstr("<svg onload")), Not(HasSubstr("<i>k")),
                           Not(HasSubstr("<script")), Not(HasSubstr("<b>.pro")),
                           HasSubstr("&lt;script&gt;alert(1)&lt;/script&gt;\\xFF"),

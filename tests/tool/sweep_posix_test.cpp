@@ -8,6 +8,7 @@
 #include <array>
 #include <csignal>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -175,9 +176,12 @@ TEST(SweepInTrouble, ReadsStandardInput) {
 }
 
 // What a terminal as stderr gets of a sweep.
-std::string shown_at_a_terminal(const std::string& file, const std::string& folder) {
+std::optional<std::string> shown_at_a_terminal(const std::string& file, const std::string& folder) {
   int terminal = -1;
   const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child < 0) {
+    return std::nullopt;
+  }
   if (child == 0) {
     ::execl(QELPRO_TOOL_PATH, "qelpro", "sweep", file.c_str(), "--set", "Flow-1.FillTime=1:1500:1",
             "-o", folder.c_str(), nullptr);
@@ -197,10 +201,13 @@ std::string shown_at_a_terminal(const std::string& file, const std::string& fold
 
 TEST(SweepInTrouble, ShowsItsProgressAtATerminalInOneLineThatIsGoneAtTheEnd) {
   const Scratch scratch;
-  const std::string shown =
+  const std::optional<std::string> shown =
       shown_at_a_terminal(scratch.file(kFile, "base.pro"), scratch.path("study"));
-  EXPECT_THAT(shown, AllOf(HasSubstr(" of 1500 files ("), Not(HasSubstr("\n"))));
-  EXPECT_EQ(shown.find_last_not_of(" \r"), shown.rfind(')'));
+  if (!shown) {
+    GTEST_SKIP() << "no terminal can be opened here";
+  }
+  EXPECT_THAT(*shown, AllOf(HasSubstr(" of 1500 files ("), Not(HasSubstr("\n"))));
+  EXPECT_EQ(shown->find_last_not_of(" \r"), shown->rfind(')'));
 }
 
 }  // namespace
