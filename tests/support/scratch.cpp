@@ -1,5 +1,6 @@
 #include "support/scratch.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -50,6 +51,15 @@ void put_bytes(const std::string& path, std::string_view contents) {
 }
 
 bool exists(const std::string& path) { return std::filesystem::exists(path); }
+
+std::vector<std::string> names_in(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
 
 std::string data_path(std::string_view name) { return QELPRO_TEST_DATA "/" + std::string(name); }
 

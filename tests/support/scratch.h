@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qelpro_test {
 
@@ -29,6 +30,8 @@ class Scratch {
 std::string bytes_of(const std::string& path);
 void put_bytes(const std::string& path, std::string_view contents);
 bool exists(const std::string& path);
+/// What stands in a folder, by name.
+std::vector<std::string> names_in(const std::string& folder);
 
 /// The path of a file in tests/data.
 std::string data_path(std::string_view name);

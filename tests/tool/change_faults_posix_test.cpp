@@ -33,16 +33,6 @@ const std::vector<Writer> kWriters = {
     {"\"$0\" set \"$1\" --from \"$3\"", "[A]\nx = 8\ny = 2\n"},
     {"\"$0\" export \"$2.pro\" -o \"$1\"", "{}\n"}};
 
-#ifdef QELPRO_FAILING_CALLS
-std::vector<std::string> names_in(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    names.push_back(entry.path().filename().string());
-  }
-  return names;
-}
-#endif
-
 class WritingCommand : public testing::TestWithParam<Writer> {
  protected:
   void SetUp() override {

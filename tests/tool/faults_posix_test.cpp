@@ -31,15 +31,6 @@ std::string long_file() {
   return contents;
 }
 
-std::vector<std::string> names_in(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
 // A script's prelude that runs the tool without the rights of the superuser.
 const std::string kUnprivileged = "exec setpriv --reuid=65534 --regid=65534 --clear-groups -- ";
 bool may_drop_rights() { return ::geteuid() == 0 && shell(kUnprivileged + "true").status == 0; }

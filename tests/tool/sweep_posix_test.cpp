@@ -1,6 +1,5 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <pty.h>
 #include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -173,41 +172,6 @@ TEST(SweepInTrouble, ReadsStandardInput) {
                                 {scratch.file(kFile), scratch.path("s")});
   EXPECT_EQ(outcome.status, 0) << outcome.err;
   EXPECT_EQ(bytes_of(scratch.path("s/process-0002.pro")), "[Flow-1]\nFillTime = 2\n");
-}
-
-// What a terminal as stderr gets of a sweep.
-std::optional<std::string> shown_at_a_terminal(const std::string& file, const std::string& folder) {
-  int terminal = -1;
-  const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
-  if (child < 0) {
-    return std::nullopt;
-  }
-  if (child == 0) {
-    ::execl(QELPRO_TOOL_PATH, "qelpro", "sweep", file.c_str(), "--set", "Flow-1.FillTime=1:1500:1",
-            "-o", folder.c_str(), nullptr);
-    ::_exit(127);
-  }
-  std::string shown;
-  std::array<char, 4096> block{};
-  for (ssize_t got = 0; (got = ::read(terminal, block.data(), block.size())) > 0;) {
-    shown.append(block.data(), static_cast<std::size_t>(got));
-  }
-  ::close(terminal);
-  int status = -1;
-  ::waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
-  return shown;
-}
-
-TEST(SweepInTrouble, ShowsItsProgressAtATerminalInOneLineThatIsGoneAtTheEnd) {
-  const Scratch scratch;
-  const std::optional<std::string> shown =
-      shown_at_a_terminal(scratch.file(kFile, "base.pro"), scratch.path("study"));
-  if (!shown) {
-    GTEST_SKIP() << "no terminal can be opened here";
-  }
-  EXPECT_THAT(*shown, AllOf(HasSubstr(" of 1500 files ("), Not(HasSubstr("\n"))));
-  EXPECT_EQ(shown->find_last_not_of(" \r"), shown->rfind(')'));
 }
 
 }  // namespace

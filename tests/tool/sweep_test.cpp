@@ -28,15 +28,6 @@ Outcome sweep(std::vector<std::string> arguments) {
   return run(QELPRO_TOOL_PATH, arguments);
 }
 
-std::vector<std::string> names_in(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
 struct Sweep : testing::Test {
   Scratch scratch;
   std::string file = scratch.file(kFile, "base.pro");
