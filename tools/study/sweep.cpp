@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "json/json_input.h"
-#include "study/workers.h"
 #include "system/failure.h"
 #include "system/files.h"
 #include "system/new_files.h"
+#include "work/workers.h"
 
 namespace qelpro {
 namespace {
