@@ -65,15 +65,16 @@ void take(const std::string& file, const Entries& entries, const FileEntry& entr
   values.fail(std::make_exception_ptr(failure), failure.what());
 }
 
-void read_values(const std::string& file, const std::vector<Wanted>& all, FileValues& values) {
-  const SectionedText document = load_document(file);
+void read_values(const ScannedFile& file, const std::vector<Wanted>& all, FileValues& values) {
+  const SectionedText document =
+      document_text(file.name, under_name(file.name, [&file] { return read_file(file.path); }));
   const Entries entries(document, [&all](std::string_view section) {
     return std::ranges::any_of(all,
                                [&](const Wanted& wanted) { return wanted.may_be_in(section); });
   });
   for (std::size_t request = 0; request < all.size(); ++request) {
     for (const FileEntry* const entry : entries.find(all[request].request())) {
-      take(file, entries, *entry, request,
+      take(file.name, entries, *entry, request,
            all[request].is_pattern() ? text_of(entries.address_of(*entry)) : std::string(), values);
     }
   }
@@ -128,7 +129,7 @@ class Columns {
 
 }  // namespace
 
-ScannedTable scan_files(const std::vector<std::string>& files,
+ScannedTable scan_files(const std::vector<ScannedFile>& files,
                         const std::vector<std::string>& words, std::size_t threads,
                         const std::function<bool()>& watch) {
   constexpr std::uint64_t kBlock = 256;

@@ -12,6 +12,12 @@
 
 namespace qelpro {
 
+/// Where a file is, and what messages call it.
+struct ScannedFile {
+  std::string path;
+  std::string name;
+};
+
 /// An entry's value in a table: a number or a text, or the fields of an encoding that has several.
 using ScannedValue = std::variant<int, double, std::string, std::vector<qel::Field>>;
 
@@ -42,7 +48,7 @@ struct ScannedTable {
 /// a word names alone has a column, found or not; an address that several words name has one.
 /// `watch` is called now and then on the caller's thread; false stops. A `Failure` of usage for a
 /// word that is no address.
-ScannedTable scan_files(const std::vector<std::string>& files,
+ScannedTable scan_files(const std::vector<ScannedFile>& files,
                         const std::vector<std::string>& words, std::size_t threads,
                         const std::function<bool()>& watch);
 

@@ -36,6 +36,17 @@ class SystemFailure : public Failure {
   int error_;
 };
 
+/// Does work on a file whose user knows it under another name than its path, by which messages call
+/// it then.
+template <class Work>
+auto under_name(const std::string& name, const Work& work) {
+  try {
+    return work();
+  } catch (const SystemFailure& failure) {
+    throw SystemFailure(name, failure.reason(), failure.error());
+  }
+}
+
 /// Throws a `Failure` of usage.
 [[noreturn]] void refuse_usage(const std::string& what);
 

@@ -36,10 +36,14 @@ void write_whole(const std::string& file, std::string_view contents) {
     replacement.write(contents);
     replacement.commit();
   } else {
-    NewFile made(file, contents.size());
-    write_into(made.temporary_path(), file, contents);
-    made.publish();
+    write_new(file, contents);
   }
+}
+
+void write_new(const std::string& file, std::string_view contents) {
+  NewFile made(file, contents.size());
+  write_into(made.temporary_path(), file, contents);
+  made.publish();
 }
 
 std::string read_standard_input() {
