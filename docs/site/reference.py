@@ -56,9 +56,9 @@ def of_member(member):
     domain = "c" if member.get("kind") == "define" else "cpp"
     made = f".. {domain}:{DIRECTIVES[member.get('kind')]}:: {signature(member)}\n\n"
     made += indented(description(member), 3) + "\n"
-    for value in member.findall("enumvalue"):
+    for value in member.findall("enumvalue"):  # Doxygen ends what is no sentence with a full stop, too
         shown = f"{value.find('name').text} {text_of(value.find('initializer'))}".strip()
-        made += f"\n   .. cpp:enumerator:: {shown}\n\n" + indented(description(value), 6) + "\n"
+        made += f"\n   .. cpp:enumerator:: {shown}\n\n" + indented(description(value).rstrip("."), 6) + "\n"
     return made
 
 
@@ -141,7 +141,7 @@ def main(xml, folder):
         made += ".. list-table::\n   :widths: 35 65\n\n"
         made += "".join(f"   * - :doc:`{title} <{path}>`\n     - {about}\n" for _, path, title, about in pages)
         made += "\n.. toctree::\n   :hidden:\n   :titlesonly:\n\n"
-        made += "".join(f"   {title.rpartition('/')[2]} <{path}>\n" for _, path, title, _ in pages)
+        made += "".join(f"   {path}\n" for _, path, _, _ in pages)
     (folder / "index.rst").write_text(made)
 
 
