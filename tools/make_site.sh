@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the site in FOLDER: the reference of the public headers and the guides; every warning ends it. What it is made of is laid out
+# Makes the site in FOLDER: the reference of the public headers and of the Python module, and the guides; every warning ends it. What it is made of is laid out
 # in FOLDER.made.
 # usage: make_site.sh FOLDER
 #        make_site.sh --ready   tells what is missing on this machine
@@ -23,8 +23,11 @@ mkdir -p "$made/pages"
 
 cd "$tree"
 { cat docs/site/Doxyfile; echo "OUTPUT_DIRECTORY = $made"; } | doxygen -
-"$python" -B docs/site/guides.py "$tree" "$made/pages"
 "$python" -B docs/site/reference.py "$made/xml" "$made/pages/reference"
+if [[ -s python/qelpro/__init__.py ]]; then
+  "$python" -B docs/site/python_reference.py python/qelpro "$made/pages/reference/python.rst"
+fi
+"$python" -B docs/site/guides.py "$tree" "$made/pages"
 "$python" -B -m sphinx -q -W --keep-going -j auto -c docs/site -d "$made/read" "$made/pages" "$site"
 # The theme's packaged style asks a web server for a file of another package.
 cp -L /usr/share/javascript/normalize.css/normalize.css "$site/_static/styles/"

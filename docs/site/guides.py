@@ -55,7 +55,8 @@ def main(tree, folder):
         (folder / entry).symlink_to(tree.resolve() / entry)
     first = adapted((tree / "README.md").read_text())
     first += toctree("Guides", [f"docs/{name}" for name in guides] + ["docs/schema/index", "CHANGELOG"])
-    first += toctree("Reference", ["C++ <reference/index>"])
+    references = {"C++": "reference/index", "Python": "reference/python"}
+    first += toctree("Reference", [f"{name} <{page}>" for name, page in references.items() if (folder / f"{page}.rst").exists()])
     (folder / "index.md").write_text(first)
 
 

@@ -55,4 +55,13 @@ told 'Member Untold(int value) (function) of class CQELPROReader_Manipulator is 
 cp "$tree"/include/QELPROEngine/*.h "$scratch/include/QELPROEngine/"
 sed -i '/^\/\/\/ What `set_process_FlagUNF` stored/d' "$scratch/include/QELG/items.h"
 told 'get_process_FlagUNF' documented
+
+# A Python package of two functions, one of them without a word.
+mkdir "$scratch/package"
+printf '%s\n' '"""A package."""' 'def told(text):' '    """Says *it*, "Flow-*.MeltTemp"."""' >"$scratch/package/__init__.py"
+python_page() { /usr/bin/python3 -B "$tree/docs/site/python_reference.py" "$scratch/package" "$scratch/page.rst"; }
+python_page
+grep -qF '.. py:function:: told(text)' "$scratch/page.rst" && grep -qF 'Says \*it\*, "Flow-\*.MeltTemp".' "$scratch/page.rst" || { cat "$scratch/page.rst"; failed=1; }
+printf '%s\n' 'def silent(text):' '    return text' >>"$scratch/package/__init__.py"
+told 'package/__init__.py: silent is not documented' python_page
 exit $failed
