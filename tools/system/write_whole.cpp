@@ -15,7 +15,7 @@ void write_into(const std::string& path, const std::string& file, std::string_vi
   out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
   out.close();
   if (!out) {
-    throw Failure(kFileError, at(file, "cannot be written: " + reason_of(errno)));
+    throw SystemFailure(file, "cannot be written: " + reason_of(errno), errno);
   }
 }
 
