@@ -74,7 +74,7 @@ def groups(node, title, path):
     for section in node.findall("sectiondef"):
         if section.get("kind") == "user-defined":
             name, _, subject = section.find("header").text.partition("]: ")
-            name += "]" if subject else ""
+            name = f"{name}]" if subject else name.rstrip(".")
             subjects.setdefault(name, subject)
             made.setdefault(name, []).extend(documented(section))
         elif not section.get("kind").startswith("private"):
