@@ -20,6 +20,7 @@ highlight_language = "none"
 primary_domain = "cpp"
 smartquotes = False  # "FillTime" is quoted as it stands in a file
 add_function_parentheses = False
+toc_object_entries_show_parents = "hide"
 
 html_theme = "furo"
 html_static_path = [str(here / "static")]

@@ -87,11 +87,13 @@ def of_class(package, node, module):
     made = f".. py:class:: {signature(made_by[-1], True, node.name) if made_by else node.name}\n\n"
     made += indented(as_markup(docstring([node])), 3) + "\n"
     members = {}
-    for each in node.body:
+    for each, after in zip(node.body, [*node.body[1:], None]):
         if isinstance(each, FUNCTIONS) and "setter" not in decorators(each):
             members.setdefault(each.name, []).append(each)
         elif isinstance(each, ast.AnnAssign) and isinstance(each.target, ast.Name) and not each.target.id.startswith("_"):
             made += f"\n   .. py:attribute:: {each.target.id}\n      :type: {ast.unparse(each.annotation)}\n"
+            if isinstance(after, ast.Expr) and isinstance(after.value, ast.Constant) and isinstance(after.value.value, str):
+                made += "\n" + indented(as_markup(after.value.value), 6) + "\n"
     for name, nodes in members.items():
         if not name.startswith("_") or (name.startswith("__") and docstring(nodes)):
             made += "\n" + indented(of_functions(nodes, True) + indented(as_markup(told(package, nodes, module, node.name)), 3), 3) + "\n"
@@ -106,18 +108,18 @@ def told(package, nodes, module, owner=""):
 
 
 def page(package):
-    made = heading(f"The Python module {package.name}", "=") + "\n"
-    made += as_markup(ast.get_docstring(package.module("__init__")) or "") + "\n\n"
-    made += f".. py:module:: {package.name}\n"
+    made = heading(f"The Python module {package.name}", "=") + f"\n.. py:module:: {package.name}\n\n"
+    made += as_markup(ast.get_docstring(package.module("__init__")) or "") + "\n"
     classes, functions = "", ""
     for name in package.public():
         nodes, module = package.found(name)
         if nodes and isinstance(nodes[-1], ast.ClassDef):
-            classes += "\n" + heading(name, "-") + "\n" + of_class(package, nodes[-1], module)
+            classes += "\n" + of_class(package, nodes[-1], module)
             told(package, nodes, module)
         elif nodes:
             functions += "\n" + of_functions(nodes, False) + indented(as_markup(told(package, nodes, module)), 3) + "\n"
-    return made + ("\n" + heading("Functions", "-") + functions if functions else "") + classes
+    parts = (("Functions", functions), ("Classes", classes))
+    return made + "".join(f"\n{heading(title, '-')}{part}" for title, part in parts if part)
 
 
 def main(folder, target):
