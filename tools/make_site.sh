@@ -22,7 +22,7 @@ rm -rf "$site" "$made"
 mkdir -p "$made/pages"
 
 cd "$tree"
-{ cat docs/site/Doxyfile; echo "OUTPUT_DIRECTORY = $made"; } | doxygen -
+{ cat docs/site/Doxyfile; echo "OUTPUT_DIRECTORY = \"$made\""; } | doxygen -
 "$python" -B docs/site/reference.py "$made/xml" "$made/pages/reference"
 if [[ -s python/qelpro/__init__.py ]]; then
   "$python" -B docs/site/python_reference.py python/qelpro "$made/pages/reference/python.rst"
