@@ -9,7 +9,9 @@ sys.path.insert(0, str(here))
 
 project = "QELPROEngine"
 author = "QELPROEngine"
-release = re.search(r"VERSION\s+([0-9.]+)", (here / "../../CMakeLists.txt").read_text().split("project(", 1)[1])[1]
+release = re.search(
+    r"VERSION\s+([0-9.]+)", (here / "../../CMakeLists.txt").read_text().split("project(", 1)[1]
+)[1]
 html_title = f"QELPROEngine {release}"
 
 extensions = ["myst_parser", "sphinx.ext.graphviz", "member_links"]
@@ -38,7 +40,8 @@ html_theme_options = {
         "color-api-name": "#1d4268",
         "color-api-pre-name": "#1d4268",
     },
-    # All of the theme's dark colours: its own are missing where a reader's system, and no button, asks for them.
+    # All of the theme's dark colours: its own are missing where a reader's system, and no button,
+    # asks for them.
     "dark_css_variables": {
         "color-brand-primary": "#8ab8e8",
         "color-brand-content": "#8ab8e8",

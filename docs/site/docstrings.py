@@ -7,13 +7,28 @@ import textwrap
 from markup import escaped, indented
 
 
-LISTS = {"Args", "Arguments", "Attributes", "Other Parameters", "Parameters", "Raises", "Returns", "Warns", "Yields"}
+LISTS = {
+    "Args",
+    "Arguments",
+    "Attributes",
+    "Other Parameters",
+    "Parameters",
+    "Raises",
+    "Returns",
+    "Warns",
+    "Yields",
+}
 TITLE = re.compile(r"(?:^|\n)([A-Z][\w ]*)\n-{3,} *(?:\n|$)")  # underlined
-GOOGLE = re.compile(r"(?:^|\n)(Args|Arguments|Attributes|Raises|Returns|Yields|Examples?|Notes?):\n(?=[ ])")
+GOOGLE = re.compile(
+    r"(?:^|\n)(Args|Arguments|Attributes|Raises|Returns|Yields|Examples?|Notes?):\n(?=[ ])"
+)
 
 
 def words(text):
-    """Escaped, but for what stands between backticks: code, or a name with its role. Two colons announce code, and are one."""
+    """Escaped, but for what stands between backticks: code, or a name with its role.
+
+    Two colons announce code, and are one.
+    """
     text = re.sub(r"::$", ":", " ".join(text.split()))
     made = []
     for index, part in enumerate(re.split(r"((?::\w+:)?`[^`]+`|``.+?``)", text)):
@@ -35,7 +50,10 @@ def items(text):
     made = []
     for item in re.split(r"\n(?=\S)", text.strip("\n")):
         name, _, told = item.partition("\n")
-        made.append(words(name) + ("\n" + indented(blocks(textwrap.dedent(told)), 3) if told.strip() else ""))
+        made.append(
+            words(name)
+            + ("\n" + indented(blocks(textwrap.dedent(told)), 3) if told.strip() else "")
+        )
     return "\n\n".join(made)
 
 
@@ -63,7 +81,7 @@ def section(title, text):
 
 
 def as_markup(docstring):
-    """The paragraphs of a docstring, then its sections, in numpy's manner or with titles that end with a colon."""
+    """The paragraphs of a docstring, then its sections: in numpy's manner, or titles with a colon."""
     text = inspect.cleandoc(docstring)
     first, *titled = (TITLE if TITLE.search(text) else GOOGLE).split(text)
     sections = [section(title, told) for title, told in zip(titled[::2], titled[1::2])]

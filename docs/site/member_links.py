@@ -1,4 +1,4 @@
-"""A member or class of the public headers that a guide names links to its place in the reference."""
+"""A member or class of the public headers that a guide names links to the reference."""
 
 from docutils import nodes
 from sphinx.domains.cpp import CPPDomain
@@ -15,7 +15,11 @@ class Domain(CPPDomain):
 def places(env):
     """Where each name is described; a member of several classes has no one place."""
     described = list(env.get_domain("cpp").get_objects())
-    found = {name: (page, anchor) for name, _, kind, page, anchor, _ in described if kind in ("class", "struct")}
+    found = {
+        name: (page, anchor)
+        for name, _, kind, page, anchor, _ in described
+        if kind in ("class", "struct")
+    }
     owners = {}
     for full, _, kind, page, anchor, _ in described:
         owner, _, name = full.rpartition("::")

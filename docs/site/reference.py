@@ -1,4 +1,7 @@
-"""Makes the pages of the C++ reference, one a header, from Doxygen's XML. usage: reference.py XML FOLDER"""
+"""Makes the pages of the C++ reference, one a header, from Doxygen's XML.
+
+usage: reference.py XML FOLDER
+"""
 
 import pathlib
 import sys
@@ -39,7 +42,9 @@ def signature(member):
     if kind == "enum":
         return name
     template = member.find("templateparamlist")
-    parameters = ", ".join(text_of(each.find("type")) for each in template) if template is not None else ""
+    parameters = (
+        ", ".join(text_of(each.find("type")) for each in template) if template is not None else ""
+    )
     before = f"template<{parameters}> " if parameters else ""
     if kind == "typedef":
         value = text_of(member.find("initializer")) or text_of(member.find("type"))
@@ -49,21 +54,36 @@ def signature(member):
     return f"{before.lstrip()}{name}{text_of(member.find('argsstring'))} {text_of(member.find('initializer'))}".strip()
 
 
-DIRECTIVES = {"function": "function", "variable": "member", "typedef": "type", "enum": "enum", "define": "macro"}
+DIRECTIVES = {
+    "function": "function",
+    "variable": "member",
+    "typedef": "type",
+    "enum": "enum",
+    "define": "macro",
+}
 
 
 def of_member(member):
     domain = "c" if member.get("kind") == "define" else "cpp"
     made = f".. {domain}:{DIRECTIVES[member.get('kind')]}:: {signature(member)}\n\n"
     made += indented(description(member), 3) + "\n"
-    for value in member.findall("enumvalue"):  # Doxygen ends what is no sentence with a full stop, too
+    for value in member.findall(
+        "enumvalue"
+    ):  # Doxygen ends what is no sentence with a full stop, too
         shown = f"{value.find('name').text} {text_of(value.find('initializer'))}".strip()
-        made += f"\n   .. cpp:enumerator:: {shown}\n\n" + indented(description(value).rstrip("."), 6) + "\n"
+        made += (
+            f"\n   .. cpp:enumerator:: {shown}\n\n"
+            + indented(description(value).rstrip("."), 6)
+            + "\n"
+        )
     return made
 
 
 def groups(node, title, path):
-    """The members that a header declares by the titles of their groups, those of no group first. The parts of a group are one."""
+    """The members that a header declares, by the titles of their groups; those of no group first.
+
+    The parts of a group are one.
+    """
 
     def documented(section):
         members = [member for member in section.findall("memberdef") if description(member)]
@@ -94,9 +114,16 @@ def of_groups(node, title, sign, path):
 def of_class(node, alone, path):
     name = node.find("compoundname").text
     template = node.find("templateparamlist")
-    parameters = ", ".join(text_of(each.find("type")) for each in template) if template is not None else ""
+    parameters = (
+        ", ".join(text_of(each.find("type")) for each in template) if template is not None else ""
+    )
     made = "" if alone else "\n" + heading(escaped(name), "-")
-    made += f"\n.. cpp:{node.get('kind')}:: " + (f"template<{parameters}> " if parameters else "") + name + "\n\n"
+    made += (
+        f"\n.. cpp:{node.get('kind')}:: "
+        + (f"template<{parameters}> " if parameters else "")
+        + name
+        + "\n\n"
+    )
     made += indented(description(node), 3) + "\n"
     made += f"\n.. cpp:namespace:: {name}\n"
     made += of_groups(node, "Members", "-" if alone else "~", path)
@@ -104,7 +131,7 @@ def of_class(node, alone, path):
 
 
 def page(reference, file):
-    """The title of a header's page, what it holds in a line, and the page; nothing for a header that only includes others."""
+    """The title of a header's page, what it holds in a line, and the page."""
     path = file.find("location").get("file")
     classes = [reference.compound(each.get("refid")) for each in file.findall("innerclass")]
     classes = [each for each in classes if description(each)]
@@ -115,10 +142,19 @@ def page(reference, file):
     told = description(file)
     made += f"\n{told}\n" if told else ""
     made += "".join(of_class(each, alone, path) for each in classes)
-    made += of_groups(file, "Functions" if file.find("sectiondef[@kind='func']") is not None else "Macros", "-", path)
+    made += of_groups(
+        file,
+        "Functions" if file.find("sectiondef[@kind='func']") is not None else "Macros",
+        "-",
+        path,
+    )
     for space in spaces:
         inside = of_groups(space, f"Namespace {space.find('compoundname').text}", "-", path)
-        made += f"\n.. cpp:namespace:: {space.find('compoundname').text}\n{inside}\n.. cpp:namespace:: NULL\n" if inside else ""
+        made += (
+            f"\n.. cpp:namespace:: {space.find('compoundname').text}\n{inside}\n.. cpp:namespace:: NULL\n"
+            if inside
+            else ""
+        )
     about = told or (description(classes[0]) if classes else "")
     return title, about.split("\n\n")[0], made
 
@@ -139,7 +175,9 @@ def main(xml, folder):
         pages.sort()  # classes before headers that hold other things
         made += "\n" + heading(LIBRARIES[library].rstrip("."), "-") + "\n"
         made += ".. list-table::\n   :widths: 35 65\n\n"
-        made += "".join(f"   * - :doc:`{title} <{path}>`\n     - {about}\n" for _, path, title, about in pages)
+        made += "".join(
+            f"   * - :doc:`{title} <{path}>`\n     - {about}\n" for _, path, title, about in pages
+        )
         made += "\n.. toctree::\n   :hidden:\n   :titlesonly:\n\n"
         made += "".join(f"   {path}\n" for _, path, _, _ in pages)
     (folder / "index.rst").write_text(made)

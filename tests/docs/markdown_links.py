@@ -1,8 +1,8 @@
 #!/usr/bin/python3 -B
 """usage: markdown_links.py TREE
 
-Every link and image of README.md, CHANGELOG.md and docs/*.md leads somewhere as a repository shows it: to a file of the tree, by a
-relative path, and to a heading of that file.
+Every link and image of README.md, CHANGELOG.md and docs/*.md leads somewhere as a repository
+shows it: to a file of the tree, by a relative path, and to a heading of that file.
 """
 
 import pathlib
@@ -15,7 +15,9 @@ import outside
 FENCE = re.compile(r"^(```+|~~~+).*?^\1[ \t]*$", re.MULTILINE | re.DOTALL)
 COMMENT = re.compile(r"<!--.*?-->", re.DOTALL)
 CODE = re.compile(r"(`+)(?!`).+?(?<!`)\1(?!`)", re.DOTALL)
-LINK = re.compile(r"!?\[(?:[^\[\]]|\[[^\[\]]*\]|!\[[^\]]*\]\([^)]*\))*\]\(\s*<?([^\s)>]+)>?(?:\s+[\"'(][^)]*)?\s*\)")
+LINK = re.compile(
+    r"!?\[(?:[^\[\]]|\[[^\[\]]*\]|!\[[^\]]*\]\([^)]*\))*\]\(\s*<?([^\s)>]+)>?(?:\s+[\"'(][^)]*)?\s*\)"
+)
 REFERENCE = re.compile(r"^ {0,3}\[[^\]^]+\]:\s*<?(\S+?)>?(?:\s.*)?$", re.MULTILINE)
 ELEMENT = re.compile(r"<(?:a|img)\b[^>]*?\b(?:href|src)=[\"']([^\"']+)")
 BARE = re.compile(r"<((?:https?|ftp|file):[^>\s]+)>")
@@ -50,7 +52,13 @@ def targets(text):
     read = without(COMMENT, without(FENCE, text))
     for pattern in (LINK, REFERENCE, ELEMENT, BARE):
         # A link's words may be code; a link in code is none.
-        searched = without(CODE, read) if pattern is not LINK else CODE.sub(lambda match: "c" * len(match[0]) if "\n" not in match[0] else match[0], read)
+        searched = (
+            without(CODE, read)
+            if pattern is not LINK
+            else CODE.sub(
+                lambda match: "c" * len(match[0]) if "\n" not in match[0] else match[0], read
+            )
+        )
         for match in pattern.finditer(searched):
             yield match[1], text.count("\n", 0, match.start()) + 1
 
@@ -58,9 +66,17 @@ def targets(text):
 def fault_of(tree, path, target):
     parts = urllib.parse.urlsplit(target)
     end = (path.parent / urllib.parse.unquote(parts.path)).resolve() if parts.path else path
-    if parts.path.startswith("/") or not end.exists() or (end != tree and tree not in end.parents) or tree / "build" in end.parents:
+    if (
+        parts.path.startswith("/")
+        or not end.exists()
+        or (end != tree and tree not in end.parents)
+        or tree / "build" in end.parents
+    ):
         return "the tree has no such file"
-    if parts.fragment and (end.suffix != ".md" or urllib.parse.unquote(parts.fragment) not in anchors(end.read_text(encoding="utf-8"))):
+    if parts.fragment and (
+        end.suffix != ".md"
+        or urllib.parse.unquote(parts.fragment) not in anchors(end.read_text(encoding="utf-8"))
+    ):
         return "there is no such heading"
     return None
 
@@ -79,7 +95,9 @@ def main(folder):
                 faults.append(f"{where}: {target}: {fault}")
     if count < 5:
         faults.append(f"only {count} links were found")
-    return outside.ended(faults + outside.faults(leaving), f"{count} links of {len(paths)} documents followed")
+    return outside.ended(
+        faults + outside.faults(leaving), f"{count} links of {len(paths)} documents followed"
+    )
 
 
 if __name__ == "__main__":

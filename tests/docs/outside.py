@@ -1,4 +1,4 @@
-"""What is asked of links that leave the tree: nobody looks where they lead, so they are https, and few."""
+"""What is asked of links that leave the tree: nobody follows them, so they are https, and few."""
 
 import re
 import sys
@@ -12,7 +12,11 @@ def is_outside(target):
 
 def faults(targets):
     """Of the links with where they stand; lists the others on the standard output."""
-    found = [f"{where}: {target} is no https link" for target, where in sorted(targets.items()) if not target.startswith("https://")]
+    found = [
+        f"{where}: {target} is no https link"
+        for target, where in sorted(targets.items())
+        if not target.startswith("https://")
+    ]
     if len(targets) > MOST:
         found.append(f"{len(targets)} links lead outside, {MOST} may")
     for target in sorted(targets):

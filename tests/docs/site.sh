@@ -61,7 +61,9 @@ mkdir "$scratch/package"
 printf '%s\n' '"""A package."""' 'def told(text):' '    """Says *it*, "Flow-*.MeltTemp"."""' >"$scratch/package/__init__.py"
 python_page() { /usr/bin/python3 -B "$tree/docs/site/python_reference.py" "$scratch/package" "$scratch/page.rst"; }
 python_page
-grep -qF '.. py:function:: told(text)' "$scratch/page.rst" && grep -qF 'Says \*it\*, "Flow-\*.MeltTemp".' "$scratch/page.rst" || { cat "$scratch/page.rst"; failed=1; }
+for line in '.. py:function:: told(text)' 'Says \*it\*, "Flow-\*.MeltTemp".'; do
+  grep -qF -- "$line" "$scratch/page.rst" || { echo "not on the page: $line"; failed=1; }
+done
 printf '%s\n' 'def silent(text):' '    return text' >>"$scratch/package/__init__.py"
 told 'package/__init__.py: silent is not documented' python_page
 exit $failed

@@ -1,8 +1,9 @@
 #!/usr/bin/python3 -B
 """usage: site_links.py SITE [TREE]
 
-Every link, image, style and script of every page of the site leads to a file of the site, and to an anchor that its page has; a page
-loads nothing from elsewhere; each page can be reached from the first one. With the tree: each of its guides is a page.
+Every link, image, style and script of every page of the site leads to a file of the site, and to an
+anchor that its page has; a page loads nothing from elsewhere; each page can be reached from the
+first one. With the tree: each of its guides is a page.
 """
 
 import html.parser
@@ -14,7 +15,15 @@ import urllib.parse
 import outside
 
 # What a page loads by itself, by element; an `a` is followed by its reader.
-LOADED = {"img": "src", "script": "src", "link": "href", "object": "data", "iframe": "src", "source": "src", "image": "xlink:href"}
+LOADED = {
+    "img": "src",
+    "script": "src",
+    "link": "href",
+    "object": "data",
+    "iframe": "src",
+    "source": "src",
+    "image": "xlink:href",
+}
 
 
 class Page(html.parser.HTMLParser):
@@ -25,7 +34,9 @@ class Page(html.parser.HTMLParser):
 
     def handle_starttag(self, tag, attributes):
         values = dict(attributes)
-        self.anchors.update(value for name, value in attributes if name == "id" or (tag == "a" and name == "name"))
+        self.anchors.update(
+            value for name, value in attributes if name == "id" or (tag == "a" and name == "name")
+        )
         if tag in ("a", "use", "area"):
             self.links += [values[name] for name in ("href", "xlink:href") if name in values]
         if values.get(LOADED.get(tag)) is not None:
@@ -34,7 +45,9 @@ class Page(html.parser.HTMLParser):
 
 def loaded_by_style(text):
     text = re.sub(r"/\*.*?\*/", "", text, flags=re.DOTALL)
-    found = re.findall(r"""url\(\s*(?:"([^"]*)"|'([^']*)'|([^)'"]*))\s*\)|@import\s+["']([^"']+)""", text)
+    found = re.findall(
+        r"""url\(\s*(?:"([^"]*)"|'([^']*)'|([^)'"]*))\s*\)|@import\s+["']([^"']+)""", text
+    )
     targets = ("".join(parts).strip() for parts in found)
     return [target for target in targets if not target.startswith("data:")]
 
@@ -44,7 +57,10 @@ class Site:
         self.folder = pathlib.Path(folder).resolve()
         pages = sorted([*self.folder.rglob("*.html"), *self.folder.rglob("*.svg")])
         self.pages = {path: Page(path.read_text(encoding="utf-8")) for path in pages}
-        self.styles = {path: loaded_by_style(path.read_text(encoding="utf-8")) for path in sorted(self.folder.rglob("*.css"))}
+        self.styles = {
+            path: loaded_by_style(path.read_text(encoding="utf-8"))
+            for path in sorted(self.folder.rglob("*.css"))
+        }
         self.outside = {}
         self.followed = 0
         self.reached = {path: set() for path in self.pages}
@@ -71,11 +87,19 @@ class Site:
         return None
 
     def faults(self):
-        targets = [(path, target, False) for path, page in self.pages.items() for target in page.links]
-        targets += [(path, target, True) for path, page in self.pages.items() for target in page.loaded]
+        targets = [
+            (path, target, False) for path, page in self.pages.items() for target in page.links
+        ]
+        targets += [
+            (path, target, True) for path, page in self.pages.items() for target in page.loaded
+        ]
         targets += [(path, target, True) for path, style in self.styles.items() for target in style]
         found = [self.fault_of(*target) for target in targets]
-        return [fault for fault in found if fault] + outside.faults(self.outside) + self.never_reached()
+        return (
+            [fault for fault in found if fault]
+            + outside.faults(self.outside)
+            + self.never_reached()
+        )
 
     def never_reached(self):
         seen, waiting = set(), [self.folder / "index.html"]
@@ -84,12 +108,22 @@ class Site:
             if path not in seen:
                 seen.add(path)
                 waiting += self.reached.get(path, ())
-        return [f"{self.named(path)}: no page leads here" for path in self.pages if path not in seen]
+        return [
+            f"{self.named(path)}: no page leads here" for path in self.pages if path not in seen
+        ]
 
     def missing_guides(self, tree):
-        guides = ["index.md", "CHANGELOG.md", *(f"docs/{path.name}" for path in sorted(pathlib.Path(tree, "docs").glob("*.md")))]
+        guides = [
+            "index.md",
+            "CHANGELOG.md",
+            *(f"docs/{path.name}" for path in sorted(pathlib.Path(tree, "docs").glob("*.md"))),
+        ]
         paths = [pathlib.Path(guide).with_suffix(".html") for guide in guides]
-        return [f"{path}: the site has no such page" for path in paths if self.folder / path not in self.pages]
+        return [
+            f"{path}: the site has no such page"
+            for path in paths
+            if self.folder / path not in self.pages
+        ]
 
 
 def main(folder, tree=None):
