@@ -23,7 +23,7 @@ if objdump -p "$package"/*.so* | grep -E 'R(UN)?PATH' | grep -v '\$ORIGIN'; then
   exit 1
 fi
 
-mv "$package/.." "$scratch/elsewhere"
+mv "$(dirname "$package")" "$scratch/elsewhere"
 cd "$scratch"
 PYTHONPATH=$scratch/elsewhere "$python" - <<'EOF'
 import os
