@@ -11,8 +11,12 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXE
 if(QELPRO_DEB)
   include(cmake/debian/packages.cmake)
 elseif(WIN32)
-  # One archive of everything, with a folder of its own name in it.
+  # One archive of everything, with a folder of its own name in it. By components, so that the list of what was installed, which the target
+  # "uninstall" reads, stays that of an installation.
   set(CPACK_GENERATOR ZIP)
+  set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+  set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+  set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
   set(CPACK_PACKAGE_FILE_NAME qelproengine-${PROJECT_VERSION}-windows-x86_64)
   set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
   set(CPACK_STRIP_FILES ON)

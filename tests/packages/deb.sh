@@ -7,7 +7,8 @@ compiler=$2
 install_tests=$3
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-export PATH=$PATH:/usr/sbin:/sbin  # where dpkg looks for ldconfig
+export PATH=$PATH:/usr/sbin:/sbin LC_ALL=C  # where dpkg looks for ldconfig, and what it says
+unset DPKG_ROOT DPKG_ADMINDIR DPKG_FORCE
 fail() { echo "$1" >&2; exit 1; }
 skip() { echo "skipped: $1"; exit 77; }
 for command in dpkg dpkg-deb cpack; do
@@ -89,8 +90,8 @@ done
 usr=$root/usr
 library=$(find "$usr/lib" -name 'libQELPROEngine.so.*' -type f)
 libraries=$(dirname "$library")
-[[ ${libraries#"$usr/lib"} == "$(sed -nE 's/^CMAKE_LIBRARY_ARCHITECTURE:.*=(.+)/\/\1/p' "$build/CMakeCache.txt" | head -n 1)" || $libraries == "$usr"/lib/*-linux-gnu* ]] ||
-  fail "the libraries are in $libraries"
+[[ $libraries == "$usr/lib/$("$compiler" -print-multiarch)" ]] || fail "the libraries are in $libraries"
+
 uses() {
   # With the development files a program is built.
   "$install_tests/outside_program.sh" "$usr" "$compiler" "$install_tests/outside"
