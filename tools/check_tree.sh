@@ -38,8 +38,12 @@ tools/file blocks text platform system json
 tools/check file blocks proio text platform system json
 tools/compare file blocks text platform system json
 tools/picture compare check file blocks text platform qelg system json
-tools/study file blocks text platform system json
-tools/qelpro arguments study picture compare check file blocks text platform qelg system json
+tools/work
+tools/reference platform system
+tools/scan file blocks text platform system json work
+tools/simulation file blocks text platform qelg system json
+tools/study file blocks text platform system json work
+tools/qelpro arguments reference study simulation picture compare check file blocks text platform qelg system json
 tools/generate blocks proio refdata text qelg
 EOF
 if found=$(git grep -nE '#include "((text|core|blocks|process|platform)/|api/[a-z_]+\.h)' -- include tests/api examples); then

@@ -12,7 +12,7 @@ TEST(Threads, OfASweepMakeEveryFileOnce) {
   const Scratch scratch;
   const qelpro::Study study(
       "base.pro", "[Flow-1]\nFillTime = 1\nMeltTemp = 200\n",
-      {{"Flow-1.FillTime=1:10:1", "Flow-1.MeltTemp=200:229:1"}, {}, 0, false});
+      {{{"Flow-1.FillTime", "1:10:1", {}}, {"Flow-1.MeltTemp", "200:229:1", {}}}, {}, 0, false});
   const std::string folder = scratch.path("sweep");
   std::uint64_t told = 0;
   const std::uint64_t made =

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "study/plan.h"
-#include "study/workers.h"
+#include "work/workers.h"
 #include "system/failure.h"
 
 // The values of a study, and how they are put together.

@@ -46,6 +46,9 @@ DifferenceText text_of(const Difference& difference);
 /// "~ Flow-1.FillTime: 1.0 -> 1.5", without a line break.
 std::string line_of(const Difference& difference);
 
+/// "changed"
+const char* word_of(Difference::Kind kind);
+
 Json json_of(const Difference& difference);
 
 }  // namespace qelpro

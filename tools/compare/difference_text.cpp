@@ -28,11 +28,11 @@ std::pair<std::string, std::string> shown(const std::string& before, const std::
   return texts;
 }
 
+}  // namespace
+
 const char* word_of(Kind kind) {
   return kind == Kind::changed ? "changed" : kind == Kind::added ? "added" : "removed";
 }
-
-}  // namespace
 
 DifferenceText text_of(const Difference& difference) {
   const bool is_section = difference.of == Of::section;

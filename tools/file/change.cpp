@@ -35,7 +35,11 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
       continue;
     }
     const Address& address = change.address;
-    if (const TextSection* const section = entries.find_section(address.section)) {
+    const TextSection* const section = entries.find_section(address.section);
+    if (section != nullptr && change.kind == Change::Kind::add_section) {
+      continue;
+    }
+    if (section != nullptr) {
       old_sections.try_emplace(section, document, *section)
           .first->second.set(address.key, change.value, splices);
       continue;
@@ -44,6 +48,9 @@ std::string with_entries(const SectionedText& document, std::span<const Change> 
     const auto [known, is_new] = place_of_new.emplace(header, new_sections.size());
     if (is_new) {
       new_sections.emplace_back(header, "");
+    }
+    if (change.kind == Change::Kind::add_section) {
+      continue;
     }
     if (qel::is_positional(header)) {
       check_next_line(++new_lines, address.key);
@@ -107,18 +114,22 @@ std::string without(const SectionedText& document, std::span<const Change> chang
   return splices.apply();
 }
 
+bool removes(const Change& change) {
+  return change.kind == Change::Kind::remove || change.kind == Change::Kind::remove_section;
+}
+
 }  // namespace
 
 std::string with_changes(const SectionedText& document, const std::vector<Change>& changes) {
   std::string contents = document.contents();
   std::span<const Change> rest(changes);
   while (!rest.empty()) {
-    const bool sets = rest.front().kind == Change::Kind::set;
+    const bool adds = !removes(rest.front());
     const auto end = std::ranges::find_if(
-        rest, [sets](const Change& change) { return (change.kind == Change::Kind::set) != sets; });
+        rest, [adds](const Change& change) { return removes(change) == adds; });
     const auto run = rest.first(static_cast<std::size_t>(end - rest.begin()));
     const SectionedText now(std::move(contents));
-    contents = sets ? with_entries(now, run) : without(now, run);
+    contents = adds ? with_entries(now, run) : without(now, run);
     rest = rest.subspan(run.size());
   }
   return contents;

@@ -12,9 +12,10 @@ namespace qelpro {
 /// One change of a file. Every byte that it does not name stays.
 struct Change {
   enum class Kind {
-    set,            ///< The entry that lookups take, or a new one at its section's end.
-    remove,         ///< Every line of the key in the section.
-    remove_section  ///< Every section of the name, with header and all its lines.
+    set,             ///< The entry that lookups take, or a new one at its section's end.
+    remove,          ///< Every line of the key in the section.
+    remove_section,  ///< Every section of the name, with header and all its lines.
+    add_section      ///< A section without entries, where there is none of the name.
   };
   Kind kind = Kind::set;
   Address address;

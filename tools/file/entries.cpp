@@ -55,13 +55,19 @@ std::vector<FileEntry> positional_lines(const SectionedText& document, std::size
 
 }  // namespace
 
-Entries::Entries(const SectionedText& document) : document_(document) {
+Entries::Entries(const SectionedText& document)
+    : Entries(document, [](std::string_view /*section*/) { return true; }) {}
+
+Entries::Entries(const SectionedText& document,
+                 const std::function<bool(std::string_view section)>& is_wanted)
+    : document_(document) {
   KnownSections known;
   const std::vector<TextSection>& sections = document.sections();
   for (std::size_t index = 0; index < sections.size(); ++index) {
     first_of_section_.push_back(entries_.size());
-    known_.push_back(known.find(sections[index].name));
-    if (!sections[index].repeated) {
+    const bool wanted = is_wanted(sections[index].name);
+    known_.push_back(wanted ? known.find(sections[index].name) : nullptr);
+    if (wanted && !sections[index].repeated) {
       add_section(index);
     }
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,6 +30,9 @@ struct FileEntry {
 class Entries {
  public:
   explicit Entries(const SectionedText& document);
+  /// Those of some sections alone: `is_wanted` is asked for the name, with brackets.
+  Entries(const SectionedText& document,
+          const std::function<bool(std::string_view section)>& is_wanted);
 
   [[nodiscard]] const SectionedText& document() const { return document_; }
   [[nodiscard]] const std::vector<FileEntry>& all() const { return entries_; }

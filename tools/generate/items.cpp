@@ -15,32 +15,6 @@ constexpr std::string_view kItemsBegin =
     "// clang-format off\n";
 constexpr std::string_view kItemsEnd = "// clang-format on\n";
 
-struct Item {
-  std::string object;
-  std::string parameter;
-  qel::Kind kind;
-  std::string name;
-  qel::Destination destination;
-};
-
-const std::vector<Item>& process_items() {
-  static const std::vector<Item> items = {
-#define QELG_PROCESS_ITEM(kind, name) \
-  {"QELG_SimulatorProcess", "process", qel::Kind::kind, #name, qel::ProcessItem::name},
-#include "qelg/items.inc"
-  };
-  return items;
-}
-
-const std::vector<Item>& inlet_items() {
-  static const std::vector<Item> items = {
-#define QELG_INLET_ITEM(kind, name) \
-  {"QELG_SimulatorFlowPackProcess", "inlet", qel::Kind::kind, #name, qel::InletItem::name},
-#include "qelg/items.inc"
-  };
-  return items;
-}
-
 std::string type_of(qel::Kind kind) {
   switch (kind) {
     case qel::Kind::integer:
@@ -72,7 +46,42 @@ std::string declarations(const Item& item) {
          declaration("QELG_API bool get_process_" + item.name, "const " + object, type + "& value");
 }
 
-// The keys that go to the item, and what they hold. `section` is that of the first of them.
+std::string region_of(const std::vector<Item>& items) {
+  std::string region;
+  const qel::SectionInfo* last = nullptr;
+  for (const Item& item : items) {
+    const qel::SectionInfo* section = nullptr;
+    const std::string told = keys_told(item, section);
+    if (section != last) {
+      region +=
+          "\n" + wrapped(std::string(section->name) + ": " + section->subject + ".", "//") + "\n";
+      last = section;
+    }
+    region += wrapped(told, "///") + declarations(item);
+  }
+  return region;
+}
+
+}  // namespace
+
+const std::vector<Item>& process_items() {
+  static const std::vector<Item> items = {
+#define QELG_PROCESS_ITEM(kind, name) \
+  {"QELG_SimulatorProcess", "process", qel::Kind::kind, #name, qel::ProcessItem::name},
+#include "qelg/items.inc"
+  };
+  return items;
+}
+
+const std::vector<Item>& inlet_items() {
+  static const std::vector<Item> items = {
+#define QELG_INLET_ITEM(kind, name) \
+  {"QELG_SimulatorFlowPackProcess", "inlet", qel::Kind::kind, #name, qel::InletItem::name},
+#include "qelg/items.inc"
+  };
+  return items;
+}
+
 std::string keys_told(const Item& item, const qel::SectionInfo*& section) {
   std::string told;
   for (const qel::SectionInfo* each : qel::Catalogue()) {
@@ -91,24 +100,6 @@ std::string keys_told(const Item& item, const qel::SectionInfo*& section) {
   }
   return told;
 }
-
-std::string region_of(const std::vector<Item>& items) {
-  std::string region;
-  const qel::SectionInfo* last = nullptr;
-  for (const Item& item : items) {
-    const qel::SectionInfo* section = nullptr;
-    const std::string told = keys_told(item, section);
-    if (section != last) {
-      region +=
-          "\n" + wrapped(std::string(section->name) + ": " + section->subject + ".", "//") + "\n";
-      last = section;
-    }
-    region += wrapped(told, "///") + declarations(item);
-  }
-  return region;
-}
-
-}  // namespace
 
 std::string with_items(const std::string& header) {
   const std::size_t begin = header.find(kItemsBegin);

@@ -14,6 +14,7 @@
 #include "items.h"
 #include "members.h"
 #include "page.h"
+#include "python_items.h"
 #include "rows.h"
 
 namespace {
@@ -40,6 +41,7 @@ std::vector<MadeFile> made_files(const std::string& root) {
   }
   const std::string items = root + "/include/QELG/items.h";
   files.push_back({items, with_items(contents_of(items))});
+  files.push_back({root + "/python/qelpro/_items.py", python_items()});
   std::ostringstream page;
   print_page(root + "/docs", page);
   files.push_back({root + "/docs/format.md", page.str()});

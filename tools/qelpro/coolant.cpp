@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <memory>
-#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -12,10 +10,8 @@
 #include "commands.h"
 #include "json/json_text.h"
 #include "output.h"
-#include "reference_text.h"
-#include "system/engine_file.h"
+#include "reference/coolant_table.h"
 #include "system/failure.h"
-#include "system/files.h"
 
 namespace qelpro {
 
@@ -110,31 +106,6 @@ Request request_of(const CoolantArguments& arguments) {
   return request;
 }
 
-std::string description_of(const ListedCoolant& coolant) {
-  return std::to_string(coolant_identifier(coolant.number)) + " ([Coolant-" +
-         std::to_string(coolant.number) + "]" + (coolant.name.empty() ? "" : ", " + coolant.name) +
-         (coolant.has_rows ? "" : ", without \"DataCount\"") + ")";
-}
-
-[[noreturn]] void fail_to_find(const Request& request, const std::vector<ListedCoolant>& coolants) {
-  std::string what = "coolant " + std::to_string(request.coolant) + ": not found";
-  if (request.coolant >= 3 && request.coolant <= 5) {
-    what += ": 3, 4 and 5 identify no coolant";
-  }
-  for (const ListedCoolant& coolant : coolants) {
-    if (coolant_identifier(coolant.number) == request.coolant) {
-      what += ": its section holds no \"DataCount\" above 0";
-      break;
-    }
-  }
-  std::string there;
-  for (const ListedCoolant& coolant : coolants) {
-    there += (there.empty() ? "" : ", ") + description_of(coolant);
-  }
-  throw Failure(kNotFound, at(request.file, what + (there.empty() ? "; the file has no coolant"
-                                                                  : "; there are " + there)));
-}
-
 std::string in_columns(const std::vector<double>& numbers) {
   std::ostringstream line;
   line.imbue(std::locale::classic());
@@ -148,22 +119,10 @@ std::string in_columns(const std::vector<double>& numbers) {
 
 int run_coolant(const CoolantArguments& arguments) {
   const Request request = request_of(arguments);
-  const std::string contents = read_file(request.file);
-  const EngineFile file(request.file, contents);
-  CQELPCSInterpolator tables;
-  if (!tables.LoadDataFromFile(file.path().c_str())) {
-    throw Failure(kFileError,
-                  at(request.file, "cannot be loaded: out of memory, or changed meanwhile"));
-  }
+  CoolantTable coolants(request.file);
   Json rows = Json::array();
   for (const double temperature : request.temperatures) {
-    double p1 = 0;
-    double p2 = 0;
-    double p3 = 0;
-    double p4 = 0;
-    if (!tables.InterpolateCoolantProperties(request.coolant, temperature, p1, p2, p3, p4)) {
-      fail_to_find(request, coolants_of(contents));
-    }
+    const auto [p1, p2, p3, p4] = coolants.properties(request.coolant, temperature);
     if (arguments.json) {
       rows.push_back({{"temperature", temperature}, {"properties", {p1, p2, p3, p4}}});
     } else {

@@ -54,9 +54,13 @@ int run_sweep(const SweepArguments& arguments) {
   if (arguments.folder.empty() && !arguments.dry_run) {
     throw Failure(kUsage, "sweep: -o FOLDER is missing; see qelpro sweep --help");
   }
+  std::vector<Setting> settings;
+  for (const std::string& text : arguments.settings) {
+    settings.push_back(setting_of(text));
+  }
   std::string contents = read_file(arguments.file);
   const Study study(arguments.file, std::move(contents),
-                    {arguments.settings, arguments.sample, seed_for(arguments), arguments.force});
+                    {std::move(settings), arguments.sample, seed_for(arguments), arguments.force});
   if (!arguments.dry_run) {
     const Interruption interruption;
     Progress progress(study.size(), "files");

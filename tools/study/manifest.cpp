@@ -76,15 +76,14 @@ void Study::write_json(Sink& output) const {
                        {"bytes", document_.contents().size()},
                        {"fnv1a64", checksum(document_.contents())}};
   Json settings = Json::array();
-  for (const Target& target : targets_) {
+  for (std::size_t range = 0; range < targets_.size(); ++range) {
+    const Setting& setting = request_.settings[range];
     Json addresses = Json::array();
-    for (const Address& address : target.addresses) {
+    for (const Address& address : targets_[range].addresses) {
       addresses.push_back(text_of(address));
     }
-    const std::size_t equals = target.setting.find('=');
-    settings.push_back({{"set", target.setting.substr(0, equals)},
-                        {"values", target.setting.substr(equals + 1)},
-                        {"addresses", std::move(addresses)}});
+    settings.push_back(
+        {{"set", setting.address}, {"values", setting.text}, {"addresses", std::move(addresses)}});
   }
   output << "{\n  \"source\": " << json_text(source, kIndent)
          << ",\n  \"settings\": " << json_text(settings, kIndent)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "system/failure.h"
 
@@ -61,6 +62,12 @@ Range::Range(std::string_view text) {
     }
   }
   count_ = values_.size();
+}
+
+Range::Range(std::vector<std::string> values) : count_(values.size()), values_(std::move(values)) {
+  if (values_.empty()) {
+    throw Failure(kUsage, "the values are missing");
+  }
 }
 
 bool Range::read_numbers(std::string_view text) {

@@ -18,6 +18,9 @@ class Range {
   /// A `Failure` of usage for a text that is none.
   explicit Range(std::string_view text);
 
+  /// These values, whatever characters they have. A `Failure` of usage where there is none.
+  explicit Range(std::vector<std::string> values);
+
   /// Whether it is "FROM:TO", which has no values of its own.
   [[nodiscard]] bool is_continuous() const { return is_continuous_; }
   /// How many values it has.

@@ -15,24 +15,13 @@ namespace {
 
 constexpr std::string_view kEnding = ".pro";
 
-// ADDRESS and VALUES of a setting. No name of the file format holds a "=".
-std::pair<std::string, std::string> halves(const std::string& setting) {
-  const std::size_t equals = setting.find('=');
-  if (equals == std::string::npos || equals == 0) {
-    throw Failure(kUsage, "--set \"" + setting + "\": it is ADDRESS=VALUES, as in " +
-                              "Flow-1.FillTime=0.5:1.5:0.25");
-  }
-  return {setting.substr(0, equals), setting.substr(equals + 1)};
-}
-
 Plan plan_of(const StudyRequest& request) {
   std::vector<Range> ranges;
-  for (const std::string& setting : request.settings) {
-    const auto [address, values] = halves(setting);
+  for (const Setting& setting : request.settings) {
     try {
-      ranges.emplace_back(values);
+      ranges.push_back(setting.values.empty() ? Range(setting.text) : Range(setting.values));
     } catch (const Failure& failure) {
-      throw Failure(failure.status(), "--set " + address + ": " + failure.what());
+      throw Failure(failure.status(), "--set " + setting.address + ": " + failure.what());
     }
   }
   if (ranges.empty()) {
@@ -49,6 +38,16 @@ int digits_for(std::uint64_t count) {
 
 }  // namespace
 
+// No name of the file format holds a "=".
+Setting setting_of(const std::string& text) {
+  const std::size_t equals = text.find('=');
+  if (equals == std::string::npos || equals == 0) {
+    throw Failure(kUsage, "--set \"" + text + "\": it is ADDRESS=VALUES, as in " +
+                              "Flow-1.FillTime=0.5:1.5:0.25");
+  }
+  return {text.substr(0, equals), text.substr(equals + 1), {}};
+}
+
 Study::Study(std::string file, std::string contents, StudyRequest request)
     : file_(file == "-" ? "process" : std::move(file)),
       stem_(std::filesystem::path(file_).stem().string()),
@@ -64,10 +63,9 @@ Study::Study(std::string file, std::string contents, StudyRequest request)
 void Study::find_targets() {
   const Entries entries(document_);
   std::set<std::pair<std::string, std::string>> seen;
-  for (const std::string& setting : request_.settings) {
+  for (const Setting& setting : request_.settings) {
     Target& target = targets_.emplace_back();
-    target.setting = setting;
-    const Request request = requests_of({halves(setting).first}).front();
+    const Request request = requests_of({setting.address}).front();
     target.addresses = entries.targets_of(request);
     if (target.addresses.empty()) {
       throw Failure(kNotFound, at(file_, "\"" + request.argument +

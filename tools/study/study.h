@@ -11,10 +11,19 @@
 
 namespace qelpro {
 
-/// What a study is to vary: "ADDRESS=VALUES" a range, the samples where not every combination is
-/// made, and the seed that they are drawn with.
+/// An entry, or the entries that a pattern matches, and the values that it is to take.
+struct Setting {
+  std::string address;
+  std::string text;                 ///< "V1,V2,V3", "FROM:TO:STEP" or "FROM:TO".
+  std::vector<std::string> values;  ///< One by one, in the place of those of the text.
+};
+/// That of "ADDRESS=VALUES". A `Failure` of usage for any other text.
+Setting setting_of(const std::string& text);
+
+/// What a study is to vary, the samples where not every combination is made, and the seed that they
+/// are drawn with.
 struct StudyRequest {
-  std::vector<std::string> settings;
+  std::vector<Setting> settings;
   std::optional<std::uint64_t> samples;
   std::uint64_t seed = 0;
   bool force = false;  ///< Takes values too that an encoding does not read whole.
@@ -44,7 +53,6 @@ class Study {
  private:
   // The entries that one setting changes.
   struct Target {
-    std::string setting;
     std::vector<Address> addresses;
   };
   [[nodiscard]] std::vector<Change> changes(std::uint64_t index) const;

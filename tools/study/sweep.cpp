@@ -1,15 +1,16 @@
 #include "study/sweep.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 #include <vector>
 
 #include "json/json_input.h"
-#include "study/workers.h"
 #include "system/failure.h"
 #include "system/files.h"
 #include "system/new_files.h"
+#include "work/workers.h"
 
 namespace qelpro {
 namespace {
@@ -22,6 +23,10 @@ std::string in_folder(const std::string& folder, const std::string& name) {
 
 [[noreturn]] void fail(const std::string& name, const std::string& what) {
   throw Failure(kFileError, at(name, what));
+}
+[[noreturn]] void fail(const std::string& name, const std::string& what,
+                       const std::error_code& error) {
+  throw SystemFailure(name, what + error.message(), error.value());
 }
 
 /// What of a study stands in its folder.
@@ -41,7 +46,7 @@ Present look_into(const Study& study, const std::string& folder) {
   }
   std::error_code error;
   if (!fs::is_directory(folder, error)) {
-    fail(folder, "no folder, which the files need; name another one behind -o");
+    throw SystemFailure(folder, "no folder, which the files need; name another one", ENOTDIR);
   }
   fs::directory_iterator names(folder, error);
   for (; !error && names != fs::directory_iterator(); names.increment(error)) {
@@ -59,7 +64,7 @@ Present look_into(const Study& study, const std::string& folder) {
     }
   }
   if (error) {
-    fail(folder, "cannot be read: " + error.message());
+    fail(folder, "cannot be read: ", error);
   }
   return present;
 }
@@ -122,8 +127,11 @@ void check_room(const Study& study, const std::string& folder, std::uint64_t fil
   const std::uint64_t needed =
       files * ((size + kDiskBlock - 1) / kDiskBlock * kDiskBlock) + manifests;
   if (needed > space.available) {
-    fail(folder, "no room: " + std::to_string(files) + " files need " + std::to_string(needed) +
-                     " bytes, and " + std::to_string(space.available) + " are free");
+    throw SystemFailure(folder,
+                        "no room: " + std::to_string(files) + " files need " +
+                            std::to_string(needed) + " bytes, and " +
+                            std::to_string(space.available) + " are free",
+                        ENOSPC);
   }
 }
 
@@ -142,8 +150,10 @@ std::uint64_t make_files(const Study& study, const std::string& folder, Existing
   const std::string json = text_by([&](Sink& sink) { study.write_json(sink); });
   const std::string csv = text_by([&](Sink& sink) { study.write_csv(sink); });
   if (existing == Existing::refuse && !present.first.empty()) {
-    fail(in_folder(folder, present.first),
-         "exists already; --resume makes what is missing of its study, --overwrite replaces it");
+    throw SystemFailure(
+        in_folder(folder, present.first),
+        "exists already; --resume makes what is missing of its study, --overwrite replaces it",
+        EEXIST);
   }
   if (existing == Existing::complete) {
     check_same(study, folder, present, json, watch);
@@ -152,7 +162,7 @@ std::uint64_t make_files(const Study& study, const std::string& folder, Existing
   std::error_code error;
   fs::create_directories(folder, error);
   if (error) {
-    fail(folder, "cannot be made: " + error.message());
+    fail(folder, "cannot be made: ", error);
   }
   // What a study is completed by comes first.
   if (existing == Existing::overwrite || !present.json) {

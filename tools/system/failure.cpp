@@ -8,6 +8,9 @@
 
 namespace qelpro {
 
+SystemFailure::SystemFailure(const std::string& file, const std::string& what, int error)
+    : Failure(kFileError, at(file, what)), file_(file), reason_(what), error_(error) {}
+
 void refuse_usage(const std::string& what) { throw Failure(kUsage, what); }
 
 std::string at(const Where& where, std::string_view what) {

@@ -21,6 +21,32 @@ class Failure : public std::runtime_error {
   Status status_;
 };
 
+/// A `Failure` of a file that the operating system has a number for.
+class SystemFailure : public Failure {
+ public:
+  /// `what` says what failed, with the reason; `error` is that of errno.
+  SystemFailure(const std::string& file, const std::string& what, int error);
+  [[nodiscard]] const std::string& file() const { return file_; }
+  [[nodiscard]] const std::string& reason() const { return reason_; }
+  [[nodiscard]] int error() const { return error_; }
+
+ private:
+  std::string file_;
+  std::string reason_;
+  int error_;
+};
+
+/// Does work on a file whose user knows it under another name than its path, by which messages call
+/// it then.
+template <class Work>
+auto under_name(const std::string& name, const Work& work) {
+  try {
+    return work();
+  } catch (const SystemFailure& failure) {
+    throw SystemFailure(name, failure.reason(), failure.error());
+  }
+}
+
 /// Throws a `Failure` of usage.
 [[noreturn]] void refuse_usage(const std::string& what);
 

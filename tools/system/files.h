@@ -61,6 +61,9 @@ class NewFile {
   std::string temporary_;
 };
 
+/// Puts the contents into a file that does not exist yet, whole or not at all.
+void write_new(const std::string& file, std::string_view contents);
+
 /// Puts the contents into a file, whole or not at all: into a new one, or in the place of a regular
 /// file that is there, which keeps its permissions, its owner and the links to it.
 void write_whole(const std::string& file, std::string_view contents);

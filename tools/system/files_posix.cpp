@@ -21,7 +21,7 @@ namespace qelpro {
 namespace {
 
 [[noreturn]] void fail(const std::string& file, const std::string& what, int error = errno) {
-  throw Failure(kFileError, at(file, what + reason_of(error)));
+  throw SystemFailure(file, what + reason_of(error), error);
 }
 
 class Descriptor {
@@ -72,7 +72,7 @@ void check_is_regular(const std::string& file) {
     fail(file, "", EISDIR);
   }
   if (!S_ISREG(status.st_mode)) {
-    throw Failure(kFileError, at(file, "not a regular file"));
+    throw SystemFailure(file, "not a regular file", EINVAL);
   }
 }
 
@@ -261,9 +261,10 @@ NewFile::NewFile(const std::string& file, std::size_t room)
   constexpr mode_t kAsTheUserWants = 0666;
   struct stat status {};
   if (::lstat(file.c_str(), &status) == 0) {
-    throw Failure(kFileError,
-                  at(file, S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already"
-                                                   : "exists already"));
+    throw SystemFailure(
+        file,
+        S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already" : "exists already",
+        EEXIST);
   }
   Descriptor descriptor(make_beside(file, file, kAsTheUserWants, temporary_));
   if (!write_all(descriptor.get(), std::string(room, ' ')) ||
@@ -291,7 +292,7 @@ void NewFile::publish() {
   // Neither call takes the place of what is there; not every file system knows both.
   if (::renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, file_.c_str(), RENAME_NOREPLACE) != 0) {
     if (errno == EEXIST) {
-      throw Failure(kFileError, at(file_, "exists already"));
+      throw SystemFailure(file_, "exists already", EEXIST);
     }
     if (::link(temporary_.c_str(), file_.c_str()) != 0) {
       fail(file_, "cannot be written: ");

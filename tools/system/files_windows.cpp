@@ -15,7 +15,7 @@ namespace qelpro {
 namespace {
 
 [[noreturn]] void fail(const std::string& file, const std::string& what) {
-  throw Failure(kFileError, at(file, what + reason_of(errno)));
+  throw SystemFailure(file, what + reason_of(errno), errno);
 }
 
 [[noreturn]] void fail_by_system(const std::string& file, const std::string& what) {

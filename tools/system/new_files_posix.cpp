@@ -15,7 +15,7 @@ namespace qelpro {
 namespace {
 
 [[noreturn]] void fail(const std::string& file, int error) {
-  throw Failure(kFileError, at(file, "cannot be written: " + reason_of(error)));
+  throw SystemFailure(file, "cannot be written: " + reason_of(error), error);
 }
 
 std::string link_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
@@ -117,7 +117,7 @@ void NewFiles::publish() {
   held_->close_all();
   if (error != 0) {
     if (error == EEXIST) {
-      throw Failure(kFileError, at(failed, "exists already"));
+      throw SystemFailure(failed, "exists already", EEXIST);
     }
     fail(failed, error);
   }

@@ -15,7 +15,7 @@ void write_into(const std::string& path, const std::string& file, std::string_vi
   out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
   out.close();
   if (!out) {
-    throw Failure(kFileError, at(file, "cannot be written: " + reason_of(errno)));
+    throw SystemFailure(file, "cannot be written: " + reason_of(errno), errno);
   }
 }
 
@@ -36,10 +36,14 @@ void write_whole(const std::string& file, std::string_view contents) {
     replacement.write(contents);
     replacement.commit();
   } else {
-    NewFile made(file, contents.size());
-    write_into(made.temporary_path(), file, contents);
-    made.publish();
+    write_new(file, contents);
   }
+}
+
+void write_new(const std::string& file, std::string_view contents) {
+  NewFile made(file, contents.size());
+  write_into(made.temporary_path(), file, contents);
+  made.publish();
 }
 
 std::string read_standard_input() {

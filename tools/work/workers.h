@@ -18,7 +18,12 @@ std::uint64_t work_on_all_cores(std::uint64_t size, std::uint64_t largest,
                                 const std::function<void(const Block&)>& work,
                                 const std::function<bool(std::uint64_t)>& watch);
 
-/// How many threads that are.
+/// The same on so many threads.
+std::uint64_t work_on_cores(std::size_t cores, std::uint64_t size, std::uint64_t largest,
+                            const std::function<void(const Block&)>& work,
+                            const std::function<bool(std::uint64_t)>& watch);
+
+/// How many cores there are.
 std::size_t core_count();
 
 }  // namespace qelpro

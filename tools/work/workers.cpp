@@ -1,4 +1,4 @@
-#include "study/workers.h"
+#include "work/workers.h"
 
 #include <algorithm>
 #include <atomic>
@@ -120,11 +120,17 @@ std::size_t core_count() { return std::max(1U, std::thread::hardware_concurrency
 std::uint64_t work_on_all_cores(std::uint64_t size, std::uint64_t largest,
                                 const std::function<void(const Block&)>& work,
                                 const std::function<bool(std::uint64_t)>& watch) {
+  return work_on_cores(core_count(), size, largest, work, watch);
+}
+
+std::uint64_t work_on_cores(std::size_t cores, std::uint64_t size, std::uint64_t largest,
+                            const std::function<void(const Block&)>& work,
+                            const std::function<bool(std::uint64_t)>& watch) {
   constexpr std::uint64_t kBlocksOfAThread = 4;
   if (size == 0) {
     return 0;
   }
-  const std::uint64_t threads = std::min<std::uint64_t>(size, core_count());
+  const std::uint64_t threads = std::min<std::uint64_t>(size, cores);
   const std::uint64_t even = (size - 1) / (threads * kBlocksOfAThread) + 1;
   Shared shared(size, std::max<std::uint64_t>(1, std::min(largest, even)), work);
   {

@@ -1,4 +1,4 @@
-#include "reference_text.h"
+#include "reference/reference_text.h"
 
 #include <algorithm>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "process_notes.h"
+#include "simulation/process_notes.h"
 
 #include <QELG/QELG.h>
 

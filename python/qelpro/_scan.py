@@ -1,0 +1,59 @@
+"""Many files as one table."""
+
+from __future__ import annotations
+
+import os
+from collections.abc import Iterable
+from typing import TYPE_CHECKING, Any
+
+from . import _engine
+from ._missing import needed
+from ._paths import StrPath, name_of, place_of
+from ._table import Chunk, Table
+
+if TYPE_CHECKING:
+    import pandas as pd
+
+_ERRORS = ("raise", "skip", "record")
+
+
+def scan(
+    paths: Iterable[StrPath],
+    addresses: Iterable[str],
+    errors: str = "raise",
+    client: Any = None,
+) -> pd.DataFrame:
+    """Values of many files as a pandas DataFrame: a row a file, in the order of the paths.
+
+    The columns are "file", then the addresses in the order asked; a pattern (``"Flow-*.MeltTemp"``)
+    has a column for each address that it matches, in order of first appearance. NaN is what a file
+    does not have. Columns of whole numbers that every file has are int64, of numbers float64, all
+    others objects; several fields are a tuple. Each file is read once, on all cores.
+
+    ``errors`` says what becomes of a file that cannot be read, and of a value that its encoding
+    does not read: "raise" raises OSError or ValueError, of the first such file; "skip" leaves the
+    file out; "record" adds a column "error" with None or the message.
+
+    With a ``dask.distributed`` Client the files are read by the workers of its cluster, which have
+    to see them under the same paths; the others make up for a worker that dies. The frame is the
+    same. TypeError for a client that is none, ImportError where pandas is missing.
+    """
+    if errors not in _ERRORS:
+        raise ValueError(f"errors is one of {', '.join(map(repr, _ERRORS))}, not {errors!r}")
+    if isinstance(paths, (str, bytes, os.PathLike)):
+        raise TypeError("paths is a list of paths, not one path")
+    if isinstance(addresses, (str, bytes)):
+        raise TypeError("addresses is a list of addresses, not one text")
+    pandas = needed("pandas", "scan()")
+    given = list(paths)
+    names = [name_of(path) for path in given]
+    places = [place_of(path) for path in given]
+    words = list(addresses)
+    _engine.scan([], [], words, 1)  # what is no address is told before a file is read
+    if client is None:
+        chunks = [Chunk(0, *_engine.scan(places, names, words, 0))]
+    else:
+        from ._cluster import scanned_by
+
+        chunks = scanned_by(client, places, names, words)
+    return Table(names, words, chunks).frame(pandas, errors)

@@ -1,0 +1,72 @@
+"""The parts of a table that were read apart, put together."""
+
+from __future__ import annotations
+
+from typing import TYPE_CHECKING, Any, NamedTuple
+
+if TYPE_CHECKING:
+    import pandas as pd
+
+
+class Chunk(NamedTuple):
+    """What was read of the files from the index ``first`` on."""
+
+    first: int
+    columns: list[tuple[int, str, Any, str, Any]]
+    """Of each the index of the word that asked for it, its name, the indices of its rows, "int",
+    "float" or "object", and the values."""
+    errors: list[tuple[int, BaseException, str]]
+
+
+class Table:
+    """The columns of all chunks, in the order of the words and of first appearance."""
+
+    def __init__(self, names: list[str], words: list[str], chunks: list[Chunk]) -> None:
+        self._names = names
+        self._parts: dict[str, list[tuple[Any, str, Any]]] = {}
+        self._errors: list[tuple[int, BaseException, str]] = []
+        places: dict[str, int] = {}
+        for chunk in chunks:
+            for word, name, rows, kind, values in chunk.columns:
+                places[name] = min(word, places.get(name, word))
+                self._parts.setdefault(name, []).append((rows + chunk.first, kind, values))
+            self._errors += [(row + chunk.first, why, text) for row, why, text in chunk.errors]
+        self._order = sorted(self._parts, key=lambda name: places[name])  # stable
+
+    def frame(self, pandas: Any, errors: str) -> pd.DataFrame:
+        if errors == "raise" and self._errors:
+            raise self._errors[0][1]
+        columns: dict[str, Any] = {"file": pandas.Series(self._names, dtype=object)}
+        for name in self._order:
+            columns[name] = self._column(self._parts[name])
+        if errors == "record":
+            messages: list[str | None] = [None] * len(self._names)
+            for row, _, message in self._errors:
+                messages[row] = message
+            columns["error"] = pandas.Series(messages, dtype=object)
+        frame = pandas.DataFrame(columns)
+        if errors == "skip" and self._errors:
+            frame = frame.drop(index=[row for row, _, _ in self._errors])
+            frame = frame.reset_index(drop=True)
+        return frame
+
+    def _column(self, parts: list[tuple[Any, str, Any]]) -> Any:
+        import numpy as np
+
+        count = sum(len(rows) for rows, _, _ in parts)
+        kinds = {kind for rows, kind, _ in parts if len(rows) != 0}
+        if kinds == {"int"} and count == len(self._names):
+            column = np.empty(count, dtype=np.int64)
+        elif kinds <= {"int", "float"}:
+            column = np.full(len(self._names), np.nan)
+        else:
+            column = np.full(len(self._names), np.nan, dtype=object)
+        for rows, kind, values in parts:
+            if kind == "object":
+                for row, value in zip(rows, values):
+                    column[row] = value
+            elif column.dtype == object:
+                column[rows] = values.tolist()
+            else:
+                column[rows] = values
+        return column

@@ -1,0 +1,31 @@
+#include "simulation/new_file.h"
+
+#include <QELPROEngine/CPROIO_Manipulator.h>
+
+#include "system/failure.h"
+#include "system/files.h"
+
+namespace qelpro {
+
+namespace {
+
+// Somewhat more than a default document has.
+constexpr std::size_t kExpectedSize = std::size_t{16} * 1024;
+
+}  // namespace
+
+void make_new_file(const std::string& path) {
+  NewFile file(path, kExpectedSize);
+  CPROIO_Manipulator document;
+  document.SetFilePath(file.temporary_path().data());
+  document.SetDefault();
+  // It never tells a failure; its last entry does.
+  double x = 0;
+  double y = 0;
+  if (!document.GetFRProfile(2, x, y, 1)) {
+    throw Failure(kFileError, at(path, "cannot be written: no room for the default values"));
+  }
+  file.publish();
+}
+
+}  // namespace qelpro
