@@ -11,7 +11,6 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 # The tool and the module are a part of some builds. The licence is in each package in Debian's way.
-get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
 list(REMOVE_ITEM CPACK_COMPONENTS_ALL licence)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   if(NOT component MATCHES "^(library|development|tool|python)$")
