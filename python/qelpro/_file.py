@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from collections.abc import Iterator, Mapping, MutableMapping
+from collections.abc import ItemsView, Iterator, Mapping, MutableMapping, ValuesView
 from contextlib import contextmanager
 from pathlib import Path
 from typing import TYPE_CHECKING, Any, Union
@@ -63,7 +63,11 @@ class Section(MutableMapping[str, Value]):
         what the key's encoding cannot hold or what is not finite; the file is as it was then.
         """
         _check_name(key)
-        self._file._edit(_engine.set_entry(self._name, key, value))
+        try:
+            edit = _engine.set_entry(self._name, key, value)
+        except ValueError as error:
+            raise ValueError(f"{self._file._name}: [{self._name}] {key}: {error}") from None
+        self._file._edit(edit)
 
     def __delitem__(self, key: str) -> None:
         """Removes every line of the key. KeyError where there is none."""
@@ -88,6 +92,8 @@ class Section(MutableMapping[str, Value]):
 
     def text(self, key: str) -> str:
         """The value's text as it stands, without the blanks around it. KeyError as for reading."""
+        if not isinstance(key, str):
+            raise KeyError(key)
         return self._file._now().text(self._file._name, self._name, key)
 
     def update(self, *others: Any, **values: Value) -> None:
@@ -97,7 +103,34 @@ class Section(MutableMapping[str, Value]):
 
     def clear(self) -> None:
         """Removes all keys; the section stays."""
-        self._file[self._name] = {}
+        if self._name in self._file:
+            self._file[self._name] = {}
+
+    def items(self) -> ItemsView[str, Value]:
+        return _Items(self)
+
+    def values(self) -> ValuesView[Value]:
+        return _Values(self)
+
+    def _values(self) -> Iterator[tuple[str, Value]]:
+        """All of them as they are at one moment."""
+        keys = self._keys()
+        now, name = self._file._snapshot, self._file._name
+        return ((key, now.value(name, self._name, key)) for key in keys)
+
+
+class _Items(ItemsView[str, Value]):
+    _mapping: Section
+
+    def __iter__(self) -> Iterator[tuple[str, Value]]:
+        return self._mapping._values()
+
+
+class _Values(ValuesView[Value]):
+    _mapping: Section
+
+    def __iter__(self) -> Iterator[Value]:
+        return (value for _, value in self._mapping._values())
 
 
 class ProcessFile(MutableMapping[str, Section]):
@@ -246,6 +279,8 @@ class ProcessFile(MutableMapping[str, Section]):
 
     def pop(self, name: Any, *default: Any) -> Any:
         """Removes a section, and gives what it held as a dict."""
+        if len(default) > 1:
+            raise TypeError(f"pop() takes a name and a default, not {len(default)} of them")
         if name not in self and default:
             return default[0]
         value = self[name]
@@ -286,6 +321,8 @@ class ProcessFile(MutableMapping[str, Section]):
         those of :func:`catalogue`. Raises KeyError where the catalogue has no such table or the file
         no count, ValueError for a count or a point that is not read.
         """
+        _check_name(section)
+        _check_name(name)
         return self._now().table(self._name, _without_brackets(section), name)
 
     def set_profile(self, section: str, name: str, points: npt.ArrayLike) -> None:
@@ -296,6 +333,8 @@ class ProcessFile(MutableMapping[str, Section]):
         """
         import numpy as np
 
+        _check_name(section)
+        _check_name(name)
         table = np.asarray(points, dtype=np.float64)
         if table.size == 0 and table.ndim <= 2:
             table = table.reshape(0, 2)
@@ -342,6 +381,7 @@ class ProcessFile(MutableMapping[str, Section]):
         """
         from ._plot import draw_profile
 
+        _check_name(address)
         return draw_profile(self, address, ax, style)
 
 

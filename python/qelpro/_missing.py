@@ -14,10 +14,8 @@ def needed(module: str, what: str) -> Any:
     try:
         return importlib.import_module(module)
     except ModuleNotFoundError as error:
-        if error.name is None or error.name.partition(".")[0] != package:
-            raise
         raise ImportError(
-            f"{what} needs {package}: install it with \"apt install {_DEBIAN[package]}\" "
+            f"{what} needs {package} ({error}): install it with \"apt install {_DEBIAN[package]}\" "
             f"or \"pip install {package}\"",
             name=package,
         ) from error

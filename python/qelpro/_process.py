@@ -52,6 +52,9 @@ class Process(_Values, ProcessItems):
     machine: ProcessMachine
     heat_transfer: HeatTransfer
     inlets: list[Inlet]
+    notes: list[dict[str, Any]]
+    """What the file says and the process does not: dicts of "line", "section", "key" and
+    "message"."""
 
 
 def load_process(path: StrPath) -> Process:
@@ -66,13 +69,14 @@ def load_process(path: StrPath) -> Process:
     process = Process({**json.pop("values"), **_lists_of(json)})
     process.machine = ProcessMachine(json["machine"])
     process.heat_transfer = HeatTransfer(json["heat transfer"])
+    process.notes = json["notes"]
     process.inlets = [Inlet({**inlet.pop("values"), **inlet}) for inlet in json["inlets"]]
     return process
 
 
 def _lists_of(json: dict[str, Any]) -> dict[str, Any]:
     return {
-        name: value for name, value in json.items() if isinstance(value, list) and name != "inlets"
+        name: value for name, value in json.items() if isinstance(value, list) and name not in ("inlets", "notes")
     }
 
 

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+from operator import index
 from pathlib import Path
 from typing import Any
 
@@ -34,6 +35,8 @@ class MachineBank:
 
     def machines(self, maker: str) -> list[Machine]:
         """The machines of a maker in the bank's order, repeats included; KeyError for another."""
+        if not isinstance(maker, str):
+            raise KeyError(maker)
         return [Machine(maker, grade) for grade in self._bank.grades(maker)]
 
     def __repr__(self) -> str:
@@ -66,7 +69,10 @@ class CoolantTable:
         3. Outside of the table they are those of the first or the last row. KeyError for a coolant
         that is not there.
         """
-        return CoolantProperties(*self._table.properties(coolant, temperature))
+        number = index(coolant)
+        if abs(number) >= 2**31:
+            raise KeyError(f"{self._name}: coolant {number}: not found")
+        return CoolantProperties(*self._table.properties(number, float(temperature)))
 
     def __repr__(self) -> str:
         return f"CoolantTable({self._name!r})"

@@ -49,6 +49,9 @@ def scan(
     names = [name_of(path) for path in given]
     places = [place_of(path) for path in given]
     words = list(addresses)
+    for word in words:
+        if not isinstance(word, str):
+            raise TypeError(f"an address is a str, not {type(word).__name__}")
     _engine.scan([], [], words, 1)  # what is no address is told before a file is read
     if client is None:
         chunks = [Chunk(0, *_engine.scan(places, names, words, 0))]

@@ -3,11 +3,14 @@
 from __future__ import annotations
 
 from collections.abc import Mapping
+from operator import index
 from pathlib import Path
 from typing import Any
 
 from . import _engine
 from ._paths import StrPath, name_of
+
+_MOST = 10_000_000
 
 
 def sweep(
@@ -34,6 +37,10 @@ def sweep(
     """
     if not isinstance(ranges, Mapping):
         raise TypeError(f"ranges is a mapping from addresses to values, not {type(ranges).__name__}")
+    if samples is not None and not 1 <= index(samples) <= _MOST:
+        raise ValueError(f"samples is 1 or more, and at most {_MOST}, not {samples}")
+    if seed is not None and not 0 <= index(seed) < 2**64:
+        raise ValueError(f"seed is a whole number from 0 to 2**64 - 1, not {seed}")
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
     names = _engine.sweep(
         name_of(path), settings, name_of(folder), samples, seed, overwrite

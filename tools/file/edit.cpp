@@ -34,6 +34,10 @@ Change change_to(const std::string& file, const Address& address, const Json& va
     const Change change{Change::Kind::set, address,
                         text_of_json(known_section(address.section), address.key, value)};
     check_finite(change);
+    if (qel::text::index_value(change.value) != change.value) {
+      refuse_usage(in_quotes(change.value) +
+                   ": blanks at the beginning and the end of a value are not read");
+    }
     return change;
   } catch (const Failure& failure) {
     throw Failure(failure.status(),

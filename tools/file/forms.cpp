@@ -24,7 +24,10 @@ Json lines_of(const SectionedText& document, const TextSection& section,
   Json lines = Json::array();
   const std::size_t last = entries.empty() ? section.header : entries.back().line;
   for (std::size_t at = section.header + 1; at <= last; ++at) {
-    lines.push_back(std::string(qel::text::index_value(document.line(at).whole)));
+    const std::string_view line = document.line(at).whole;
+    const std::string_view value = qel::text::index_value(line);
+    // Without the blanks in front some read as a header.
+    lines.push_back(std::string(qel::text::is_header(value) ? line : value));
   }
   return lines;
 }
