@@ -5,6 +5,7 @@ from __future__ import annotations
 from typing import Any
 
 from . import _engine
+from ._catalogue import CatalogueKey, CatalogueSection
 from ._paths import StrPath, name_of
 from ._records import Difference
 
@@ -28,19 +29,26 @@ def diff(a: StrPath, b: StrPath, tolerance: float = 0.0) -> list[Difference]:
     ]
 
 
-def catalogue() -> dict[str, dict[str, Any]]:
+def catalogue() -> dict[str, CatalogueSection]:
     """The sections and keys that the library knows.
 
     ``{section: {"subject": ..., "keys": {key: {"meaning", "unit", "encoding", "fields",
-    "members"}}}}``. Names are those of the catalogue, with ``%d`` where a number stands; "unit" is
-    "" where there is none; "fields" are dicts of "name", "kind" ("integer", "real", "text") and
-    "meaning"; "members" are those of the C++ classes. Of two encodings of one key the first counts.
+    "members"}}}}``. Names are those of the catalogue, with ``%d`` or ``%ld`` where a number stands;
+    "unit" is "" where there is none; "fields" are dicts of "name", "kind" ("integer", "real",
+    "text") and "meaning"; "members" are those of the C++ classes. A key of a profile's points has
+    "number" and "counted_by" besides, its count "counts", a key of codes "codes" (dicts of "code"
+    and "meaning"), a key that is written otherwise than it is read "written", and some "notes". Of
+    two encodings of one key the first counts.
+
+    >>> qelpro.catalogue()["Flow-%ld"]["keys"]["FillTime"]["unit"]
+    'sec'
     """
-    sections: dict[str, dict[str, Any]] = {}
+    sections: dict[str, CatalogueSection] = {}
     for section in _engine.catalogue():
-        keys: dict[str, dict[str, Any]] = {}
+        keys: dict[str, CatalogueKey] = {}
         for key in section["keys"]:
-            keys.setdefault(key["key"], {"unit": "", **key}).pop("key", None)
+            known: Any = {"meaning": "", "unit": "", **key}
+            keys.setdefault(known.pop("key"), known)
         sections[section["section"]] = {"subject": section["subject"], "keys": keys}
     return sections
 

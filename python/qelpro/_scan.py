@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import os
 from collections.abc import Iterable
-from typing import TYPE_CHECKING, Any
+from typing import TYPE_CHECKING
 
 from . import _engine
 from ._missing import needed
@@ -12,7 +12,10 @@ from ._paths import StrPath, name_of, place_of
 from ._table import Chunk, Table
 
 if TYPE_CHECKING:
+    from typing import Literal
+
     import pandas as pd
+    from distributed import Client
 
 _ERRORS = ("raise", "skip", "record")
 
@@ -20,8 +23,8 @@ _ERRORS = ("raise", "skip", "record")
 def scan(
     paths: Iterable[StrPath],
     addresses: Iterable[str],
-    errors: str = "raise",
-    client: Any = None,
+    errors: Literal["raise", "skip", "record"] = "raise",
+    client: Client | None = None,
 ) -> pd.DataFrame:
     """Values of many files as a pandas DataFrame: a row a file, in the order of the paths.
 

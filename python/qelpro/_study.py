@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from collections.abc import Mapping
+from collections.abc import Iterable, Mapping
 from pathlib import Path
 from typing import Any
 
@@ -12,7 +12,7 @@ from ._paths import StrPath, name_of
 
 def sweep(
     path: StrPath,
-    ranges: Mapping[str, Any],
+    ranges: Mapping[str, float | Iterable[Any]],
     folder: StrPath,
     *,
     samples: int | None = None,
@@ -35,9 +35,7 @@ def sweep(
     if not isinstance(ranges, Mapping):
         raise TypeError(f"ranges is a mapping from addresses to values, not {type(ranges).__name__}")
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
-    names = _engine.sweep(
-        name_of(path), settings, name_of(folder), samples, seed, overwrite
-    )
+    names = _engine.sweep(name_of(path), settings, name_of(folder), samples, seed, overwrite)
     return [Path(name_of(folder)) / name for name in names]
 
 
