@@ -24,8 +24,6 @@ namespace py = pybind11;
 
 namespace {
 
-constexpr const char* kLines = "lines";
-
 SnapshotPointer load_file(const py::str& path, const py::str& name, const SnapshotPointer& before) {
   const std::string where = bytes_of(path);
   const std::string called = bytes_of(name);
@@ -118,8 +116,7 @@ py::object table_of(const Snapshot& snapshot, const py::str& file, const py::str
 py::tuple words_for(const Snapshot& snapshot, const py::str& file, const py::str& section_name,
                     const py::str& name) {
   const std::string section = bytes_of(section_name);
-  int number = 0;
-  const qel::SectionInfo* const known = qel::find_section(with_brackets(section).c_str(), number);
+  const qel::SectionInfo* const known = known_section(section);
   const std::vector<ProfileKind> kinds = kinds_of(bytes_of(file), section, known, bytes_of(name));
   const TextSection* const there = snapshot.entries().find_section(section);
   const std::optional<Profile> found =

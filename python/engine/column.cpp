@@ -37,7 +37,7 @@ py::array_t<Type> array_of(const std::vector<ScannedValue>& values) {
   return array;
 }
 
-py::list list_of(const std::vector<ScannedValue>& values) {
+py::list objects_of(const std::vector<ScannedValue>& values) {
   py::list list;
   for (const ScannedValue& value : values) {
     list.append(std::visit(
@@ -70,7 +70,7 @@ py::tuple object_of(ScannedColumn column) {
     kind = "float";
     values = array_of<double>(column.values);
   } else {
-    values = list_of(column.values);
+    values = objects_of(column.values);
   }
   return py::make_tuple(column.request, str_of(column.name), rows, kind, values);
 }

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <set>
 #include <utility>
 #include <variant>
 
 #include "blocks/catalogue.h"
+#include "file/forms.h"
 #include "file/json_value.h"
 #include "file/typed.h"
 #include "system/failure.h"
@@ -16,13 +16,6 @@
 
 namespace qelpro {
 namespace {
-
-constexpr const char* kLines = "lines";
-
-const qel::SectionInfo* known_section(const std::string& section) {
-  int number = 0;
-  return qel::find_section(with_brackets(section).c_str(), number);
-}
 
 void check_finite(const Change& change) {
   for (const qel::Field& field :

@@ -16,7 +16,6 @@
 namespace qelpro {
 namespace {
 
-constexpr const char* kLines = "lines";
 constexpr const char* kExact = "exact";
 
 // Lines up to the last one that says something: those behind it are spacing.
@@ -32,11 +31,6 @@ Json lines_of(const SectionedText& document, const TextSection& section,
 
 [[noreturn]] void refuse(const std::string& name, const std::string& what) {
   throw Failure(kFileError, at(name, what));
-}
-
-const qel::SectionInfo* known_section(const std::string& section) {
-  int number = 0;
-  return qel::find_section(with_brackets(section).c_str(), number);
 }
 
 Change change_of(const std::string& name, const Address& address, const Json& value) {
