@@ -11,15 +11,22 @@ from ._records import Difference
 
 
 def new(path: StrPath) -> None:
-    """Makes a process file with default values. FileExistsError where something is there."""
+    """Makes a process file with default values.
+
+    Raises FileExistsError where something is there, and what else ``open()`` raises.
+    """
     _engine.new(name_of(path))
 
 
 def diff(a: StrPath, b: StrPath, tolerance: float = 0.0) -> list[Difference]:
     """The differences between two files, in the order of the first, then what the second alone has.
 
+    >>> qelpro.diff("a.pro", "b.pro")
+    [Difference(kind='changed', address='Flow-1.MeltTemp', old=230.0, new=240.0)]
+
     ``tolerance`` is how far two floats may lie from each other that count as the same, relative to
-    the larger magnitude of the two. ValueError for one below 0.
+    the larger magnitude of the two. Raises what ``open()`` raises, and
+    ValueError for a tolerance below 0.
     """
     if not tolerance >= 0:
         raise ValueError(f"a tolerance is 0 or above, not {tolerance!r}")

@@ -281,15 +281,13 @@ class ProcessFile(MutableMapping[str, Section]):
     def pop(self, name: str, default: _Other) -> dict[str, Value] | _Other: ...
     @overload
     def pop(self, name: tuple[str, str], default: Value = ...) -> Value: ...
-    def pop(self, name: Any, *default: Any) -> Any:
+    def pop(self, name: Any, default: Any = ...) -> Any:
         """Removes a section, and gives what it held as a dict; or a value, and gives it.
 
         Where it is not there, the default, or a KeyError where none is given.
         """
-        if len(default) > 1:
-            raise TypeError("pop() takes a name and a default")
-        if default and name not in self:
-            return default[0]
+        if default is not ... and name not in self:
+            return default
         value = self[name]
         if isinstance(value, Section):
             value = dict(value)

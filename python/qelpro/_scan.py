@@ -33,6 +33,11 @@ def scan(
     does not have. Columns of whole numbers that every file has are int64, of numbers float64, all
     others objects; several fields are a tuple. Each file is read once, on all cores.
 
+    >>> qelpro.scan(["a.pro", "b.pro"], ["Flow-1.FillTime", "Flow-*.MeltTemp"])
+        file  Flow-1.FillTime  Flow-1.MeltTemp
+    0  a.pro              1.0            230.0
+    1  b.pro              1.0            240.0
+
     ``errors`` says what becomes of a file that cannot be read, and of a value that its encoding
     does not read: "raise" raises OSError or ValueError, of the first such file; "skip" leaves the
     file out; "record" adds a column "error" with None or the message.

@@ -28,6 +28,10 @@ def sweep(
     is made where it is not there, and has ``manifest.csv`` and ``manifest.json``, which tell the
     values, and the seed.
 
+    >>> files = qelpro.sweep("a.pro", {"Flow-1.MeltTemp": [220, 240]}, "study")
+    >>> [file.name for file in files]
+    ['a-0001.pro', 'a-0002.pro']
+
     Raises FileExistsError where a file of the study exists, unless ``overwrite``; ValueError for
     what a key's encoding cannot hold; KeyError for a pattern that matches nothing. Nothing is
     written then.
