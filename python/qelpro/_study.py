@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from collections.abc import Iterable, Mapping
+from collections.abc import Mapping
 from pathlib import Path
 from typing import Any
 
@@ -12,7 +12,7 @@ from ._paths import StrPath, name_of
 
 def sweep(
     path: StrPath,
-    ranges: Mapping[str, float | Iterable[Any]],
+    ranges: Mapping[str, object],
     folder: StrPath,
     *,
     samples: int | None = None,

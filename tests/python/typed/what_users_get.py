@@ -96,6 +96,8 @@ def studies(client: Client) -> None:
     assert_type(files, list[Path])
     qelpro.sweep("a.pro", {"Flow-1.FillTime": (1.0, 2.0)}, "other", samples=10, seed=1, overwrite=True)
     qelpro.sweep("a.pro", {"Flow-1.FillTime": np.linspace(1, 2, 5)}, "third")
+    mixed = {"Flow-1.FillTime": [0.5, 1], "Flow-1.MeltTemp": [220, 240]}
+    qelpro.sweep("a.pro", mixed, "fourth")
     table = qelpro.scan(files, ["Flow-1.FillTime"])
     assert_type(table, pd.DataFrame)
     qelpro.scan(["a.pro", Path("b.pro")], ("Flow-1.FillTime",), errors="record", client=client)
