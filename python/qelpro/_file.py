@@ -124,12 +124,13 @@ class ProcessFile(MutableMapping[str, Section]):
     object pickles by its path.
     """
 
-    __slots__ = ("_name", "_place", "_snapshot", "_edits", "__weakref__")
+    __slots__ = ("_name", "_place", "_snapshot", "_edits", "_unseen", "__weakref__")
 
     def __init__(self, path: StrPath) -> None:
         self._name = name_of(path)
         self._place = place_of(path)
         self._edits: list[_engine.Edit] | None = None  # of a batch that is open
+        self._unseen: list[_engine.Edit] = []  # those of them that the snapshot has not
         self._snapshot: _engine.Snapshot = _engine.load(self._place, self._name, None)
 
     @property
@@ -152,14 +153,20 @@ class ProcessFile(MutableMapping[str, Section]):
     def _now(self) -> _engine.Snapshot:
         if self._edits is None:
             self._snapshot = _engine.load(self._place, self._name, self._snapshot)
+        elif self._unseen:
+            self._snapshot = _engine.edited(self._snapshot, self._name, self._unseen)
+            self._unseen = []
         return self._snapshot
 
     def _edit(self, edit: _engine.Edit) -> None:
         if self._edits is None:
             _engine.store(self._place, self._name, [edit])
+            return
+        if _engine.check_edit(edit, self._name):
+            self._snapshot = _engine.edited(self._now(), self._name, [edit])
         else:
-            self._snapshot = _engine.edited(self._snapshot, self._name, edit)
-            self._edits.append(edit)
+            self._unseen.append(edit)
+        self._edits.append(edit)
 
     @contextmanager
     def batch(self) -> Iterator[ProcessFile]:
@@ -173,11 +180,11 @@ class ProcessFile(MutableMapping[str, Section]):
         the changes made in it. A batch inside a batch is part of it.
         """
         if self._edits is not None:
-            snapshot, count = self._snapshot, len(self._edits)
+            before, count = self._now(), len(self._edits)
             try:
                 yield self
             except BaseException:
-                self._snapshot = snapshot
+                self._snapshot, self._unseen = before, []
                 del self._edits[count:]
                 raise
             return
@@ -187,7 +194,7 @@ class ProcessFile(MutableMapping[str, Section]):
             yield self
             edits = self._edits
         finally:
-            self._edits = None
+            self._edits, self._unseen = None, []
         if edits:
             _engine.store(self._place, self._name, edits)
 

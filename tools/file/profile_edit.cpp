@@ -50,8 +50,8 @@ std::string text_of_point(const qel::SectionInfo& section, const qel::KeyInfo& p
 }  // namespace
 
 Edit set_profile(std::string section, std::string name, std::vector<std::vector<double>> points) {
-  return [section = std::move(section), name = std::move(name), points = std::move(points)](
-             const std::string& file, const Entries& entries) {
+  return {[section = std::move(section), name = std::move(name), points = std::move(points)](
+              const std::string& file, const Entries& entries) {
     const qel::SectionInfo* const known = known_section(section);
     const std::vector<ProfileKind> kinds = kinds_of(file, section, known, name);
     const TextSection* const there = entries.find_section(section);
@@ -82,7 +82,7 @@ Edit set_profile(std::string section, std::string name, std::vector<std::vector<
       }
     }
     return changes;
-  };
+  }};
 }
 
 }  // namespace qelpro
