@@ -1,7 +1,8 @@
 # %% [markdown]
 # # A flow rate profile, before and after
 #
-# Fast through the part, slow where jetting and burning begin: at the gate and at the end of filling.
+# Fast through the part, slow where jetting and burning begin: at the gate, and at the end of
+# filling.
 
 # %%
 from pathlib import Path

@@ -58,5 +58,3 @@ def catalogue() -> dict[str, CatalogueSection]:
             keys.setdefault(known.pop("key"), known)
         sections[section["section"]] = {"subject": section["subject"], "keys": keys}
     return sections
-
-

@@ -334,8 +334,8 @@ class ProcessFile(MutableMapping[str, Section]):
 
         ``name`` is what its count is called ("FR" of "FRSet"). There are as many rows as the count
         says; a point that is missing is a row of NaN, one beyond the count is none. The units are
-        those of :func:`catalogue`. Raises KeyError where the catalogue has no such table or the file
-        no count, ValueError for a count or a point that is not read.
+        those of :func:`catalogue`. Raises KeyError where the catalogue has no such table or the
+        file no count, ValueError for a count or a point that is not read.
         """
         return self._now().table(self._name, _without_brackets(section), name)
 

@@ -30,7 +30,7 @@ class _Values:
         return {name: value for name, value in vars(self).items() if value is not None}
 
     def to_dict(self) -> dict[str, Any]:
-        """What the file says, by name: plain values, arrays, and dicts of what has values itself."""
+        """What the file says, by name: values, arrays, and dicts of what has values itself."""
         return {name: _plain(value) for name, value in self._said().items()}
 
     def __repr__(self) -> str:

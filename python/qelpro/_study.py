@@ -37,7 +37,9 @@ def sweep(
     written then.
     """
     if not isinstance(ranges, Mapping):
-        raise TypeError(f"ranges is a mapping from addresses to values, not {type(ranges).__name__}")
+        raise TypeError(
+            f"ranges is a mapping from addresses to values, not {type(ranges).__name__}"
+        )
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
     names = _engine.sweep(name_of(path), settings, name_of(folder), samples, seed, overwrite)
     return [Path(name_of(folder)) / name for name in names]

@@ -19,7 +19,10 @@ PUBLIC = [name for name in qelpro.__all__ if not name.startswith("_")]
 def told(thing):
     """Whether it has words of its own, not those of a class that it is built on."""
     words = inspect.getdoc(thing)
-    return bool(words and words.strip()) and words not in {inspect.getdoc(object), inspect.getdoc(tuple)}
+    return bool(words and words.strip()) and words not in {
+        inspect.getdoc(object),
+        inspect.getdoc(tuple),
+    }
 
 
 def members(kind):
@@ -39,13 +42,19 @@ def callables():
                     yield f"{name}.{member}", getattr(value, "__func__", value)
 
 
-@pytest.mark.parametrize("thing", [pytest.param(thing, id=name) for name, thing in callables() if "._" not in name])
+@pytest.mark.parametrize(
+    "thing", [pytest.param(thing, id=name) for name, thing in callables() if "._" not in name]
+)
 def test_it_has_a_docstring(thing):
     assert told(thing)
 
 
 def test_the_names_are_those_that_help_shows():
-    public = {name for name, value in vars(qelpro).items() if not name.startswith("_") and not inspect.ismodule(value)}
+    public = {
+        name
+        for name, value in vars(qelpro).items()
+        if not name.startswith("_") and not inspect.ismodule(value)
+    }
     assert public == set(PUBLIC)
     assert told(qelpro)
 
@@ -54,16 +63,22 @@ def test_the_names_are_those_that_help_shows():
 def test_what_makes_it_a_mapping_has_a_docstring(name):
     usual = {"__init__", "__repr__", "__reduce__", "__new__", "__getnewargs__", "__init_subclass__"}
     owner, _, member = name.partition(".")
-    assert member in usual or told(vars(getattr(qelpro, owner)).get(member) or getattr(getattr(qelpro, owner), member))
+    assert member in usual or told(
+        vars(getattr(qelpro, owner)).get(member) or getattr(getattr(qelpro, owner), member)
+    )
 
 
-@pytest.mark.parametrize("record", [qelpro.Finding, qelpro.Difference, qelpro.Machine, qelpro.CoolantProperties])
+@pytest.mark.parametrize(
+    "record", [qelpro.Finding, qelpro.Difference, qelpro.Machine, qelpro.CoolantProperties]
+)
 def test_the_fields_of_a_record_are_told(record):
     for field in record._fields:
         assert f"``{field}``" in record.__doc__
 
 
-@pytest.mark.parametrize("kind", [qelpro.Process, qelpro.Inlet, qelpro.ProcessMachine, qelpro.HeatTransfer])
+@pytest.mark.parametrize(
+    "kind", [qelpro.Process, qelpro.Inlet, qelpro.ProcessMachine, qelpro.HeatTransfer]
+)
 def test_the_attributes_of_a_process_are_told(kind):
     names = [name for owner in kind.__mro__ for name in vars(owner).get("__annotations__", {})]
     assert len(names) > 5
@@ -89,7 +104,9 @@ def study(tmp_path, monkeypatch):
     """The files that the docstrings name."""
     monkeypatch.chdir(tmp_path)
     qelpro.new("a.pro")
-    qelpro.ProcessFile.from_dict(qelpro.ProcessFile("a.pro").to_dict(), "b.pro")["Flow-1", "MeltTemp"] = 240
+    qelpro.ProcessFile.from_dict(qelpro.ProcessFile("a.pro").to_dict(), "b.pro")[
+        "Flow-1", "MeltTemp"
+    ] = 240
     for name in ("machines.bank", "coolants.pcs"):
         shutil.copy(ROOT / "examples" / name, tmp_path)
 
@@ -102,7 +119,9 @@ EXAMPLES = [
 ]
 
 
-@pytest.mark.parametrize("name, test", [pytest.param(*example, id=example[0]) for example in EXAMPLES])
+@pytest.mark.parametrize(
+    "name, test", [pytest.param(*example, id=example[0]) for example in EXAMPLES]
+)
 def test_what_a_docstring_shows_happens(name, test, study):
     test.globs = {"qelpro": qelpro, "np": np, "f": qelpro.ProcessFile("a.pro")}
     said = []

@@ -21,7 +21,9 @@ def run(tmp_path):
     def run(name, *arguments, status=0):
         command = [sys.executable, str(EXAMPLES / name), *map(str, arguments)]
         environment = {**os.environ, "MPLBACKEND": "Agg", "PYTHONDONTWRITEBYTECODE": "1"}
-        result = subprocess.run(command, cwd=tmp_path, env=environment, capture_output=True, text=True, timeout=300)
+        result = subprocess.run(
+            command, cwd=tmp_path, env=environment, capture_output=True, text=True, timeout=300
+        )
         assert result.returncode == status, result.stderr
         return result.stdout if status == 0 else result.stderr
 
@@ -75,7 +77,9 @@ def test_a_study_puts_parameters_and_results_in_one_table(run, tmp_path):
         pressure = 12 * 200 * math.e ** ((230 - temperature) / 50) * 0.25**2 / time / opening**2
         assert row.pressure == pytest.approx(pressure / 1e6)
     slow_and_fast = table.groupby("Flow-1.MeltTemp")["pressure"]
-    assert (slow_and_fast.min() < slow_and_fast.first()).all() and (slow_and_fast.min() < slow_and_fast.last()).all()
+    assert (slow_and_fast.min() < slow_and_fast.first()).all() and (
+        slow_and_fast.min() < slow_and_fast.last()
+    ).all()
     seen = colours(tmp_path / "study.png")
     assert min(seen[BLUE], seen[ORANGE]) > 200 and seen[WHITE] > 100_000
 
@@ -84,12 +88,19 @@ def test_a_study_runs_again_in_its_folder(run, tmp_path):
     qelpro.new(tmp_path / "base.pro")
     qelpro.ProcessFile(tmp_path / "base.pro")["Flow-1"]["MoldTemp"] = 45
     assert run("study.py") == run("study.py")
-    assert qelpro.scan(sorted((tmp_path / "study").glob("*.pro")), ["Flow-1.MoldTemp"])["Flow-1.MoldTemp"].tolist() == [45] * 10
+    assert (
+        qelpro.scan(sorted((tmp_path / "study").glob("*.pro")), ["Flow-1.MoldTemp"])[
+            "Flow-1.MoldTemp"
+        ].tolist()
+        == [45] * 10
+    )
 
 
 def test_the_solver_refuses_a_file_without_what_it_needs(run, path):
     del qelpro.ProcessFile(path)["Flow-1"]["MeltTemp"]
-    assert "the first inlet has no filling time or no melt temperature" in run("solver.py", path, status=1)
+    assert "the first inlet has no filling time or no melt temperature" in run(
+        "solver.py", path, status=1
+    )
     assert not path.with_suffix(".txt").exists()
 
 
@@ -101,7 +112,9 @@ def test_a_cluster_scans_a_folder(run, tmp_path):
     here = qelpro.scan(files, ["Flow-1.FillTime", "Flow-*.MeltTemp"])
     assert table["Flow-1.FillTime"].tolist() == here["Flow-1.FillTime"].tolist()
     assert table["Flow-1.MeltTemp"].tolist() == here["Flow-1.MeltTemp"].tolist()
-    assert 0.5 <= table["Flow-1.FillTime"].min() < 0.51 and 2.99 < table["Flow-1.FillTime"].max() <= 3
+    assert (
+        0.5 <= table["Flow-1.FillTime"].min() < 0.51 and 2.99 < table["Flow-1.FillTime"].max() <= 3
+    )
 
 
 def test_a_cluster_that_is_there_scans_a_folder_that_is_given(run, tmp_path):

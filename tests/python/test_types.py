@@ -1,4 +1,4 @@
-"""The types of the package: mypy finds nothing to complain of, and they are what the extension has."""
+"""The types of the package: mypy passes, and they are those of the extension."""
 
 import ast
 import os
@@ -23,7 +23,11 @@ def run(tmp_path_factory):
     cache = tmp_path_factory.mktemp("cache")
 
     def run(module, *arguments, path):
-        environment = {**os.environ, "MYPYPATH": os.pathsep.join(map(str, path)), "MYPY_CACHE_DIR": str(cache)}
+        environment = {
+            **os.environ,
+            "MYPYPATH": os.pathsep.join(map(str, path)),
+            "MYPY_CACHE_DIR": str(cache),
+        }
         command = [sys.executable, "-m", module, *map(str, arguments)]
         return subprocess.run(command, capture_output=True, text=True, env=environment, cwd=cache)
 
@@ -67,7 +71,9 @@ def test_a_file_that_is_wrong_does_not_pass(mypy, tmp_path):
     wrong = tmp_path / "wrong.py"
     wrong.write_text('import qelpro\nnumber: int = qelpro.ProcessFile("a.pro").path\n')
     result = mypy(wrong)
-    assert result.returncode == 1 and "wrong.py:2: error: Incompatible types" in result.stdout, result.stdout
+    assert (
+        result.returncode == 1 and "wrong.py:2: error: Incompatible types" in result.stdout
+    ), result.stdout
 
 
 def test_the_examples_pass(mypy):
@@ -83,12 +89,18 @@ def test_users_get_types(mypy, stubs):
 
 
 def test_the_oldest_python_reads_every_file():
-    files = [*PACKAGE.glob("*.py"), *PACKAGE.glob("*.pyi"), *(ROOT / "examples" / "python").glob("*.py")]
+    files = [
+        *PACKAGE.glob("*.py"),
+        *PACKAGE.glob("*.pyi"),
+        *(ROOT / "examples" / "python").glob("*.py"),
+    ]
     assert len(files) > 15
     for file in files:
         tree = ast.parse(file.read_text(), str(file), feature_version=(3, 9))
         imports = [node.module for node in tree.body if isinstance(node, ast.ImportFrom)]
-        annotations = any(isinstance(node, (ast.FunctionDef, ast.AnnAssign)) for node in ast.walk(tree))
+        annotations = any(
+            isinstance(node, (ast.FunctionDef, ast.AnnAssign)) for node in ast.walk(tree)
+        )
         assert file.suffix == ".pyi" or not annotations or "__future__" in imports, file
 
 
@@ -98,7 +110,15 @@ def test_the_stub_has_the_names_of_the_extension(run, tmp_path):
     refusing = [f"{name}.__init__" for name in classes if name not in made]
     allowed = tmp_path / "of_pybind11"  # its metaclass, and an __init__ that refuses
     allowed.write_text("".join(f"qelpro._engine.{name}\n" for name in classes + refusing))
-    result = run("mypy.stubtest", "qelpro._engine", "--mypy-config-file", CONFIGURATION, "--allowlist", allowed, path=(PACKAGE.parent,))
+    result = run(
+        "mypy.stubtest",
+        "qelpro._engine",
+        "--mypy-config-file",
+        CONFIGURATION,
+        "--allowlist",
+        allowed,
+        path=(PACKAGE.parent,),
+    )
     assert result.returncode == 0, result.stdout
 
 
@@ -107,7 +127,11 @@ def definitions():
         if isinstance(node, ast.FunctionDef):
             yield node.name, node
         elif isinstance(node, ast.ClassDef):
-            yield from ((f"{node.name}.{member.name}", member) for member in node.body if isinstance(member, ast.FunctionDef))
+            yield from (
+                (f"{node.name}.{member.name}", member)
+                for member in node.body
+                if isinstance(member, ast.FunctionDef)
+            )
 
 
 def of_extension(name):
@@ -117,12 +141,16 @@ def of_extension(name):
     return value
 
 
-@pytest.mark.parametrize("name, definition", [pytest.param(*found, id=found[0]) for found in definitions()])
+@pytest.mark.parametrize(
+    "name, definition", [pytest.param(*found, id=found[0]) for found in definitions()]
+)
 def test_the_stub_has_the_arguments_of_the_extension(name, definition):
     """mypy cannot look into functions of pybind11, whose docstrings begin with what they take."""
     signature = of_extension(name).__doc__.splitlines()[0]
     told = ast.parse(f"def {signature}: ...").body[0]
-    assert [argument.arg for argument in told.args.args] == [argument.arg for argument in definition.args.args]
+    assert [argument.arg for argument in told.args.args] == [
+        argument.arg for argument in definition.args.args
+    ]
     assert not definition.args.defaults and not definition.args.kwonlyargs
 
 

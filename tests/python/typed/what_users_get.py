@@ -1,4 +1,7 @@
-"""What an editor knows of the package. mypy reads this file, nobody runs it: an ignored line is one that mypy has to refuse."""
+"""What an editor knows of the package.
+
+mypy reads this file, nobody runs it: an ignored line is one that mypy has to refuse.
+"""
 
 from __future__ import annotations
 
@@ -92,9 +95,13 @@ def reference_data() -> None:
 
 
 def studies(client: Client) -> None:
-    files = qelpro.sweep("a.pro", {"Flow-1.MeltTemp": [220, 240], "Flow-1.FillTime": "1:2:0.5"}, "study")
+    files = qelpro.sweep(
+        "a.pro", {"Flow-1.MeltTemp": [220, 240], "Flow-1.FillTime": "1:2:0.5"}, "study"
+    )
     assert_type(files, list[Path])
-    qelpro.sweep("a.pro", {"Flow-1.FillTime": (1.0, 2.0)}, "other", samples=10, seed=1, overwrite=True)
+    qelpro.sweep(
+        "a.pro", {"Flow-1.FillTime": (1.0, 2.0)}, "other", samples=10, seed=1, overwrite=True
+    )
     qelpro.sweep("a.pro", {"Flow-1.FillTime": np.linspace(1, 2, 5)}, "third")
     mixed = {"Flow-1.FillTime": [0.5, 1], "Flow-1.MeltTemp": [220, 240]}
     qelpro.sweep("a.pro", mixed, "fourth")
