@@ -40,6 +40,8 @@ def sweep(
         raise TypeError(
             f"ranges is a mapping from addresses to values, not {type(ranges).__name__}"
         )
+    if not ranges:
+        raise ValueError("ranges are empty: nothing varies")
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
     names = _engine.sweep(name_of(path), settings, name_of(folder), samples, seed, overwrite)
     return [Path(name_of(folder)) / name for name in names]
