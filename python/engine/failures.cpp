@@ -30,6 +30,7 @@ void set_error(PyObject* type, const py::object& arguments) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): what pybind11 calls takes a copy
 void translate(std::exception_ptr thrown) {
   if (!thrown) {
     return;

@@ -334,7 +334,7 @@ class ProcessFile(MutableMapping[str, Section]):
 
         ``name`` is what its count is called ("FR" of "FRSet"). There are as many rows as the count
         says; a point that is missing is a row of NaN, one beyond the count is none. The units are
-        those of :func:`catalogue`. Raises KeyError where the catalogue has no such table or the
+        those of ``catalogue()``. Raises KeyError where the catalogue has no such table or the
         file no count, ValueError for a count or a point that is not read.
         """
         return self._now().table(self._name, _without_brackets(section), name)
@@ -346,7 +346,7 @@ class ProcessFile(MutableMapping[str, Section]):
         >>> f["Flow-1"]["FRSet"], f["Flow-1"]["FR-3"]
         (3, (100.0, 40.0))
 
-        ``points`` is an array, or lists, of the shape that :meth:`profile` gives. Raises KeyError
+        ``points`` is an array, or lists, of the shape that ``profile()`` gives. Raises KeyError
         where the catalogue has no such table, ValueError for another shape and for what is not
         finite, TypeError for what is no number; the file is as it was then.
         """
@@ -376,7 +376,7 @@ class ProcessFile(MutableMapping[str, Section]):
     def from_dict(
         cls, sections: Mapping[str, Mapping[str, Any]], path: StrPath, overwrite: bool = False
     ) -> ProcessFile:
-        """Makes a file of what :meth:`to_dict` gave.
+        """Makes a file of what ``to_dict()`` gave.
 
         Raises FileExistsError where the path exists, unless ``overwrite``; TypeError, ValueError
         for what no file can hold; nothing is written then.
@@ -394,7 +394,7 @@ class ProcessFile(MutableMapping[str, Section]):
         """Draws a profile, ``"Flow-1.FR"``, with its units at the axes, and gives the Axes.
 
         ``ax`` is drawn into; without it the current one is. What else is given is matplotlib's.
-        Raises ImportError where matplotlib is missing, KeyError and ValueError as :meth:`profile`.
+        Raises ImportError where matplotlib is missing, KeyError and ValueError as ``profile()``.
         """
         from ._plot import draw_profile
 

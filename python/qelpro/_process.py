@@ -72,7 +72,7 @@ def load_process(path: StrPath) -> Process:
     Attributes have the names of that JSON, with underscores for blanks:
     ``process.inlets[0].FillTime``, ``process.machine.Maker``, ``process.inlets[0].flow_rate`` (an
     array of shape (n, 2)). What the file does not say is None, a profile that it does not have an
-    array without rows. Units are those of :func:`catalogue`. Raises what ``open()`` raises, and
+    array without rows. Units are those of ``catalogue()``. Raises what ``open()`` raises, and
     ValueError for a file without sections.
 
     >>> process = qelpro.load_process("a.pro")

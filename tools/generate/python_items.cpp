@@ -21,6 +21,8 @@ if TYPE_CHECKING:
     import numpy.typing as npt
 )";
 
+constexpr const char* kQuotes = R"(""")";
+
 struct List {
   std::string type;
   std::string title;
@@ -55,7 +57,7 @@ std::string type_of(qel::Kind kind) {
 
 std::string docstring(const std::string& text) {
   constexpr const char* kIndent = "   ";  // and a blank
-  return wrapped("\"\"\"" + text + "\"\"\"", kIndent);
+  return wrapped(kQuotes + text + kQuotes, kIndent);
 }
 
 struct Attribute {
@@ -98,11 +100,11 @@ std::string list_item(const Attribute& attribute) {
 std::string class_of(const std::string& name, const std::string& what,
                      std::vector<Attribute> attributes, const std::vector<Attribute>& arrays = {}) {
   attributes.insert(attributes.end(), arrays.begin(), arrays.end());
-  std::string text = "\n\nclass " + name + ":\n    \"\"\"" + what + "\n\n";
+  std::string text = "\n\nclass " + name + ":\n    " + kQuotes + what + "\n\n";
   for (const Attribute& attribute : attributes) {
     text += list_item(attribute);
   }
-  text += "    \"\"\"\n";
+  text += std::string("    ") + kQuotes + "\n";
   for (const Attribute& attribute : attributes) {
     text += "\n    " + attribute.name + ": " + attribute.type + "\n" + docstring(attribute.meaning);
   }
