@@ -91,6 +91,9 @@ class Section(MutableMapping[str, Value]):
         """Whether the key is there; False where the section is not."""
         return isinstance(key, str) and key in (self._file._now().keys(self._name) or ())
 
+    def _ipython_key_completions_(self) -> list[str]:
+        return list(self) if self._name in self._file else []
+
     def text(self, key: str) -> str:
         """The value's text as it stands, without the blanks around it. KeyError as for reading."""
         return self._file._now().text(self._file._name, self._name, key)
@@ -318,6 +321,9 @@ class ProcessFile(MutableMapping[str, Section]):
         with self.batch():
             for name in list(self):
                 del self[name]
+
+    def _ipython_key_completions_(self) -> list[str]:
+        return list(self)
 
     @property
     def inlets(self) -> list[int]:

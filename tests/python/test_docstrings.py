@@ -132,3 +132,10 @@ def test_what_a_docstring_shows_happens(name, test, study):
 
 def test_the_docstrings_show_something():
     assert len(EXAMPLES) >= 10
+
+
+def test_a_notebook_completes_sections_and_keys(study):
+    file = qelpro.ProcessFile("a.pro")
+    assert file._ipython_key_completions_() == list(file)
+    assert file["Flow-1"]._ipython_key_completions_() == list(file["Flow-1"])
+    assert file["Flow-9"]._ipython_key_completions_() == []
