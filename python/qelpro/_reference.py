@@ -14,6 +14,12 @@ from ._records import CoolantProperties, Machine
 class MachineBank:
     """The machines of a bank, as they were when it was read.
 
+    >>> bank = qelpro.MachineBank("machines.bank")
+    >>> bank.makers
+    ['Norvik Presses', 'Tessaro']
+    >>> bank.machines("Norvik Presses")[0]
+    Machine(maker='Norvik Presses', grade='NP 50-110')
+
     Raises what ``open()`` raises, and ValueError for a file that is no bank, or one of another
     version. Pickles by its path.
     """
@@ -48,6 +54,10 @@ class MachineBank:
 
 class CoolantTable:
     """The coolants of a settings file, as they were when it was read.
+
+    >>> water = qelpro.CoolantTable("coolants.pcs").properties(0, 25.0)
+    >>> water.density, water.viscosity
+    (0.9953125, 0.010211875)
 
     Raises what ``open()`` raises. Pickles by its path.
     """

@@ -13,7 +13,7 @@ void check_size(std::uint64_t size, bool is_more) {
     throw Failure(kUsage, "the plan has " + std::string(is_more ? "more than " : "") +
                               std::to_string(size) + " files, and at most " +
                               std::to_string(kMostFiles) +
-                              " are made; give fewer values, or --sample N");
+                              " are made; give fewer values; --sample N makes N files");
   }
 }
 
@@ -24,7 +24,8 @@ Plan::Plan(std::vector<Range> ranges) : ranges_(std::move(ranges)), size_(1) {
   for (const Range& range : ranges_) {
     if (range.is_continuous()) {
       throw Failure(kUsage,
-                    "a range FROM:TO has no values of its own; give FROM:TO:STEP, or --sample N");
+                    "a range FROM:TO has no values of its own; give FROM:TO:STEP; "
+                    "--sample N draws from it");
     }
     is_more = is_more || size_ > UINT64_MAX / range.count();
     size_ = is_more ? UINT64_MAX : size_ * range.count();
