@@ -59,13 +59,14 @@ bool is_positional(const Entries& entries, const std::string& section) {
 // Those that are there already as they are to be stay, of which some may say nothing.
 std::vector<Change> changes_to_lines(const std::string& file, const Entries& entries,
                                      const std::string& section, const Json& keys) {
-  if (!keys.is_object() || keys.size() != 1 || !keys.contains(kLines) || !keys[kLines].is_array()) {
+  if (!keys.is_object() || keys.size() > 1 ||
+      (!keys.empty() && (!keys.contains(kLines) || !keys[kLines].is_array()))) {
     throw Failure(kUsage, at({file, 0, with_brackets(section), ""},
                              "holds lines that have a position: a list of texts, \"lines\""));
   }
   const TextSection* const there = entries.find_section(section);
   const std::size_t count = there == nullptr ? 0 : entries.of(*there).size();
-  const Json& lines = keys[kLines];
+  const Json lines = keys.value(kLines, Json::array());
   std::vector<Change> changes{{Change::Kind::add_section, {section, ""}, ""}};
   for (std::size_t number = count; number > lines.size(); --number) {
     changes.push_back({Change::Kind::remove, {section, "#" + std::to_string(number)}, ""});
