@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import operator
 from collections.abc import Mapping
 from pathlib import Path
 from typing import Any
@@ -34,6 +35,10 @@ def sweep(
     """
     if not isinstance(ranges, Mapping):
         raise TypeError(f"ranges is a mapping from addresses to values, not {type(ranges).__name__}")
+    if samples is not None and not 1 <= operator.index(samples) < 2**64:
+        raise ValueError(f"samples are 1 or more, not {samples}")
+    if seed is not None and not 0 <= operator.index(seed) < 2**64:
+        raise ValueError(f"a seed is a whole number of 64 bits without sign, not {seed}")
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
     names = _engine.sweep(
         name_of(path), settings, name_of(folder), samples, seed, overwrite

@@ -3,6 +3,7 @@
 import json
 import os
 import subprocess
+import traceback
 from pathlib import Path
 
 import pytest
@@ -64,3 +65,19 @@ def process_files():
     found = sorted(path for folder in folders for path in folder.glob("*.pro"))
     assert len(found) > 30
     return found
+
+
+def in_a_child(work):
+    """Does the work in a child process, and gives its status: 0 where it came back, 1 where it
+    raised, which is printed, and below 0 where a signal ended it."""
+    child = os.fork()
+    if child == 0:
+        status = 1
+        try:
+            work()
+            status = 0
+        except BaseException:
+            traceback.print_exc()
+        finally:
+            os._exit(status)
+    return os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])

@@ -288,3 +288,9 @@ def test_what_is_not_read_whole_tells_file_section_key_and_text(path, text):
         assert part in str(raised.value)
     assert section.text("FillTime") == text
     assert section["MeltTemp"] == 1.0
+
+
+def test_a_message_with_a_character_0_is_whole(file, unchanged):
+    for section, key, value in [("a\0b", "x", 1), ("Mine", "a\0b", 1), ("Mine", "x", "a\0b")]:
+        with pytest.raises(ValueError, match=r"character 0, where texts end"):
+            file[section][key] = value

@@ -33,6 +33,12 @@ void check_stored(const std::string& file, const std::string& written,
   CQELPROReader_Manipulator reader;
   std::map<std::pair<std::string, std::string>, const Change*> last;
   for (const Change& change : changes) {
+    if (change.kind == Change::Kind::remove_section) {
+      std::erase_if(last, [&](const auto& set) {
+        return with_brackets(set.first.first) == with_brackets(change.address.section);
+      });
+      continue;
+    }
     last[{change.address.section, change.address.key}] = &change;
   }
   const bool is_open = reader.SetFilePath(written.c_str());

@@ -9,6 +9,7 @@
 
 #include "blocks/catalogue.h"
 #include "file/json_value.h"
+#include "file/names.h"
 #include "file/typed.h"
 #include "system/failure.h"
 #include "system/visible.h"
@@ -49,7 +50,7 @@ Change change_to(const std::string& file, const Address& address, const Json& va
 
 bool is_positional(const Entries& entries, const std::string& section) {
   const TextSection* const there = entries.find_section(section);
-  return qel::is_positional(there != nullptr ? there->name : with_brackets(section));
+  return qel::is_positional(there != nullptr ? std::string(there->name) : header_of(section));
 }
 
 [[noreturn]] void fail_to_find(const std::string& file, const Address& address, const char* what) {
