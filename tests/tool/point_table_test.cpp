@@ -53,9 +53,11 @@ TEST(PointTable, HasARowForEachPointThatTheCountPromises) {
 }
 
 TEST(PointTable, IsOneNumberWideForListsOfSingleNumbers) {
-  const PointTable table = table_of("[CoolCTL]\nTSet = 2\nT-1 = 25\nT-2 = 30.5\n", "CoolCTL", "T");
+  const PointTable table =
+      table_of("[EjectCriteria]\nTotalSensorNode = 2\nSensorNode-1 = 25\nSensorNode-2 = 30\n",
+               "EjectCriteria", "SensorNode");
   EXPECT_EQ(table.width, 1U);
-  EXPECT_THAT(table.numbers, ElementsAre(25, 30.5));
+  EXPECT_THAT(table.numbers, ElementsAre(25, 30));
 }
 
 TEST(PointTable, WithoutPointsIsAsWideAsItsEncoding) {
@@ -70,7 +72,7 @@ TEST(PointTable, WithoutPointsIsAsWideAsItsEncoding) {
 
 TEST(PointTable, TakesThePointsByTheirOwnName) {
   EXPECT_THAT(
-      table_of("[RamPosition]\nRP_IP_Section = 1\nRP_IP-1 = 1 2\n", "RamPosition", "RP_IP").numbers,
+      table_of("[RamPosition]\nRP_IPSet = 1\nRP_IP-1 = 1 2\n", "RamPosition", "RP_IP").numbers,
       ElementsAre(1, 2));
 }
 
@@ -90,11 +92,11 @@ TEST(PointTable, RefusesAPointThatIsNotRead) {
 }
 
 TEST(PointTable, RefusesPointsOfOtherWidths) {
-  EXPECT_NE(
-      refusal_of("[EjectCriteria]\nSensorNodeSet = 2\nSensorNode-1 = 3\nSensorNode-2 = 4 1.5\n",
-                 "EjectCriteria", "SensorNode")
-          .first,
-      kDone);
+  const auto [status, message] =
+      refusal_of("[EjectCriteria]\nTotalSensorNode = 2\nSensorNode-1 = 3\nSensorNode-2 = 4 1.5\n",
+                 "EjectCriteria", "SensorNode");
+  EXPECT_EQ(status, kUsage);
+  EXPECT_THAT(message, HasSubstr("[EjectCriteria] SensorNode-2: has 2 numbers"));
 }
 
 TEST(PointTable, TellsWhatIsNotThere) {
