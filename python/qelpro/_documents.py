@@ -33,10 +33,9 @@ def catalogue() -> dict[str, dict[str, Any]]:
 
     ``{section: {"subject": ..., "keys": {key: {"meaning", "unit", "encoding", "fields",
     "members"}}}}``. Names are those of the catalogue, with ``%d`` or ``%ld`` where a number stands;
-    "unit" is
-    "" where there is none; "fields" are dicts of "name", "kind" ("integer", "real", "text") and
-    "meaning"; "members" are those of the C++ classes. A key whose values are codes has "codes",
-    dicts of "code" and "meaning", and some have "notes". Of two encodings of one key the first
+    "unit" is "" where there is none; "fields" are dicts of "name", "kind" ("integer", "real",
+    "text") and "meaning"; "members" are those of the C++ classes. Some keys have more: "codes",
+    dicts of "code" and "meaning", "counts" or "notes". Of two encodings of one key the first
     counts.
     """
     sections: dict[str, dict[str, Any]] = {}

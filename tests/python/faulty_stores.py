@@ -1,8 +1,8 @@
 """Stores of which one call of the operating system after the other fails, or kills the process.
 
 Run by test_faults.py with the library of failing calls preloaded: faulty_stores.py STORE FAIL|KILL
-FOLDER. Prints what became of each as JSON: the exception's class, message and file, the exit status,
-what the file holds and what stands in the folder.
+FOLDER. Prints what became of each as JSON: the exit status, the exception's class, message and
+file, what the file holds and what stands in the folder.
 """
 
 import base64
@@ -40,7 +40,7 @@ STORES = {
 
 
 def attempt(store, variable, number, path, answer):
-    """In a child: the call of this number fails. Tells what was raised, and how many calls it were."""
+    """In a child: one call fails. Tells what was raised, and how many calls there were."""
     raised = None
     os.environ[variable] = str(number)
     try:

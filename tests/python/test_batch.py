@@ -170,4 +170,6 @@ def test_later_changes_of_a_batch_build_on_the_earlier_ones(path):
             if number % 2:
                 del file[f"Flow-{number}"]
     assert file.inlets == list(range(2, 51, 2))
-    assert [dict(section) for section in file.values()] == [{"FillTime": n} for n in range(2, 51, 2)]
+    assert [dict(section) for section in file.values()] == [
+        {"FillTime": n} for n in range(2, 51, 2)
+    ]

@@ -10,7 +10,6 @@ import qelpro
 FILES = [ROOT / "examples/lid.pro", *sorted((ROOT / "tests/data").glob("*.pro"))]
 
 
-
 def as_python_gives(printed):
     section = printed["section"]
     key = printed.get("key", printed.get("profile"))
@@ -43,8 +42,14 @@ def other(tmp_path):
 
 
 def test_differences_have_kind_address_and_typed_values(path, other):
-    path.write_text("[Flow-1]\nFillTime = 1\nFRSet=2\nFR-1=0 1\nFR-2=1 1\nMine = a\n[Old]\nx=1\n[Flow-3]\nFillTime=1\n")
-    other.write_text("[Flow-1]\nFillTime = 1.50\nFRSet=1\nFR-1=0 2\nYours = b\n[Flow-3]\nMeltTemp=2\nFillTime=1.0\n[New]\n")
+    path.write_text(
+        "[Flow-1]\nFillTime = 1\nFRSet=2\nFR-1=0 1\nFR-2=1 1\nMine = a\n"
+        "[Old]\nx=1\n[Flow-3]\nFillTime=1\n"
+    )
+    other.write_text(
+        "[Flow-1]\nFillTime = 1.50\nFRSet=1\nFR-1=0 2\nYours = b\n"
+        "[Flow-3]\nMeltTemp=2\nFillTime=1.0\n[New]\n"
+    )
     assert qelpro.diff(path, other) == [
         ("changed", "Flow-1.FillTime", 1.0, 1.5),
         ("changed", "Flow-1.FR", [[0, 1], [1, 1]], [[0, 2]]),

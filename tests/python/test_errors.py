@@ -214,7 +214,10 @@ def test_a_file_that_becomes_one_of_utf_16_is_not_changed(file, path):
 
 
 def test_new_files_where_none_can_be(tmp_path, path):
-    for wrong, error in [(tmp_path / "no" / "b.pro", FileNotFoundError), (path / "b.pro", NotADirectoryError)]:
+    for wrong, error in [
+        (tmp_path / "no" / "b.pro", FileNotFoundError),
+        (path / "b.pro", NotADirectoryError),
+    ]:
         for make in (qelpro.new, lambda other: qelpro.ProcessFile.from_dict({}, other)):
             with pytest.raises(error) as raised:
                 make(wrong)

@@ -19,7 +19,9 @@ FILES = [path for path in process_files() if not is_utf_16(path)]
 def same(a, b):
     """Equal, of the same types, to the last bit and in the same order."""
     if isinstance(a, dict):
-        return isinstance(b, dict) and list(a) == list(b) and all(same(a[name], b[name]) for name in a)
+        return (
+            isinstance(b, dict) and list(a) == list(b) and all(same(a[name], b[name]) for name in a)
+        )
     if isinstance(a, list):
         return isinstance(b, list) and len(a) == len(b) and all(map(same, a, b))
     return type(a) is type(b) and a == b and str(a) == str(b)
@@ -55,10 +57,17 @@ def test_the_form_of_a_new_file_comes_back(file, tmp_path):
 
 
 def test_what_the_encoding_does_not_read_is_the_text(path, tmp_path):
-    path.write_text("[Flow-1]\nFillTime = 1.5abc\nFR-1 = 0\nMeltTemp = nan\nMoldTemp = inf\nFRSet = 9999999999\n")
+    path.write_text(
+        "[Flow-1]\nFillTime = 1.5abc\nFR-1 = 0\nMeltTemp = nan\nMoldTemp = inf\n"
+        "FRSet = 9999999999\n"
+    )
     form = qelpro.ProcessFile(path).to_dict()
     assert form["Flow-1"] == {
-        "FillTime": "1.5abc", "FR-1": "0", "MeltTemp": "nan", "MoldTemp": "inf", "FRSet": "9999999999"
+        "FillTime": "1.5abc",
+        "FR-1": "0",
+        "MeltTemp": "nan",
+        "MoldTemp": "inf",
+        "FRSet": "9999999999",
     }
     assert same(qelpro.ProcessFile.from_dict(form, tmp_path / "b.pro").to_dict(), form)
 
@@ -82,11 +91,25 @@ def test_from_dict_overwrites_where_it_is_told_to(path):
 
 SURFACE = "SURFACE ELEMENT BOUNDARY CONDITION NAME"
 WRONG = [
-    None, 5, "x", [("Flow-1", {})], {"Flow-1": 5}, {"Flow-1": None}, {"Flow-1": {"FillTime": None}},
-    {"Flow-1": {"FillTime": {"a": 1}}}, {"Flow-1": {"FillTime": math.nan}}, {1: {}}, {"Flow-1": {1: 2}},
-    {"Flow-1": {"a b": 1}}, {"a\nb": {"x": 1}}, {"Flow-1": {"x": "a\nb"}}, {"Flow-1": [1]},
-    {SURFACE: {"lines": 5}}, {SURFACE: {"lines": [None]}}, {SURFACE: {"x": 1}},
-]  # fmt: skip
+    None,
+    5,
+    "x",
+    [("Flow-1", {})],
+    {"Flow-1": 5},
+    {"Flow-1": None},
+    {"Flow-1": {"FillTime": None}},
+    {"Flow-1": {"FillTime": {"a": 1}}},
+    {"Flow-1": {"FillTime": math.nan}},
+    {1: {}},
+    {"Flow-1": {1: 2}},
+    {"Flow-1": {"a b": 1}},
+    {"a\nb": {"x": 1}},
+    {"Flow-1": {"x": "a\nb"}},
+    {"Flow-1": [1]},
+    {SURFACE: {"lines": 5}},
+    {SURFACE: {"lines": [None]}},
+    {SURFACE: {"x": 1}},
+]
 
 
 @pytest.mark.parametrize("form", WRONG, ids=repr)

@@ -44,7 +44,9 @@ def test_in_tells_sections_and_keys(file):
     assert "FillTime" in file["Flow-1"] and "x" not in file["Flow-1"] and "x" not in file["Flow-2"]
 
 
-@pytest.mark.parametrize("wrong", [None, 1, 1.5, b"Flow-1", (), ("Flow-1",), ("a", "b", "c"), (1, 2)])
+@pytest.mark.parametrize(
+    "wrong", [None, 1, 1.5, b"Flow-1", (), ("Flow-1",), ("a", "b", "c"), (1, 2)]
+)
 def test_what_is_no_name_is_in_nothing(file, path, unchanged_contents, wrong):
     assert wrong not in file
     assert wrong not in file["Flow-1"]
@@ -90,7 +92,9 @@ def test_mappings_of_the_same_values_are_equal(file, tmp_path):
     assert file["Flow-1"] == {"FillTime": 1.0, "MeltTemp": 230.0, "FR-1": (0.0, 50.0)}
     assert file["Flow-1"] != {"FillTime": 1.0}
     assert file["Flow-1"] != file["Mine"]
-    (tmp_path / "b.pro").write_text("[Mine]\nx=a\n[Flow-1]\nMeltTemp = 230.0\nFR-1=0 50\nFillTime=1\n")
+    (tmp_path / "b.pro").write_text(
+        "[Mine]\nx=a\n[Flow-1]\nMeltTemp = 230.0\nFR-1=0 50\nFillTime=1\n"
+    )
     assert file == qelpro.ProcessFile(tmp_path / "b.pro")
     (tmp_path / "b.pro").write_text("[Mine]\nx=a\n")
     assert file != qelpro.ProcessFile(tmp_path / "b.pro")
@@ -136,7 +140,10 @@ def test_update_is_one_write_or_none(file, path):
     file["Flow-1"].update({"FillTime": 2}, MoldTemp=60)
     file["Flow-1"].update([("MeltTemp", 231)])
     assert dict(file["Flow-1"]) == {
-        "FillTime": 2.0, "MeltTemp": 231.0, "FR-1": (0.0, 50.0), "MoldTemp": 60.0
+        "FillTime": 2.0,
+        "MeltTemp": 231.0,
+        "FR-1": (0.0, 50.0),
+        "MoldTemp": 60.0,
     }
     before = path.read_bytes()
     with pytest.raises(ValueError):

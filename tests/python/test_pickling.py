@@ -40,7 +40,10 @@ def test_what_travels_is_the_path_and_not_the_contents(file):
 
 def test_a_relative_path_travels_to_another_folder(path, monkeypatch):
     monkeypatch.chdir(path.parent)
-    pickled = [pickle.dumps(kind) for kind in (qelpro.ProcessFile("a.pro"), qelpro.ProcessFile("a.pro")["Flow-1"])]
+    pickled = [
+        pickle.dumps(kind)
+        for kind in (qelpro.ProcessFile("a.pro"), qelpro.ProcessFile("a.pro")["Flow-1"])
+    ]
     monkeypatch.chdir(os.sep)
     assert pickle.loads(pickled[0])["Flow-1"]["FillTime"] == 1.0
     assert pickle.loads(pickled[1])["FillTime"] == 1.0
@@ -67,7 +70,9 @@ def test_banks_and_tables_travel(protocol, monkeypatch):
     assert bank.machines("Tessaro") == qelpro.MachineBank("machines.bank").machines("Tessaro")
     pickled = pickle.dumps(qelpro.CoolantTable("coolants.pcs"), protocol)
     monkeypatch.chdir(os.sep)
-    assert pickle.loads(pickled).properties(6, 25) == qelpro.CoolantTable(ROOT / "tests/data/coolants.pcs").properties(6, 25)
+    assert pickle.loads(pickled).properties(6, 25) == qelpro.CoolantTable(
+        ROOT / "tests/data/coolants.pcs"
+    ).properties(6, 25)
     assert bank.path == ROOT / "tests/data/machines.bank"
 
 
@@ -80,7 +85,12 @@ def test_records_travel(path, tmp_path):
         *qelpro.MachineBank(ROOT / "tests/data/machines.bank").machines("Tessaro"),
         qelpro.CoolantTable(ROOT / "tests/data/coolants.pcs").properties(0, 25),
     ]
-    assert {type(record).__name__ for record in records} == {"Finding", "Difference", "Machine", "CoolantProperties"}
+    assert {type(record).__name__ for record in records} == {
+        "Finding",
+        "Difference",
+        "Machine",
+        "CoolantProperties",
+    }
     assert again(records) == records
     assert [type(record) for record in again(records)] == [type(record) for record in records]
 
@@ -99,7 +109,11 @@ def test_errors_travel(path):
     with pytest.raises(FileNotFoundError) as raised:
         qelpro.ProcessFile(path)
     other = again(raised.value)
-    assert (type(other), other.errno, other.filename) == (FileNotFoundError, raised.value.errno, str(path))
+    assert (type(other), other.errno, other.filename) == (
+        FileNotFoundError,
+        raised.value.errno,
+        str(path),
+    )
 
 
 def set_fill_time(section, value):

@@ -39,7 +39,16 @@ def test_the_form_of_the_file_has_them(file, tmp_path):
 
 
 @pytest.mark.parametrize(
-    "lines", [["a"], ["a", "b"], ("a", "b"), [], LINES, [*LINES, "more"], ["1 2 3", "", "x", "foo", "y", "z"]]
+    "lines",
+    [
+        ["a"],
+        ["a", "b"],
+        ("a", "b"),
+        [],
+        LINES,
+        [*LINES, "more"],
+        ["1 2 3", "", "x", "foo", "y", "z"],
+    ],
 )
 def test_the_lines_are_stored_as_they_are_given(section, path, lines):
     section["lines"] = lines
@@ -91,7 +100,9 @@ def test_pop_gives_the_lines(file):
 
 
 @pytest.mark.parametrize(
-    "lines", [5, "ab", None, [5], [None], ["a\nb"], ["[Flow-1]"], {"a": 1}, [["a"]], ["a\0b"]], ids=repr
+    "lines",
+    [5, "ab", None, [5], [None], ["a\nb"], ["[Flow-1]"], {"a": 1}, [["a"]], ["a\0b"]],
+    ids=repr,
 )
 def test_what_are_no_lines_is_refused(section, path, lines):
     with pytest.raises((TypeError, ValueError)):

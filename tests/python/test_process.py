@@ -6,7 +6,11 @@ from conftest import process_files
 
 import qelpro
 
-FILES = [path for path in process_files() if "[" in path.read_text("latin-1") and path.name != "broken.pro"]
+FILES = [
+    path
+    for path in process_files()
+    if "[" in path.read_text("latin-1") and path.name != "broken.pro"
+]
 
 
 def printed(tool, path):
@@ -16,7 +20,10 @@ def printed(tool, path):
 
 
 def plain(values):
-    return {name: value.tolist() if isinstance(value, np.ndarray) else value for name, value in values.items()}
+    return {
+        name: value.tolist() if isinstance(value, np.ndarray) else value
+        for name, value in values.items()
+    }
 
 
 def underscored(json):
@@ -48,12 +55,17 @@ def test_the_process_is_the_tools(path, tool):
 
 
 def test_lists_are_arrays_of_float64(path):
-    path.write_text("[Flow-1]\nFRSet=2\nFR-1=0 50\nFR-2=100 40\nTimeConstFRSet=2\nTimeConstFR-1=5\nTimeConstFR-2=6\n")
+    path.write_text(
+        "[Flow-1]\nFRSet=2\nFR-1=0 50\nFR-2=100 40\n"
+        "TimeConstFRSet=2\nTimeConstFR-1=5\nTimeConstFR-2=6\n"
+    )
     inlet = qelpro.load_process(path).inlets[0]
     for array, shape in [
-        (inlet.flow_rate, (2, 2)), (inlet.injection_pressure, (0, 2)), (inlet.flow_rate_time_constants, (2,)),
+        (inlet.flow_rate, (2, 2)),
+        (inlet.injection_pressure, (0, 2)),
+        (inlet.flow_rate_time_constants, (2,)),
         (inlet.packing_pressure_time_constants, (0,)),
-    ]:  # fmt: skip
+    ]:
         assert array.dtype == np.float64
         assert array.shape == shape
     np.testing.assert_array_equal(inlet.flow_rate, [[0, 50], [100, 40]])
@@ -88,7 +100,12 @@ def test_what_the_file_does_not_say_is_none(path):
 def test_each_value_of_the_process_has_its_attribute_and_its_meaning():
     from qelpro import _items
 
-    for group in (_items.ProcessItems, _items.InletItems, _items.MachineItems, _items.HeatTransferItems):
+    for group in (
+        _items.ProcessItems,
+        _items.InletItems,
+        _items.MachineItems,
+        _items.HeatTransferItems,
+    ):
         assert group.__doc__
         assert group.__annotations__
         assert all(name.isidentifier() for name in group.__annotations__)
@@ -107,7 +124,10 @@ def test_a_file_without_sections_is_a_value_error(path):
 
 def test_two_inlets_are_in_their_order(path):
     path.write_text("[FlowCTLInfo]\nTotalInlet=2\n[Flow-2]\nFillTime=2\n[Flow-1]\nFillTime=1\n")
-    assert [(inlet.number, inlet.FillTime) for inlet in qelpro.load_process(path).inlets] == [(1, 1.0), (2, 2.0)]
+    assert [(inlet.number, inlet.FillTime) for inlet in qelpro.load_process(path).inlets] == [
+        (1, 1.0),
+        (2, 2.0),
+    ]
 
 
 def test_a_repr_tells_what_is_there(path):

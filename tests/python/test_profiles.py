@@ -57,7 +57,9 @@ def test_each_table_of_the_catalogue_reads_back_what_was_written(file, table):
     assert read.tobytes() == points.tobytes()
     assert file[section][count] == 7
     # The first of the point's keys; "USerGP-7" of "UserGPSet".
-    assert len([key for key in file[section] if key.lower() == point.lower().replace("%d", "7")]) == 1
+    assert (
+        len([key for key in file[section] if key.lower() == point.lower().replace("%d", "7")]) == 1
+    )
     assert len(file[section]) == 8
 
 
@@ -75,10 +77,14 @@ def test_points_in_another_order_are_put_in_theirs(path):
 
 
 def test_a_missing_point_is_a_row_of_nan(path):
-    path.write_text("[Flow-1]\nFRSet = 4\nFR-1 = 0 50\nFR-3 = 100 40\nTimeConstFRSet = 2\nTimeConstFR-2 = 5\n")
+    path.write_text(
+        "[Flow-1]\nFRSet = 4\nFR-1 = 0 50\nFR-3 = 100 40\nTimeConstFRSet = 2\nTimeConstFR-2 = 5\n"
+    )
     file = qelpro.ProcessFile(path)
     nan = np.nan
-    np.testing.assert_array_equal(file.profile("Flow-1", "FR"), [[0, 50], [nan, nan], [100, 40], [nan, nan]])
+    np.testing.assert_array_equal(
+        file.profile("Flow-1", "FR"), [[0, 50], [nan, nan], [100, 40], [nan, nan]]
+    )
 
 
 def test_a_point_beyond_the_count_is_none(path):
@@ -107,7 +113,12 @@ def test_a_point_that_is_not_read_is_a_value_error(path, point):
 
 
 def test_what_is_not_there_is_a_key_error(file):
-    for section, name in [("Flow-9", "FR"), ("Flow-1", "NoSuch"), ("Mine", "FR"), ("Flow-1", "FRSet")]:
+    for section, name in [
+        ("Flow-9", "FR"),
+        ("Flow-1", "NoSuch"),
+        ("Mine", "FR"),
+        ("Flow-1", "FRSet"),
+    ]:
         with pytest.raises(KeyError):
             file.profile(section, name)
     del file["Flow-1"]["FRSet"]
@@ -122,7 +133,9 @@ def test_a_table_of_a_section_or_name_that_the_catalogue_has_not_is_not_written(
 
 
 def test_points_beyond_the_new_count_are_removed(path):
-    path.write_text("[Flow-1]\nFRSet = 3\nFR-1 = 0 1\nFR-2 = 1 1\nFR-3 = 2 1\nFR-9 = 3 3\nFillTime = 1\n")
+    path.write_text(
+        "[Flow-1]\nFRSet = 3\nFR-1 = 0 1\nFR-2 = 1 1\nFR-3 = 2 1\nFR-9 = 3 3\nFillTime = 1\n"
+    )
     file = qelpro.ProcessFile(path)
     file.set_profile("Flow-1", "FR", [[5, 6]])
     assert dict(file["Flow-1"]) == {"FRSet": 1, "FR-1": (5.0, 6.0), "FillTime": 1.0}
@@ -140,8 +153,15 @@ def test_a_table_is_stored_in_one_write_and_makes_its_section(path):
 
 
 SHAPES = [
-    1.5, [1, 2], [[1], [2]], [[1, 2, 3]], [[[1, 2]]], [[1, 2], [3]], np.zeros((2, 2, 2)), np.zeros((0, 3, 1)),
-]  # fmt: skip
+    1.5,
+    [1, 2],
+    [[1], [2]],
+    [[1, 2, 3]],
+    [[[1, 2]]],
+    [[1, 2], [3]],
+    np.zeros((2, 2, 2)),
+    np.zeros((0, 3, 1)),
+]
 
 
 @pytest.mark.parametrize("points", SHAPES, ids=repr)
@@ -156,7 +176,9 @@ def test_what_is_not_finite_is_a_value_error(file, unchanged, value):
         file.set_profile("Flow-1", "FR", [[0, 1], [value, 2]])
 
 
-@pytest.mark.parametrize("points", [None, "x", {}, object(), [["a", "b"]], [[None, 1]], b"ab"], ids=repr)
+@pytest.mark.parametrize(
+    "points", [None, "x", {}, object(), [["a", "b"]], [[None, 1]], b"ab"], ids=repr
+)
 def test_what_are_no_numbers_is_an_error(file, unchanged, points):
     with pytest.raises((TypeError, ValueError)):
         file.set_profile("Flow-1", "FR", points)
@@ -172,9 +194,13 @@ def test_what_is_no_name_is_a_type_error(file, unchanged, name):
 
 @pytest.mark.parametrize(
     "points",
-    [((0, 50), (100, 40)), np.array([[0, 50], [100, 40]], dtype="i2"), np.array([[0, 100], [50, 40]], order="F").T],
+    [
+        ((0, 50), (100, 40)),
+        np.array([[0, 50], [100, 40]], dtype="i2"),
+        np.array([[0, 100], [50, 40]], order="F").T,
+    ],
     ids=["tuples", "short", "strided"],
-)  # fmt: skip
+)
 def test_points_are_anything_that_numpy_takes(file, points):
     file.set_profile("Flow-1", "FR", points)
     np.testing.assert_array_equal(file.profile("Flow-1", "FR"), [[0, 50], [100, 40]])

@@ -37,7 +37,15 @@ def test_an_unknown_maker_is_a_key_error():
 
 
 @pytest.mark.parametrize(
-    "contents", [b"", b"x", b"[Header]\nVersion,1\n", b"[Header]\nVersion,x\n", b"[Flow-1]\nFillTime = 1\n", b"\0\xff"]
+    "contents",
+    [
+        b"",
+        b"x",
+        b"[Header]\nVersion,1\n",
+        b"[Header]\nVersion,x\n",
+        b"[Flow-1]\nFillTime = 1\n",
+        b"\0\xff",
+    ],
 )
 def test_what_is_no_bank_of_the_version_is_a_value_error(tmp_path, contents):
     path = tmp_path / "a.bank"
@@ -75,13 +83,19 @@ def test_properties_are_named():
     assert type(properties) is qelpro.CoolantProperties
     assert properties._fields == ("density", "specific_heat", "conductivity", "viscosity")
     assert properties == (
-        properties.density, properties.specific_heat, properties.conductivity, properties.viscosity
+        properties.density,
+        properties.specific_heat,
+        properties.conductivity,
+        properties.viscosity,
     )
 
 
 def test_a_coolant_is_asked_for_by_its_identifier(tool):
     table = qelpro.CoolantTable(TABLES[0])
-    assert list(table.properties(6, 25)) == tool("coolant", TABLES[0], "6", "25", "--json")["properties"]
+    assert (
+        list(table.properties(6, 25))
+        == tool("coolant", TABLES[0], "6", "25", "--json")["properties"]
+    )
     assert table.properties(6, 25) != table.properties(0, 25)
 
 
@@ -91,7 +105,9 @@ def test_a_coolant_that_is_not_there_is_a_key_error(coolant):
         qelpro.CoolantTable(TABLES[0]).properties(coolant, 25)
 
 
-@pytest.mark.parametrize("arguments", [("0", 25), (0, "25"), (None, 25), (0, None), (2**40, 25), (0.5, 25)])
+@pytest.mark.parametrize(
+    "arguments", [("0", 25), (0, "25"), (None, 25), (0, None), (2**40, 25), (0.5, 25)]
+)
 def test_what_is_no_number_is_a_type_error(arguments):
     with pytest.raises(TypeError):
         qelpro.CoolantTable(TABLES[0]).properties(*arguments)

@@ -16,7 +16,9 @@ def test_a_value_is_stored_before_the_statement_ends(file, path):
 
 
 def test_no_other_byte_is_changed(path):
-    path.write_bytes(b"\xef\xbb\xbf[Flow-1]  ; a\r\n;FillTime = 0\r\nFillTime  =   1 \r\nx =\r\n; end")
+    path.write_bytes(
+        b"\xef\xbb\xbf[Flow-1]  ; a\r\n;FillTime = 0\r\nFillTime  =   1 \r\nx =\r\n; end"
+    )
     qelpro.ProcessFile(path)["Flow-1"]["FillTime"] = 2
     assert path.read_bytes() == (
         b"\xef\xbb\xbf[Flow-1]  ; a\r\n;FillTime = 0\r\nFillTime  =   2 \r\nx =\r\n; end"
@@ -43,7 +45,9 @@ def test_a_section_of_a_mapping_is_made(path):
 
 
 def test_a_section_of_a_mapping_holds_these_values_and_no_others(path):
-    path.write_text("[Flow-1]\n; why\nFillTime = 1\nMeltTemp = 2\nMeltTemp = 3\n[Flow-2]\nFillTime = 4\n")
+    path.write_text(
+        "[Flow-1]\n; why\nFillTime = 1\nMeltTemp = 2\nMeltTemp = 3\n[Flow-2]\nFillTime = 4\n"
+    )
     file = qelpro.ProcessFile(path)
     file["Flow-1"] = {"MoldTemp": 60, "FillTime": 5}
     assert dict(file["Flow-1"]) == {"FillTime": 5.0, "MoldTemp": 60.0}

@@ -24,7 +24,9 @@ def test_a_file_is_made_for_each_value(path, folder):
     paths = qelpro.sweep(path, {"Flow-1.MeltTemp": [220, 240.5]}, folder)
     assert all(made.parent == folder and made.is_file() for made in paths)
     assert values_of(paths) == [220.0, 240.5]
-    assert sorted(os.listdir(folder)) == sorted([*(made.name for made in paths), "manifest.csv", "manifest.json"])
+    assert sorted(os.listdir(folder)) == sorted(
+        [*(made.name for made in paths), "manifest.csv", "manifest.json"]
+    )
 
 
 def test_the_last_address_turns_fastest(path, folder):
@@ -35,8 +37,19 @@ def test_the_last_address_turns_fastest(path, folder):
 
 def test_the_files_and_manifests_are_the_tools(path, folder, tmp_path, tool):
     other = tmp_path / "tool"
-    tool("sweep", path, "--set", "Flow-1.MeltTemp=220:260:10", "--set", "Flow-1.FillTime=1,2.5", "-o", other)
-    paths = qelpro.sweep(path, {"Flow-1.MeltTemp": "220:260:10", "Flow-1.FillTime": "1,2.5"}, folder)
+    tool(
+        "sweep",
+        path,
+        "--set",
+        "Flow-1.MeltTemp=220:260:10",
+        "--set",
+        "Flow-1.FillTime=1,2.5",
+        "-o",
+        other,
+    )
+    paths = qelpro.sweep(
+        path, {"Flow-1.MeltTemp": "220:260:10", "Flow-1.FillTime": "1,2.5"}, folder
+    )
     assert sorted(os.listdir(folder)) == sorted(os.listdir(other))
     for made in paths:
         assert made.read_bytes() == (other / made.name).read_bytes()
@@ -45,10 +58,23 @@ def test_the_files_and_manifests_are_the_tools(path, folder, tmp_path, tool):
 
 def test_samples_are_the_tools_for_a_seed(path, folder, tmp_path, tool):
     other = tmp_path / "tool"
-    tool("sweep", path, "--sample", "7", "--seed", "5", "--set", "Flow-1.MeltTemp=220:260", "-o", other)
+    tool(
+        "sweep",
+        path,
+        "--sample",
+        "7",
+        "--seed",
+        "5",
+        "--set",
+        "Flow-1.MeltTemp=220:260",
+        "-o",
+        other,
+    )
     paths = qelpro.sweep(path, {"Flow-1.MeltTemp": (220, 260)}, folder, samples=7, seed=5)
     assert len(paths) == 7
-    assert [made.read_bytes() for made in paths] == [(other / made.name).read_bytes() for made in paths]
+    assert [made.read_bytes() for made in paths] == [
+        (other / made.name).read_bytes() for made in paths
+    ]
 
 
 def test_samples_lie_one_in_each_part_of_the_range(path, folder):
@@ -61,7 +87,9 @@ def test_without_a_seed_samples_are_others_each_time_and_the_seed_is_told(path, 
     second = qelpro.sweep(path, {"Flow-1.MeltTemp": (200.0, 300.0)}, tmp_path / "second", samples=5)
     assert values_of(first) != values_of(second)
     seed = json.loads((folder / "manifest.json").read_text())["seed"]
-    again = qelpro.sweep(path, {"Flow-1.MeltTemp": (200.0, 300.0)}, tmp_path / "again", samples=5, seed=seed)
+    again = qelpro.sweep(
+        path, {"Flow-1.MeltTemp": (200.0, 300.0)}, tmp_path / "again", samples=5, seed=seed
+    )
     assert values_of(again) == values_of(first)
 
 
@@ -143,7 +171,9 @@ REFUSED = [
 
 
 @pytest.mark.parametrize("ranges, options, error", REFUSED, ids=lambda value: repr(value)[:40])
-def test_a_study_that_cannot_be_is_refused_and_nothing_is_written(path, folder, ranges, options, error):
+def test_a_study_that_cannot_be_is_refused_and_nothing_is_written(
+    path, folder, ranges, options, error
+):
     with pytest.raises(error):
         qelpro.sweep(path, ranges, folder, **options)
     assert not folder.exists() or os.listdir(folder) == []

@@ -50,7 +50,9 @@ STORES = {
     "a section": lambda file: file.__setitem__("Flow-1", {"FillTime": 2}),
     "a profile": lambda file: file.set_profile("Flow-1", "FR", [[0, 1]]),
     "a removal": lambda file: file.__delitem__("Unit"),
-    "a form": lambda file: qelpro.ProcessFile.from_dict({"Flow-1": {"FillTime": 2}}, file, overwrite=True),
+    "a form": lambda file: qelpro.ProcessFile.from_dict(
+        {"Flow-1": {"FillTime": 2}}, file, overwrite=True
+    ),
 }
 
 
@@ -141,6 +143,8 @@ def test_banks_and_tables_can_be_asked_by_several_threads():
     def work(number):
         bank = qelpro.MachineBank(ROOT / "tests/data/machines.bank")
         table = qelpro.CoolantTable(ROOT / "tests/data/coolants.pcs")
-        return [(len(bank.machines("Tessaro")), table.properties(0, 20 + step)) for step in range(50)]
+        return [
+            (len(bank.machines("Tessaro")), table.properties(0, 20 + step)) for step in range(50)
+        ]
 
     assert len({str(answer) for answer in in_threads(work)}) == 1

@@ -83,12 +83,22 @@ def test_exponents_have_three_digits_as_in_process_files(file):
 @pytest.mark.parametrize(
     "value",
     [
-        np.float64(2.5), np.float32(2.5), np.array(2.5), np.array([2.5]), [2.5], (2.5,), "2.5",
-        pd.Series([2.5]), decimal.Decimal("2.5"), fractions.Fraction(5, 2), pd.Index([2.5]),
-        pd.DataFrame({"a": [2.5]})["a"].iloc[0], array.array("d", [2.5]),
+        np.float64(2.5),
+        np.float32(2.5),
+        np.array(2.5),
+        np.array([2.5]),
+        [2.5],
+        (2.5,),
+        "2.5",
+        pd.Series([2.5]),
+        decimal.Decimal("2.5"),
+        fractions.Fraction(5, 2),
+        pd.Index([2.5]),
+        pd.DataFrame({"a": [2.5]})["a"].iloc[0],
+        array.array("d", [2.5]),
     ],
     ids=lambda value: type(value).__name__,
-)  # fmt: skip
+)
 def test_a_real_is_taken_from_any_number(file, value):
     file["Flow-1"]["FillTime"] = value
     assert file["Flow-1"]["FillTime"] == 2.5
@@ -126,9 +136,16 @@ def test_an_int_of_any_length_is_a_real(file):
 
 @pytest.mark.parametrize(
     "value",
-    [(0, 50), [0, 50], np.array([0, 50]), np.array([[0.0, 50.0]])[0], pd.Series([0, 50]), range(0, 100, 50)],
+    [
+        (0, 50),
+        [0, 50],
+        np.array([0, 50]),
+        np.array([[0.0, 50.0]])[0],
+        pd.Series([0, 50]),
+        range(0, 100, 50),
+    ],
     ids=lambda value: type(value).__name__,
-)  # fmt: skip
+)
 def test_several_fields_are_any_sequence(file, value):
     file["Flow-1"]["FR-1"] = value
     assert file["Flow-1"]["FR-1"] == (0.0, 50.0)
@@ -139,7 +156,13 @@ def test_fields_of_several_kinds_are_a_tuple_of_them(file):
     value = (0.5, 1, 2.25, 3.5, 4)
     file["CoolChannel-1"]["TCP-1"] = value
     assert file["CoolChannel-1"]["TCP-1"] == value
-    assert [type(field) for field in file["CoolChannel-1"]["TCP-1"]] == [float, int, float, float, int]
+    assert [type(field) for field in file["CoolChannel-1"]["TCP-1"]] == [
+        float,
+        int,
+        float,
+        float,
+        int,
+    ]
 
 
 def test_a_text_of_several_fields_is_taken_as_it_stands(file):
@@ -179,10 +202,28 @@ own_member = []
 own_member.append(own_member)
 
 REFUSED = [
-    None, object(), {}, {"a": 1}, {1.5}, b"1.5", bytearray(b"1"), 1j, np.complex128(1), lambda: 1,
-    pd.NaT, pd.NA, pd.Timestamp("2026-01-01"), np.datetime64("2026-01-01"), [None], [[None]],
-    np.array([None]), np.array([b"x"]), float, Ellipsis, [{}],
-]  # fmt: skip
+    None,
+    object(),
+    {},
+    {"a": 1},
+    {1.5},
+    b"1.5",
+    bytearray(b"1"),
+    1j,
+    np.complex128(1),
+    lambda: 1,
+    pd.NaT,
+    pd.NA,
+    pd.Timestamp("2026-01-01"),
+    np.datetime64("2026-01-01"),
+    [None],
+    [[None]],
+    np.array([None]),
+    np.array([b"x"]),
+    float,
+    Ellipsis,
+    [{}],
+]
 
 
 @pytest.mark.parametrize("value", REFUSED, ids=lambda value: type(value).__name__)
@@ -202,7 +243,9 @@ def test_what_is_no_number_and_no_text_is_a_type_error(file, unchanged, value):
         file["Flow-1"].update(MeltTemp=200, FillTime=value)
 
 
-@pytest.mark.parametrize("value", [math.nan, math.inf, -math.inf, np.float32("nan"), np.array([np.inf])])
+@pytest.mark.parametrize(
+    "value", [math.nan, math.inf, -math.inf, np.float32("nan"), np.array([np.inf])]
+)
 @pytest.mark.parametrize("key", ["FillTime", "FRSet", "Mine"])
 def test_what_is_not_finite_is_a_value_error(file, unchanged, key, value):
     with pytest.raises(ValueError):
@@ -220,13 +263,29 @@ def test_what_would_be_read_as_not_finite_is_a_value_error(file, unchanged, text
 @pytest.mark.parametrize(
     "key, value",
     [
-        ("FillTime", "fast"), ("FillTime", "1.5abc"), ("FillTime", ""), ("FillTime", "1,5"),
-        ("FillTime", []), ("FillTime", [1, 2]), ("FillTime", "1 2"),
-        ("FRSet", 1.5), ("FRSet", 2**31), ("FRSet", -(2**31) - 1), ("FRSet", 2**70), ("FRSet", "1.5"),
-        ("FR-1", 1), ("FR-1", (1, 2, 3)), ("FR-1", "1"), ("FR-1", [[1, 2]]), ("FR-1", (1, "x")),
-        ("Mine", "a\nb"), ("Mine", "a\rb"), ("Mine", "a\0b"), ("Mine", "\ud800"),
+        ("FillTime", "fast"),
+        ("FillTime", "1.5abc"),
+        ("FillTime", ""),
+        ("FillTime", "1,5"),
+        ("FillTime", []),
+        ("FillTime", [1, 2]),
+        ("FillTime", "1 2"),
+        ("FRSet", 1.5),
+        ("FRSet", 2**31),
+        ("FRSet", -(2**31) - 1),
+        ("FRSet", 2**70),
+        ("FRSet", "1.5"),
+        ("FR-1", 1),
+        ("FR-1", (1, 2, 3)),
+        ("FR-1", "1"),
+        ("FR-1", [[1, 2]]),
+        ("FR-1", (1, "x")),
+        ("Mine", "a\nb"),
+        ("Mine", "a\rb"),
+        ("Mine", "a\0b"),
+        ("Mine", "\ud800"),
     ],
-)  # fmt: skip
+)
 def test_what_the_encoding_cannot_hold_is_a_value_error(file, unchanged, key, value):
     with pytest.raises(ValueError):
         file["Flow-1"][key] = value

@@ -38,8 +38,8 @@ void check_finite(const Change& change) {
 
 Change change_to(const std::string& file, const Address& address, const Json& value) {
   try {
-    const Change change{Change::Kind::set, address,
-                        text_of_json(known_section(address.section), address.key, value)};
+    Change change{Change::Kind::set, address,
+                  text_of_json(known_section(address.section), address.key, value)};
     check_finite(change);
     return change;
   } catch (const Failure& failure) {
