@@ -57,7 +57,7 @@ def main(name, kind, folder):
     path = os.path.join(folder, "a.pro")
     found = []
     # A new file is several hundred calls, of which most are alike.
-    for number in [*range(1, 40), *range(40, 1000, 25)]:
+    for number in [*range(1, 40), *range(40, 1000, 60)]:
         for left in os.listdir(folder):
             os.remove(os.path.join(folder, left))
         if not name.startswith("new"):

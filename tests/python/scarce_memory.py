@@ -64,7 +64,7 @@ def main(name, path):
     import numpy  # noqa: F401  before the memory is scarce
 
     statuses = []
-    for more in range(0, 30_000_000, 2_500_000):
+    for more in range(0, 30_000_000, 4_000_000):
         child = os.fork()
         if child == 0:
             os._exit(work_within(more, WORK[name], path))
