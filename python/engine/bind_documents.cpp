@@ -30,7 +30,7 @@ void new_file(const py::str& path) {
 
 void write_form(const py::str& path, const py::dict& form, bool overwrite) {
   const std::string file = bytes_of(path);
-  const Json sections = json_of_mapping(form);
+  const Json sections = json_of_mappings(form);
   const py::gil_scoped_release released;
   const std::string contents = contents_of(file, sections);
   if (overwrite) {

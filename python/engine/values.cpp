@@ -61,12 +61,73 @@ Json real_number(double value) {
   return number_of_text(shortest(value));
 }
 
-Json list_of(py::handle values) {
+// Far deeper than any value is; one that holds itself has no end.
+constexpr int kDeepest = 100;
+
+Json json_within(py::handle value, int depth);
+
+Json list_of(py::handle values, int depth) {
   Json list = Json::array();
   for (const py::handle value : values) {
-    list.push_back(json_of(value));
+    list.push_back(json_within(value, depth + 1));
   }
   return list;
+}
+
+Json json_within(py::handle value, int depth) {
+  if (depth > kDeepest) {
+    throw py::value_error("a value is nested too deep");
+  }
+  if (PyUnicode_Check(value.ptr())) {
+    return bytes_of(value);
+  }
+  if (PyLong_Check(value.ptr())) {
+    return whole_number(value);
+  }
+  if (PyFloat_Check(value.ptr())) {
+    return real_number(PyFloat_AsDouble(value.ptr()));
+  }
+  if (PyList_Check(value.ptr()) || PyTuple_Check(value.ptr())) {
+    return list_of(value, depth);
+  }
+  if (PyBytes_Check(value.ptr()) || PyByteArray_Check(value.ptr()) || value.is_none()) {
+    refuse(value);
+  }
+  // numpy's arrays and numbers, and pandas' columns.
+  if (py::hasattr(value, "tolist")) {
+    const py::object plain = value.attr("tolist")();
+    if (!py::type::of(plain).is(py::type::of(value))) {
+      return json_within(plain, depth + 1);
+    }
+  }
+  if (py::hasattr(value, "items")) {
+    refuse(value);
+  }
+  if (py::hasattr(value, "__index__")) {
+    return whole_number(value.attr("__index__")());
+  }
+  if (py::hasattr(value, "__float__")) {
+    return real_number(py::float_(py::reinterpret_borrow<py::object>(value)));
+  }
+  if (PySequence_Check(value.ptr()) != 0) {
+    return list_of(value, depth);
+  }
+  refuse(value);
+}
+
+// A mapping of mappings, so deep, at whose end values stand.
+Json mapping_within(py::handle values, int depth) {
+  Json mapping = Json::object();
+  const py::object items = values.attr("items")();
+  for (const py::handle item : items) {
+    const py::tuple pair(py::reinterpret_borrow<py::object>(item));
+    const py::object value = pair[1];
+    const bool is_mapping =
+        depth > 0 && py::hasattr(value, "items") && !py::hasattr(value, "tolist");
+    append_member(mapping, bytes_of(pair[0]),
+                  is_mapping ? mapping_within(value, depth - 1) : json_within(value, 0));
+  }
+  return mapping;
 }
 
 }  // namespace
@@ -119,54 +180,10 @@ py::object object_of(const std::vector<qel::Field>& fields) {
   return tuple;
 }
 
-Json json_of(py::handle value) {
-  if (PyUnicode_Check(value.ptr())) {
-    return bytes_of(value);
-  }
-  if (PyLong_Check(value.ptr())) {
-    return whole_number(value);
-  }
-  if (PyFloat_Check(value.ptr())) {
-    return real_number(PyFloat_AsDouble(value.ptr()));
-  }
-  if (PyList_Check(value.ptr()) || PyTuple_Check(value.ptr())) {
-    return list_of(value);
-  }
-  if (PyBytes_Check(value.ptr()) || PyByteArray_Check(value.ptr()) || value.is_none()) {
-    refuse(value);
-  }
-  // numpy's arrays and numbers, and pandas' columns.
-  if (py::hasattr(value, "tolist")) {
-    const py::object plain = value.attr("tolist")();
-    if (!py::type::of(plain).is(py::type::of(value))) {
-      return json_of(plain);
-    }
-  }
-  if (py::hasattr(value, "items")) {
-    refuse(value);
-  }
-  if (py::hasattr(value, "__index__")) {
-    return whole_number(value.attr("__index__")());
-  }
-  if (py::hasattr(value, "__float__")) {
-    return real_number(py::float_(py::reinterpret_borrow<py::object>(value)));
-  }
-  if (PySequence_Check(value.ptr()) != 0) {
-    return list_of(value);
-  }
-  refuse(value);
-}
+Json json_of(py::handle value) { return json_within(value, 0); }
 
-Json json_of_mapping(py::handle values) {
-  Json mapping = Json::object();
-  const py::object items = values.attr("items")();
-  for (const py::handle item : items) {
-    const auto pair = py::reinterpret_borrow<py::tuple>(item);
-    const py::object value = pair[1];
-    const bool is_mapping = py::hasattr(value, "items") && !py::hasattr(value, "tolist");
-    append_member(mapping, bytes_of(pair[0]), is_mapping ? json_of_mapping(value) : json_of(value));
-  }
-  return mapping;
-}
+Json json_of_mapping(py::handle values) { return mapping_within(values, 0); }
+
+Json json_of_mappings(py::handle values) { return mapping_within(values, 1); }
 
 }  // namespace qelpro::python

@@ -19,7 +19,10 @@ pybind11::object object_of(const std::vector<qel::Field>& fields);
 /// not finite.
 Json json_of(pybind11::handle value);
 
-/// A mapping from names to such values, or to mappings again.
+/// A mapping from names to such values.
 Json json_of_mapping(pybind11::handle values);
+
+/// A mapping from names to such mappings, or to values.
+Json json_of_mappings(pybind11::handle values);
 
 }  // namespace qelpro::python

@@ -109,6 +109,13 @@ class Section(MutableMapping[str, Value]):
         with self._file.batch():
             super().update(*others, **values)
 
+    def popitem(self) -> tuple[str, Value]:
+        """Removes the last key, and gives it and its value. KeyError where there is none."""
+        keys = self._keys()
+        if not keys:
+            raise KeyError(f"{self._file._name}: [{self._name}]: holds no key")
+        return keys[-1], self.pop(keys[-1])
+
     def clear(self) -> None:
         """Removes all keys; the section stays."""
         if self._name in self._file:

@@ -20,4 +20,5 @@ def name_of(path: StrPath) -> str:
 def place_of(path: StrPath) -> str:
     """Where that is, whatever folder is the current one later."""
     name = name_of(path)
-    return os.path.abspath(name) if name else name
+    # As it stands: "folder/.." is another folder where "folder" is a link.
+    return os.path.join(os.getcwd(), name) if name else name

@@ -80,6 +80,8 @@ class CoolantTable:
         that is not there.
         """
         number = index(coolant)
+        if isinstance(temperature, (str, bytes)):
+            raise TypeError(f"a temperature is a number, not {type(temperature).__name__}")
         if abs(number) >= 2**31:
             raise KeyError(f"{self._name}: coolant {number}: not found")
         return CoolantProperties(*self._table.properties(number, float(temperature)))

@@ -5,13 +5,19 @@ import importlib.util
 import sys
 
 NEEDED = ("pytest", "numpy", "pandas", "matplotlib", "distributed", "mypy")
-missing = [name for name in NEEDED if not importlib.util.find_spec(name)]
-if missing:
-    print("skipped: Python has no " + ", ".join(missing))
-    sys.exit(77)
 
-import pytest
 
-# The workers of a cluster import this file, too.
+def main():
+    missing = [name for name in NEEDED if not importlib.util.find_spec(name)]
+    if missing:
+        print("skipped: Python has no " + ", ".join(missing))
+        return 77
+
+    import pytest
+
+    return pytest.main(["-q", "-p", "no:cacheprovider", "--strict-markers", *sys.argv[1:]])
+
+
+# Processes that tests spawn import this file.
 if __name__ == "__main__":
-    sys.exit(pytest.main(["-q", "-p", "no:cacheprovider", "--strict-markers", *sys.argv[1:]]))
+    sys.exit(main())

@@ -3,18 +3,23 @@
 // QELPRO_TEST_FAIL    the name of a call that always fails with EIO
 // QELPRO_TEST_SIGNAL  the name of a call in front of which the program is interrupted
 // QELPRO_TEST_KILL    the same, and it is killed
+// QELPRO_TEST_FAIL_AT the number of the call, of those below, that fails with EIO, and
+// QELPRO_TEST_KILL_AT the one in front of which the program is killed; from 1, counted while either
+//                     stands in the environment. qelpro_test_calls() tells how many there were.
 // QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
 //
 // A file whose name holds "unreadable" fails after its first 16 KiB.
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -28,7 +33,26 @@ Function* next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+long calls = 0;
+
+// Whether it is this call's turn.
+bool is_turn(const char* variable) {
+  const char* number = std::getenv(variable);
+  return number != nullptr && std::atol(number) == calls;
+}
+
 bool fails(std::string_view call) {
+  if (std::getenv("QELPRO_TEST_FAIL_AT") != nullptr ||
+      std::getenv("QELPRO_TEST_KILL_AT") != nullptr) {
+    ++calls;
+    if (is_turn("QELPRO_TEST_KILL_AT")) {
+      ::kill(::getpid(), SIGKILL);
+    }
+    if (is_turn("QELPRO_TEST_FAIL_AT")) {
+      errno = EIO;
+      return true;
+    }
+  }
   if (const char* signalled = std::getenv("QELPRO_TEST_SIGNAL");
       signalled != nullptr && call == signalled) {
     ::kill(::getpid(), SIGTERM);
@@ -86,13 +110,13 @@ void log_first_write(int fd) {
 VISIBLE ssize_t read(int fd, void* to, std::size_t count) {
   static auto* const real = next<ssize_t(int, void*, std::size_t)>("read");
   const ssize_t most = readable(fd, ::lseek(fd, 0, SEEK_CUR), count);
-  return most < 0 ? -1 : real(fd, to, static_cast<std::size_t>(most));
+  return most < 0 || fails("read") ? -1 : real(fd, to, static_cast<std::size_t>(most));
 }
 
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
   const ssize_t most = readable(fd, offset, count);
-  return most < 0 ? -1 : real(fd, to, static_cast<std::size_t>(most), offset);
+  return most < 0 || fails("read") ? -1 : real(fd, to, static_cast<std::size_t>(most), offset);
 }
 
 VISIBLE ssize_t write(int fd, const void* from, std::size_t count) {
@@ -137,3 +161,49 @@ VISIBLE int link(const char* from, const char* to) noexcept {
   static auto* const real = next<int(const char*, const char*)>("link");
   return fails("link") ? -1 : real(from, to);
 }
+
+VISIBLE int open(const char* path, int flags, ...) {
+  static auto* const real = next<int(const char*, int, mode_t)>("open");
+  va_list more;
+  va_start(more, flags);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+  va_end(more);
+  return fails("open") ? -1 : real(path, flags, mode);
+}
+
+VISIBLE int close(int fd) {
+  static auto* const real = next<int(int)>("close");
+  const bool is_failure = fails("close");
+  const int result = real(fd);  // what fails is closed nevertheless
+  if (is_failure) {
+    errno = EIO;
+  }
+  return is_failure ? -1 : result;
+}
+
+VISIBLE int stat(const char* path, struct stat* status) noexcept {
+  static auto* const real = next<int(const char*, struct stat*)>("stat");
+  return fails("stat") ? -1 : real(path, status);
+}
+
+VISIBLE int lstat(const char* path, struct stat* status) noexcept {
+  static auto* const real = next<int(const char*, struct stat*)>("lstat");
+  return fails("lstat") ? -1 : real(path, status);
+}
+
+VISIBLE int fstat(int fd, struct stat* status) noexcept {
+  static auto* const real = next<int(int, struct stat*)>("fstat");
+  return fails("fstat") ? -1 : real(fd, status);
+}
+
+VISIBLE int flock(int fd, int operation) noexcept {
+  static auto* const real = next<int(int, int)>("flock");
+  return fails("flock") ? -1 : real(fd, operation);
+}
+
+VISIBLE int fchown(int fd, uid_t owner, gid_t group) noexcept {
+  static auto* const real = next<int(int, uid_t, gid_t)>("fchown");
+  return fails("fchown") ? -1 : real(fd, owner, group);
+}
+
+VISIBLE long qelpro_test_calls() { return calls; }

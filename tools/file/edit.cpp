@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <variant>
 
@@ -31,8 +33,8 @@ void check_finite(const Change& change) {
 
 Change change_to(const std::string& file, const Address& address, const Json& value) {
   try {
-    const Change change{Change::Kind::set, address,
-                        text_of_json(known_section(address.section), address.key, value)};
+    Change change{Change::Kind::set, address,
+                  text_of_json(known_section(address.section), address.key, value)};
     check_finite(change);
     if (qel::text::index_value(change.value) != change.value) {
       refuse_usage(in_quotes(change.value) +
@@ -54,13 +56,14 @@ bool is_positional(const std::string& section) { return qel::is_positional(heade
 // Those that are there already as they are to be stay, of which some may say nothing.
 std::vector<Change> changes_to_lines(const std::string& file, const Entries& entries,
                                      const std::string& section, const Json& keys) {
-  if (!keys.is_object() || keys.size() != 1 || !keys.contains(kLines) || !keys[kLines].is_array()) {
+  if (!keys.is_object() || keys.size() > 1 ||
+      (!keys.empty() && (!keys.contains(kLines) || !keys[kLines].is_array()))) {
     throw Failure(kUsage, at({file, 0, with_brackets(section), ""},
                              "holds lines that have a position: a list of texts, \"lines\""));
   }
   const TextSection* const there = entries.find_section(section);
   const std::size_t count = there == nullptr ? 0 : entries.of(*there).size();
-  const Json& lines = keys[kLines];
+  const Json lines = keys.value(kLines, Json::array());
   std::vector<Change> changes{{Change::Kind::add_section, {section, ""}, ""}};
   for (std::size_t number = count; number > lines.size(); --number) {
     changes.push_back({Change::Kind::remove, {section, "#" + std::to_string(number)}, ""});
@@ -120,8 +123,12 @@ Edit set_section(std::string section, Json keys) {
     std::vector<Change> changes{{Change::Kind::add_section, {section, ""}, ""}};
     const TextSection* const there = entries.find_section(section);
     if (there != nullptr) {
+      std::unordered_set<std::string_view> kept;
+      for (const auto& [key, value] : keys.items()) {
+        kept.insert(key);
+      }
       for (const FileEntry& entry : entries.of(*there)) {
-        if (!keys.contains(entry.key)) {
+        if (!kept.contains(entry.key)) {
           changes.push_back({Change::Kind::remove, {section, entry.key}, ""});
         }
       }

@@ -18,6 +18,9 @@ namespace {
 constexpr char kEndOfText = '\x1A';
 
 void check_name(const std::string& kind, const std::string& name) {
+  if (name.find('\0') != std::string::npos) {
+    refuse_usage(kind + " " + in_quotes(name) + ": a name holds no character 0, where texts end");
+  }
   if (name.find_first_of(" \t") != std::string::npos) {
     refuse_usage(kind + " " + in_quotes(name) + ": a name holds no blank and no tab");
   }
@@ -34,6 +37,9 @@ void check_name(const std::string& kind, const std::string& name) {
 }
 
 void check_value(const std::string& value) {
+  if (value.find('\0') != std::string::npos) {
+    refuse_usage("the value holds a character 0, where texts end");
+  }
   if (value.find_first_of("\r\n") != std::string::npos) {
     refuse_usage("the value holds a line break: it is one line");
   }

@@ -41,6 +41,9 @@ Plan::Plan(std::vector<Range> ranges) : ranges_(std::move(ranges)), size_(1) {
 
 Plan::Plan(std::vector<Range> ranges, std::uint64_t samples, std::uint64_t seed)
     : ranges_(std::move(ranges)), size_(samples) {
+  if (samples == 0) {
+    throw Failure(kUsage, "a plan has at least 1 sample");
+  }
   check_size(samples, false);
   if (samples == 0) {
     throw Failure(kUsage, "a plan of no samples; give 1 or more");

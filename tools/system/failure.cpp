@@ -7,6 +7,19 @@
 #include "system/visible.h"
 
 namespace qelpro {
+namespace {
+
+std::string without_zeros(std::string text) {
+  for (std::size_t at = text.find('\0'); at != std::string::npos; at = text.find('\0', at)) {
+    text.replace(at, 1, "\\x00");
+  }
+  return text;
+}
+
+}  // namespace
+
+Failure::Failure(Status status, const std::string& message)
+    : std::runtime_error(without_zeros(message)), status_(status) {}
 
 SystemFailure::SystemFailure(const std::string& file, const std::string& what, int error)
     : Failure(kFileError, at(file, what)), file_(file), reason_(what), error_(error) {}

@@ -10,11 +10,11 @@ namespace qelpro {
 /// The exit statuses of the tool.
 enum Status : int { kDone = 0, kNotFound = 1, kUsage = 2, kFileError = 3 };
 
-/// What ends a command before its time: the exit status, and the message.
+/// What ends a command before its time: the exit status, and the message, in which a character 0 is
+/// told as "\x00": it would end there.
 class Failure : public std::runtime_error {
  public:
-  Failure(Status status, const std::string& message)
-      : std::runtime_error(message), status_(status) {}
+  Failure(Status status, const std::string& message);
   [[nodiscard]] Status status() const { return status_; }
 
  private:
