@@ -36,7 +36,9 @@ def scan(
 
     With a ``dask.distributed`` Client the files are read by the workers of its cluster, which have
     to see them under the same paths; the others make up for a worker that dies. The frame is the
-    same. TypeError for a client that is none, ImportError where pandas is missing.
+    same. TypeError for a client that is none or is asynchronous, RuntimeError for a cluster that is
+    closed, ImportError where pandas is missing, or qelpro where the workers run. A worker that dies
+    again and again is distributed's KilledWorker.
     """
     if errors not in _ERRORS:
         raise ValueError(f"errors is one of {', '.join(map(repr, _ERRORS))}, not {errors!r}")
@@ -55,5 +57,5 @@ def scan(
     else:
         from ._cluster import scanned_by
 
-        chunks = scanned_by(client, places, names, words)
+        chunks = scanned_by(client, places, names, words, errors == "raise")
     return Table(names, words, chunks).frame(pandas, errors)
