@@ -68,6 +68,7 @@ def compare(paths, list_file, rounds, peer_part):
     some = paths[: max(1, len(paths) // peer_part)]
     counts = {"scan": len(paths), "lines": len(some), "configparser": len(some)}
     cores_there = min(2, len(os.sched_getaffinity(0)))
+    growth = []
     print("| addresses | cores | scan, files a second | line parser | configparser | scan : line parser | scan : configparser | scan's memory |")
     print("|---|---|---|---|---|---|---|---|")
     for addresses in (FEW, MANY):
@@ -82,7 +83,8 @@ def compare(paths, list_file, rounds, peer_part):
         for cores in range(1, cores_there + 1):
             scan, lines, configured = (rates[way, cores] for way in WAYS)
             print(f"| {len(addresses)} | {cores} | {scan:.0f} | {lines:.0f} | {configured:.0f} | {scan / lines:.1f} | {scan / configured:.1f} | {memory:.0f} MB |")
-        print(f"  {len(addresses)} addresses: two cores : one core = {rates['scan', cores_there] / rates['scan', 1]:.2f}", file=sys.stderr)
+        growth.append(f"{rates['scan', cores_there] / rates['scan', 1]:.2f} times with {len(addresses)} addresses")
+    print(f"\nscan on {cores_there} cores beside one: {', '.join(growth)}")
 
 
 def main():

@@ -8,7 +8,7 @@ from typing import TYPE_CHECKING, Any
 
 from . import _engine
 from ._missing import needed
-from ._paths import StrPath, name_of, place_of
+from ._paths import StrPath, name_of
 from ._table import Chunk, Table
 
 if TYPE_CHECKING:
@@ -47,15 +47,16 @@ def scan(
     if isinstance(addresses, (str, bytes)):
         raise TypeError("addresses is a list of addresses, not one text")
     pandas = needed("pandas", "scan()")
-    given = list(paths)
-    names = [name_of(path) for path in given]
-    places = [place_of(path) for path in given]
+    names = [name_of(path) for path in paths]
     words = list(addresses)
     _engine.scan([], [], words, 1)  # what is no address is told before a file is read
     if client is None:
-        chunks = [Chunk(0, *_engine.scan(places, names, words, 0))]
+        chunks = [Chunk(0, *_engine.scan(names, names, words, 0))]
     else:
         from ._cluster import scanned_by
 
+        # The workers are in other folders.
+        here = os.getcwd()
+        places = [os.path.join(here, name) if name else name for name in names]
         chunks = scanned_by(client, places, names, words, errors == "raise")
     return Table(names, words, chunks).frame(pandas, errors)

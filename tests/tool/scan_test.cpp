@@ -161,6 +161,33 @@ TEST_F(Scan, HasTheSameTableOnAnyNumberOfThreads) {
   }
 }
 
+TEST(ScannedValues, KeepWhatEachIs) {
+  qelpro::ScannedValues values;
+  EXPECT_TRUE(values.are_whole());
+  values.push_back(1);
+  EXPECT_TRUE(values.are_whole());
+  values.push_back(2.0);
+  EXPECT_FALSE(values.are_whole());
+  EXPECT_FALSE(values.are_real());
+  EXPECT_TRUE(values.are_numbers());
+  qelpro::ScannedValues others;
+  others.push_back(std::string("three"));
+  others.push_back(4);
+  EXPECT_FALSE(others.are_numbers());
+  values.append(others);
+  values.append(others);
+  EXPECT_FALSE(values.are_numbers());
+  const std::vector<ScannedValue> expected{1, 2.0, std::string("three"), 4, std::string("three"),
+                                           4};
+  ASSERT_EQ(values.size(), expected.size());
+  for (std::size_t index = 0; index < expected.size(); ++index) {
+    EXPECT_EQ(values.at(index), expected[index]);
+  }
+  qelpro::ScannedValues reals;
+  reals.push_back(1.0);
+  EXPECT_TRUE(reals.are_real());
+}
+
 // A text of the lines, odd ones among them, that files have.
 std::string random_text(std::mt19937& chance) {
   static const std::vector<std::string> kPieces{"[Flow-1]\n",
