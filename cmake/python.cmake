@@ -1,7 +1,7 @@
 # Where the Python module can be built: Python_EXECUTABLE, pybind11_add_module, and the variable QELPRO_HAS_PYTHON.
 option(QELPRO_PYTHON "Build the Python module, where Python and pybind11 are found" ${QELPRO_TOP_LEVEL})
 set(QELPRO_HAS_PYTHON OFF)
-if(NOT QELPRO_PYTHON OR NOT QELPRO_TOOL OR QELPRO_SANITIZE OR QELPRO_COVERAGE OR CMAKE_CROSSCOMPILING)
+if(NOT QELPRO_PYTHON OR QELPRO_SANITIZE OR QELPRO_COVERAGE OR CMAKE_CROSSCOMPILING)
   return()
 endif()
 find_package(Python 3.9 QUIET COMPONENTS Interpreter Development.Module)

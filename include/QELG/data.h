@@ -1,15 +1,21 @@
 #pragma once
 
+/// @file
+/// What profiles and lists of a simulator process are made of.
+
 #include <memory>
 
 #include "QELG/export.h"
 
+/// A point of a profile.
 struct QELG_API QELG_2dPoint {
+  /// The origin.
   QELG_2dPoint() : x(0), y(0) {}
+  /// The point (first, second).
   QELG_2dPoint(double first, double second) : x(first), y(second) {}
 
-  double x;
-  double y;
+  double x;  ///< Where on the profile: a time, a ram position, how far filling has gone.
+  double y;  ///< The profile's value there.
 };
 
 /// A list that grows at its end.
@@ -23,6 +29,7 @@ class QELG_API QELG_Array {
 
   /// False when there is no memory for it.
   bool AppendDataPoint(T value);
+  /// How many items there are.
   unsigned int GetNumOfDataPoints() const;
   /// The item at an index from 0 on; false after the last one.
   bool GetDataPoint(unsigned int index, T& value) const;
@@ -43,8 +50,11 @@ class QELG_API QELG_Profile {
   QELG_Profile& operator=(const QELG_Profile&) = delete;
   ~QELG_Profile();
 
+  /// Adds a point after the last one. False when there is no memory for it.
   bool AppendDataPoint(QELG_2dPoint point);
+  /// How many points there are.
   unsigned int GetNumOfDataPoints() const;
+  /// The point at an index from 0 on; false, `point` untouched, after the last one.
   bool GetDataPoint(unsigned int index, QELG_2dPoint& point) const;
 
  private:

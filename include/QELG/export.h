@@ -1,5 +1,9 @@
 #pragma once
 
+/// @file
+/// What the shared library exports.
+
+/// @def QELG_API
 /// Marks what the shared library exports; everything else in it is hidden. Whoever links the static
 /// library defines QELG_STATIC, as its CMake target and pkg-config do.
 #if defined(QELG_STATIC)

@@ -104,7 +104,9 @@ class QELPROENGINE_API CPROIO_Manipulator {
 
   /// An object without a path: set one before anything else.
   CPROIO_Manipulator();
+  /// A copy has the same path: the caller's text.
   CPROIO_Manipulator(const CPROIO_Manipulator& other);
+  /// Takes the other's path over.
   CPROIO_Manipulator& operator=(const CPROIO_Manipulator& other);
   virtual ~CPROIO_Manipulator();
 

@@ -15,8 +15,11 @@ struct QELMachineRecord;
 /// Copies share one bank. One object is used by one thread at a time.
 class QELPROENGINE_API CQELMachineIdentification {
  public:
+  /// An object without a bank: it lists no maker until one is loaded.
   CQELMachineIdentification();
+  /// A copy shares the bank.
   CQELMachineIdentification(const CQELMachineIdentification& other);
+  /// Shares the other's bank, and lets go of its own.
   CQELMachineIdentification& operator=(const CQELMachineIdentification& other);
   ~CQELMachineIdentification();
 

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Coolant tables, and where the current user has theirs.
+
 #include "QELPROEngine/export.h"
 
 struct QELCoolantTables;
@@ -13,8 +16,11 @@ struct QELCoolantTables;
 /// Copies share one set of tables. One object is used by one thread at a time.
 class QELPROENGINE_API CQELPCSInterpolator {
  public:
+  /// An object without tables: it knows no coolant until a file is loaded.
   CQELPCSInterpolator();
+  /// A copy shares the tables.
   CQELPCSInterpolator(const CQELPCSInterpolator& other);
+  /// Shares the other's tables, and lets go of its own.
   CQELPCSInterpolator& operator=(const CQELPCSInterpolator& other);
   ~CQELPCSInterpolator();
 

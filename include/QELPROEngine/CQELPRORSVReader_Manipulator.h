@@ -6,7 +6,9 @@
 class QELPROENGINE_API CQELPRORSVReader_Manipulator {
  public:
   CQELPRORSVReader_Manipulator();
+  /// Does nothing.
   CQELPRORSVReader_Manipulator(const CQELPRORSVReader_Manipulator& other);
+  /// Does nothing.
   CQELPRORSVReader_Manipulator& operator=(const CQELPRORSVReader_Manipulator& other);
   virtual ~CQELPRORSVReader_Manipulator();
 };

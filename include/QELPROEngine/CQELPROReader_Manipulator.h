@@ -33,7 +33,9 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
  public:
   /// A reader without a file: every read is false until one is set.
   CQELPROReader_Manipulator();
+  /// A copy shares the open file.
   CQELPROReader_Manipulator(const CQELPROReader_Manipulator& other);
+  /// Shares the other's file, and lets go of its own.
   CQELPROReader_Manipulator& operator=(const CQELPROReader_Manipulator& other);
   virtual ~CQELPROReader_Manipulator();
 

@@ -35,7 +35,9 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
  public:
   /// A writer without a file: every write is false until one is set.
   CQELPROWriter_Manipulator();
+  /// A copy shares the session.
   CQELPROWriter_Manipulator(const CQELPROWriter_Manipulator& other);
+  /// Shares the other's session, and lets go of its own.
   CQELPROWriter_Manipulator& operator=(const CQELPROWriter_Manipulator& other);
   virtual ~CQELPROWriter_Manipulator();
 

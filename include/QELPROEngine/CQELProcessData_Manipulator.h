@@ -10,7 +10,9 @@ class QELG_SimulatorFlowPackProcess;
 class QELPROENGINE_API CQELProcessData_Manipulator {
  public:
   CQELProcessData_Manipulator();
+  /// A copy is ready for a load of its own.
   CQELProcessData_Manipulator(const CQELProcessData_Manipulator& other);
+  /// Has no effect on either's next load.
   CQELProcessData_Manipulator& operator=(const CQELProcessData_Manipulator& other);
   ~CQELProcessData_Manipulator();
 

@@ -8,7 +8,9 @@ class CQELPROReader_Manipulator;
 class QELPROENGINE_API CQELProcessValueReader {
  public:
   CQELProcessValueReader();
+  /// An object holds nothing.
   CQELProcessValueReader(const CQELProcessValueReader& other);
+  /// An object holds nothing.
   CQELProcessValueReader& operator=(const CQELProcessValueReader& other);
 
   /// Chooses by "VPSwitchCtrl" of [FlowCTL]:

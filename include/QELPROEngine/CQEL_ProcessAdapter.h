@@ -12,8 +12,11 @@ class CQELPROWriter_Manipulator;
 /// alone, and never changed. Copies share the file.
 class QELPROENGINE_API CQEL_ProcessAdapter {
  public:
+  /// An adapter without a file: set one before anything else.
   CQEL_ProcessAdapter();
+  /// A copy shares the file.
   CQEL_ProcessAdapter(const CQEL_ProcessAdapter& other);
+  /// Shares the other's file, and lets go of its own.
   CQEL_ProcessAdapter& operator=(const CQEL_ProcessAdapter& other);
   ~CQEL_ProcessAdapter();
 

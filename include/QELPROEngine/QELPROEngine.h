@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Everything that the library exports.
 
 #include "QELPROEngine/CPROIO_Manipulator.h"

@@ -1,7 +1,11 @@
 #pragma once
 
+/// @file
+/// Why a literal goes where `char*` is asked.
+
 #include <type_traits>
 
+/// What the exported objects have in common.
 namespace qel {
 
 /// The result of the forms that take a constant text, beside the members of the same name that take

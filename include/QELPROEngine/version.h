@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The version of the library that a program runs with.
+
 #include "QELPROEngine/export.h"
 
 /// The library's version number, 9103.

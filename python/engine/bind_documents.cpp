@@ -12,6 +12,7 @@
 #include "file/forms.h"
 #include "simulation/new_file.h"
 #include "simulation/process_json.h"
+#include "simulation/process_notes.h"
 #include "system/failure.h"
 #include "system/files.h"
 
@@ -29,8 +30,9 @@ void new_file(const py::str& path) {
 
 void write_form(const py::str& path, const py::dict& form, bool overwrite) {
   const std::string file = bytes_of(path);
-  const std::string contents = contents_of(file, json_of_mapping(form));
+  const Json sections = json_of_mapping(form);
   const py::gil_scoped_release released;
+  const std::string contents = contents_of(file, sections);
   if (overwrite) {
     write_whole(file, contents);
     return;
@@ -65,7 +67,9 @@ py::object process_of(const py::str& path) {
   Json process;
   {
     const py::gil_scoped_release released;
-    process = process_json(file, load_document(file));
+    const SectionedText document = load_document(file);
+    process = process_json(file, document);
+    process["notes"] = json_of(process_notes(file, document));
   }
   return object_of(process);
 }

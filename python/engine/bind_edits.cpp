@@ -33,20 +33,31 @@ HeldEdit edit_of_table(const py::str& section, const py::str& name,
   return {set_profile(bytes_of(section), bytes_of(name), std::move(points))};
 }
 
-SnapshotPointer edit_snapshot(const SnapshotPointer& snapshot, const py::str& file,
-                              const HeldEdit& edit) {
-  return edited(snapshot, bytes_of(file), edit.edit);
-}
-
-void store_edits(const py::str& path, const py::str& name, const std::vector<HeldEdit>& held) {
+std::vector<Edit> edits_of(const std::vector<HeldEdit>& held) {
   std::vector<Edit> edits;
   for (const HeldEdit& edit : held) {
     edits.push_back(edit.edit);
   }
+  return edits;
+}
+
+SnapshotPointer edit_snapshot(const SnapshotPointer& snapshot, const py::str& file,
+                              const std::vector<HeldEdit>& held) {
+  return edited(snapshot, bytes_of(file), edits_of(held));
+}
+
+void store_edits(const py::str& path, const py::str& name, const std::vector<HeldEdit>& held) {
+  const std::vector<Edit> edits = edits_of(held);
   const std::string where = bytes_of(path);
   const std::string called = bytes_of(name);
   const py::gil_scoped_release released;
   store(where, called, edits);
+}
+
+// Whether it has to be tried on what the file holds, or is right whatever that is.
+bool check_edit(const HeldEdit& edit, const py::str& file) {
+  check(bytes_of(file), edit.edit);
+  return edit.edit.needs_entries;
 }
 
 }  // namespace
@@ -66,8 +77,10 @@ void bind_edits(py::module_& module) {
       [](const py::str& section) { return HeldEdit{remove_section(bytes_of(section))}; },
       py::arg("section"));
   module.def("set_table", &edit_of_table, py::arg("section"), py::arg("name"), py::arg("points"));
-  module.def("edited", &edit_snapshot, py::arg("snapshot"), py::arg("file"), py::arg("edit"),
-             "The snapshot after the edit.");
+  module.def("check_edit", &check_edit, py::arg("edit"), py::arg("file"),
+             "Refuses what no file can hold. Whether the edit depends on what the file holds.");
+  module.def("edited", &edit_snapshot, py::arg("snapshot"), py::arg("file"), py::arg("edits"),
+             "The snapshot after the edits.");
   module.def("store", &store_edits, py::arg("path"), py::arg("name"), py::arg("edits"),
              "Makes the edits in the file, all or none.");
 }

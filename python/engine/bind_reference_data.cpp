@@ -34,7 +34,7 @@ std::unique_ptr<CoolantTable> open_table(const py::str& path) {
   return std::make_unique<CoolantTable>(file);
 }
 
-py::list list_of(const std::vector<std::string>& texts) {
+py::list texts_of(const std::vector<std::string>& texts) {
   py::list list;
   for (const std::string& text : texts) {
     list.append(str_of(text));
@@ -47,11 +47,11 @@ py::list list_of(const std::vector<std::string>& texts) {
 void bind_reference_data(py::module_& module) {
   py::class_<MachineBank>(module, "MachineBank", "The machines of a bank.")
       .def(py::init(&open_bank), py::arg("path"))
-      .def("makers", [](const MachineBank& bank) { return list_of(bank.makers()); })
+      .def("makers", [](const MachineBank& bank) { return texts_of(bank.makers()); })
       .def(
           "grades",
           [](const MachineBank& bank, const py::str& maker) {
-            return list_of(bank.grades(bytes_of(maker)));
+            return texts_of(bank.grades(bytes_of(maker)));
           },
           py::arg("maker"));
   py::class_<CoolantTable>(module, "CoolantTable", "The coolants of a settings file.")

@@ -2,7 +2,6 @@
 #include <pybind11/stl.h>
 
 #include <algorithm>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "engine/text.h"
 #include "engine/values.h"
 #include "file/forms.h"
+#include "file/inlets.h"
 #include "file/point_table.h"
 #include "file/typed.h"
 #include "system/failure.h"
@@ -23,8 +23,6 @@ namespace qelpro::python {
 namespace py = pybind11;
 
 namespace {
-
-constexpr const char* kLines = "lines";
 
 SnapshotPointer load_file(const py::str& path, const py::str& name, const SnapshotPointer& before) {
   const std::string where = bytes_of(path);
@@ -118,8 +116,7 @@ py::object table_of(const Snapshot& snapshot, const py::str& file, const py::str
 py::tuple words_for(const Snapshot& snapshot, const py::str& file, const py::str& section_name,
                     const py::str& name) {
   const std::string section = bytes_of(section_name);
-  int number = 0;
-  const qel::SectionInfo* const known = qel::find_section(with_brackets(section).c_str(), number);
+  const qel::SectionInfo* const known = known_section(section);
   const std::vector<ProfileKind> kinds = kinds_of(bytes_of(file), section, known, bytes_of(name));
   const TextSection* const there = snapshot.entries().find_section(section);
   const std::optional<Profile> found =
@@ -127,21 +124,6 @@ py::tuple words_for(const Snapshot& snapshot, const py::str& file, const py::str
   const ProfileWords words = words_of(found ? found->kind : kinds.front());
   return py::make_tuple(str_of(words.title), str_of(words.x), str_of(words.x_unit), str_of(words.y),
                         str_of(words.y_unit));
-}
-
-// Those by which the catalogue numbers sections.
-std::set<int> inlets_of(const Snapshot& snapshot) {
-  std::set<int> inlets;
-  for (const TextSection& section : snapshot.document().sections()) {
-    int number = 0;
-    const qel::SectionInfo* const known =
-        qel::find_section(std::string(section.name).c_str(), number);
-    if (known != nullptr && known->number.name != nullptr &&
-        std::string_view(known->number.name) == "inlet") {
-      inlets.insert(number);
-    }
-  }
-  return inlets;
 }
 
 py::list findings_of(const Snapshot& snapshot, const py::str& file) {
@@ -172,13 +154,16 @@ void bind_snapshot(py::module_& module) {
       .def("text", &text_of_entry, py::arg("file"), py::arg("section"), py::arg("key"))
       .def("table", &table_of, py::arg("file"), py::arg("section"), py::arg("name"))
       .def("table_words", &words_for, py::arg("file"), py::arg("section"), py::arg("name"))
-      .def("inlets",
-           [](const Snapshot& snapshot) {
-             const std::set<int> inlets = inlets_of(snapshot);
-             return std::vector<int>(inlets.begin(), inlets.end());
-           })
+      .def("inlets", [](const Snapshot& snapshot) { return inlets_of(snapshot.document()); })
       .def("form",
-           [](const Snapshot& snapshot) { return object_of(plain_form(snapshot.entries())); })
+           [](const Snapshot& snapshot) {
+             Json form;
+             {
+               const py::gil_scoped_release released;
+               form = plain_form(snapshot.entries());
+             }
+             return object_of(form);
+           })
       .def("findings", &findings_of, py::arg("file"));
   module.def("load", &load_file, py::arg("path"), py::arg("name"), py::arg("before"),
              "The file as it is now, which is `before` where nothing has changed.");

@@ -37,8 +37,8 @@ void throw_interruption() {
 }
 
 // The texts of values as the key that the address means has them.
-std::vector<std::string> texts_of(const Entries& entries, const std::string& word,
-                                  const Json& values) {
+std::vector<std::string> value_texts(const Entries& entries, const std::string& word,
+                                     const Json& values) {
   const std::vector<Address> targets = entries.targets_of(requests_of({word}).front());
   std::vector<std::string> texts;
   for (const Json& value : values) {
@@ -65,7 +65,7 @@ Setting setting_of(const Entries& entries, std::string word, const Json& values)
   if (values.is_string()) {
     return {std::move(word), values.get<std::string>(), {}};
   }
-  std::vector<std::string> texts = texts_of(entries, word, values);
+  std::vector<std::string> texts = value_texts(entries, word, values);
   std::string text = joined(texts);
   return {std::move(word), std::move(text), std::move(texts)};
 }

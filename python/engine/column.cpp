@@ -35,13 +35,13 @@ py::array_t<std::int64_t> whole_numbers(const std::vector<double>& numbers) {
   return array;
 }
 
-py::object object_of(const ScannedValue& value) {
+py::object object_of_value(const ScannedValue& value) {
   return std::visit(
       []<class Value>(const Value& held) -> py::object {
         if constexpr (std::is_same_v<Value, std::string>) {
           return str_of(held);
         } else if constexpr (std::is_same_v<Value, std::vector<qel::Field>>) {
-          return python::object_of(held);
+          return object_of(held);
         } else {
           return py::cast(held);
         }
@@ -52,7 +52,7 @@ py::object object_of(const ScannedValue& value) {
 py::list objects_of(const ScannedValues& values) {
   py::list list(values.size());
   for (std::size_t index = 0; index < values.size(); ++index) {
-    list[index] = object_of(values.at(index));
+    list[index] = object_of_value(values.at(index));
   }
   return list;
 }

@@ -2,6 +2,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <system_error>
@@ -15,11 +16,12 @@ namespace py = pybind11;
 
 namespace {
 
-// What the command line offers instead stands behind such a mark.
+// What the command line offers instead, options or other commands, stands behind such a mark.
 std::string without_options(const std::string& message) {
   constexpr std::string_view kSet = "--set ";
   const std::size_t begin = message.starts_with(kSet) ? kSet.size() : 0;
-  return message.substr(begin, message.find("; --") - begin);
+  const std::size_t end = std::min(message.find("; --"), message.find("; qelpro "));
+  return message.substr(begin, end - begin);
 }
 
 void set_error(PyObject* type, const py::object& arguments) {
@@ -28,6 +30,7 @@ void set_error(PyObject* type, const py::object& arguments) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): what pybind11 calls takes a copy
 void translate(std::exception_ptr thrown) {
   if (!thrown) {
     return;

@@ -13,9 +13,11 @@ SnapshotPointer load(const std::string& path, const std::string& name,
              : std::make_shared<Snapshot>(name, std::move(contents));
 }
 
-SnapshotPointer edited(const SnapshotPointer& before, const std::string& name, const Edit& edit) {
-  return std::make_shared<Snapshot>(
-      name, with_changes(before->document(), edit(name, before->entries())));
+SnapshotPointer edited(const SnapshotPointer& before, const std::string& name,
+                       const std::vector<Edit>& edits) {
+  const SectionedText& document = before->document();
+  return std::make_shared<Snapshot>(name,
+                                    with_changes(document, changes_of(name, document, edits)));
 }
 
 void store(const std::string& path, const std::string& name, const std::vector<Edit>& edits) {

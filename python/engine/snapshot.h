@@ -34,8 +34,9 @@ using SnapshotPointer = std::shared_ptr<Snapshot>;
 SnapshotPointer load(const std::string& path, const std::string& name,
                      const SnapshotPointer& before);
 
-/// After the edit.
-SnapshotPointer edited(const SnapshotPointer& before, const std::string& name, const Edit& edit);
+/// After the edits.
+SnapshotPointer edited(const SnapshotPointer& before, const std::string& name,
+                       const std::vector<Edit>& edits);
 
 /// Makes the edits in the file, all or none.
 void store(const std::string& path, const std::string& name, const std::vector<Edit>& edits);

@@ -138,10 +138,9 @@ Json json_of(py::handle value) {
   // numpy's arrays and numbers, and pandas' columns.
   if (py::hasattr(value, "tolist")) {
     const py::object plain = value.attr("tolist")();
-    if (py::type::of(plain).is(py::type::of(value))) {
-      refuse(value);
+    if (!py::type::of(plain).is(py::type::of(value))) {
+      return json_of(plain);
     }
-    return json_of(plain);
   }
   if (py::hasattr(value, "items")) {
     refuse(value);

@@ -1,34 +1,46 @@
 """Process files of injection-molding simulation, for people who study parameters.
 
-Reading and writing one file::
+A file is a mapping from sections to keys to values, typed by the catalogue. A change is in the file
+before the statement ends:
 
-    import qelpro
+>>> import qelpro
+>>> qelpro.new("run.pro")  # a file with default values
+>>> f = qelpro.ProcessFile("run.pro")
+>>> f["Flow-1"]["FillTime"]
+1.0
+>>> f["Flow-1"]["FillTime"] = 1.5
 
-    qelpro.new("a.pro")                          # a file with default values
-    f = qelpro.ProcessFile("a.pro")
-    f["Flow-1"]["FillTime"]                      # 1.0, typed by the catalogue
-    f["Flow-1"]["FillTime"] = 1.5                # stored before the statement ends
-    f.profile("Flow-1", "FR")                    # a numpy array of shape (n, 2)
-    f.set_profile("Flow-1", "FR", [[0, 50], [100, 40]])
-    with f.batch():                              # many changes, one write, all or nothing
-        f["Flow-1"]["MeltTemp"] = 235
-        f["FlowCTL"]["VPSwitchCtrl"] = 0
-    f.check()                                    # what is wrong with it
-    f.plot("Flow-1.FR")                          # matplotlib Axes, with units
+Profiles are numpy arrays of shape (n, 2), and are plotted with their units:
 
-Many files::
+>>> f.profile("Flow-1", "FR")
+array([[  0.,  50.],
+       [100.,  50.]])
+>>> f.set_profile("Flow-1", "FR", [[0, 50], [100, 40]])
+>>> ax = f.plot("Flow-1.FR")
 
-    files = qelpro.sweep("a.pro", {"Flow-1.MeltTemp": [220, 240]}, "study")
-    table = qelpro.scan(files, ["Flow-1.FillTime", "Flow-*.MeltTemp"])     # a pandas DataFrame
+Many changes are one write, all or nothing:
 
-And: :func:`diff`, :func:`load_process` (the simulator's process), :class:`MachineBank`,
-:class:`CoolantTable`, :func:`catalogue` (what the keys mean, with their units).
+>>> with f.batch():
+...     f["Flow-1"]["MeltTemp"] = 235
+...     f["FlowCTL"]["VPSwitchCtrl"] = 0
+
+A study makes many files, and a scan makes them one pandas table:
+
+>>> files = qelpro.sweep("run.pro", {"Flow-1.MeltTemp": [220, 240]}, "study")
+>>> qelpro.scan(files, ["Flow-1.FillTime", "Flow-*.MeltTemp"])
+                 file  Flow-1.FillTime  Flow-1.MeltTemp
+0  study/run-0001.pro              1.5            220.0
+1  study/run-0002.pro              1.5            240.0
+
+Besides: ``f.check()`` tells what is wrong with a file and ``diff()`` how two differ,
+``load_process()`` makes the simulator's process, ``MachineBank`` and ``CoolantTable`` read the
+reference data, and ``catalogue()`` tells what the keys mean, with their units.
 
 Errors are those of Python: what ``open()`` raises where a file cannot be read or written, KeyError
 where something is not there, TypeError and ValueError for what a file cannot hold. A change that is
 refused leaves the file as it was. Paths are str or os.PathLike. The global lock is released while
-files are read or written. pandas, matplotlib and dask.distributed are needed by the calls that use
-them alone.
+files are read or written. pandas, matplotlib and dask's distributed are needed by ``scan()``,
+``plot()`` and a scan on a cluster alone.
 """
 
 from ._documents import catalogue, diff, new

@@ -10,7 +10,45 @@ if TYPE_CHECKING:
 
 
 class MachineItems:
-    """The machine."""
+    """The machine.
+
+    - ``Maker``: [Machine] "Maker": the maker of the machine.
+    - ``Grade``: [Machine] "Grade": the grade of the machine: its model.
+    - ``Remark``: [Machine] "Remark": a remark about the machine.
+    - ``Diameter``: [Machine] "Diameter": the diameter of the screw.
+    - ``MaxRamPos``: [Machine] "MaxRamPos": the farthest position of the ram.
+    - ``ShotVolume``: [Machine] "ShotVolume": the largest volume of a shot.
+    - ``Weight``: [Machine] "Weight": the largest weight of a shot.
+    - ``MaxMachinePres``: [Machine] "MaxMachinePres": the highest injection pressure of the machine.
+    - ``MaxFlowRate``: [Machine] "FR": the highest flow rate of the machine.
+    - ``ClampForce``: [Machine] "Size": the clamp force of the machine.
+    - ``BarrelCompressionCtrl``: [Machine] "BarrelCompressionCtrl": a code: whether and how the
+      compression of the melt in the barrel counts.
+    - ``NozzleVolume``: [Machine] "NozzleVolume": the volume of the nozzle.
+    - ``MachineEnergyType``: [Machine] "MachineEnergyType": a code: what drives the machine.
+    - ``HydraulicPressureTransferFactor``: [Machine] "HydraulicPressureTransferFactor": the ratio of
+      the injection pressure to the hydraulic pressure (intensification).
+    - ``PITCHSIZE``: [Machine] "PITCHSIZE": the pitch of the screw.
+    - ``SCREWSPEED``: [Machine] "SCREWSPEED": the speed of the screw's rotation, beside
+      "ScrewSpeed".
+    - ``SCREWDIAFEED``: [Machine] "SCREWDIAFEED": the screw diameter in the feed zone.
+    - ``SCREWDIATRANSITION``: [Machine] "SCREWDIATRANSITION": the screw diameter in the transition
+      zone.
+    - ``SCREWDIAMETERING``: [Machine] "SCREWDIAMETERING": the screw diameter in the metering zone.
+    - ``CHANNELDEEPFEED``: [Machine] "CHANNELDEEPFEED": the channel depth in the feed zone.
+    - ``CHANNELDEEPMETERING``: [Machine] "CHANNELDEEPMETERING": the channel depth in the metering
+      zone.
+    - ``SECTIONDEPFEED``: [Machine] "SECTIONDEPFEED": the length of the feed zone.
+    - ``SECTIONDEPTRANSITION``: [Machine] "SECTIONDEPTRANSITION": the length of the transition zone.
+    - ``SECTIONDEPMETERING``: [Machine] "SECTIONDEPMETERING": the length of the metering zone.
+    - ``NUMBERPITCHFEED``: [Machine] "NUMBERPITCHFEED": the number of pitches in the feed zone.
+    - ``NUMBERPITCHTRANSITION``: [Machine] "NUMBERPITCHTRANSITION": the number of pitches in the
+      transition zone.
+    - ``NUMBERPITCHMETERING``: [Machine] "NUMBERPITCHMETERING": the number of pitches in the
+      metering zone.
+    - ``NOZZLEDIAMETER``: [Machine] "NOZZLEDIAMETER": the diameter of the nozzle.
+    - ``NOZZLELENGTH``: [Machine] "NOZZLELENGTH": the length of the nozzle.
+    """
 
     Maker: str | None
     """[Machine] "Maker": the maker of the machine."""
@@ -103,7 +141,21 @@ class MachineItems:
 
 
 class HeatTransferItems:
-    """The heat transfer."""
+    """The heat transfer.
+
+    - ``HeatTransferType``: [MoldThermalBoundaryType] "Type": a code: how the heat transfer between
+      melt and mold is given.
+    - ``Flow``: [MoldThermalBoundaryType] "Flow": the heat transfer coefficient in filling, with a
+      note such as its unit.
+    - ``Pack``: [MoldThermalBoundaryType] "Pack": the heat transfer coefficient in packing, with a
+      note such as its unit.
+    - ``Detached``: [MoldThermalBoundaryType] "Detached_HTC": the heat transfer coefficient where
+      the part has come off the mold, with a note such as its unit.
+    - ``HotRunner``: [MoldThermalBoundaryType] "HotRunner_HTC": the heat transfer coefficient in the
+      hot runner, with a note such as its unit.
+    - ``UserMode``: [MoldThermalBoundaryType] "UserMode": a code of the user's mode.
+    - ``NuNum``: [MoldThermalBoundaryType] "NuNum": the Nusselt number.
+    """
 
     HeatTransferType: int | None
     """[MoldThermalBoundaryType] "Type": a code: how the heat transfer between melt and mold is
@@ -133,7 +185,51 @@ class HeatTransferItems:
 
 
 class ProcessItems:
-    """The whole process."""
+    """The whole process.
+
+    - ``ProjectType``: [CaeHeader] "ProjectType": the project type: 8 co-injection, 11 two melt
+      entrances; a second number is dropped.
+    - ``FlagUNF``: [CaeHeader] "FlagUNF": a flag that goes to the simulator as it stands.
+    - ``FlagEncapsulationCM``: [CaeHeader] "FlagEncapsulationCM": a flag of encapsulation that goes
+      to the simulator as it stands.
+    - ``TotalNodeEM``: [Summary] "TotalNodeEM": the number of melt entrances.
+    - ``TotalNodeEC``: [Summary] "TotalNodeEC": the number of coolant entrances.
+    - ``TotalGateCTL``: [Summary] "TotalGateCTL": the number of valve gates.
+    - ``TotalNodeMB``: [Summary] "TotalNodeMB": the number of mold bases.
+    - ``TotalNodeBC``: [Summary] "TotalNodeBC": the number of boundary conditions.
+    - ``TotalNodeMMM``: [Summary] "TotalNodeMMM": the number of mold metal materials.
+    - ``SymVolRatio``: [Summary] "SymVolRatio": how many times the part holds the modelled volume,
+      where only a symmetric piece of it is modelled; an integer: 0.5 reads as 0.
+    - ``TotalNodeHR``: [Summary] "TotalNodeHR": the number of heating rods.
+    - ``TotalSTLNodeEC``: [Summary] "TotalSTLNodeEC": the number of coolant entrances of surface
+      meshes.
+    - ``TotalSTLNodeHR``: [Summary] "TotalSTLNodeHR": the number of heating rods of surface meshes.
+    - ``TotalGrpCCL``: [Summary] "TotalGrpCCL": the number of cooling channel line groups.
+    - ``TotalGrpCCS``: [Summary] "TotalGrpCCS": the number of cooling channel surface groups.
+    - ``TotalOverFlowCTL``: [Summary] "TotalOverFlowCTL": the number of overflow valves.
+    - ``IsTransientInletConv``: [Summary] "IsTransientInletConv": 1 where the resin's conversion at
+      the inlet changes with time, else 0.
+    - ``FlowCtrl``: [FlowCTL] "FlowCtrl": a code: which quantity controls filling.
+    - ``VPSwitchCtrl``: [FlowCTL] "VPSwitchCtrl": the criterion of the V/P switch-over: 0 filled
+      volume, 1 ram position, 2 injection pressure, 3 a further one over the filled volume.
+    - ``PackingCtrl``: [FlowCTL] "PackingCtrl": a code: which quantity controls packing.
+    - ``MoldTemperature``: [FlowCTL] "MoldTemperature": the mold temperature, in oC.
+    - ``MeltTemperature``: [FlowCTL] "MeltTemperature": the melt temperature, in oC.
+    - ``InjectionTime``: [FlowCTL] "InjectionTime": the injection time, in sec.
+    - ``VolumeFilled``: [FlowCTL] "VolumeFilled": how much is filled when the V/P switch-over comes,
+      for the criteria 0 and 3.
+    - ``RamPosition``: [FlowCTL] "RamPosition": the ram position at which the V/P switch-over comes,
+      for criterion 1.
+    - ``InjectionPressure``: [FlowCTL] "InjectionPressure": the injection pressure at which the V/P
+      switch-over comes, in MPa, for criterion 2.
+    - ``CureEnterType``: [FlowCTL] "CureEnterType": a code: what makes curing begin.
+    - ``CureEnterSwch``: [FlowCTL] "CureEnterSwch": the switch value at which curing begins.
+    - ``CureEnterTime``: [FlowCTL] "CureEnterTime": the time at which curing begins, in sec.
+    - ``SuckBack``: [RamPosition] "SuckBack": how far the screw is pulled back after plastication,
+      to relieve the melt (suck-back).
+    - ``flow_rate_ram_positions``: The flow rate ram positions, of shape (n,).
+    - ``injection_pressure_ram_positions``: The injection pressure ram positions, of shape (n,).
+    """
 
     ProjectType: int | None
     """[CaeHeader] "ProjectType": the project type: 8 co-injection, 11 two melt entrances; a second
@@ -242,7 +338,74 @@ class ProcessItems:
 
 
 class InletItems:
-    """An inlet."""
+    """An inlet.
+
+    - ``InletControlType``: [FlowCTLInfo] "FlowCTL-%d]": the same two codes as the loader looks for
+      them: the closing bracket belongs to the key.
+    - ``FillTime``: [Flow-%ld] "FillTime": the filling time, in sec. Or [Flow-%ld] "TransTime": the
+      filling time of transfer molding, in sec.
+    - ``MeltTemp``: [Flow-%ld] "MeltTemp": the melt temperature, in oC. Or [Flow-%ld] "ResnTemp":
+      the resin temperature of transfer molding, in oC.
+    - ``MoldTemp``: [Flow-%ld] "MoldTemp": the mold temperature, in oC.
+    - ``InjectPres``: [Flow-%ld] "InjectPres": the injection pressure, in MPa. Or [Flow-%ld]
+      "TransPres": the pressure of transfer molding, in MPa.
+    - ``FRDisplayType``: [Flow-%ld] "FRDisplayType": a code: how a front end shows the flow rate
+      profile.
+    - ``IPDisplayType``: [Flow-%ld] "IPDisplayType": a code: how a front end shows the injection
+      pressure profile.
+    - ``FRProfileType``: [Flow-%ld] "FRProfileType": a code: in which form the flow rate profile was
+      entered.
+    - ``IPProfileType``: [Flow-%ld] "IPProfileType": a code: in which form the injection pressure
+      profile was entered.
+    - ``MaxFR``: [Flow-%ld] "MaxFR": the limit of the flow rate, in cc/sec.
+    - ``MaxFillingTime``: [Flow-%ld] "MaxFillingTime": the limit of the filling time, in sec. Or
+      [Flow-%ld] "MaxTransferTime": the limit of the filling time of transfer molding, in sec.
+    - ``FlowPackMode``: [Flow-%ld] "FlowPackMode": a code of the mode of filling and packing.
+    - ``HotRunnerTemperatureDiff``: [Flow-%ld] "HotRunnerTemperatureDiff": how much the temperature
+      of the hot runner differs from the melt's, in oC.
+    - ``Material``: [Flow-%ld] "Material": the material that this inlet injects.
+    - ``CoreEnterType``: [Flow-%ld] "CoreEnterType": a code: what makes the core material enter.
+    - ``CoreEnterSwch``: [Flow-%ld] "CoreEnterSwch": the switch value at which the core material
+      enters.
+    - ``CoreEnterTime``: [Flow-%ld] "CoreEnterTime": the time at which the core material enters, in
+      sec.
+    - ``FluidTemp``: [Flow-%ld] "FluidTemp": the temperature of the fluid that is injected after the
+      melt, in oC.
+    - ``FluidEnterType``: [Flow-%ld] "FluidEnterType": a code: what makes the fluid enter.
+    - ``FluidEnterSwch``: [Flow-%ld] "FluidEnterSwch": the switch value at which the fluid enters.
+    - ``FluidEnterTime``: [Flow-%ld] "FluidEnterTime": the time at which the fluid enters, in sec.
+    - ``FluidDelayTime``: [Flow-%ld] "FluidDelayTime": how long the fluid waits, in sec.
+    - ``InitConv``: [Flow-%ld] "InitConv": how far the resin's curing reaction has gone (its
+      conversion) at the start of filling.
+    - ``PackTime``: [Pack-%d] "PackTime": the packing time, in sec. Or [Cure-%d] "CureTime": the
+      curing time, in sec.
+    - ``PackPres``: [Pack-%d] "PackPres": the packing pressure, in MPa. Or [Cure-%d] "CurePres": the
+      curing pressure, in MPa.
+    - ``PackSwch``: [Pack-%d] "PackSwch": the switch value at which packing takes over from filling.
+      Or [Cure-%d] "CureSwch": the switch value at which curing takes over from packing.
+    - ``MaxEOFRatio``: [Pack-%d] "MaxEOFRatio": the limit of the packing pressure, as a ratio to the
+      pressure at the end of filling.
+    - ``PPDisplayType``: [Pack-%d] "PPDisplayType": a code: how a front end shows the packing
+      pressure profile. Or [Cure-%d] "CPDisplayType": a code: how a front end shows the curing
+      pressure profile.
+    - ``PPProfileType``: [Pack-%d] "PPProfileType": a code: in which form the packing pressure
+      profile was entered. Or [Cure-%d] "PPProfileType": a code: in which form the curing pressure
+      profile was entered; the key is the packing stage's.
+    - ``MaxPressSlop``: [Pack-%d] "MaxPressSlop": the limit of the slope of the pressure.
+    - ``Shutoff``: [Pack-%d] "Shutoff": a code: whether and how the inlet is shut off.
+    - ``MaterialType``: [Pack-%d] "MaterialType": a code of the kind of material.
+    - ``FluidPres``: [Pack-%d] "FluidPres": the pressure of the fluid, in MPa.
+    - ``FluidMaxFR``: [Pack-%d] "FluidMaxFR": the limit of the fluid's flow rate, in cc/sec.
+    - ``FluidProfileType``: [Pack-%d] "FluidProfileType": a code: in which form the fluid pressure
+      profile was entered.
+    - ``flow_rate``: The flow rate, of shape (n, 2).
+    - ``injection_pressure``: The injection pressure, of shape (n, 2).
+    - ``packing_pressure``: The packing pressure, of shape (n, 2).
+    - ``fluid_pressure``: The fluid pressure, of shape (n, 2).
+    - ``flow_rate_time_constants``: The flow rate time constants, of shape (n,).
+    - ``injection_pressure_time_constants``: The injection pressure time constants, of shape (n,).
+    - ``packing_pressure_time_constants``: The packing pressure time constants, of shape (n,).
+    """
 
     InletControlType: int | None
     """[FlowCTLInfo] "FlowCTL-%d]": the same two codes as the loader looks for them: the closing

@@ -5,7 +5,11 @@ from __future__ import annotations
 import importlib
 from typing import Any
 
-_DEBIAN = {"matplotlib": "python3-matplotlib", "pandas": "python3-pandas", "distributed": "python3-distributed"}
+_DEBIAN = {
+    "matplotlib": "python3-matplotlib",
+    "pandas": "python3-pandas",
+    "distributed": "python3-distributed",
+}
 
 
 def needed(module: str, what: str) -> Any:
@@ -14,10 +18,8 @@ def needed(module: str, what: str) -> Any:
     try:
         return importlib.import_module(module)
     except ModuleNotFoundError as error:
-        if error.name is None or error.name.partition(".")[0] != package:
-            raise
         raise ImportError(
-            f"{what} needs {package}: install it with \"apt install {_DEBIAN[package]}\" "
-            f"or \"pip install {package}\"",
+            f'{what} needs {package} ({error}): install it with "apt install {_DEBIAN[package]}" '
+            f'or "pip install {package}"',
             name=package,
         ) from error

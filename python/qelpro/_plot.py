@@ -15,11 +15,11 @@ if TYPE_CHECKING:
 def draw_profile(file: ProcessFile, address: str, ax: Axes | None, style: dict[str, Any]) -> Axes:
     section, dot, name = address.rpartition(".")
     if not dot:
-        raise ValueError(f"{address!r} is no address of a profile: \"Flow-1.FR\"")
+        raise ValueError(f'{address!r} is no address of a profile: "Flow-1.FR"')
     points = file.profile(section, name)
     title, x, x_unit, y, y_unit = file._now().table_words(file._name, section, name)
     pyplot = needed("matplotlib.pyplot", "plot()")
-    axes = pyplot.gca() if ax is None else ax
+    axes: Axes = pyplot.gca() if ax is None else ax
     if points.ndim == 1:
         axes.plot(range(1, len(points) + 1), points, **{"marker": "o", **style})
         x = x or "point"

@@ -6,46 +6,62 @@ from typing import Any, NamedTuple
 
 
 class Finding(NamedTuple):
-    """Something that is wrong, or may be, with a file."""
+    """Something that is wrong, or may be, with a file: what a line of ``qelpro check`` tells.
+
+    - ``file``: the path as it was given
+    - ``line``, ``column``: where, from 1; columns in bytes
+    - ``severity``: ``"error"``, ``"warning"`` or ``"note"``
+    - ``code``: which kind it is, ``"P201"``
+    - ``message``: what is wrong, in words
+    - ``section``: with brackets; ``""`` where there is none
+    - ``key``: ``""`` where there is none
+    - ``hint``: a name that is near, or what to do; may be ``""``
+    """
 
     file: str
     line: int
-    """From 1."""
     column: int
-    """From 1, in bytes."""
     severity: str
-    """``"error"``, ``"warning"`` or ``"note"``."""
     code: str
-    """``"P201"``: what kind it is."""
     message: str
     section: str
-    """With brackets; empty where there is none."""
     key: str
     hint: str
-    """A name that is near, or what to do; may be empty."""
 
 
 class Difference(NamedTuple):
-    """A difference between two files: of an entry, of a profile, or of a section of one alone."""
+    """A difference between two files: of an entry, of a profile, or of a section of one alone.
+
+    - ``kind``: ``"changed"``, ``"added"`` or ``"removed"``
+    - ``address``: ``"Flow-1.FillTime"``, ``"Flow-1.FR"`` of a profile, ``"[Flow-2]"`` of a section
+    - ``old``, ``new``: the typed value, the points of a profile; None where there is none
+    """
 
     kind: str
-    """``"changed"``, ``"added"`` or ``"removed"``."""
     address: str
-    """``"Flow-1.FillTime"``, ``"Flow-1.FR"`` of a profile, ``"[Flow-2]"`` of a section."""
     old: Any
-    """The typed value, the points of a profile, None where there is none."""
     new: Any
 
 
 class Machine(NamedTuple):
-    """A machine of a bank."""
+    """A machine of a bank.
+
+    - ``maker``: who makes it
+    - ``grade``: its model
+    """
 
     maker: str
     grade: str
 
 
 class CoolantProperties(NamedTuple):
-    """The four properties of a coolant, in the order and in the units of the table."""
+    """The properties of a coolant at a temperature, four floats, in the units of its table.
+
+    - ``density``
+    - ``specific_heat``: the specific heat capacity
+    - ``conductivity``: the thermal conductivity
+    - ``viscosity``
+    """
 
     density: float
     specific_heat: float

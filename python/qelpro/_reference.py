@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+from operator import index
 from pathlib import Path
 from typing import Any
 
@@ -12,6 +13,12 @@ from ._records import CoolantProperties, Machine
 
 class MachineBank:
     """The machines of a bank, as they were when it was read.
+
+    >>> bank = qelpro.MachineBank("machines.bank")
+    >>> bank.makers
+    ['Norvik Presses', 'Tessaro']
+    >>> bank.machines("Norvik Presses")[0]
+    Machine(maker='Norvik Presses', grade='NP 50-110')
 
     Raises what ``open()`` raises, and ValueError for a file that is no bank, or one of another
     version. Pickles by its path.
@@ -34,6 +41,8 @@ class MachineBank:
 
     def machines(self, maker: str) -> list[Machine]:
         """The machines of a maker in the bank's order, repeats included; KeyError for another."""
+        if not isinstance(maker, str):
+            raise KeyError(maker)
         return [Machine(maker, grade) for grade in self._bank.grades(maker)]
 
     def __repr__(self) -> str:
@@ -45,6 +54,10 @@ class MachineBank:
 
 class CoolantTable:
     """The coolants of a settings file, as they were when it was read.
+
+    >>> water = qelpro.CoolantTable("coolants.pcs").properties(0, 25.0)
+    >>> water.density, water.viscosity
+    (0.9953125, 0.010211875)
 
     Raises what ``open()`` raises. Pickles by its path.
     """
@@ -66,7 +79,10 @@ class CoolantTable:
         3. Outside of the table they are those of the first or the last row. KeyError for a coolant
         that is not there.
         """
-        return CoolantProperties(*self._table.properties(coolant, temperature))
+        number = index(coolant)
+        if abs(number) >= 2**31:
+            raise KeyError(f"{self._name}: coolant {number}: not found")
+        return CoolantProperties(*self._table.properties(number, float(temperature)))
 
     def __repr__(self) -> str:
         return f"CoolantTable({self._name!r})"

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import os
 from collections.abc import Iterable
-from typing import TYPE_CHECKING, Any
+from typing import TYPE_CHECKING
 
 from . import _engine
 from ._missing import needed
@@ -12,7 +12,10 @@ from ._paths import StrPath, name_of
 from ._table import Chunk, Table
 
 if TYPE_CHECKING:
+    from typing import Literal
+
     import pandas as pd
+    from distributed import Client
 
 _ERRORS = ("raise", "skip", "record")
 
@@ -20,8 +23,8 @@ _ERRORS = ("raise", "skip", "record")
 def scan(
     paths: Iterable[StrPath],
     addresses: Iterable[str],
-    errors: str = "raise",
-    client: Any = None,
+    errors: Literal["raise", "skip", "record"] = "raise",
+    client: Client | None = None,
 ) -> pd.DataFrame:
     """Values of many files as a pandas DataFrame: a row a file, in the order of the paths.
 
@@ -29,6 +32,11 @@ def scan(
     has a column for each address that it matches, in order of first appearance. NaN is what a file
     does not have. Columns of whole numbers that every file has are int64, of numbers float64, all
     others objects; several fields are a tuple. Each file is read once, on all cores.
+
+    >>> qelpro.scan(["a.pro", "b.pro"], ["Flow-1.FillTime", "Flow-*.MeltTemp"])
+        file  Flow-1.FillTime  Flow-1.MeltTemp
+    0  a.pro              1.0            230.0
+    1  b.pro              1.0            240.0
 
     ``errors`` says what becomes of a file that cannot be read, and of a value that its encoding
     does not read: "raise" raises OSError or ValueError, of the first such file; "skip" leaves the
@@ -49,6 +57,9 @@ def scan(
     pandas = needed("pandas", "scan()")
     names = [name_of(path) for path in paths]
     words = list(addresses)
+    for word in words:
+        if not isinstance(word, str):
+            raise TypeError(f"an address is a str, not {type(word).__name__}")
     _engine.scan([], [], words, 1)  # what is no address is told before a file is read
     if client is None:
         chunks = [Chunk(0, *_engine.scan(names, names, words, 0))]

@@ -3,16 +3,19 @@
 from __future__ import annotations
 
 from collections.abc import Mapping
+from operator import index
 from pathlib import Path
 from typing import Any
 
 from . import _engine
 from ._paths import StrPath, name_of
 
+_MOST = 10_000_000
+
 
 def sweep(
     path: StrPath,
-    ranges: Mapping[str, Any],
+    ranges: Mapping[str, object],
     folder: StrPath,
     *,
     samples: int | None = None,
@@ -28,16 +31,26 @@ def sweep(
     is made where it is not there, and has ``manifest.csv`` and ``manifest.json``, which tell the
     values, and the seed.
 
+    >>> files = qelpro.sweep("a.pro", {"Flow-1.MeltTemp": [220, 240]}, "study")
+    >>> [file.name for file in files]
+    ['a-0001.pro', 'a-0002.pro']
+
     Raises FileExistsError where a file of the study exists, unless ``overwrite``; ValueError for
     what a key's encoding cannot hold; KeyError for a pattern that matches nothing. Nothing is
     written then.
     """
     if not isinstance(ranges, Mapping):
-        raise TypeError(f"ranges is a mapping from addresses to values, not {type(ranges).__name__}")
+        raise TypeError(
+            f"ranges is a mapping from addresses to values, not {type(ranges).__name__}"
+        )
+    if not ranges:
+        raise ValueError("ranges are empty: nothing varies")
+    if samples is not None and not 1 <= index(samples) <= _MOST:
+        raise ValueError(f"samples is 1 or more, and at most {_MOST}, not {samples}")
+    if seed is not None and not 0 <= index(seed) < 2**64:
+        raise ValueError(f"seed is a whole number from 0 to 2**64 - 1, not {seed}")
     settings = {address: _values(address, values, samples) for address, values in ranges.items()}
-    names = _engine.sweep(
-        name_of(path), settings, name_of(folder), samples, seed, overwrite
-    )
+    names = _engine.sweep(name_of(path), settings, name_of(folder), samples, seed, overwrite)
     return [Path(name_of(folder)) / name for name in names]
 
 

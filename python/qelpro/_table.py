@@ -48,7 +48,7 @@ class Table:
             for row, _, message in self._errors:
                 messages[row] = message
             columns["error"] = pandas.Series(messages, dtype=object)
-        frame = pandas.DataFrame(columns, copy=False)
+        frame: pd.DataFrame = pandas.DataFrame(columns, copy=False)
         if errors == "skip" and self._errors:
             frame = frame.drop(index=[row for row, _, _ in self._errors])
             frame = frame.reset_index(drop=True)

@@ -6,11 +6,15 @@ version=$2
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
+# A project without a language does not know for which architecture it is, in whose folder Debian has libraries.
+architecture=$(find "$prefix/lib" -path '*/cmake/QELPROEngine' | sed -nE 's|.*/lib/(.+)/cmake/QELPROEngine$|\1|p')
+
 # find NAME CODE [OPTION ...]: configures a project of that code; what CMake says stands in NAME.log
 find_it() {
   mkdir -p "$scratch/$1"
   printf 'cmake_minimum_required(VERSION 3.20)\nproject(finds LANGUAGES NONE)\n%s\n' "$2" >"$scratch/$1/CMakeLists.txt"
-  cmake -G Ninja -S "$scratch/$1" -B "$scratch/$1/build" -DCMAKE_PREFIX_PATH="$prefix" "${@:3}" >"$scratch/$1.log" 2>&1
+  cmake -G Ninja -S "$scratch/$1" -B "$scratch/$1/build" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_LIBRARY_ARCHITECTURE="$architecture" "${@:3}" >"$scratch/$1.log" 2>&1
 }
 finds() { find_it "$@" || { cat "$scratch/$1.log" >&2; exit 1; }; }
 # refuses NAME REASON CODE [OPTION ...]

@@ -3,7 +3,6 @@
 #include <array>
 #include <map>
 #include <string>
-#include <utility>
 
 #include "blocks/catalogue.h"
 #include "file/change.h"
@@ -31,18 +30,25 @@ bool is_read_back(CQELPROReader_Manipulator& reader, const Change& change) {
 void check_stored(const std::string& file, const std::string& written,
                   const std::vector<Change>& changes) {
   CQELPROReader_Manipulator reader;
-  std::map<std::pair<std::string, std::string>, const Change*> last;
+  // By section and key: what was set and is there at the end.
+  std::map<std::string, std::map<std::string, const Change*>> last;
   for (const Change& change : changes) {
-    last[{change.address.section, change.address.key}] = &change;
+    const std::string section = header_of(change.address.section);
+    if (change.kind == Change::Kind::remove_section) {
+      last.erase(section);
+    } else if (change.kind != Change::Kind::add_section) {
+      last[section][change.address.key] = &change;
+    }
   }
   const bool is_open = reader.SetFilePath(written.c_str());
-  for (const auto& [address, change] : last) {
-    if (change->kind == Change::Kind::set && !qel::is_positional(header_of(address.first)) &&
-        !(is_open && is_read_back(reader, *change))) {
-      throw Failure(kFileError,
-                    at({file, 0, with_brackets(address.first), address.second},
-                       "not stored: another line of the file would be read in its place; "
-                       "qelpro check tells which lines are passed over"));
+  for (const auto& [section, keys] : last) {
+    for (const auto& [key, change] : keys) {
+      if (change->kind == Change::Kind::set && !qel::is_positional(section) &&
+          !(is_open && is_read_back(reader, *change))) {
+        throw Failure(kFileError, at({file, 0, section, key},
+                                     "not stored: another line of the file would be read in its "
+                                     "place; qelpro check tells which lines are passed over"));
+      }
     }
   }
 }

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <set>
 #include <utility>
 #include <variant>
 
 #include "blocks/catalogue.h"
+#include "file/forms.h"
 #include "file/json_value.h"
+#include "file/names.h"
 #include "file/typed.h"
 #include "system/failure.h"
 #include "system/visible.h"
@@ -16,13 +17,6 @@
 
 namespace qelpro {
 namespace {
-
-constexpr const char* kLines = "lines";
-
-const qel::SectionInfo* known_section(const std::string& section) {
-  int number = 0;
-  return qel::find_section(with_brackets(section).c_str(), number);
-}
 
 void check_finite(const Change& change) {
   for (const qel::Field& field :
@@ -40,6 +34,10 @@ Change change_to(const std::string& file, const Address& address, const Json& va
     const Change change{Change::Kind::set, address,
                         text_of_json(known_section(address.section), address.key, value)};
     check_finite(change);
+    if (qel::text::index_value(change.value) != change.value) {
+      refuse_usage(in_quotes(change.value) +
+                   ": blanks at the beginning and the end of a value are not read");
+    }
     return change;
   } catch (const Failure& failure) {
     throw Failure(failure.status(),
@@ -47,10 +45,7 @@ Change change_to(const std::string& file, const Address& address, const Json& va
   }
 }
 
-bool is_positional(const Entries& entries, const std::string& section) {
-  const TextSection* const there = entries.find_section(section);
-  return qel::is_positional(there != nullptr ? there->name : with_brackets(section));
-}
+bool is_positional(const std::string& section) { return qel::is_positional(header_of(section)); }
 
 [[noreturn]] void fail_to_find(const std::string& file, const Address& address, const char* what) {
   throw Failure(kNotFound, at({file, 0, with_brackets(address.section), address.key}, what));
@@ -88,33 +83,34 @@ std::vector<Change> changes_to_lines(const std::string& file, const Entries& ent
 }  // namespace
 
 Edit set_entry(Address address, Json value) {
-  return [address = std::move(address), value = std::move(value)](const std::string& file,
-                                                                  const Entries& entries) {
-    if (is_positional(entries, address.section) && address.key == kLines) {
-      return changes_to_lines(file, entries, address.section, {{kLines, value}});
-    }
-    std::vector<Change> changes{change_to(file, address, value)};
-    check_change(file, changes.back(), false);
-    return changes;
-  };
+  if (is_positional(address.section) && address.key == kLines) {
+    return set_section(std::move(address.section), {{kLines, std::move(value)}});
+  }
+  return {[address = std::move(address), value = std::move(value)](const std::string& file,
+                                                                   const Entries& /*entries*/) {
+            std::vector<Change> changes{change_to(file, address, value)};
+            check_change(file, changes.back(), false);
+            return changes;
+          },
+          false};
 }
 
 Edit remove_entry(Address address) {
-  return [address = std::move(address)](const std::string& file, const Entries& entries) {
-    if (is_positional(entries, address.section) && address.key == kLines) {
+  return {[address = std::move(address)](const std::string& file, const Entries& entries) {
+    if (is_positional(address.section) && address.key == kLines) {
       return changes_to_lines(file, entries, address.section, {{kLines, Json::array()}});
     }
     if (entries.find(address) == nullptr) {
       fail_to_find(file, address, "not found");
     }
     return std::vector<Change>{{Change::Kind::remove, address, ""}};
-  };
+  }};
 }
 
 Edit set_section(std::string section, Json keys) {
-  return [section = std::move(section), keys = std::move(keys)](const std::string& file,
-                                                                const Entries& entries) {
-    if (is_positional(entries, section)) {
+  return {[section = std::move(section), keys = std::move(keys)](const std::string& file,
+                                                                 const Entries& entries) {
+    if (is_positional(section)) {
       return changes_to_lines(file, entries, section, keys);
     }
     if (!keys.is_object()) {
@@ -138,27 +134,39 @@ Edit set_section(std::string section, Json keys) {
       check_change(file, changes.back(), false);
     }
     return changes;
-  };
+  }};
 }
 
 Edit remove_section(std::string section) {
-  return [section = std::move(section)](const std::string& file, const Entries& entries) {
+  return {[section = std::move(section)](const std::string& file, const Entries& entries) {
     if (entries.find_section(section) == nullptr) {
       fail_to_find(file, {section, ""}, "not found");
     }
     return std::vector<Change>{{Change::Kind::remove_section, {section, ""}, ""}};
-  };
+  }};
+}
+
+void check(const std::string& file, const Edit& edit) {
+  if (!edit.needs_entries) {
+    const SectionedText nothing{""};
+    edit(file, Entries(nothing));
+  }
 }
 
 std::vector<Change> changes_of(const std::string& file, const SectionedText& document,
                                const std::vector<Edit>& edits) {
   std::vector<Change> all;
+  std::vector<Change> not_made;
   std::string contents = document.contents();
   for (const Edit& edit : edits) {
-    const SectionedText now(std::move(contents));
+    if (edit.needs_entries && !not_made.empty()) {
+      contents = with_changes(SectionedText(std::move(contents)), not_made);
+      not_made.clear();
+    }
+    const SectionedText now(edit.needs_entries ? contents : "");
     std::vector<Change> changes = edit(file, Entries(now));
-    contents = with_changes(now, changes);
-    std::ranges::move(changes, std::back_inserter(all));
+    std::ranges::copy(changes, std::back_inserter(all));
+    std::ranges::move(changes, std::back_inserter(not_made));
   }
   return all;
 }

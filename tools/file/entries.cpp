@@ -61,6 +61,11 @@ std::vector<FileEntry> positional_lines(const SectionedText& document, std::size
 
 }  // namespace
 
+const qel::SectionInfo* known_section(const std::string& name) {
+  int number = 0;
+  return qel::find_section(with_brackets(name).c_str(), number);
+}
+
 Entries::Entries(const SectionedText& document) : document_(document) {
   Everything everything;
   add_sections(everything);

@@ -21,6 +21,9 @@ struct FileEntry {
   std::string_view value;   ///< Without blanks around it.
 };
 
+/// The section of that name, without brackets, in the catalogue; null where it does not know it.
+const qel::SectionInfo* known_section(const std::string& name);
+
 /// The entries of a file, each once and in the file's order: a second section of a name, a second
 /// entry of a key, a comment, an indented line and what stands before the first section are never
 /// read and are none. A line without "=" is one, with an empty value, where its key is known or

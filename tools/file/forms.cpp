@@ -16,7 +16,6 @@
 namespace qelpro {
 namespace {
 
-constexpr const char* kLines = "lines";
 constexpr const char* kExact = "exact";
 
 // Lines up to the last one that says something: those behind it are spacing.
@@ -25,18 +24,16 @@ Json lines_of(const SectionedText& document, const TextSection& section,
   Json lines = Json::array();
   const std::size_t last = entries.empty() ? section.header : entries.back().line;
   for (std::size_t at = section.header + 1; at <= last; ++at) {
-    lines.push_back(std::string(qel::text::index_value(document.line(at).whole)));
+    const std::string_view line = document.line(at).whole;
+    const std::string_view value = qel::text::index_value(line);
+    // Without the blanks in front some read as a header.
+    lines.push_back(std::string(qel::text::is_header(value) ? line : value));
   }
   return lines;
 }
 
 [[noreturn]] void refuse(const std::string& name, const std::string& what) {
   throw Failure(kFileError, at(name, what));
-}
-
-const qel::SectionInfo* known_section(const std::string& section) {
-  int number = 0;
-  return qel::find_section(with_brackets(section).c_str(), number);
 }
 
 Change change_of(const std::string& name, const Address& address, const Json& value) {

@@ -11,6 +11,9 @@
 /// A process file as JSON.
 namespace qelpro {
 
+/// What the list of a positional section's lines is called.
+inline constexpr const char* kLines = "lines";
+
 /// Section by section, in the file's order, an object from key to typed value; the lines of a
 /// section that have a position are a list of texts under "lines".
 Json plain_form(const Entries& entries);

@@ -50,11 +50,9 @@ std::string text_of_point(const qel::SectionInfo& section, const qel::KeyInfo& p
 }  // namespace
 
 Edit set_profile(std::string section, std::string name, std::vector<std::vector<double>> points) {
-  return [section = std::move(section), name = std::move(name), points = std::move(points)](
-             const std::string& file, const Entries& entries) {
-    int section_number = 0;
-    const qel::SectionInfo* const known =
-        qel::find_section(with_brackets(section).c_str(), section_number);
+  return {[section = std::move(section), name = std::move(name), points = std::move(points)](
+              const std::string& file, const Entries& entries) {
+    const qel::SectionInfo* const known = known_section(section);
     const std::vector<ProfileKind> kinds = kinds_of(file, section, known, name);
     const TextSection* const there = entries.find_section(section);
     const std::optional<Profile> old =
@@ -84,7 +82,7 @@ Edit set_profile(std::string section, std::string name, std::vector<std::vector<
       }
     }
     return changes;
-  };
+  }};
 }
 
 }  // namespace qelpro

@@ -159,6 +159,21 @@ std::string composed(std::string_view kinds, std::span<const GivenField> fields,
   return text;
 }
 
+template <class... Format>
+std::string printed(double value, Format... format) {
+  std::array<char, 32> buffer{};
+  return {buffer.data(),
+          std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format...).ptr};
+}
+
+// How many digits a number is written with: up to its exponent, without zeros at the end.
+std::size_t digits_of(std::string_view text) {
+  text = text.substr(0, text.find('e'));
+  text = text.substr(0, text.find_last_not_of('0') + 1);
+  return static_cast<std::size_t>(
+      std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; }));
+}
+
 }  // namespace
 
 TypedValue typed_value(const qel::SectionInfo* section, std::string_view key,
@@ -213,9 +228,12 @@ Json json_of(const Entries& entries, const FileEntry& entry) {
 
 std::string shortest(double value) {
   constexpr std::size_t kExponentDigits = 3;
-  std::array<char, 32> buffer{};
-  const auto printed = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  std::string text(buffer.data(), printed.ptr);
+  std::string text = printed(value);
+  const std::string with_exponent = printed(value, std::chars_format::scientific);
+  // Without an exponent a large number has digits that say nothing.
+  if (text.find_first_of(".e") == std::string::npos && digits_of(with_exponent) < digits_of(text)) {
+    text = with_exponent;
+  }
   const std::size_t e = text.find('e');
   if (e != std::string::npos && text.size() < e + 2 + kExponentDigits) {
     text.insert(e + 2, e + 2 + kExponentDigits - text.size(), '0');

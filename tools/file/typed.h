@@ -43,7 +43,8 @@ struct GivenField {
 /// `Failure` of usage that names the field where there is none.
 std::string text_of(const qel::KeyInfo& key, int number, std::span<const GivenField> fields);
 
-/// The fewest digits, with the exponent of three digits that process files have: 1e-007.
+/// The fewest digits that read back as the same number, with the exponent of three digits that
+/// process files have: 1e-007.
 std::string shortest(double value);
 
 }  // namespace qelpro

@@ -43,6 +43,9 @@ std::string declarations(const Item& item) {
   const std::string object = item.object + "& " + item.parameter;
   const std::string type = type_of(item.kind);
   return declaration("QELG_API void set_process_" + item.name, object, type + " value") +
+         wrapped("What `set_process_" + item.name +
+                     "` stored; false, `value` untouched, while nothing was.",
+                 "///") +
          declaration("QELG_API bool get_process_" + item.name, "const " + object, type + "& value");
 }
 

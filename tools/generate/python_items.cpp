@@ -21,6 +21,8 @@ if TYPE_CHECKING:
     import numpy.typing as npt
 )";
 
+constexpr const char* kQuotes = R"(""")";
+
 struct List {
   std::string type;
   std::string title;
@@ -55,31 +57,56 @@ std::string type_of(qel::Kind kind) {
 
 std::string docstring(const std::string& text) {
   constexpr const char* kIndent = "   ";  // and a blank
-  return wrapped("\"\"\"" + text + "\"\"\"", kIndent);
+  return wrapped(kQuotes + text + kQuotes, kIndent);
 }
 
-std::string class_of(const std::string& name, const std::string& what,
-                     const std::vector<Item>& items, std::string_view prefix) {
-  std::string text = "\n\nclass " + name + ":\n" + docstring(what);
+struct Attribute {
+  std::string name;
+  std::string type;
+  std::string meaning;
+};
+
+std::vector<Attribute> values_of(const std::vector<Item>& items, std::string_view prefix) {
+  std::vector<Attribute> attributes;
   for (const Item& item : items) {
     if (item.name.starts_with(prefix)) {
       const qel::SectionInfo* section = nullptr;
-      text += "\n    " + item.name.substr(prefix.size()) + ": " + type_of(item.kind) + " | None\n" +
-              docstring(keys_told(item, section));
+      attributes.push_back({item.name.substr(prefix.size()), type_of(item.kind) + " | None",
+                            keys_told(item, section)});
     }
   }
-  return text;
+  return attributes;
 }
 
-std::string attributes_of(const std::vector<List>& lists) {
-  std::string text;
+std::vector<Attribute> arrays_of(const std::vector<List>& lists) {
+  std::vector<Attribute> attributes;
   for (const List& list : lists) {
-    const bool is_profile = list.type == "QELG_Profile";
     std::string name = list.title;
     std::replace(name.begin(), name.end(), ' ', '_');
-    text +=
-        "\n    " + name + ": npt.NDArray[np.float64]\n" +
-        docstring("The " + list.title + (is_profile ? ", of shape (n, 2)." : ", of shape (n,)."));
+    const std::string shape = list.type == "QELG_Profile" ? "(n, 2)" : "(n,)";
+    attributes.push_back(
+        {name, "npt.NDArray[np.float64]", "The " + list.title + ", of shape " + shape + "."});
+  }
+  return attributes;
+}
+
+// A line of the list that help() prints: an editor shows the attribute's own text instead.
+std::string list_item(const Attribute& attribute) {
+  constexpr std::string_view kBullet = "    - ";
+  return wrapped("``" + attribute.name + "``: " + attribute.meaning, "     ")
+      .replace(0, kBullet.size(), kBullet);
+}
+
+std::string class_of(const std::string& name, const std::string& what,
+                     std::vector<Attribute> attributes, const std::vector<Attribute>& arrays = {}) {
+  attributes.insert(attributes.end(), arrays.begin(), arrays.end());
+  std::string text = "\n\nclass " + name + ":\n    " + kQuotes + what + "\n\n";
+  for (const Attribute& attribute : attributes) {
+    text += list_item(attribute);
+  }
+  text += std::string("    ") + kQuotes + "\n";
+  for (const Attribute& attribute : attributes) {
+    text += "\n    " + attribute.name + ": " + attribute.type + "\n" + docstring(attribute.meaning);
   }
   return text;
 }
@@ -101,10 +128,13 @@ std::vector<Item> without(const std::vector<Item>& items,
 std::string python_items() {
   constexpr std::string_view kMachine = "machine_";
   constexpr std::string_view kHeatTransfer = "HTC_";
-  return std::string(kHead) + class_of("MachineItems", "The machine.", process_items(), kMachine) +
-         class_of("HeatTransferItems", "The heat transfer.", process_items(), kHeatTransfer) +
+  return std::string(kHead) +
+         class_of("MachineItems", "The machine.", values_of(process_items(), kMachine)) +
+         class_of("HeatTransferItems", "The heat transfer.",
+                  values_of(process_items(), kHeatTransfer)) +
          class_of("ProcessItems", "The whole process.",
-                  without(process_items(), {kMachine, kHeatTransfer}), "") +
-         attributes_of(process_lists()) + class_of("InletItems", "An inlet.", inlet_items(), "") +
-         attributes_of(inlet_lists());
+                  values_of(without(process_items(), {kMachine, kHeatTransfer}), ""),
+                  arrays_of(process_lists())) +
+         class_of("InletItems", "An inlet.", values_of(inlet_items(), ""),
+                  arrays_of(inlet_lists()));
 }

@@ -1,5 +1,4 @@
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "commands.h"
@@ -56,21 +55,6 @@ void print(const Json& process) {
   }
 }
 
-Json notes_as_json(const std::vector<ProcessNote>& notes) {
-  Json list = Json::array();
-  for (const ProcessNote& note : notes) {
-    Json entry = Json::object();
-    if (note.where.line != 0) {
-      entry["line"] = note.where.line;
-    }
-    entry["section"] = note.where.section;
-    entry["key"] = note.where.key;
-    entry["message"] = note.what;
-    list.push_back(std::move(entry));
-  }
-  return list;
-}
-
 }  // namespace
 
 int run_process(const ProcessArguments& arguments) {
@@ -81,7 +65,7 @@ int run_process(const ProcessArguments& arguments) {
     complain(at(note.where, note.what));
   }
   if (arguments.json) {
-    result["notes"] = notes_as_json(notes);
+    result["notes"] = json_of(notes);
     write_json(answer(), result);
     answer() << '\n';
   } else {

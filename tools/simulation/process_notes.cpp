@@ -531,4 +531,19 @@ std::vector<ProcessNote> process_notes(const std::string& file, const SectionedT
   return Diagnosis(file, document).run();
 }
 
+Json json_of(const std::vector<ProcessNote>& notes) {
+  Json list = Json::array();
+  for (const ProcessNote& note : notes) {
+    Json entry = Json::object();
+    if (note.where.line != 0) {
+      entry["line"] = note.where.line;
+    }
+    entry["section"] = note.where.section;
+    entry["key"] = note.where.key;
+    entry["message"] = note.what;
+    list.push_back(std::move(entry));
+  }
+  return list;
+}
+
 }  // namespace qelpro

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "file/document_text.h"
+#include "json/json_text.h"
 #include "system/failure.h"
 
 namespace qelpro {
@@ -14,6 +15,9 @@ struct ProcessNote {
   Where where;
   std::string what;
 };
+
+/// [{"line", "section", "key", "message"}], without "line" where a note has none.
+Json json_of(const std::vector<ProcessNote>& notes);
 
 /// The notes of a file in the order in which the loader takes its sections. A diagnosis of its own,
 /// from the rows that the loader has its keys from.

@@ -13,7 +13,7 @@ void check_size(std::uint64_t size, bool is_more) {
     throw Failure(kUsage, "the plan has " + std::string(is_more ? "more than " : "") +
                               std::to_string(size) + " files, and at most " +
                               std::to_string(kMostFiles) +
-                              " are made; give fewer values, or --sample N");
+                              " are made; give fewer values; --sample N makes N files");
   }
 }
 
@@ -24,7 +24,8 @@ Plan::Plan(std::vector<Range> ranges) : ranges_(std::move(ranges)), size_(1) {
   for (const Range& range : ranges_) {
     if (range.is_continuous()) {
       throw Failure(kUsage,
-                    "a range FROM:TO has no values of its own; give FROM:TO:STEP, or --sample N");
+                    "a range FROM:TO has no values of its own; give FROM:TO:STEP; "
+                    "--sample N draws from it");
     }
     is_more = is_more || size_ > UINT64_MAX / range.count();
     size_ = is_more ? UINT64_MAX : size_ * range.count();
@@ -41,6 +42,9 @@ Plan::Plan(std::vector<Range> ranges) : ranges_(std::move(ranges)), size_(1) {
 Plan::Plan(std::vector<Range> ranges, std::uint64_t samples, std::uint64_t seed)
     : ranges_(std::move(ranges)), size_(samples) {
   check_size(samples, false);
+  if (samples == 0) {
+    throw Failure(kUsage, "a plan of no samples; give 1 or more");
+  }
   Generator generator(seed);
   for (const Range& range : ranges_) {
     std::vector<std::uint64_t> parts(samples);
