@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 #include "engine/text.h"
@@ -16,41 +18,41 @@ namespace py = pybind11;
 
 namespace {
 
-template <class Type>
-bool is_all(const std::vector<ScannedValue>& values) {
-  return std::ranges::all_of(
-      values, [](const ScannedValue& value) { return std::holds_alternative<Type>(value); });
+// Over the numbers themselves, of which there may be many.
+template <class Number>
+py::array_t<Number> array_over(std::vector<Number> numbers) {
+  auto held = std::make_unique<std::vector<Number>>(std::move(numbers));
+  const py::capsule owner(held.get(),
+                          [](void* all) { delete static_cast<std::vector<Number>*>(all); });
+  const std::vector<Number>& all = *held.release();
+  return py::array_t<Number>(static_cast<py::ssize_t>(all.size()), all.data(), owner);
 }
 
-bool is_number(const ScannedValue& value) {
-  return std::holds_alternative<int>(value) || std::holds_alternative<double>(value);
-}
-
-template <class Type>
-py::array_t<Type> array_of(const std::vector<ScannedValue>& values) {
-  py::array_t<Type> array(static_cast<py::ssize_t>(values.size()));
-  std::ranges::transform(values, array.mutable_data(), [](const ScannedValue& value) {
-    const int* const whole = std::get_if<int>(&value);
-    return whole != nullptr ? static_cast<Type>(*whole)
-                            : static_cast<Type>(std::get<double>(value));
-  });
+py::array_t<std::int64_t> whole_numbers(const std::vector<double>& numbers) {
+  py::array_t<std::int64_t> array(static_cast<py::ssize_t>(numbers.size()));
+  std::ranges::transform(numbers, array.mutable_data(),
+                         [](double number) { return static_cast<std::int64_t>(number); });
   return array;
 }
 
-py::list objects_of(const std::vector<ScannedValue>& values) {
-  py::list list;
-  for (const ScannedValue& value : values) {
-    list.append(std::visit(
-        []<class Value>(const Value& held) -> py::object {
-          if constexpr (std::is_same_v<Value, std::string>) {
-            return str_of(held);
-          } else if constexpr (std::is_same_v<Value, std::vector<qel::Field>>) {
-            return object_of(held);
-          } else {
-            return py::cast(held);
-          }
-        },
-        value));
+py::object object_of_value(const ScannedValue& value) {
+  return std::visit(
+      []<class Value>(const Value& held) -> py::object {
+        if constexpr (std::is_same_v<Value, std::string>) {
+          return str_of(held);
+        } else if constexpr (std::is_same_v<Value, std::vector<qel::Field>>) {
+          return object_of(held);
+        } else {
+          return py::cast(held);
+        }
+      },
+      value);
+}
+
+py::list objects_of(const ScannedValues& values) {
+  py::list list(values.size());
+  for (std::size_t index = 0; index < values.size(); ++index) {
+    list[index] = object_of_value(values.at(index));
   }
   return list;
 }
@@ -58,21 +60,20 @@ py::list objects_of(const std::vector<ScannedValue>& values) {
 }  // namespace
 
 py::tuple object_of(ScannedColumn column) {
-  py::array_t<std::int64_t> rows(static_cast<py::ssize_t>(column.rows.size()));
-  std::ranges::copy(column.rows, rows.mutable_data());
-  const bool is_whole = is_all<int>(column.values);
+  const char* kind = nullptr;
   py::object values;
-  const char* kind = "object";
-  if (is_whole) {
+  if (column.values.are_whole()) {
     kind = "int";
-    values = array_of<std::int64_t>(column.values);
-  } else if (std::ranges::all_of(column.values, &is_number)) {
+    values = whole_numbers(column.values.numbers());
+  } else if (column.values.are_real()) {
     kind = "float";
-    values = array_of<double>(column.values);
+    values = array_over(std::move(column.values.numbers()));
   } else {
+    kind = column.values.are_numbers() ? "number" : "object";
     values = objects_of(column.values);
   }
-  return py::make_tuple(column.request, str_of(column.name), rows, kind, values);
+  return py::make_tuple(column.request, str_of(column.name), array_over(std::move(column.rows)),
+                        kind, values);
 }
 
 }  // namespace qelpro::python

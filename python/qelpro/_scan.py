@@ -8,7 +8,7 @@ from typing import TYPE_CHECKING
 
 from . import _engine
 from ._missing import needed
-from ._paths import StrPath, name_of, place_of
+from ._paths import StrPath, name_of
 from ._table import Chunk, Table
 
 if TYPE_CHECKING:
@@ -44,7 +44,9 @@ def scan(
 
     With a ``dask.distributed`` Client the files are read by the workers of its cluster, which have
     to see them under the same paths; the others make up for a worker that dies. The frame is the
-    same. TypeError for a client that is none, ImportError where pandas is missing.
+    same. TypeError for a client that is none or is asynchronous, RuntimeError for a cluster that is
+    closed, ImportError where pandas is missing, or qelpro where the workers run. A worker that dies
+    again and again is distributed's KilledWorker.
     """
     if errors not in _ERRORS:
         raise ValueError(f"errors is one of {', '.join(map(repr, _ERRORS))}, not {errors!r}")
@@ -53,18 +55,19 @@ def scan(
     if isinstance(addresses, (str, bytes)):
         raise TypeError("addresses is a list of addresses, not one text")
     pandas = needed("pandas", "scan()")
-    given = list(paths)
-    names = [name_of(path) for path in given]
-    places = [place_of(path) for path in given]
+    names = [name_of(path) for path in paths]
     words = list(addresses)
     for word in words:
         if not isinstance(word, str):
             raise TypeError(f"an address is a str, not {type(word).__name__}")
     _engine.scan([], [], words, 1)  # what is no address is told before a file is read
     if client is None:
-        chunks = [Chunk(0, *_engine.scan(places, names, words, 0))]
+        chunks = [Chunk(0, *_engine.scan(names, names, words, 0))]
     else:
         from ._cluster import scanned_by
 
-        chunks = scanned_by(client, places, names, words)
+        # The workers are in other folders.
+        here = os.getcwd()
+        places = [os.path.join(here, name) if name else name for name in names]
+        chunks = scanned_by(client, places, names, words, errors == "raise")
     return Table(names, words, chunks).frame(pandas, errors)

@@ -13,8 +13,8 @@ class Chunk(NamedTuple):
 
     first: int
     columns: list[tuple[int, str, Any, str, Any]]
-    """Of each the index of the word that asked for it, its name, the indices of its rows, "int",
-    "float" or "object", and the values."""
+    """Of each the index of the word that asked for it, its name, the indices of its rows, its kind,
+    and the values: arrays of "int" and "float", lists of "number", which are both, and "object"."""
     errors: list[tuple[int, BaseException, str]]
 
 
@@ -25,13 +25,17 @@ class Table:
         self._names = names
         self._parts: dict[str, list[tuple[Any, str, Any]]] = {}
         self._errors: list[tuple[int, BaseException, str]] = []
-        places: dict[str, int] = {}
+        found: list[str] = []
+        places: dict[str, tuple[int, int]] = {}
         for chunk in chunks:
             for word, name, rows, kind, values in chunk.columns:
-                places[name] = min(word, places.get(name, word))
+                if name not in places or word < places[name][0]:
+                    # Where it was asked for first, behind what was found so before it.
+                    places[name] = (word, len(found))
+                    found.append(name)
                 self._parts.setdefault(name, []).append((rows + chunk.first, kind, values))
             self._errors += [(row + chunk.first, why, text) for row, why, text in chunk.errors]
-        self._order = sorted(self._parts, key=lambda name: places[name])  # stable
+        self._order = sorted(self._parts, key=lambda name: places[name])
 
     def frame(self, pandas: Any, errors: str) -> pd.DataFrame:
         if errors == "raise" and self._errors:
@@ -44,7 +48,7 @@ class Table:
             for row, _, message in self._errors:
                 messages[row] = message
             columns["error"] = pandas.Series(messages, dtype=object)
-        frame: pd.DataFrame = pandas.DataFrame(columns)
+        frame: pd.DataFrame = pandas.DataFrame(columns, copy=False)
         if errors == "skip" and self._errors:
             frame = frame.drop(index=[row for row, _, _ in self._errors])
             frame = frame.reset_index(drop=True)
@@ -55,18 +59,19 @@ class Table:
 
         count = sum(len(rows) for rows, _, _ in parts)
         kinds = {kind for rows, kind, _ in parts if len(rows) != 0}
+        if len(parts) == 1 and count == len(self._names) and kinds <= {"int", "float"} and kinds:
+            return parts[0][2]
         if kinds == {"int"} and count == len(self._names):
             column = np.empty(count, dtype=np.int64)
-        elif kinds <= {"int", "float"}:
+        elif kinds <= {"int", "float", "number"}:
             column = np.full(len(self._names), np.nan)
         else:
             column = np.full(len(self._names), np.nan, dtype=object)
         for rows, kind, values in parts:
-            if kind == "object":
-                for row, value in zip(rows, values):
-                    column[row] = value
-            elif column.dtype == object:
-                column[rows] = values.tolist()
-            else:
+            if column.dtype != object:
                 column[rows] = values
+            else:
+                # Item by item: a tuple is one value.
+                for row, value in zip(rows, values if isinstance(values, list) else values.tolist()):
+                    column[row] = value
         return column

@@ -39,7 +39,10 @@ bool is_utf16(std::string_view contents) {
 }
 
 bool is_positional(std::string_view section) {
-  return text::first_token(section) == text::first_token(text::kPositionalHeader);
+  // Most names differ at once.
+  constexpr std::string_view kWord =
+      text::kPositionalHeader.substr(0, text::kPositionalHeader.find(' '));
+  return section.starts_with(kWord) && text::first_token(section) == kWord;
 }
 
 LineKind kind_of(const TextLine& line) {
@@ -65,12 +68,13 @@ void SectionedText::split() {
   std::size_t lines = 0;
   std::size_t headers = 0;
   Line line;
-  for (LineScanner counted(contents_); counted.next(line); ++lines) {
+  has_nul_ = contents_.find('\0') != std::string::npos;
+  for (LineScanner counted(contents_, 0, has_nul_); counted.next(line); ++lines) {
     headers += static_cast<std::size_t>(text::is_header(line.text));
   }
   begins_.reserve(lines);
   sections_.reserve(headers);
-  for (LineScanner scanner(contents_); scanner.next(line);) {
+  for (LineScanner scanner(contents_, 0, has_nul_); scanner.next(line);) {
     if (text::is_header(line.text)) {
       if (!sections_.empty()) {
         sections_.back().after = begins_.size();
@@ -113,7 +117,7 @@ TextLine SectionedText::line(std::size_t index) const {
     line.whole.remove_suffix(
         line.whole.size() > 1 && line.whole[line.whole.size() - 2] == '\r' ? 2 : 1);
   }
-  const std::size_t terminator = line.whole.find('\0');
+  const std::size_t terminator = has_nul_ ? line.whole.find('\0') : std::string_view::npos;
   line.text = line.whole.substr(0, terminator);
   if (is_last && !has_line_break) {
     line.text = text::without_end_mark(line.text);

@@ -75,6 +75,7 @@ class SectionedText {
   std::string contents_;
   std::vector<std::size_t> begins_;  // of the lines
   std::size_t end_ = 0;              // of the last one
+  bool has_nul_ = false;             // somewhere
   // The indexes of the lines that stand after another one in one line of the file.
   std::vector<std::size_t> pieces_;
   std::vector<TextSection> sections_;

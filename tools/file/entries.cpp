@@ -28,6 +28,12 @@ class KnownSections {
   const qel::SectionInfo* found_ = nullptr;
 };
 
+class Everything : public EntryFilter {
+ public:
+  bool wants_section(std::string_view /*name*/) override { return true; }
+  bool wants_key(std::string_view /*key*/) override { return true; }
+};
+
 bool is_known(const qel::SectionInfo* section, const std::string& key) {
   int number = 0;
   return section != nullptr && qel::find_key(*section, key.c_str(), number) != nullptr;
@@ -60,26 +66,32 @@ const qel::SectionInfo* known_section(const std::string& name) {
   return qel::find_section(with_brackets(name).c_str(), number);
 }
 
-Entries::Entries(const SectionedText& document)
-    : Entries(document, [](std::string_view /*section*/) { return true; }) {}
+Entries::Entries(const SectionedText& document) : document_(document) {
+  Everything everything;
+  add_sections(everything);
+}
 
-Entries::Entries(const SectionedText& document,
-                 const std::function<bool(std::string_view section)>& is_wanted)
-    : document_(document) {
+Entries::Entries(const SectionedText& document, EntryFilter& filter) : document_(document) {
+  add_sections(filter);
+}
+
+void Entries::add_sections(EntryFilter& filter) {
   KnownSections known;
-  const std::vector<TextSection>& sections = document.sections();
+  const std::vector<TextSection>& sections = document_.sections();
+  first_of_section_.reserve(sections.size() + 1);
+  known_.reserve(sections.size());
   for (std::size_t index = 0; index < sections.size(); ++index) {
     first_of_section_.push_back(entries_.size());
-    const bool wanted = is_wanted(sections[index].name);
+    const bool wanted = filter.wants_section(sections[index].name);
     known_.push_back(wanted ? known.find(sections[index].name) : nullptr);
     if (wanted && !sections[index].repeated) {
-      add_section(index);
+      add_section(index, filter);
     }
   }
   first_of_section_.push_back(entries_.size());
 }
 
-void Entries::add_section(std::size_t index) {
+void Entries::add_section(std::size_t index, EntryFilter& filter) {
   const TextSection& section = document_.sections()[index];
   if (qel::is_positional(section.name)) {
     for (FileEntry& line : positional_lines(document_, index)) {
@@ -97,9 +109,13 @@ void Entries::add_section(std::size_t index) {
   std::vector<Candidate> candidates;
   for (std::size_t at = section.header + 1; at < section.after; ++at) {
     const TextLine line = document_.line(at);
+    const std::string_view key = qel::text::first_token(line.text);
+    if (!filter.wants_key(key)) {
+      continue;
+    }
     const LineKind kind = qel::kind_of(line);
     if (kind == LineKind::entry || kind == LineKind::without_equals) {
-      candidates.push_back({qel::text::first_token(line.text), at, kind == LineKind::entry});
+      candidates.push_back({key, at, kind == LineKind::entry});
     }
   }
   std::ranges::sort(candidates, [](const Candidate& a, const Candidate& b) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +9,7 @@
 #include "blocks/key.h"
 #include "file/address.h"
 #include "file/document_text.h"
+#include "file/entry_filter.h"
 
 namespace qelpro {
 
@@ -33,9 +33,8 @@ const qel::SectionInfo* known_section(const std::string& name);
 class Entries {
  public:
   explicit Entries(const SectionedText& document);
-  /// Those of some sections alone: `is_wanted` is asked for the name, with brackets.
-  Entries(const SectionedText& document,
-          const std::function<bool(std::string_view section)>& is_wanted);
+  /// Those alone that are looked at.
+  Entries(const SectionedText& document, EntryFilter& filter);
 
   [[nodiscard]] const SectionedText& document() const { return document_; }
   [[nodiscard]] const std::vector<FileEntry>& all() const { return entries_; }
@@ -65,7 +64,8 @@ class Entries {
   [[nodiscard]] std::size_t line_number(const FileEntry& entry) const;
 
  private:
-  void add_section(std::size_t index);
+  void add_sections(EntryFilter& filter);
+  void add_section(std::size_t index, EntryFilter& filter);
 
   const SectionedText& document_;
   std::vector<FileEntry> entries_;

@@ -1,7 +1,8 @@
 #include "scan/scan.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <iterator>
+#include <mutex>
 #include <utility>
 
 #include "file/entries.h"
@@ -15,22 +16,17 @@
 namespace qelpro {
 namespace {
 
-struct Found {
-  std::size_t request = 0;
-  std::string address;  // of a pattern's match; empty for what a word names
-  ScannedValue value;
-};
+// Files that stand one behind the other.
+struct Part {
+  std::size_t first = 0;
+  Columns columns;
+  std::vector<ScanError> errors;
 
-struct FileValues {
-  std::vector<Found> found;
-  std::exception_ptr reason;
-  std::string message;
-
-  // The first one counts.
-  void fail(const std::exception_ptr& why, const std::string& what) {
-    if (!reason) {
-      reason = why;
-      message = what;
+  // The first of a file counts. It is thrown as what it is.
+  template <class Kind>
+  void fail(std::size_t row, const Kind& failure) {
+    if (errors.empty() || errors.back().row != row) {
+      errors.push_back({row, std::make_exception_ptr(failure), failure.what()});
     }
   }
 };
@@ -51,81 +47,64 @@ ScannedValue value_of(TypedValue typed, std::string_view text) {
   return std::get<std::string>(std::move(typed.fields.front()));
 }
 
-void take(const std::string& file, const Entries& entries, const FileEntry& entry,
-          std::size_t request, std::string address, FileValues& values) {
-  TypedValue typed = typed_value(entries, entry);
-  if (!typed.unread) {
-    values.found.push_back({request, std::move(address), value_of(std::move(typed), entry.value)});
-    return;
-  }
-  const Failure failure(
-      kUsage,
-      at({file, entries.line_number(entry), std::string(entries.section_of(entry)), entry.key},
-         in_quotes(entry.value) + " is not read whole: " + *typed.unread));
-  values.fail(std::make_exception_ptr(failure), failure.what());
-}
-
-void read_values(const ScannedFile& file, const std::vector<Wanted>& all, FileValues& values) {
-  const SectionedText document =
-      document_text(file.name, under_name(file.name, [&file] { return read_file(file.path); }));
-  const Entries entries(document, [&all](std::string_view section) {
-    return std::ranges::any_of(all,
-                               [&](const Wanted& wanted) { return wanted.may_be_in(section); });
-  });
-  for (std::size_t request = 0; request < all.size(); ++request) {
-    for (const FileEntry* const entry : entries.find(all[request].request())) {
-      take(file.name, entries, *entry, request,
-           all[request].is_pattern() ? text_of(entries.address_of(*entry)) : std::string(), values);
-    }
-  }
-}
-
-// Puts the values of the files together, file by file.
-class Columns {
+// Of a file under its name and row.
+class Reader {
  public:
-  explicit Columns(const std::vector<Wanted>& all) : of_request_(all.size()) {
-    for (std::size_t request = 0; request < all.size(); ++request) {
-      if (!all[request].is_pattern()) {
-        column_of(request, all[request].request().argument);
-      }
-    }
-  }
+  Reader(const std::vector<Request>& requests, Part& part)
+      : requests_(requests), wanted_(requests), part_(part) {}
 
-  void add(std::size_t row, std::vector<Found>& all) {
-    for (Found& found : all) {
-      const std::size_t at = found.address.empty() ? of_request_[found.request]
-                                                   : column_of(found.request, found.address);
-      ScannedColumn& column = columns_[at];
-      // Another pattern may have matched it.
-      if (column.rows.empty() || column.rows.back() != row) {
-        column.rows.push_back(static_cast<std::uint32_t>(row));
-        column.values.push_back(std::move(found.value));
+  void read(std::size_t row, const ScannedFile& file) {
+    try {
+      const SectionedText document =
+          document_text(file.name, under_name(file.name, [&file] { return read_file(file.path); }));
+      const Entries entries(document, wanted_);
+      for (std::size_t request = 0; request < requests_.size(); ++request) {
+        for (const FileEntry* const entry : entries.find(requests_[request])) {
+          take(row, file.name, request, entries, *entry);
+        }
       }
+    } catch (const SystemFailure& failure) {
+      part_.fail(row, failure);
+    } catch (const Failure& failure) {
+      part_.fail(row, failure);
     }
-  }
-
-  std::vector<ScannedColumn> take() {
-    std::ranges::stable_sort(columns_, {}, &ScannedColumn::request);
-    return std::move(columns_);
   }
 
  private:
-  std::size_t column_of(std::size_t request, const std::string& name) {
-    const auto [known, is_new] = by_name_.emplace(name, columns_.size());
-    if (is_new) {
-      columns_.push_back({request, name, {}, {}});
-    } else {
-      // It stands where it was asked for first.
-      columns_[known->second].request = std::min(columns_[known->second].request, request);
+  void take(std::size_t row, const std::string& file, std::size_t request, const Entries& entries,
+            const FileEntry& entry) {
+    TypedValue typed = typed_value(entries, entry);
+    if (typed.unread) {
+      part_.fail(row, Failure(kUsage,
+                              at({file, entries.line_number(entry),
+                                  std::string(entries.section_of(entry)), entry.key},
+                                 in_quotes(entry.value) + " is not read whole: " + *typed.unread)));
+      return;
     }
-    of_request_[request] = known->second;
-    return known->second;
+    part_.columns.add(row, request,
+                      requests_[request].is_pattern ? text_of(entries.address_of(entry))
+                                                    : requests_[request].argument,
+                      value_of(std::move(typed), entry.value));
   }
 
-  std::vector<ScannedColumn> columns_;
-  std::vector<std::size_t> of_request_;
-  std::unordered_map<std::string, std::size_t> by_name_;
+  const std::vector<Request>& requests_;
+  WantedEntries wanted_;
+  Part& part_;
 };
+
+// In the order of the files.
+ScannedTable table_of(const std::vector<Request>& requests, std::vector<Part> parts) {
+  std::ranges::sort(parts, {}, &Part::first);
+  ScannedTable table;
+  Columns columns(requests);
+  for (Part& part : parts) {
+    columns.append(std::move(part.columns));
+    std::ranges::move(part.errors, std::back_inserter(table.errors));
+    part.errors.clear();
+  }
+  table.columns = columns.take();
+  return table;
+}
 
 }  // namespace
 
@@ -133,30 +112,22 @@ ScannedTable scan_files(const std::vector<ScannedFile>& files,
                         const std::vector<std::string>& words, std::size_t threads,
                         const std::function<bool()>& watch) {
   constexpr std::uint64_t kBlock = 256;
-  const std::vector<Wanted> all = wanted_of(words);
-  std::vector<FileValues> values(files.size());
+  const std::vector<Request> requests = wanted_of(words);
+  std::mutex mutex;
+  std::vector<Part> parts;
   work_on_cores(
       threads == 0 ? core_count() : threads, files.size(), kBlock,
       [&](const Block& block) {
-        for (std::uint64_t index = block.first; index < block.last; ++index) {
-          try {
-            read_values(files[index], all, values[index]);
-          } catch (const Failure& failure) {
-            values[index].fail(std::current_exception(), failure.what());
-          }
+        Part part{block.first, Columns(requests), {}};
+        Reader reader(requests, part);
+        for (std::uint64_t row = block.first; row < block.last; ++row) {
+          reader.read(row, files[row]);
         }
+        const std::lock_guard lock(mutex);
+        parts.push_back(std::move(part));
       },
       [&](std::uint64_t /*done*/) { return watch(); });
-  ScannedTable table;
-  Columns columns(all);
-  for (std::size_t row = 0; row < files.size(); ++row) {
-    columns.add(row, values[row].found);
-    if (values[row].reason) {
-      table.errors.push_back({row, values[row].reason, std::move(values[row].message)});
-    }
-  }
-  table.columns = columns.take();
-  return table;
+  return table_of(requests, std::move(parts));
 }
 
 }  // namespace qelpro

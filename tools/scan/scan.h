@@ -1,14 +1,12 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <exception>
 #include <functional>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "blocks/key.h"
+#include "scan/columns.h"
 
 namespace qelpro {
 
@@ -16,17 +14,6 @@ namespace qelpro {
 struct ScannedFile {
   std::string path;
   std::string name;
-};
-
-/// An entry's value in a table: a number or a text, or the fields of an encoding that has several.
-using ScannedValue = std::variant<int, double, std::string, std::vector<qel::Field>>;
-
-/// The values of one address, of those files that have it.
-struct ScannedColumn {
-  std::size_t request = 0;          ///< Which of the words asked for it.
-  std::string name;                 ///< The word, or the address that a pattern matched.
-  std::vector<std::uint32_t> rows;  ///< The files' indices, ascending.
-  std::vector<ScannedValue> values;
 };
 
 /// Why a file is not in the table, or not whole.

@@ -7,38 +7,82 @@
 #include "system/visible.h"
 
 namespace qelpro {
+namespace {
 
-Wanted::Wanted(Request request) : request_(std::move(request)) {
-  if (request_.is_pattern) {
-    beginning_ = request_.argument.substr(0, request_.argument.find_first_of("*?["));
-  }
+constexpr std::string_view kSpecial = "*?[]";
+
+// Whether a section of that name, without its brackets, may be meant. That whose lines have a
+// position may be named by its first word.
+bool is_named(std::string_view name, const std::string& section) {
+  return name == section || (name.starts_with(section) && name[section.size()] == ' ');
 }
 
-bool Wanted::may_be_in(std::string_view section) const {
-  const std::string_view name = without_brackets(section);
-  const bool is_named = std::ranges::any_of(request_.addresses, [&](const Address& address) {
-    // The section whose lines have a position may be named by its first word.
-    return name == address.section ||
-           (name.starts_with(address.section) && name[address.section.size()] == ' ');
-  });
-  if (is_named || !request_.is_pattern) {
-    return is_named;
-  }
-  const std::size_t common = std::min(name.size(), beginning_.size());
-  return name.substr(0, common) == std::string_view(beginning_).substr(0, common) &&
-         (beginning_.size() <= name.size() || beginning_[name.size()] == '.');
+// Whether one of two texts begins with the other.
+bool begin_alike(std::string_view one, std::string_view other) {
+  return one.size() < other.size() ? other.starts_with(one) : one.starts_with(other);
 }
 
-std::vector<Wanted> wanted_of(const std::vector<std::string>& words) {
-  std::vector<Wanted> all;
+}  // namespace
+
+std::vector<Request> wanted_of(const std::vector<std::string>& words) {
+  std::vector<Request> all;
   for (const std::string& word : words) {
-    const std::vector<Request> requests = requests_of({word});
+    std::vector<Request> requests = requests_of({word});
     if (requests.size() != 1) {
       refuse_usage(in_quotes(word) + " is no address: SECTION.KEY");
     }
-    all.emplace_back(requests.front());
+    all.push_back(std::move(requests.front()));
   }
   return all;
+}
+
+WantedEntries::WantedEntries(const std::vector<Request>& requests) : requests_(requests) {}
+
+WantedEntries::Place WantedEntries::place_of(std::string_view name) const {
+  Place place{std::string(without_brackets(name)) + ".", {}, {}};
+  for (const Request& request : requests_) {
+    for (const Address& address : request.addresses) {
+      if (is_named(without_brackets(name), address.section)) {
+        place.keys.emplace_back(address.key);
+      }
+    }
+    if (request.is_pattern) {
+      const std::string_view whole = request.argument;
+      const Pattern pattern{whole, whole.substr(0, whole.find_first_of(kSpecial)),
+                            whole.substr(whole.find_last_of(kSpecial) + 1)};
+      if (begin_alike(place.beginning, pattern.beginning)) {
+        place.patterns.push_back(pattern);
+      }
+    }
+  }
+  return place;
+}
+
+bool WantedEntries::wants_section(std::string_view name) {
+  constexpr std::size_t kMostNames = 4096;  // files may have any number of them
+  auto known = places_.find(name);
+  if (known == places_.end()) {
+    if (places_.size() == kMostNames) {
+      places_.clear();
+    }
+    known = places_.emplace(std::string(name), place_of(name)).first;
+  }
+  now_ = &known->second;
+  return !now_->keys.empty() || !now_->patterns.empty();
+}
+
+bool WantedEntries::wants_key(std::string_view key) {
+  if (std::ranges::find(now_->keys, key) != now_->keys.end()) {
+    return true;
+  }
+  return std::ranges::any_of(now_->patterns, [this, key](const Pattern& pattern) {
+    const std::size_t common = std::min(key.size(), pattern.end.size());
+    if (key.substr(key.size() - common) != pattern.end.substr(pattern.end.size() - common)) {
+      return false;
+    }
+    address_.assign(now_->beginning).append(key);
+    return matches_pattern(pattern.whole, address_);
+  });
 }
 
 }  // namespace qelpro
