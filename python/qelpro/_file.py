@@ -122,9 +122,11 @@ class Section(MutableMapping[str, Value]):
             self._file[self._name] = {}
 
     def items(self) -> ItemsView[str, Value]:
+        """The keys with their values, of which an iteration takes all as they are at one moment."""
         return _Items(self)
 
     def values(self) -> ValuesView[Value]:
+        """The values, of which an iteration takes all as they are at one moment."""
         return _Values(self)
 
     def _values(self) -> Iterator[tuple[str, Value]]:

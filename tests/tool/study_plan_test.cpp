@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "study/plan.h"
-#include "work/workers.h"
 #include "system/failure.h"
+#include "work/workers.h"
 
 // The values of a study, and how they are put together.
 
