@@ -29,6 +29,7 @@ const qel::KeyInfo* row_with(const qel::SectionInfo& section, const qel::KeyInfo
 
 std::vector<GivenField> fields_of(const std::vector<double>& point) {
   std::vector<GivenField> fields;
+  fields.reserve(point.size());
   for (const double number : point) {
     fields.push_back({number, ""});
   }

@@ -44,7 +44,7 @@ const std::vector<List>& inlet_lists() {
   return lists;
 }
 
-std::string type_of(qel::Kind kind) {
+std::string python_type(qel::Kind kind) {
   switch (kind) {
     case qel::Kind::integer:
       return "int";
@@ -71,7 +71,7 @@ std::vector<Attribute> values_of(const std::vector<Item>& items, std::string_vie
   for (const Item& item : items) {
     if (item.name.starts_with(prefix)) {
       const qel::SectionInfo* section = nullptr;
-      attributes.push_back({item.name.substr(prefix.size()), type_of(item.kind) + " | None",
+      attributes.push_back({item.name.substr(prefix.size()), python_type(item.kind) + " | None",
                             keys_told(item, section)});
     }
   }
