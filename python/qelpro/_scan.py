@@ -70,4 +70,4 @@ def scan(
         here = os.getcwd()
         places = [os.path.join(here, name) if name else name for name in names]
         chunks = scanned_by(client, places, names, words, errors == "raise")
-    return Table(names, words, chunks).frame(pandas, errors)
+    return Table(names, words, chunks, errors == "skip").frame(pandas, errors)

@@ -21,7 +21,9 @@ class Chunk(NamedTuple):
 class Table:
     """The columns of all chunks, in the order of the words and of first appearance."""
 
-    def __init__(self, names: list[str], words: list[str], chunks: list[Chunk]) -> None:
+    def __init__(self, names: list[str], words: list[str], chunks: list[Chunk], skip: bool) -> None:
+        if skip:
+            names, chunks = _without_errors(names, words, chunks)
         self._names = names
         self._parts: dict[str, list[tuple[Any, str, Any]]] = {}
         self._errors: list[tuple[int, BaseException, str]] = []
@@ -49,9 +51,6 @@ class Table:
                 messages[row] = message
             columns["error"] = pandas.Series(messages, dtype=object)
         frame: pd.DataFrame = pandas.DataFrame(columns, copy=False)
-        if errors == "skip" and self._errors:
-            frame = frame.drop(index=[row for row, _, _ in self._errors])
-            frame = frame.reset_index(drop=True)
         return frame
 
     def _column(self, parts: list[tuple[Any, str, Any]]) -> Any:
@@ -75,3 +74,35 @@ class Table:
                 for row, value in zip(rows, values if isinstance(values, list) else values.tolist()):
                     column[row] = value
         return column
+
+
+def _without_errors(
+    names: list[str], words: list[str], chunks: list[Chunk]
+) -> tuple[list[str], list[Chunk]]:
+    """What would have been read of the other files alone."""
+    import numpy as np
+
+    kept = np.ones(len(names), dtype=bool)
+    for chunk in chunks:
+        kept[[chunk.first + row for row, _, _ in chunk.errors]] = False
+    if kept.all():
+        return names, chunks
+    row_of = np.cumsum(kept) - 1
+    rest = []
+    for chunk in chunks:
+        columns = []
+        for word, name, rows, kind, values in chunk.columns:
+            stays = kept[rows + chunk.first]
+            if not stays.any() and name not in words:
+                continue
+            if isinstance(values, list):
+                values = [value for value, stay in zip(values, stays) if stay]
+                types = {type(value) for value in values}
+                if types and types <= {int, float}:
+                    kind = "int" if types == {int} else "float" if types == {float} else "number"
+                    values = values if kind == "number" else np.array(values)
+            else:
+                values = values[stays]
+            columns.append((word, name, row_of[rows[stays] + chunk.first], kind, values))
+        rest.append(Chunk(0, columns, []))
+    return [name for name, keep in zip(names, kept) if keep], rest

@@ -74,6 +74,19 @@ def is_same(one, other):
     return both_nan or (one == other and isinstance(one, tuple) == isinstance(other, tuple))
 
 
+def test_what_is_skipped_has_no_part_in_the_columns(tmp_path):
+    sections = ["FRSet = 2\nFillTime = x", "FRSet = 3\nMeltTemp = 1", "FillTime = x\nMoldTemp = 2"]
+    paths = []
+    for number, section in enumerate(sections):
+        paths.append(tmp_path / f"{number}.pro")
+        paths[-1].write_text(f"[Flow-1]\n{section}\n")
+    words = ["Flow-1.FRSet", "Flow-1.FillTime", "Flow-1.M*"]
+    frame = qelpro.scan(paths, words, errors="skip")
+    assert list(frame.columns) == ["file", "Flow-1.FRSet", "Flow-1.FillTime", "Flow-1.MeltTemp"]
+    assert frame["Flow-1.FRSet"].dtype == "int64"
+    assert_frame_equal(frame, qelpro.scan([paths[1]], words))
+
+
 def test_finds_what_reading_each_file_by_itself_finds(tmp_path):
     paths = random_files(tmp_path, 600, seed=1)
     alone = [read_alone(path, WORDS) for path in paths]
@@ -91,8 +104,7 @@ def test_finds_what_reading_each_file_by_itself_finds(tmp_path):
         assert set(values) <= set(frame.columns)
 
     skipped = qelpro.scan(paths, WORDS, errors="skip")
-    kept = frame[frame["error"].isnull()].drop(columns="error").reset_index(drop=True)
-    assert_frame_equal(skipped, kept)
+    assert_frame_equal(skipped, qelpro.scan(frame["file"][frame["error"].isnull()], WORDS))
 
     first = next(error for _, error in alone if error)
     with pytest.raises(type(first)) as raised:
