@@ -55,8 +55,8 @@ void store_edits(const py::str& path, const py::str& name, const std::vector<Hel
 }
 
 // Whether it has to be tried on what the file holds, or is right whatever that is.
-bool check_edit(const HeldEdit& edit, const py::str& file) {
-  check(bytes_of(file), edit.edit);
+bool is_dependent(const HeldEdit& edit, const py::str& file) {
+  check_edit(bytes_of(file), edit.edit);
   return edit.edit.needs_entries;
 }
 
@@ -77,7 +77,7 @@ void bind_edits(py::module_& module) {
       [](const py::str& section) { return HeldEdit{remove_section(bytes_of(section))}; },
       py::arg("section"));
   module.def("set_table", &edit_of_table, py::arg("section"), py::arg("name"), py::arg("points"));
-  module.def("check_edit", &check_edit, py::arg("edit"), py::arg("file"),
+  module.def("check_edit", &is_dependent, py::arg("edit"), py::arg("file"),
              "Refuses what no file can hold. Whether the edit depends on what the file holds.");
   module.def("edited", &edit_snapshot, py::arg("snapshot"), py::arg("file"), py::arg("edits"),
              "The snapshot after the edits.");

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "blocks/catalogue.h"
 #include "check/check.h"
 #include "engine/bindings.h"
 #include "engine/snapshot.h"
@@ -16,7 +15,6 @@
 #include "file/point_table.h"
 #include "file/typed.h"
 #include "system/failure.h"
-#include "system/visible.h"
 
 namespace qelpro::python {
 
@@ -88,8 +86,7 @@ py::object value_of(const Snapshot& snapshot, const py::str& file, const py::str
   }
   const TypedValue typed = typed_value(entries, entry);
   if (typed.unread) {
-    throw Failure(kUsage, at({name, entries.line_number(entry), with_brackets(section), key},
-                             in_quotes(entry.value) + " is not read whole: " + *typed.unread));
+    throw unread_failure(name, entries, entry, typed);
   }
   return typed.key == nullptr || typed.fields.empty() ? py::object(str_of(entry.value))
                                                       : object_of(typed.fields);
@@ -113,15 +110,10 @@ py::object table_of(const Snapshot& snapshot, const py::str& file, const py::str
   return numbers;
 }
 
-py::tuple words_for(const Snapshot& snapshot, const py::str& file, const py::str& section_name,
+py::tuple words_for(const Snapshot& snapshot, const py::str& file, const py::str& section,
                     const py::str& name) {
-  const std::string section = bytes_of(section_name);
-  const qel::SectionInfo* const known = known_section(section);
-  const std::vector<ProfileKind> kinds = kinds_of(bytes_of(file), section, known, bytes_of(name));
-  const TextSection* const there = snapshot.entries().find_section(section);
-  const std::optional<Profile> found =
-      there != nullptr ? profile_of(snapshot.entries(), *there, kinds) : std::nullopt;
-  const ProfileWords words = words_of(found ? found->kind : kinds.front());
+  const ProfileWords words = words_of(
+      profile_named(bytes_of(file), snapshot.entries(), bytes_of(section), bytes_of(name)).kind);
   return py::make_tuple(str_of(words.title), str_of(words.x), str_of(words.x_unit), str_of(words.y),
                         str_of(words.y_unit));
 }

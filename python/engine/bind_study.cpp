@@ -6,14 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include "blocks/catalogue.h"
 #include "engine/bindings.h"
 #include "engine/column.h"
 #include "engine/failures.h"
 #include "engine/text.h"
 #include "engine/values.h"
 #include "file/entries.h"
-#include "file/json_value.h"
 #include "scan/scan.h"
 #include "study/sweep.h"
 #include "system/files.h"
@@ -34,40 +32,6 @@ void throw_interruption() {
   if (PyErr_Occurred() != nullptr) {
     throw py::error_already_set();
   }
-}
-
-// The texts of values as the key that the address means has them.
-std::vector<std::string> value_texts(const Entries& entries, const std::string& word,
-                                     const Json& values) {
-  const std::vector<Address> targets = entries.targets_of(requests_of({word}).front());
-  std::vector<std::string> texts;
-  for (const Json& value : values) {
-    int number = 0;
-    texts.push_back(targets.empty()
-                        ? plain_text(value)
-                        : text_of_json(qel::find_section(
-                                           with_brackets(targets.front().section).c_str(), number),
-                                       targets.front().key, value));
-  }
-  return texts;
-}
-
-// "V1,V2,V3", for who reads the plan later.
-std::string joined(const std::vector<std::string>& texts) {
-  std::string all;
-  for (const std::string& text : texts) {
-    all += (all.empty() ? "" : ",") + text;
-  }
-  return all;
-}
-
-Setting setting_of(const Entries& entries, std::string word, const Json& values) {
-  if (values.is_string()) {
-    return {std::move(word), values.get<std::string>(), {}};
-  }
-  std::vector<std::string> texts = value_texts(entries, word, values);
-  std::string text = joined(texts);
-  return {std::move(word), std::move(text), std::move(texts)};
 }
 
 std::vector<std::string> sweep_files(const py::str& path, const py::dict& ranges,

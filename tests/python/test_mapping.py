@@ -212,3 +212,15 @@ def test_messages_and_reprs_name_the_file(file, path):
     assert repr(file["Flow-1"]) == f"<Section [Flow-1] of {str(path)!r}>"
     with pytest.raises(KeyError, match=r"a\.pro: \[Flow-1\] x: not found"):
         file["Flow-1"]["x"]
+
+
+def test_an_iteration_over_items_and_values_sees_one_moment(path, file):
+    for view in (file["Flow-1"].items, file["Flow-1"].values):
+        before = list(view())
+        rest = iter(view())
+        first = next(rest)
+        path.write_text("[Flow-1]\nFillTime = 99\n")
+        assert [first, *rest] == before
+        assert list(view()) != before
+        path.unlink()
+        qelpro.new(path)

@@ -153,7 +153,7 @@ Edit remove_section(std::string section) {
   }};
 }
 
-void check(const std::string& file, const Edit& edit) {
+void check_edit(const std::string& file, const Edit& edit) {
   if (!edit.needs_entries) {
     const SectionedText nothing{""};
     edit(file, Entries(nothing));

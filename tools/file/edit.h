@@ -39,7 +39,7 @@ Edit remove_section(std::string section);
 Edit set_profile(std::string section, std::string name, std::vector<std::vector<double>> points);
 
 /// Throws what the edit would throw, where that does not depend on the entries.
-void check(const std::string& file, const Edit& edit);
+void check_edit(const std::string& file, const Edit& edit);
 
 /// The changes of all edits, made one after the other.
 std::vector<Change> changes_of(const std::string& file, const SectionedText& document,

@@ -43,9 +43,6 @@ void check_value(const std::string& value) {
   if (value.find_first_of("\r\n") != std::string::npos) {
     refuse_usage("the value holds a line break: it is one line");
   }
-  if (value.find('\0') != std::string::npos) {
-    refuse_usage("the value holds a NUL byte, behind which nothing is read");
-  }
   if (value.find(kEndOfText) != std::string::npos) {
     refuse_usage("the value holds a character 0x1A, where other programs end the file");
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
-#include <optional>
 #include <utility>
 #include <variant>
 
@@ -72,10 +71,9 @@ std::size_t promised(const std::string& file, const Profile& profile) {
   return number;
 }
 
-}  // namespace
-
 std::vector<ProfileKind> kinds_of(const std::string& file, const std::string& section,
-                                  const qel::SectionInfo* known, const std::string& name) {
+                                  const std::string& name) {
+  const qel::SectionInfo* const known = known_section(section);
   std::vector<ProfileKind> kinds =
       known != nullptr ? profiles_of(*known) : std::vector<ProfileKind>();
   std::erase_if(
@@ -87,34 +85,31 @@ std::vector<ProfileKind> kinds_of(const std::string& file, const std::string& se
   return kinds;
 }
 
-std::optional<Profile> profile_of(const Entries& entries, const TextSection& section,
-                                  const std::vector<ProfileKind>& kinds) {
-  std::optional<Profile> first;
-  for (Profile& profile : profiles_of(entries, section)) {
+}  // namespace
+
+Profile profile_named(const std::string& file, const Entries& entries, const std::string& section,
+                      const std::string& name) {
+  const std::vector<ProfileKind> kinds = kinds_of(file, section, name);
+  Profile chosen{kinds.front(), known_section(section), section, nullptr, 0, {}};
+  const TextSection* const there = entries.find_section(section);
+  if (there == nullptr) {
+    return chosen;
+  }
+  for (Profile& profile : profiles_of(entries, *there)) {
     const bool is_one = std::ranges::any_of(
         kinds, [&](const ProfileKind& kind) { return kind.point == profile.kind.point; });
-    if (is_one && (!first || (first->points.empty() && !profile.points.empty()))) {
-      first = std::move(profile);
+    const bool is_better = chosen.count == nullptr || !profile.points.empty();
+    if (is_one && chosen.points.empty() && is_better) {
+      chosen = std::move(profile);
     }
   }
-  return first;
+  return chosen;
 }
 
 PointTable point_table(const std::string& file, const Entries& entries, const std::string& section,
                        const std::string& name) {
   constexpr double kMissing = std::numeric_limits<double>::quiet_NaN();
-  const TextSection* const there = entries.find_section(section);
-  if (there == nullptr) {
-    throw Failure(kNotFound, at({file, 0, with_brackets(section), ""}, "not found"));
-  }
-  const std::vector<ProfileKind> kinds =
-      kinds_of(file, section, entries.known_section(*there), name);
-  const std::optional<Profile> found = profile_of(entries, *there, kinds);
-  if (!found) {
-    throw Failure(kNotFound,
-                  at({file, 0, with_brackets(section), kinds.front().count->text}, "not found"));
-  }
-  const Profile& profile = *found;
+  const Profile profile = profile_named(file, entries, section, name);
   PointTable table;
   table.count = promised(file, profile);
   table.width = profile.kind.point->encoding->read.size();

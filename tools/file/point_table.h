@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,19 +16,16 @@ struct PointTable {
   std::vector<double> numbers;
 };
 
-/// The tables of that name: what its count is called ("FR"), or what its points' keys begin with
-/// ("RP_IP"). Several where one count counts several kinds of points. A `Failure` of what is not
-/// found where the section, which is `known` to the catalogue or null, has none.
-std::vector<ProfileKind> kinds_of(const std::string& file, const std::string& section,
-                                  const qel::SectionInfo* known, const std::string& name);
+/// The table of that name in a section: what its count is called ("FR"), or what its points' keys
+/// begin with ("RP_IP"). Where one count counts several kinds of points, the first of which there
+/// are some. It has neither count nor points where the file has none. A `Failure` of what is not
+/// found where the catalogue knows no such table.
+Profile profile_named(const std::string& file, const Entries& entries, const std::string& section,
+                      const std::string& name);
 
-/// Of these tables the first of which the section has points, or else the first that it has.
-std::optional<Profile> profile_of(const Entries& entries, const TextSection& section,
-                                  const std::vector<ProfileKind>& kinds);
-
-/// Of several kinds of points the first of which there are some. A `Failure` of what is not found
-/// where the file does not say how many, and of usage where a point is not read as numbers, or
-/// where points have more numbers than others.
+/// The points of that table. A `Failure` of what is not found where the file does not say how many,
+/// and of usage where a point is not read as numbers, or where points have more numbers than
+/// others.
 PointTable point_table(const std::string& file, const Entries& entries, const std::string& section,
                        const std::string& name);
 

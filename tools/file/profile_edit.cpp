@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 #include "blocks/catalogue.h"
@@ -54,11 +53,8 @@ Edit set_profile(std::string section, std::string name, std::vector<std::vector<
   return {[section = std::move(section), name = std::move(name), points = std::move(points)](
               const std::string& file, const Entries& entries) {
     const qel::SectionInfo* const known = known_section(section);
-    const std::vector<ProfileKind> kinds = kinds_of(file, section, known, name);
-    const TextSection* const there = entries.find_section(section);
-    const std::optional<Profile> old =
-        there != nullptr ? profile_of(entries, *there, kinds) : std::nullopt;
-    const ProfileKind& kind = old ? old->kind : kinds.front();
+    const Profile old = profile_named(file, entries, section, name);
+    const ProfileKind& kind = old.kind;
     std::vector<Change> changes{
         {Change::Kind::set, {section, kind.count->text}, std::to_string(points.size())}};
     for (std::size_t index = 0; index < points.size(); ++index) {
@@ -75,11 +71,9 @@ Edit set_profile(std::string section, std::string name, std::vector<std::vector<
     for (const Change& change : changes) {
       check_change(file, change, false);
     }
-    if (old) {
-      for (const ProfilePoint& point : old->points) {
-        if (static_cast<std::size_t>(point.number) > points.size()) {
-          changes.push_back({Change::Kind::remove, {section, point.entry->key}, ""});
-        }
+    for (const ProfilePoint& point : old.points) {
+      if (static_cast<std::size_t>(point.number) > points.size()) {
+        changes.push_back({Change::Kind::remove, {section, point.entry->key}, ""});
       }
     }
     return changes;

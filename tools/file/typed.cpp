@@ -10,7 +10,7 @@
 #include "file/positional.h"
 #include "file/value_check.h"
 #include "platform/number.h"
-#include "system/failure.h"
+#include "system/visible.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -196,6 +196,13 @@ TypedValue typed_value(const Entries& entries, const FileEntry& entry) {
   TypedValue typed{&kind, 0, {}, unread_part(kind, entry.value, 0)};
   typed.fields = kind.encoding->fields(std::string(entry.value).c_str(), 0);
   return typed;
+}
+
+Failure unread_failure(const std::string& file, const Entries& entries, const FileEntry& entry,
+                       const TypedValue& typed) {
+  return {kUsage,
+          at({file, entries.line_number(entry), std::string(entries.section_of(entry)), entry.key},
+             in_quotes(entry.value) + " is not read whole: " + typed.unread.value_or(""))};
 }
 
 Json json_of(const TypedValue& typed, std::string_view text) {

@@ -9,6 +9,7 @@
 #include "blocks/key.h"
 #include "file/entries.h"
 #include "json/json_text.h"
+#include "system/failure.h"
 
 namespace qelpro {
 
@@ -23,6 +24,10 @@ struct TypedValue {
 TypedValue typed_value(const Entries& entries, const FileEntry& entry);
 TypedValue typed_value(const qel::SectionInfo* section, std::string_view key,
                        std::string_view value);
+
+/// What there is to say of an entry that is not read whole.
+Failure unread_failure(const std::string& file, const Entries& entries, const FileEntry& entry,
+                       const TypedValue& typed);
 
 /// A number, a text, or a list of fields; the text as it stands of an unknown key, and where the
 /// encoding does not read it whole.

@@ -10,7 +10,6 @@
 #include "scan/wanted.h"
 #include "system/failure.h"
 #include "system/files.h"
-#include "system/visible.h"
 #include "work/workers.h"
 
 namespace qelpro {
@@ -75,10 +74,7 @@ class Reader {
             const FileEntry& entry) {
     TypedValue typed = typed_value(entries, entry);
     if (typed.unread) {
-      part_.fail(row, Failure(kUsage,
-                              at({file, entries.line_number(entry),
-                                  std::string(entries.section_of(entry)), entry.key},
-                                 in_quotes(entry.value) + " is not read whole: " + *typed.unread)));
+      part_.fail(row, unread_failure(file, entries, entry, typed));
       return;
     }
     part_.columns.add(row, request,

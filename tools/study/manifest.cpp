@@ -1,6 +1,5 @@
 #include <filesystem>
 
-#include "blocks/catalogue.h"
 #include "file/typed.h"
 #include "json/json_text.h"
 #include "study/study.h"
@@ -42,10 +41,7 @@ std::string json_text(const Json& value, std::size_t indent = 0) {
 
 // A value as the catalogue types it.
 Json typed(const Address& address, const std::string& value) {
-  int number = 0;
-  return json_of(typed_value(qel::find_section(with_brackets(address.section).c_str(), number),
-                             address.key, value),
-                 value);
+  return json_of(typed_value(known_section(address.section), address.key, value), value);
 }
 
 }  // namespace

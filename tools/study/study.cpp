@@ -6,7 +6,7 @@
 #include <set>
 #include <utility>
 
-#include "file/entries.h"
+#include "file/json_value.h"
 #include "system/failure.h"
 #include "text/text.h"
 
@@ -46,6 +46,23 @@ Setting setting_of(const std::string& text) {
                               "Flow-1.FillTime=0.5:1.5:0.25");
   }
   return {text.substr(0, equals), text.substr(equals + 1), {}};
+}
+
+Setting setting_of(const Entries& entries, const std::string& address, const Json& values) {
+  if (values.is_string()) {
+    return {address, values.get<std::string>(), {}};
+  }
+  Setting setting{address, "", {}};
+  const std::vector<Address> targets = entries.targets_of(requests_of({address}).front());
+  for (const Json& value : values) {
+    const std::string text = targets.empty() ? plain_text(value)
+                                             : text_of_json(known_section(targets.front().section),
+                                                            targets.front().key, value);
+    // The list of them is for who reads the plan later.
+    setting.text += (setting.values.empty() ? "" : ",") + text;
+    setting.values.push_back(text);
+  }
+  return setting;
 }
 
 Study::Study(std::string file, std::string contents, StudyRequest request)

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "file/change.h"
+#include "file/entries.h"
+#include "json/json_text.h"
 #include "study/plan.h"
 #include "system/sink.h"
 
@@ -19,6 +21,10 @@ struct Setting {
 };
 /// That of "ADDRESS=VALUES". A `Failure` of usage for any other text.
 Setting setting_of(const std::string& text);
+
+/// That of values of JSON, each in the text that the key of the first entry meant has; of a text as
+/// on a command line. A `Failure` of usage for what the key's encoding does not hold.
+Setting setting_of(const Entries& entries, const std::string& address, const Json& values);
 
 /// What a study is to vary, the samples where not every combination is made, and the seed that they
 /// are drawn with.
