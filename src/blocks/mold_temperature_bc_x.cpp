@@ -44,10 +44,12 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::FindPosition(int setting, int cond
   if (document() == nullptr) {
     return Result::no_file;
   }
-  std::int64_t sum = std::int64_t{offset} + setting;
+  const std::int64_t in_condition = std::int64_t{offset} + setting;
+  std::int64_t sum = in_condition;
   if (condition > 1) {
-    const qel::Result result =
-        document()->VisitLines(name(), condition - 1, [&sum](std::string_view line) {
+    const qel::Result result = document()->VisitLines(
+        name(), condition - 1, [&] { sum = in_condition; },
+        [&sum](std::string_view line) {
           int count = 0;
           qel::fields::scan(std::string(line).c_str(), count);
           sum += count;
@@ -71,8 +73,8 @@ qel::Result CQELPROBlockIOMoldTemperatureBCX::ReadBCSetting(double& a, double& b
     return result;
   }
   std::string line;
-  const Result found =
-      document()->VisitLines(name(), position, [&line](std::string_view text) { line = text; });
+  const Result found = document()->VisitLines(
+      name(), position, [] {}, [&line](std::string_view text) { line = text; });
   if (found == Result::done) {
     qel::PositionalSetting::scan(line.c_str(), a, b);
   }

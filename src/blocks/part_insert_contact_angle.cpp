@@ -118,13 +118,14 @@ qel::Result CQELPROBlockIOPartInsertContactAngle::FindByLookups(const std::strin
 
 qel::Result CQELPROBlockIOPartInsertContactAngle::FindInOneScan(const std::string& wanted,
                                                                 int count, double& angle) {
-  GroupSearch search(wanted, count);
-  const Result result =
-      document()->VisitEntries(name(), [&search](std::string_view key, std::string_view value) {
-        return search.goes_on(key, value);
+  std::optional<GroupSearch> search;
+  const Result result = document()->VisitEntries(
+      name(), [&] { search.emplace(wanted, count); },
+      [&search](std::string_view key, std::string_view value) {
+        return search->goes_on(key, value);
       });
-  if (search.angle()) {
-    angle = *search.angle();
+  if (search && search->angle()) {
+    angle = *search->angle();
     return Result::done;
   }
   return result == Result::done ? Result::absent : result;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/scan_value.h"
+#include "platform/steady_read.h"
 #include "text/text.h"
 
 using qel::Entry;
@@ -15,6 +16,7 @@ using qel::Target;
 using qel::ValueBuffer;
 using qel::platform::OsFile;
 using qel::platform::RandomAccess;
+using qel::platform::read_steadily;
 
 namespace {
 
@@ -31,6 +33,18 @@ Result deliver(const LineScanner& lines, const std::optional<Line>& line, const 
   const std::string_view text =
       target.by_key() ? qel::text::entry_value(line->text) : qel::text::index_value(line->text);
   return value.put(text) ? Result::done : Result::no_open;
+}
+
+// A lookup that scans the file from its beginning. The names asked for may stand where the value
+// goes, which therefore is put there last.
+template <class Find>
+Result look_up_in(RandomAccess& file, const Target& target, const ValueBuffer& value, Find find) {
+  std::optional<LineScanner> lines;
+  const std::optional<Line> line = read_steadily(file, [&] {
+    lines.emplace(file, 0);
+    return find(*lines, target);
+  });
+  return deliver(*lines, line, target, value);
 }
 
 bool open_or_create(OsFile& file, const char* path) {
@@ -73,6 +87,14 @@ RandomAccess& CQELPROIO::held() {
     return *lent_;
   }
   return file_;
+}
+
+// A session's own file, with what it read before; a file that gives way to others is scanned alone.
+RandomAccess& CQELPROIO::held_for_reading() {
+  if (lent_ != nullptr) {
+    return *lent_;
+  }
+  return steady_;
 }
 
 void CQELPROIO::release_held() {
@@ -142,6 +164,7 @@ bool CQELPROIO::open(const Character* path, int mode) {
   }
   forget_lent();
   release_held();
+  steady_.forget();
   if (!file_.open_for_reading(path)) {
     return false;
   }
@@ -214,7 +237,7 @@ qel::Result CQELPROIO::GetValue(std::string_view section, std::string_view key, 
 // The held file, or the path's, which `own` opens.
 Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
   if (attached_) {
-    file = &held();
+    file = &held_for_reading();
     return holds_file() ? Result::done : Result::no_file;
   }
   file = &own;
@@ -231,41 +254,50 @@ qel::Result CQELPROIO::LookUp(const Target& target, const ValueBuffer& value) {
   if (chosen != Result::done) {
     return chosen;
   }
-  std::optional<LineScanner> lines;
-  std::optional<Line> line;
-  if (indexed_) {
-    if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
-      index_.forget();
-      seen_changes_ = changes;
-    }
-    line = find_indexed(*file, target, index_, lines);
-  } else {
-    lines.emplace(*file, 0);
-    line = find_plainly(*lines, target);
+  if (!indexed_) {
+    return look_up_in(*file, target, value, qel::find_plainly);
   }
+  if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
+    index_.forget();
+    seen_changes_ = changes;
+  }
+  std::optional<LineScanner> lines;
+  const std::uint64_t learnt = index_.learnt();
+  const std::optional<Line> line = read_steadily(
+      *file, [&] { return find_indexed(*file, target, index_, lines); },
+      [&] {
+        if (index_.learnt() != learnt) {
+          index_.forget();  // lines may not stand where a disturbed look saw them
+        }
+      });
   return deliver(*lines, line, target, value);
 }
 
-// Runs work on the lines after the section's first header. What is absent because the file could
-// not be read on is a failure of the file.
+// Runs work on the lines after the section's first header, after `begin`. What is absent because
+// the file could not be read on is a failure of the file.
 template <class Work>
-Result CQELPROIO::scan_section(std::string_view section, Work work) {
+Result CQELPROIO::scan_section(std::string_view section, const std::function<void()>& begin,
+                               Work work) {
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
     return chosen;
   }
-  LineScanner lines(*file, 0);
-  Line line;
-  const Result result =
-      find_plain_header(lines, section, line) ? work(lines, line) : Result::absent;
-  return lines.failed() && result != Result::done ? Result::no_open : result;
+  return read_steadily(*file, [&] {
+    begin();
+    LineScanner lines(*file, 0);
+    Line line;
+    const Result result =
+        find_plain_header(lines, section, line) ? work(lines, line) : Result::absent;
+    return lines.failed() && result != Result::done ? Result::no_open : result;
+  });
 }
 
 qel::Result CQELPROIO::VisitLines(std::string_view section, int count,
+                                  const std::function<void()>& begin,
                                   const std::function<void(std::string_view)>& visit) {
-  return scan_section(section, [&](LineScanner& lines, Line& line) {
+  return scan_section(section, begin, [&](LineScanner& lines, Line& line) {
     for (int position = 1; position <= count; ++position) {
       if (!lines.next(line) || qel::text::is_header(line.text)) {
         return Result::absent;
@@ -277,9 +309,9 @@ qel::Result CQELPROIO::VisitLines(std::string_view section, int count,
 }
 
 qel::Result CQELPROIO::VisitEntries(
-    std::string_view section,
+    std::string_view section, const std::function<void()>& begin,
     const std::function<bool(std::string_view key, std::string_view value)>& visit) {
-  return scan_section(section, [&](LineScanner& lines, Line& line) {
+  return scan_section(section, begin, [&](LineScanner& lines, Line& line) {
     while (lines.next(line)) {
       if (!visit(qel::text::first_token(line.text), qel::text::entry_value(line.text))) {
         return Result::done;
@@ -297,14 +329,10 @@ qel::Result CQELPROIO::ReadOnce(std::string_view section, std::string_view key,
     if (!file.open_for_reading(path_copy_.c_str())) {
       return Result::no_open;
     }
-    LineScanner lines(file, 0);
-    return deliver(lines, find_in_section(lines, target), target, value);
+    return look_up_in(file, target, value, qel::find_in_section);
   }
-  if (!holds_file()) {
-    return Result::no_file;
-  }
-  LineScanner lines(held(), 0);
-  return deliver(lines, find_plainly(lines, target), target, value);
+  return holds_file() ? look_up_in(held_for_reading(), target, value, qel::find_plainly)
+                      : Result::no_file;
 }
 
 qel::Result CQELPROIO::SetValue(std::string_view section, std::string_view key,
@@ -383,6 +411,7 @@ bool CQELPROIO::ScanValue(const char* path, std::string_view section, std::strin
     return false;
   }
   std::string contents;
-  const std::optional<std::string_view> text = qel::scan_value(file, section, key, contents);
+  const std::optional<std::string_view> text =
+      read_steadily(file, [&] { return qel::scan_value(file, section, key, contents); });
   return text && value.put(*text);
 }

@@ -9,6 +9,7 @@
 
 #include "core/lookup.h"
 #include "core/result.h"
+#include "core/steady_file.h"
 #include "core/store.h"
 #include "core/value_buffer.h"
 #include "platform/caller_stream.h"
@@ -16,7 +17,8 @@
 
 /// The document over one process file.
 ///
-/// It keeps no contents: every lookup reads the file and every store changes it before it returns.
+/// Every lookup reads the file and every store changes it before it returns; what a reading session
+/// keeps of the contents only tells whether what it reads has changed.
 /// Results are 1 done, 0 the file cannot be opened (or a store was refused), -1 no file, -2
 /// section, key or line not there.
 class CQELPROIO {
@@ -52,17 +54,18 @@ class CQELPROIO {
   qel::Result LookUp(const qel::Target& target, const qel::ValueBuffer& value);
 
   /// Hands the first `count` lines of a section to `visit`, trimmed, in one scan whatever the
-  /// document's mode is. -2 when there are fewer: the section ends at the next header.
-  qel::Result VisitLines(std::string_view section, int count,
+  /// document's mode is. -2 when there are fewer: the section ends at the next header. A scan that
+  /// met a store begins again, after `begin`, as the first one does.
+  qel::Result VisitLines(std::string_view section, int count, const std::function<void()>& begin,
                          const std::function<void(std::string_view)>& visit);
 
   /// Whether a lookup by key is a plain scan, which goes on into later sections, rather than one
   /// through the index.
   [[nodiscard]] bool scans_plainly() const { return !indexed_; }
   /// Hands each line that a plain scan for a key of the section passes to `visit`, the first token
-  /// and the value, until it yields false.
+  /// and the value, until it yields false. It begins as `VisitLines` does.
   qel::Result VisitEntries(
-      std::string_view section,
+      std::string_view section, const std::function<void()>& begin,
       const std::function<bool(std::string_view key, std::string_view value)>& visit);
 
   /// Stores the value of a key (index below 0) or the index-th line of a section.
@@ -102,9 +105,10 @@ class CQELPROIO {
   [[nodiscard]] bool is_read_again(const wchar_t* path) const;
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
+  qel::platform::RandomAccess& held_for_reading();
   qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
   template <class Work>
-  qel::Result scan_section(std::string_view section, Work work);
+  qel::Result scan_section(std::string_view section, const std::function<void()>& begin, Work work);
   bool open_path(qel::platform::OsFile& file) const;
   bool open_path_for_store(qel::platform::OsFile& file) const;
 
@@ -118,6 +122,7 @@ class CQELPROIO {
   // What this program had written to that file when the index was last right.
   std::uint32_t seen_changes_ = 0;
   qel::platform::OsFile file_;  // opened by this document for reading
+  qel::SteadyFile steady_{file_};
   std::unique_ptr<qel::platform::CallerStream> lent_;
   std::FILE* stream_ = nullptr;  // the lent stream, or one handed out over `file_`
   bool attached_ = false;

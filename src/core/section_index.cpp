@@ -19,6 +19,7 @@ bool LineMark::matches(std::string_view line) const {
 }
 
 SectionIndex::Section& SectionIndex::learn_section(std::string_view name, const Line& header) {
+  ++learnt_;
   return *sections_.insert(HashedName(name), {{header.start, file_, header.is_piece}, {}}).value;
 }
 
@@ -49,6 +50,7 @@ void SectionIndex::note_furthest(const Line& line, std::string_view first_token)
 
 void SectionIndex::learn_entry(const HashedName& name, const Line& line,
                                std::string_view first_token) {
+  ++learnt_;
   if (entries_.insert(name, {line.start, file_, line.is_piece}).is_new) {
     note_furthest(line, first_token);
   }
@@ -56,6 +58,7 @@ void SectionIndex::learn_entry(const HashedName& name, const Line& line,
 
 void SectionIndex::learn_position(const HashedName& name, const Line& line,
                                   std::string_view first_token) {
+  ++learnt_;
   positions_.insert(name, mark(line, first_token));
   note_furthest(line, first_token);
 }

@@ -82,6 +82,9 @@ class SectionIndex {
     return {line, first_token, file_};
   }
 
+  /// Moves with all that is learnt.
+  [[nodiscard]] std::uint64_t learnt() const { return learnt_; }
+
   /// Another file is read from now on. The offsets stay.
   void begin_file() { ++file_; }
   /// The file was changed: all offsets go.
@@ -96,6 +99,7 @@ class SectionIndex {
   std::size_t last_section_ = 0;  // the position of the one that was asked for last
   LineMark furthest_;
   std::uint32_t file_ = 1;
+  std::uint64_t learnt_ = 0;
   std::string names_[2];
 };
 

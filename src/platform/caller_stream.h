@@ -22,11 +22,17 @@ class CallerStream final : public RandomAccess {
   bool flush() override;
   bool lock() override;
   void unlock() override;
+  bool begins_read() override;
+  ReadEnd ends_read() override;
+  [[nodiscard]] bool lasts() const override { return watch_.lasts(); }
+  void lock_for_read() override;
+  void unlock_after_read() override;
 
  private:
   std::FILE* stream_;
   bool has_contents_ = false;
   ChangeCount changes_;
+  StoreWatch watch_;
   bool is_locked_ = false;
 };
 

@@ -4,9 +4,20 @@
 
 #include "platform/caller_stream.h"
 #include "platform/file_length_posix.h"
+#include "platform/file_stamp_posix.h"
 #include "platform/store_lock.h"
 
 namespace qel::platform {
+namespace {
+
+// What the stream read ahead may be older than what is asked now; from its beginning, it forgets
+// all.
+void forget_read_ahead(std::FILE* stream) {
+  ::fseeko(stream, 0, SEEK_SET);
+  std::fflush(stream);
+}
+
+}  // namespace
 
 // A device may go on without end, and a pipe has no offsets. A stream over memory has no
 // descriptor.
@@ -18,6 +29,7 @@ CallerStream::CallerStream(std::FILE* stream) : stream_(stream) {
   } else if (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
     has_contents_ = true;
     changes_ = ChangeCount(status.st_dev, status.st_ino);
+    watch_.note(stamp_of(status));
   }
 }
 
@@ -75,9 +87,7 @@ bool CallerStream::lock() {
   const LockAnswer answer = fd >= 0 && has_contents_ ? lock_for_store(fd) : LockAnswer::none;
   is_locked_ = answer == LockAnswer::held;
   if (is_locked_) {
-    // What the stream read ahead may be older than the lock; from its beginning, it forgets all.
-    ::fseeko(stream_, 0, SEEK_SET);
-    std::fflush(stream_);
+    forget_read_ahead(stream_);
   }
   return answer != LockAnswer::busy;
 }
@@ -88,6 +98,29 @@ void CallerStream::unlock() {
     is_locked_ = false;
   }
 }
+
+bool CallerStream::begins_read() {
+  const int fd = ::fileno(stream_);
+  if (fd < 0 || !has_contents_) {
+    return true;
+  }
+  if (!watch_.lasts()) {
+    forget_read_ahead(stream_);
+  }
+  return watch_.begins_read(fd);
+}
+
+ReadEnd CallerStream::ends_read() {
+  const int fd = ::fileno(stream_);
+  return fd < 0 || !has_contents_ ? ReadEnd::undisturbed : watch_.ends_read(fd);
+}
+
+void CallerStream::lock_for_read() {
+  watch_.lock(::fileno(stream_));
+  forget_read_ahead(stream_);
+}
+
+void CallerStream::unlock_after_read() { watch_.unlock(::fileno(stream_)); }
 
 bool CallerStream::flush() { return std::fflush(stream_) == 0; }
 

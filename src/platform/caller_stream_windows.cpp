@@ -67,4 +67,16 @@ void CallerStream::unlock() {
   }
 }
 
+bool CallerStream::begins_read() {
+  return !has_contents_ || watch_.begins_read(handle_number(handle_of(stream_)));
+}
+
+ReadEnd CallerStream::ends_read() {
+  return has_contents_ ? watch_.ends_read(handle_number(handle_of(stream_))) : ReadEnd::undisturbed;
+}
+
+void CallerStream::lock_for_read() { watch_.lock(handle_number(handle_of(stream_))); }
+
+void CallerStream::unlock_after_read() { watch_.unlock(handle_number(handle_of(stream_))); }
+
 }  // namespace qel::platform

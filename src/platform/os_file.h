@@ -47,6 +47,12 @@ class OsFile final : public RandomAccess {
   bool truncate(std::int64_t size) override;
   bool flush() override { return true; }
 
+  bool begins_read() override { return watch_.begins_read(handle_); }
+  ReadEnd ends_read() override { return watch_.ends_read(handle_); }
+  [[nodiscard]] bool lasts() const override { return watch_.lasts(); }
+  void lock_for_read() override { watch_.lock(handle_); }
+  void unlock_after_read() override { watch_.unlock(handle_); }
+
   /// A stream over the same file with a position of its own, for a caller that asks for one. The
   /// caller closes it.
   std::FILE* duplicate_as_stream();
@@ -62,6 +68,7 @@ class OsFile final : public RandomAccess {
   std::int64_t size_when_opened_ = -1;
   std::uint64_t identity_ = 0;
   ChangeCount changes_;
+  StoreWatch watch_;
   bool is_locked_ = false;
   bool may_be_replaced_ = false;  // its name may have gone to another file meanwhile
 };

@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "platform/file_length_posix.h"
+#include "platform/file_stamp_posix.h"
 #include "platform/os_file.h"
 #include "platform/patience.h"
 #include "platform/store_lock.h"
@@ -77,6 +78,7 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
   identity_ = identity_of(status.st_dev, status.st_ino);
   changes_ = ChangeCount(status.st_dev, status.st_ino);
+  watch_.note(stamp_of(status));
   is_locked_ = lock == LockAnswer::held;
   may_be_replaced_ = status.st_nlink != 1;
   return true;
@@ -85,7 +87,7 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
 // Who waited for another store may find that its file is no longer the one under the path.
 template <>
 bool OsFile::open_locked(const char* path, bool creates) {
-  Patience patience;
+  Patience patience(Patience::kOfStores);
   do {
     int fd = open_file(path, O_RDWR);
     if (fd < 0 && creates) {
@@ -118,6 +120,7 @@ bool OsFile::open_for_reading(const char* path) {
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
   identity_ = identity_of(status.st_dev, status.st_ino);
   changes_ = ChangeCount(status.st_dev, status.st_ino);
+  watch_.note(stamp_of(status));
   return true;
 }
 

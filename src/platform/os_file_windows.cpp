@@ -54,6 +54,7 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
   handle_ = handle;
   size_when_opened_ = size();
   changes_ = ChangeCount(0, 0);
+  watch_ = {};
   is_locked_ = lock == LockAnswer::held;
   FILE_STANDARD_INFO names{};
   may_be_replaced_ = purpose == Purpose::store &&
@@ -66,7 +67,7 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
 // Who waited for another store may find that its file is no longer the one under the path.
 template <class Character>
 bool OsFile::open_locked(const Character* path, bool creates) {
-  Patience patience;
+  Patience patience(Patience::kOfStores);
   do {
     if (!adopt(open_or_create(path, kUpdating, creates ? OPEN_ALWAYS : OPEN_EXISTING),
                Purpose::store)) {

@@ -6,9 +6,15 @@
 
 namespace qel::platform {
 
-/// How long a store waits for another one's end.
+/// How long a store waits for another one's end, or a read for a store's.
 class Patience {
  public:
+  explicit Patience(std::chrono::seconds most) : end_(std::chrono::steady_clock::now() + most) {}
+
+  static constexpr std::chrono::seconds kOfStores{5};
+  /// A store takes milliseconds. One that was stopped in its middle is not to stop every read.
+  static constexpr std::chrono::seconds kOfReads{1};
+
   /// Waits a little; false when it has waited long enough. The pauses stay short: who stores
   /// without an end leaves the file free for moments only.
   bool waits() {
@@ -22,8 +28,7 @@ class Patience {
   }
 
  private:
-  std::chrono::steady_clock::time_point end_ =
-      std::chrono::steady_clock::now() + std::chrono::seconds(5);
+  std::chrono::steady_clock::time_point end_;
   std::chrono::microseconds pause_{20};
 };
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "platform/store_watch.h"
+
 namespace qel::platform {
 
 /// A file as an array of bytes. Every call names its own offset; there is no current position.
@@ -42,6 +44,13 @@ class RandomAccess {
   /// Keeps other stores out of a file that is open already; false when another one does not end.
   virtual bool lock() { return true; }
   virtual void unlock() {}
+
+  /// What `read_steadily` asks: see StoreWatch.
+  virtual bool begins_read() { return true; }
+  virtual ReadEnd ends_read() { return ReadEnd::undisturbed; }
+  [[nodiscard]] virtual bool lasts() const { return false; }
+  virtual void lock_for_read() {}
+  virtual void unlock_after_read() {}
 };
 
 }  // namespace qel::platform

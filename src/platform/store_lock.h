@@ -3,13 +3,14 @@
 #include <cstdint>
 
 /// What keeps the stores of several programs into one file apart: a lock between processes, and
-/// between handles of one, over a byte that no file reaches. Readers do not ask for it.
+/// between handles of one, over a byte that no file reaches. A read shares it with other reads once
+/// it met a store.
 namespace qel::platform {
 
 enum class LockAnswer {
   held,
   none,  ///< No locks there, or not for this handle: the store goes without.
-  busy,  ///< Somebody else has held it for all the time that a store waits: some seconds.
+  busy,  ///< Somebody else has held it for all the time that is waited.
 };
 
 /// Of the operating system's handle of an open file. A host that has locked the file itself counts
@@ -17,6 +18,14 @@ enum class LockAnswer {
 LockAnswer lock_for_store(std::intptr_t handle);
 
 void unlock_after_store(std::intptr_t handle);
+
+/// Whether a store holds the lock now. No, where that cannot be told.
+bool is_store_under_way(std::intptr_t handle);
+
+/// For a file that was opened for reading alone, too.
+LockAnswer lock_for_read(std::intptr_t handle);
+
+void unlock_after_read(std::intptr_t handle);
 
 /// Whether closing the file is all that it takes to give its lock back.
 bool is_unlocked_by_closing();

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <optional>
 
 #include "platform/patience.h"
@@ -21,29 +22,36 @@ struct flock store_lock(short kind) {
   return lock;
 }
 
-// A traditional lock belongs to a whole process; a store does not wait for its own.
-bool is_held_by_this_process(int fd) {
-  struct flock other = store_lock(F_WRLCK);
-  return ::fcntl(fd, F_OFD_GETLK, &other) == 0 && other.l_type != F_UNLCK &&
-         other.l_pid == ::getpid();
+// Who keeps a lock of this kind from being had.
+enum class Holder { nobody, unknown, store, own_lock, other_lock };
+
+Holder holder(int fd, short kind) {
+  struct flock other = store_lock(kind);
+  if (::fcntl(fd, F_OFD_GETLK, &other) != 0) {
+    return Holder::unknown;
+  }
+  // Traditional locks belong to a process; those of an open file to none.
+  constexpr pid_t kNoProcess = -1;
+  return other.l_type == F_UNLCK     ? Holder::nobody
+         : other.l_pid == kNoProcess ? Holder::store
+         : other.l_pid == ::getpid() ? Holder::own_lock
+                                     : Holder::other_lock;
 }
 
-}  // namespace
-
-LockAnswer lock_for_store(std::intptr_t handle) {
-  const int fd = static_cast<int>(handle);
+template <class IsInTheWay>
+LockAnswer lock(int fd, short kind, std::chrono::seconds most, IsInTheWay is_in_the_way) {
   std::optional<Patience> patience;
   for (;;) {
-    struct flock lock = store_lock(F_WRLCK);
+    struct flock lock = store_lock(kind);
     if (::fcntl(fd, F_OFD_SETLK, &lock) == 0) {
       return LockAnswer::held;
     }
     const bool is_held = errno == EAGAIN || errno == EACCES;
-    if (errno != EINTR && (!is_held || is_held_by_this_process(fd))) {
+    if (errno != EINTR && (!is_held || !is_in_the_way(holder(fd, kind)))) {
       return LockAnswer::none;
     }
     if (!patience) {
-      patience.emplace();
+      patience.emplace(most);
     }
     if (!patience->waits()) {
       return LockAnswer::busy;
@@ -51,10 +59,32 @@ LockAnswer lock_for_store(std::intptr_t handle) {
   }
 }
 
-void unlock_after_store(std::intptr_t handle) {
+void unlock(std::intptr_t handle) {
   struct flock lock = store_lock(F_UNLCK);
   ::fcntl(static_cast<int>(handle), F_OFD_SETLK, &lock);
 }
+
+}  // namespace
+
+// A store does not wait for its own process.
+LockAnswer lock_for_store(std::intptr_t handle) {
+  return lock(static_cast<int>(handle), F_WRLCK, Patience::kOfStores,
+              [](Holder who) { return who != Holder::own_lock; });
+}
+
+void unlock_after_store(std::intptr_t handle) { unlock(handle); }
+
+bool is_store_under_way(std::intptr_t handle) {
+  return holder(static_cast<int>(handle), F_RDLCK) == Holder::store;
+}
+
+// Whatever else a program has locked a file for, it is no store.
+LockAnswer lock_for_read(std::intptr_t handle) {
+  return lock(static_cast<int>(handle), F_RDLCK, Patience::kOfReads,
+              [](Holder who) { return who == Holder::store || who == Holder::nobody; });
+}
+
+void unlock_after_read(std::intptr_t handle) { unlock(handle); }
 
 // A child that another thread made meanwhile has the open file, too, and with it the lock.
 bool is_unlocked_by_closing() { return __libc_single_threaded != 0; }

@@ -1,3 +1,5 @@
+#include <chrono>
+
 #include "platform/handle_windows.h"
 #include "platform/patience.h"
 #include "platform/store_lock.h"
@@ -12,18 +14,24 @@ OVERLAPPED locked_byte() {
   return place;
 }
 
-}  // namespace
+bool try_to_lock(std::intptr_t handle, DWORD kind) {
+  OVERLAPPED place = locked_byte();
+  return ::LockFileEx(to_handle(handle), kind | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0;
+}
 
-LockAnswer lock_for_store(std::intptr_t handle) {
-  Patience patience;
+// Of a lock that was not had.
+bool is_held() {
+  const DWORD error = ::GetLastError();
+  return error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING;
+}
+
+LockAnswer lock(std::intptr_t handle, DWORD kind, std::chrono::seconds most) {
+  Patience patience(most);
   for (;;) {
-    OVERLAPPED place = locked_byte();
-    if (::LockFileEx(to_handle(handle), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1,
-                     0, &place) != 0) {
+    if (try_to_lock(handle, kind)) {
       return LockAnswer::held;
     }
-    const DWORD error = ::GetLastError();
-    if (error != ERROR_LOCK_VIOLATION && error != ERROR_IO_PENDING) {
+    if (!is_held()) {
       return LockAnswer::none;
     }
     if (!patience.waits()) {
@@ -32,10 +40,32 @@ LockAnswer lock_for_store(std::intptr_t handle) {
   }
 }
 
-void unlock_after_store(std::intptr_t handle) {
+void unlock(std::intptr_t handle) {
   OVERLAPPED place = locked_byte();
   ::UnlockFileEx(to_handle(handle), 0, 1, 0, &place);
 }
+
+constexpr DWORD kShared = 0;
+
+}  // namespace
+
+LockAnswer lock_for_store(std::intptr_t handle) {
+  return lock(handle, LOCKFILE_EXCLUSIVE_LOCK, Patience::kOfStores);
+}
+
+void unlock_after_store(std::intptr_t handle) { unlock(handle); }
+
+bool is_store_under_way(std::intptr_t handle) {
+  if (try_to_lock(handle, kShared)) {
+    unlock(handle);
+    return false;
+  }
+  return is_held();
+}
+
+LockAnswer lock_for_read(std::intptr_t handle) { return lock(handle, kShared, Patience::kOfReads); }
+
+void unlock_after_read(std::intptr_t handle) { unlock(handle); }
 
 // The system gives a closed file's lock back some time later.
 bool is_unlocked_by_closing() { return false; }

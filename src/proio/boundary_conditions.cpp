@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "platform/os_file.h"
+#include "platform/steady_read.h"
 #include "proio/dialect.h"
 #include "proio/line_store.h"
 #include "proio/rows.h"
@@ -115,14 +116,17 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
     if (path_ == nullptr || !file.open_for_reading(path_)) {
       return false;
     }
-    const Place place = place_of<platform::RandomAccess>(file, bc, point);
-    if (!place.readable || !place.named || place.line < 1) {
-      return false;
-    }
     Buffer text;
-    LineScanner lines = lines_of(file);
-    if (read(lines, {boundary_condition::kPositionalSection, {}, as_index(place.line)}, text) !=
-        Code::success) {
+    const bool found = platform::read_steadily(file, [&] {
+      const Place place = place_of<platform::RandomAccess>(file, bc, point);
+      if (!place.readable || !place.named || place.line < 1) {
+        return false;
+      }
+      LineScanner lines = lines_of(file);
+      return read(lines, {boundary_condition::kPositionalSection, {}, as_index(place.line)},
+                  text) == Code::success;
+    });
+    if (!found) {
       return false;
     }
     int number = 0;

@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "platform/os_file.h"
+#include "platform/steady_read.h"
 #include "proio/catalogue.h"
 #include "proio/dialect.h"
 #include "proio/line_store.h"
@@ -52,15 +53,19 @@ bool CPROIO_Manipulator::IsOK(int code) { return code == to_int(Code::success); 
 
 int CPROIO_Manipulator::Read(const char* section, const char* key, char*& value, int index) {
   Code code = Code::no_file;
+  Buffer text;  // the names asked for may stand where the value goes
   qel::attempt([&] {
     platform::OsFile file;
     if (path_ != nullptr && file.open_for_reading(path_)) {
-      qel::LineScanner lines = lines_of(file);
-      code = read(lines, {section, key, index}, scratch().value);
+      code = platform::read_steadily(file, [&] {
+        qel::LineScanner lines = lines_of(file);
+        return read(lines, {section, key, index}, text);
+      });
     }
     return true;
   });
   if (code == Code::success) {
+    scratch().value = text;
     value = scratch().value.text();
   }
   return to_int(code);

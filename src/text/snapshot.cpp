@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/os_file.h"
+#include "platform/steady_read.h"
 #include "text/line_scanner.h"
 #include "text/text.h"
 
@@ -42,12 +43,15 @@ bool Snapshot::load(const char* path) {
   if (!file.open_for_reading(path)) {
     return false;
   }
-  const std::int64_t size = file.size_in_memory();
-  if (size < 0) {
-    return false;
-  }
-  contents_.resize(static_cast<std::size_t>(size));
-  if (file.read_at(0, contents_.data(), contents_.size()) != size) {
+  const bool is_read = platform::read_steadily(file, [&] {
+    const std::int64_t size = file.size_in_memory();
+    if (size < 0) {
+      return false;
+    }
+    contents_.resize(static_cast<std::size_t>(size));
+    return file.read_at(0, contents_.data(), contents_.size()) == size;
+  });
+  if (!is_read) {
     return false;
   }
   sections_.clear();

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "platform/random_access.h"
+
+namespace qel {
+
+/// A reading session's file. Every read reads the file; bytes that are those of an earlier read
+/// which no store disturbed are as good as that one's, and ask the system nothing more. So it keeps
+/// a copy of what was read, of one state of the file: where anything is new, the whole read is
+/// looked at as `read_steadily` says, and where the file has changed, the copy goes.
+class SteadyFile final : public platform::RandomAccess {
+ public:
+  explicit SteadyFile(platform::RandomAccess& file) : file_(file) {}
+
+  /// Another file is read from now on.
+  void forget();
+
+  std::int64_t size() override { return file_.size(); }
+  std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
+  bool write_at(std::int64_t offset, const char* from, std::size_t count) override {
+    return file_.write_at(offset, from, count);
+  }
+  bool reserve(std::int64_t old_size, std::int64_t end) override {
+    return file_.reserve(old_size, end);
+  }
+  bool truncate(std::int64_t size) override { return file_.truncate(size); }
+  bool flush() override { return file_.flush(); }
+
+  bool begins_read() override;
+  platform::ReadEnd ends_read() override;
+  void lock_for_read() override;
+  void unlock_after_read() override { file_.unlock_after_read(); }
+
+ private:
+  static constexpr std::size_t kPage = 4096;
+  static constexpr std::int64_t kMostPages = 1024;  // what stands behind them is always new
+
+  enum class State : char {
+    unknown,
+    fresh,  // of the read that is under way
+    known,
+  };
+  struct Page {
+    std::unique_ptr<char[]> bytes;
+    std::size_t size = 0;  // less than a page's where the file ends in it
+    State state = State::unknown;
+  };
+
+  [[nodiscard]] bool knows(std::int64_t offset, std::size_t count) const;
+  std::int64_t compared(std::int64_t offset, const char* bytes, std::int64_t got,
+                        std::size_t asked);
+  Page* new_page(std::int64_t number);
+  std::int64_t read_pages(std::int64_t offset, char* to, std::size_t count);
+  void keep(std::int64_t offset, const char* bytes, std::size_t count, bool to_the_end);
+  void drop_copy();
+
+  platform::RandomAccess& file_;
+  std::vector<Page> pages_;
+  std::vector<std::int64_t> fresh_;  // the numbers of such pages
+  bool has_copy_ = false;            // of some page
+  bool is_locked_ = false;
+  bool met_new_ = false;    // bytes of which there was no copy
+  bool met_other_ = false;  // bytes that are not those of the copy
+};
+
+}  // namespace qel
