@@ -6,6 +6,7 @@
 #include <chrono>
 #include <optional>
 
+#include "platform/file_length_posix.h"
 #include "platform/patience.h"
 #include "platform/store_lock.h"
 
@@ -61,7 +62,7 @@ LockAnswer lock(int fd, short kind, std::chrono::seconds most, IsInTheWay is_in_
 
 void unlock(std::intptr_t handle) {
   struct flock lock = store_lock(F_UNLCK);
-  ::fcntl(static_cast<int>(handle), F_OFD_SETLK, &lock);
+  uninterrupted([&] { return ::fcntl(static_cast<int>(handle), F_OFD_SETLK, &lock); });
 }
 
 }  // namespace

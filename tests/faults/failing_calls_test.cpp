@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/QELPROEngine.h"
@@ -215,6 +217,14 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"NewSection", kStamped, by_object([](auto& o) { return o.SetCoolTime(7.5); })}),
     [](const auto& row) { return row.param.name; });
 
+// A file that has been read is closed, or is not; whether a store ran beside the read is asked by
+// the others, and where there is no answer the read is repeated.
+bool is_harmless(const io_calls::Outcome& outcome) {
+  return std::strcmp(outcome.failed_call, "close") == 0 ||
+         std::strcmp(outcome.failed_call, "fcntl") == 0 ||
+         std::strcmp(outcome.failed_call, "fstat") == 0;
+}
+
 // A read that fails is never a value, and leaves the outputs alone.
 TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
   const Scratch scratch;
@@ -257,7 +267,7 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
       const bool done = read(value);
       const io_calls::Outcome outcome = io_calls::stop();
       EXPECT_EQ(value, done ? 1.5 : -1) << outcome.failed_call;
-      EXPECT_TRUE(!done || std::strcmp(outcome.failed_call, "close") == 0) << outcome.failed_call;
+      EXPECT_TRUE(!done || is_harmless(outcome)) << outcome.failed_call;
     }
   }
 }
@@ -272,16 +282,19 @@ TEST(FailingReads, YieldNoProcess) {
         loader.GetProcessDataStructure(path.c_str()));
     return process != nullptr;
   };
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));  // a young file is asked about twice
   io_calls::fail(0, Failure::none);
   ASSERT_TRUE(load());
   const int calls = io_calls::stop().calls;
-  ASSERT_EQ(calls, 4);  // the file is opened, measured, read and closed, once
+  // The file is opened, asked about, measured, read, looked at and closed, once.
+  ASSERT_EQ(calls, 6);
   for (int n = 1; n <= calls; ++n) {
     io_calls::fail(n, Failure::error);
     const bool done = load();
     const io_calls::Outcome outcome = io_calls::stop();
     EXPECT_TRUE(outcome.failed) << n;
-    EXPECT_EQ(done, std::strcmp(outcome.failed_call, "close") == 0) << outcome.failed_call;
+    const bool is_measured = n != 3;
+    EXPECT_EQ(done, is_harmless(outcome) && is_measured) << outcome.failed_call << ' ' << n;
   }
 }
 

@@ -9,6 +9,7 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
+#include <utility>
 
 namespace qelpro_test::io_calls {
 namespace {
@@ -21,10 +22,20 @@ struct Plan {
   Outcome outcome;
 };
 thread_local Plan plan;
+thread_local std::function<void(int)> announcement;
 
 // Whether this call is to fail, or to write less.
 bool is_chosen(const char* name) {
-  if (!plan.armed || ++plan.outcome.calls != plan.at || plan.failure == Failure::none) {
+  if (!plan.armed) {
+    return false;
+  }
+  ++plan.outcome.calls;
+  if (announcement) {
+    plan.armed = false;
+    announcement(plan.outcome.calls);
+    plan.armed = true;
+  }
+  if (plan.outcome.calls != plan.at || plan.failure == Failure::none) {
     return false;
   }
   plan.outcome.failed_call = name;
@@ -56,9 +67,15 @@ Function* next(const char* name) {
 
 void fail(int n, Failure failure) { plan = {true, n, failure, false, {}}; }
 
+void announce(std::function<void(int)> before_each) {
+  announcement = std::move(before_each);
+  fail(0, Failure::none);
+}
+
 Outcome stop() {
   const Outcome outcome = plan.outcome;
   plan = {};
+  announcement = nullptr;
   return outcome;
 }
 
@@ -91,6 +108,18 @@ VISIBLE int close(int fd) {
 VISIBLE int fstat(int fd, struct stat* status) noexcept {
   static auto* const real = next<int(int, struct stat*)>("fstat");
   return fails("fstat", EIO) ? -1 : real(fd, status);
+}
+
+VISIBLE int fcntl(int fd, int command, ...) {
+  static auto* const real = next<int(int, int, ...)>("fcntl");
+  std::va_list arguments;
+  va_start(arguments, command);
+  void* const argument = va_arg(arguments, void*);
+  va_end(arguments);
+  const bool waits = command == F_OFD_SETLK;
+  return fails("fcntl", EIO, waits ? Interruption::possible : Interruption::impossible)
+             ? -1
+             : real(fd, command, argument);
 }
 
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {

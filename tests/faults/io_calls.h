@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 /// The operating system's calls of this program, of which one can be made to fail. They stand in
 /// front of the C library's, for the library under test too.
 namespace qelpro_test::io_calls {
@@ -15,6 +17,10 @@ enum class Failure {
 
 /// From now on the n-th call (from 1) of this thread fails.
 void fail(int n, Failure failure);
+
+/// From now on each call of this thread is announced by its number, from 1, before it is made. What
+/// the announcement itself calls is not.
+void announce(std::function<void(int call)> announcement);
 
 struct Outcome {
   int calls = 0;        ///< How many there were.
