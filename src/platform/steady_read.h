@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/store_watch.h"
 
 namespace qel::platform {
@@ -31,6 +33,21 @@ auto read_steadily(File& file, Read read, Forget forget) {
   const Locked locked(file);
   return read();
 }
+
+/// An open file of which no more than its handle is known, for `read_steadily`.
+class WatchedHandle {
+ public:
+  explicit WatchedHandle(std::intptr_t handle) : handle_(handle) {}
+
+  bool begins_read() { return watch_.begins_read(handle_); }
+  ReadEnd ends_read() { return watch_.ends_read(handle_); }
+  void lock_for_read() { watch_.lock(handle_); }
+  void unlock_after_read() { watch_.unlock(handle_); }
+
+ private:
+  std::intptr_t handle_;
+  StoreWatch watch_;
+};
 
 template <class File, class Read>
 auto read_steadily(File& file, Read read) {

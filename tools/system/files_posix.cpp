@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "platform/steady_read.h"
 #include "platform/store_lock.h"
 #include "system/beside.h"
 #include "system/calls_posix.h"
@@ -177,7 +178,18 @@ std::string read_file(const std::string& file) {
   if (!descriptor.is_open()) {
     fail(file, "");
   }
-  return read_all(descriptor.get(), file);
+  struct stat status {};
+  if (::fstat(descriptor.get(), &status) != 0) {
+    fail(file, "");
+  }
+  if (!S_ISREG(status.st_mode)) {
+    return read_all(descriptor.get(), file);
+  }
+  qel::platform::WatchedHandle watched(descriptor.get());
+  return qel::platform::read_steadily(watched, [&] {
+    ::lseek(descriptor.get(), 0, SEEK_SET);
+    return read_all(descriptor.get(), file);
+  });
 }
 
 struct Replacement::Handles {

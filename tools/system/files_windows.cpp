@@ -1,3 +1,4 @@
+#include <io.h>
 #include <windows.h>
 
 #include <array>
@@ -7,6 +8,7 @@
 #include <system_error>
 
 #include "platform/os_file.h"
+#include "platform/steady_read.h"
 #include "system/beside.h"
 #include "system/failure.h"
 #include "system/files.h"
@@ -39,6 +41,27 @@ Stream make_beside(const std::string& file, const std::string& target, std::stri
   return stream;
 }
 
+Stream open_to_read(const std::string& file) {
+  Stream stream(std::fopen(file.c_str(), "rb"), &std::fclose);
+  if (stream == nullptr) {
+    fail(file, "");
+  }
+  return stream;
+}
+
+std::string read_all(const Stream& stream, const std::string& file) {
+  std::rewind(stream.get());
+  std::string contents;
+  std::array<char, 65536> block{};
+  while (const std::size_t got = std::fread(block.data(), 1, block.size(), stream.get())) {
+    contents.append(block.data(), got);
+  }
+  if (std::ferror(stream.get()) != 0) {
+    fail(file, "cannot be read to its end: ");
+  }
+  return contents;
+}
+
 }  // namespace
 
 std::string read_file(const std::string& file) {
@@ -51,19 +74,9 @@ std::string read_file(const std::string& file) {
     throw Failure(kFileError, at(file, std::filesystem::is_directory(kind) ? reason_of(EISDIR)
                                                                            : "not a regular file"));
   }
-  const Stream stream(std::fopen(file.c_str(), "rb"), &std::fclose);
-  if (stream == nullptr) {
-    fail(file, "");
-  }
-  std::string contents;
-  std::array<char, 65536> block{};
-  while (const std::size_t got = std::fread(block.data(), 1, block.size(), stream.get())) {
-    contents.append(block.data(), got);
-  }
-  if (std::ferror(stream.get()) != 0) {
-    fail(file, "cannot be read to its end: ");
-  }
-  return contents;
+  const Stream stream = open_to_read(file);
+  qel::platform::WatchedHandle watched(::_get_osfhandle(::_fileno(stream.get())));
+  return qel::platform::read_steadily(watched, [&] { return read_all(stream, file); });
 }
 
 struct Replacement::Handles {
@@ -85,7 +98,7 @@ Replacement::Replacement(const std::string& file)
   if (!handles_->old_file.open_for_store(target_.c_str())) {
     throw SystemFailure(file, kIsBusy, EAGAIN);
   }
-  old_contents_ = read_file(target_);
+  old_contents_ = read_all(open_to_read(target_), target_);
 }
 
 Replacement::~Replacement() {
