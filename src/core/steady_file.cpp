@@ -161,36 +161,17 @@ std::int64_t SteadyFile::read_pages(std::int64_t offset, char* to, std::size_t c
   return static_cast<std::int64_t>(done);
 }
 
-// Keeps the whole pages among bytes that were read, and what stands in the last one.
-void SteadyFile::keep(std::int64_t offset, const char* bytes, std::size_t count, bool to_the_end) {
-  constexpr auto kStep = static_cast<std::int64_t>(kPage);
-  const std::int64_t end = offset + static_cast<std::int64_t>(count);
-  for (std::int64_t at = (offset + kStep - 1) / kStep * kStep;
-       at + kStep <= end || (to_the_end && at <= end); at += kStep) {
-    Page* const page = new_page(at / kStep);
-    if (page != nullptr) {
-      page->size = static_cast<std::size_t>(std::min(kStep, end - at));
-      std::memcpy(page->bytes.get(), bytes + (at - offset), page->size);
-    }
-  }
-}
-
+// A long read is one of many lines, which costs more than to ask about it.
 std::int64_t SteadyFile::read_at(std::int64_t offset, char* to, std::size_t count) {
-  if (is_locked_ || count == 0) {
-    return file_.read_at(offset, to, count);
-  }
-  if (knows(offset, count)) {
-    return compared(offset, to, file_.read_at(offset, to, count), count);
-  }
-  met_new_ = true;
-  if (count <= kPage) {
+  if (count > 0 && count <= kPage && !is_locked_) {
+    if (knows(offset, count)) {
+      return compared(offset, to, file_.read_at(offset, to, count), count);
+    }
+    met_new_ = true;
     return read_pages(offset, to, count);
   }
-  const std::int64_t got = file_.read_at(offset, to, count);
-  if (got >= 0) {
-    keep(offset, to, static_cast<std::size_t>(got), static_cast<std::size_t>(got) < count);
-  }
-  return got;
+  met_new_ = true;
+  return file_.read_at(offset, to, count);
 }
 
 }  // namespace qel

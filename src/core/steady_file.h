@@ -56,7 +56,6 @@ class SteadyFile final : public platform::RandomAccess {
                         std::size_t asked);
   Page* new_page(std::int64_t number);
   std::int64_t read_pages(std::int64_t offset, char* to, std::size_t count);
-  void keep(std::int64_t offset, const char* bytes, std::size_t count, bool to_the_end);
   void drop_copy();
 
   platform::RandomAccess& file_;
@@ -64,7 +63,7 @@ class SteadyFile final : public platform::RandomAccess {
   std::vector<std::int64_t> fresh_;  // the numbers of such pages
   bool has_copy_ = false;            // of some page
   bool is_locked_ = false;
-  bool met_new_ = false;    // bytes of which there was no copy
+  bool met_new_ = false;    // bytes of which there is no copy
   bool met_other_ = false;  // bytes that are not those of the copy
 };
 
