@@ -45,7 +45,7 @@ void unlock(std::intptr_t handle) {
   ::UnlockFileEx(to_handle(handle), 0, 1, 0, &place);
 }
 
-constexpr DWORD kShared = 0;
+constexpr DWORD kSharedLock = 0;
 
 }  // namespace
 
@@ -56,14 +56,14 @@ LockAnswer lock_for_store(std::intptr_t handle) {
 void unlock_after_store(std::intptr_t handle) { unlock(handle); }
 
 bool is_store_under_way(std::intptr_t handle) {
-  if (try_to_lock(handle, kShared)) {
+  if (try_to_lock(handle, kSharedLock)) {
     unlock(handle);
     return false;
   }
   return is_held();
 }
 
-LockAnswer lock_for_read(std::intptr_t handle) { return lock(handle, kShared, Patience::kOfReads); }
+LockAnswer lock_for_read(std::intptr_t handle) { return lock(handle, kSharedLock, Patience::kOfReads); }
 
 void unlock_after_read(std::intptr_t handle) { unlock(handle); }
 
