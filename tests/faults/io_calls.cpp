@@ -22,7 +22,7 @@ struct Plan {
   Outcome outcome;
 };
 thread_local Plan plan;
-thread_local std::function<void(int)> announcement;
+thread_local std::function<void(int)> announce_call;
 
 // Whether this call is to fail, or to write less.
 bool is_chosen(const char* name) {
@@ -30,9 +30,9 @@ bool is_chosen(const char* name) {
     return false;
   }
   ++plan.outcome.calls;
-  if (announcement) {
+  if (announce_call) {
     plan.armed = false;
-    announcement(plan.outcome.calls);
+    announce_call(plan.outcome.calls);
     plan.armed = true;
   }
   if (plan.outcome.calls != plan.at || plan.failure == Failure::none) {
@@ -67,15 +67,15 @@ Function* next(const char* name) {
 
 void fail(int n, Failure failure) { plan = {true, n, failure, false, {}}; }
 
-void announce(std::function<void(int)> before_each) {
-  announcement = std::move(before_each);
+void announce(std::function<void(int call)> announcement) {
+  announce_call = std::move(announcement);
   fail(0, Failure::none);
 }
 
 Outcome stop() {
   const Outcome outcome = plan.outcome;
   plan = {};
-  announcement = nullptr;
+  announce_call = nullptr;
   return outcome;
 }
 

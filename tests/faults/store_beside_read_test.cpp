@@ -118,7 +118,7 @@ bool scanned_text(Reader& reader, double& value) {
 
 // The line is known: one look at it is the read.
 Read known(const char* path) {
-  const Read read = by_session(filling_time)(path);
+  Read read = by_session(filling_time)(path);
   EXPECT_EQ(read(), kOld);
   EXPECT_EQ(read(), kOld);
   return read;

@@ -134,8 +134,8 @@ constexpr int kKeys = 300;
 constexpr int kPoints = 60;
 
 std::string marked_text(int number, long round) {
-  return std::to_string(number) + ":" + std::string(static_cast<std::size_t>(round % 60), 'v') +
-         ";";
+  std::string text = std::to_string(number) + ":";
+  return text.append(static_cast<std::size_t>(round % 60), 'v').append(";");
 }
 
 bool is_marked_text(int number, const std::string& text) {
@@ -162,7 +162,8 @@ std::string file_of_marked_values() {
   contents += "[Flow-1]\nFillTime = 1.5\nFRSet = " + std::to_string(kPoints) + "\n";
   for (int point = 1; point <= kPoints; ++point) {
     const std::string number = std::to_string(point) + ".5";
-    contents += "FR-" + std::to_string(point) + " = " + number + "\t" + number + "\n";
+    contents.append("FR-").append(std::to_string(point)).append(" = ");
+    contents.append(number).append("\t").append(number).append("\n");
   }
   return contents;
 }
