@@ -263,6 +263,10 @@ TEST(CheckRules, TellAKeyWithoutEqualsTwice) {
   EXPECT_EQ(codes_in("[Flow-1]\nFillTime 1.5\n"), (std::vector<std::string>{"P006", "P201"}));
 }
 
+TEST(CheckRules, DoNotTakeThePatternOfAKeyForAKey) {
+  EXPECT_EQ(codes_in("[Flow-1]\nFR-%d = 0 1\n"), (std::vector<std::string>{"P102"}));
+}
+
 TEST(CheckRules, NameNothingNearWhereNothingIsLeftOfTheName) {
   for (const Finding& finding : findings_in("[Unit]\nab = 1\n")) {
     EXPECT_EQ(finding.hint, "") << finding;
