@@ -64,6 +64,14 @@ TEST(Export, HasNoEntryThatNoLookupFinds) {
             "{\n  \"Flow-1\": {\n    \"FillTime\": 2.0\n  }\n}");
 }
 
+TEST(Export, NamesASectionOfTwoBracketsAsItIs) {
+  const SectionedText document("[[A]]\nx = 1\n");
+  const Json form = plain_form(Entries(document));
+  EXPECT_EQ(form, Json({{"[[A]]", {{"x", "1"}}}}));
+  const SectionedText made(contents_of("form", form));
+  EXPECT_EQ(plain_form(Entries(made)), form);
+}
+
 TEST(Export, ExactFormsHoldEveryByte) {
   const Scratch scratch;
   std::mt19937 random(7);
