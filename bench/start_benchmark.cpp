@@ -43,7 +43,7 @@ class Program {
       std::fprintf(stderr, "%s does not run\n", arguments_[0]);
       std::exit(1);
     }
-    times_.push_back(std::chrono::steady_clock::now() - begin);
+    times_.emplace_back(std::chrono::steady_clock::now() - begin);
     posix_spawn_file_actions_destroy(&actions);
   }
 

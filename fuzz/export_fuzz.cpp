@@ -79,8 +79,8 @@ std::vector<Known> known_values(const std::string& contents) {
     const std::string section(entries.section_of(entry));
     const auto read = engine.value(section, entry.key);
     if (!read || (is_read_whole(line) ? *read != entry.value : !entry.value.starts_with(*read))) {
-      fail("the tool lists " + section + " " + entry.key + " with \"" + std::string(entry.value) +
-           "\", and the engine reads \"" + read.value_or("nothing") + "\" in\n" + contents);
+      fail({"the tool lists ", section, " ", entry.key, " with \"", entry.value,
+            "\", and the engine reads \"", read.value_or("nothing"), "\" in\n", contents});
     }
     all.push_back({section, entry.key, std::string(entry.value), is_read_whole(line)});
   }
@@ -105,9 +105,8 @@ void compare(const char* what, const std::vector<Known>& old_values, const std::
   for (const Known& entry : old_values) {
     const auto read = engine.value(entry.section, entry.key);
     if (!read || !is_same_value(entry, *read)) {
-      fail(std::string(what) + ": " + entry.section + " " + entry.key + " was \"" + entry.value +
-           "\" and is \"" + read.value_or("nothing") + "\" in\n" + contents + "\nmade of\n" +
-           old_contents);
+      fail({what, ": ", entry.section, " ", entry.key, " was \"", entry.value, "\" and is \"",
+            read.value_or("nothing"), "\" in\n", contents, "\nmade of\n", old_contents});
     }
   }
 }
@@ -155,7 +154,7 @@ void check_same_file(const Json& form, const std::string& text, const std::vecto
     const FileEntry* const entry = entries.find(change.address);
     const std::string_view new_value = qel::text::index_value(change.value);
     changes_nothing = changes_nothing && entry != nullptr && entry->value == new_value &&
-                      entry->value.size() != 0 && is_read_whole(document.line(entry->line)) &&
+                      !entry->value.empty() && is_read_whole(document.line(entry->line)) &&
                       new_value == change.value && is_looked_up_by_key(entries, *entry);
   }
   const std::string changed = with_changes(document, changes);

@@ -40,7 +40,7 @@ class Trial {
   explicit Trial(FuzzedDataProvider& input) : input_(input) {
     bytes_ = input.ConsumeRandomLengthString(kLongestFile);
     if (input.ConsumeIntegralInRange(0, 15) == 1) {  // a line that is too long, or nearly
-      const std::size_t at = input.ConsumeIntegralInRange<std::size_t>(0, bytes_.size());
+      const auto at = input.ConsumeIntegralInRange<std::size_t>(0, bytes_.size());
       bytes_.insert(at, input.ConsumeIntegralInRange<std::size_t>(4060, 4110), 'w');
     }
     path_ = qelpro_fuzz::file_with(bytes_);
@@ -67,7 +67,7 @@ class Trial {
   std::string word() {
     static const char* const kWords[] = {"[A]", "[B]", "[Flow-1]", "[SURFACE", "x", "FR-1", ""};
     if (input_.ConsumeIntegralInRange(0, 3) != 0 && !bytes_.empty()) {
-      const std::size_t at = input_.ConsumeIntegralInRange<std::size_t>(0, bytes_.size() - 1);
+      const auto at = input_.ConsumeIntegralInRange<std::size_t>(0, bytes_.size() - 1);
       const std::size_t begin = bytes_.rfind('\n', at) + 1;
       return bytes_.substr(begin, bytes_.find_first_of(" \t=\r\n", begin) - begin);
     }

@@ -33,12 +33,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string before = model.text();
     if (const std::string member = qelpro_test::step_beside(model, object, pick, found);
         !member.empty()) {
-      fail(member + " differs in\n" + before);
+      fail({member, " differs in\n", before});
     }
     if (const std::string after = with_plain_dates(qelpro_fuzz::bytes_of_file());
         after != with_plain_dates(model.text())) {
-      fail("the file is\n" + after + "\nand not\n" + with_plain_dates(model.text()) +
-           "\nand was\n" + before);
+      fail({"the file is\n", after, "\nand not\n", with_plain_dates(model.text()), "\nand was\n",
+            before});
     }
   }
   return 0;
