@@ -50,21 +50,6 @@ std::string value_of(std::string line, bool by_key) {
   return strip_back(strip_front(line, " "), " \t\n");
 }
 
-// A line "[...]", whatever blanks follow, or one with words after its brackets. An entry of an odd
-// key has a "=" there.
-bool closes_a_section(const std::string& line) {
-  const std::string text = strip_back(line, " \t\n");
-  if (text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1) {
-    return true;
-  }
-  const std::size_t close = std::min(line.find("] "), line.find("]\t"));
-  if (line.find('[') != 0 || close == std::string::npos || line.find('=') < close) {
-    return false;
-  }
-  const std::string words = strip_front(line.substr(close + 1), " \t");
-  return words.empty() || words[0] != '=';
-}
-
 // A last line without a line break: an end mark there is none of its text.
 std::string without_mark(const std::string& last_line) {
   const std::string text = strip_back(last_line, " \x1A");
@@ -231,6 +216,19 @@ std::vector<Line> lines(const std::string& bytes, std::size_t from) {
 }
 
 }  // namespace
+
+bool closes_a_section(const std::string& line) {
+  const std::string text = strip_back(line, " \t\n");
+  if (text.size() >= 2 && text.find('[') == 0 && text.rfind(']') == text.size() - 1) {
+    return true;
+  }
+  const std::size_t close = std::min(line.find("] "), line.find("]\t"));
+  if (line.find('[') != 0 || close == std::string::npos || line.find('=') < close) {
+    return false;
+  }
+  const std::string words = strip_front(line.substr(close + 1), " \t");
+  return words.empty() || words[0] != '=';
+}
 
 Answer plain(const std::string& bytes, const std::string& section, const std::string& key,
              int index) {

@@ -24,6 +24,10 @@ inline void PrintTo(const Answer& answer, std::ostream* out) {
   *out << answer.result << " \"" << answer.text << '"';
 }
 
+/// A line "[...]", whatever blanks follow, or one with words after its brackets. An entry of an odd
+/// key has a "=" there.
+bool closes_a_section(const std::string& line);
+
 /// The lookups of one reading document, over one file after another.
 class Reading {
  public:

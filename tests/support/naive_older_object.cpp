@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <string_view>
 
+#include "support/naive_document.h"
+
 namespace qelpro_test {
 namespace {
 
@@ -108,24 +110,8 @@ std::vector<NaiveOlderObject::Line> NaiveOlderObject::lines() const {
 }
 
 bool NaiveOlderObject::begins_section(const Line& line) {
-  const std::string& text = line.text;
-  if (!line.begins || text.empty() || text.front() != '[') {
-    return false;
-  }
-  const std::string word = leading_word(text);
-  if (word == "[SURFACE") {
-    return true;
-  }
-  const std::size_t length = text.size() - (text.back() == '\n' ? 1 : 0);
-  const std::string bracketed = text.substr(0, text.substr(0, length).find_last_not_of(" \t") + 1);
-  if (bracketed.size() > 1 && bracketed.back() == ']') {
-    return true;  // all of it stands in brackets
-  }
-  // A word in brackets, and words behind it that do not begin with a "=".
-  const std::size_t behind = text.find_first_not_of(" \t", word.size());
-  return word.size() > 1 && word.back() == ']' && word.size() < text.size() &&
-         (text[word.size()] == ' ' || text[word.size()] == '\t') &&
-         (behind == std::string::npos || text[behind] != '=');
+  return line.begins &&
+         (naive::closes_a_section(line.text) || leading_word(line.text) == "[SURFACE");
 }
 
 // The lines from after the section's header to the next header, or all of the file's where
