@@ -17,6 +17,11 @@ struct Line {
 // The lines from an offset on.
 std::vector<Line> lines(const std::string& bytes, std::size_t from = 0);
 
+// Behind a byte order mark.
+std::size_t start_of_lines(const std::string& bytes) {
+  return bytes.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0;
+}
+
 bool is_one_of(char c, const std::string& set) { return set.find(c) != std::string::npos; }
 
 std::string strip_front(const std::string& text, const std::string& set) {
@@ -182,10 +187,7 @@ int insert_line(std::string& bytes, const std::string& section, const std::strin
 
 std::vector<Line> lines(const std::string& bytes, std::size_t from) {
   std::vector<Line> list;
-  std::size_t at = from;
-  if (from == 0 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) {
-    at = 3;
-  }
+  std::size_t at = from == 0 ? start_of_lines(bytes) : from;
   bool in_long_line = false;
   while (at < bytes.size()) {
     if (!in_long_line && bytes.find_first_not_of(" \x1A", at) == std::string::npos) {
@@ -265,7 +267,7 @@ Answer whole_text(const std::string& bytes, const std::string& section, const st
   }
   bool inside = false;
   std::size_t next = 0;
-  const std::string text = without_mark(bytes);
+  const std::string text = without_mark(bytes.substr(start_of_lines(bytes)));
   for (std::size_t at = 0; at < text.size(); at = next) {
     next = std::min(text.find('\n', at), text.size() - 1) + 1;
     std::string line = text.substr(at, next - at);
