@@ -181,7 +181,9 @@ TypedValue typed_value(const qel::SectionInfo* section, std::string_view key,
   const Reading reading = reading_of(section, key, value);
   TypedValue typed{reading.key, reading.number, {}, reading.unread};
   if (reading.key != nullptr) {
-    typed.fields = reading.key->encoding->fields(std::string(value).c_str(), reading.number);
+    // Behind a NUL byte nothing is read, and then blanks in front of it trail the value.
+    const std::string text(qel::text::index_value(value.substr(0, value.find('\0'))));
+    typed.fields = reading.key->encoding->fields(text.c_str(), reading.number);
   }
   return typed;
 }

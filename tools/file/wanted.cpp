@@ -1,4 +1,4 @@
-#include "scan/wanted.h"
+#include "file/wanted.h"
 
 #include <algorithm>
 #include <utility>
