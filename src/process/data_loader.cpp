@@ -19,6 +19,7 @@
 #include "blocks/mold_thermal_boundary_type.h"
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
+#include "objects/attempt.h"
 #include "platform/number.h"
 #include "process/functions.h"
 #include "process/steps.h"
@@ -156,9 +157,9 @@ void CQELProcessData_Manipulator::Dispose() {
 const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
     const char* path) {
   Dispose();
-  try {
+  std::unique_ptr<QELG_SimulatorProcess> process;
+  const bool whole = attempt([&] {
     reader_ = new LoadingReader;
-    std::unique_ptr<QELG_SimulatorProcess> process;
     if (path != nullptr && file_of(reader_).load(path)) {
       process = std::make_unique<QELG_SimulatorProcess>();
       LoadCAEHeader(*process);
@@ -170,12 +171,10 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
       DetermineInletCount(*process);
       LoadInlets(*process);
     }
-    Dispose();
-    return process.release();
-  } catch (...) {
-    Dispose();
-    return nullptr;
-  }
+    return true;
+  });
+  Dispose();
+  return whole ? process.release() : nullptr;
 }
 
 void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& process) {
