@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
@@ -59,7 +60,13 @@ struct Convert {
     set(object, static_cast<unsigned int>(integer_of(key, text)));
   }
   void operator()(void (*set)(Object&, double)) const { set(object, platform::to_real(text)); }
-  void operator()(void (*set)(Object&, const char*)) const { set(object, text); }
+  void operator()(const TextItem<Object>& item) const {
+    item.set(object, text);
+    const char* kept = nullptr;
+    if (!item.get(object, kept) || std::strcmp(kept, text) != 0) {
+      throw std::bad_alloc();
+    }
+  }
 };
 
 // A list that found no memory for a point says so; no process rather than one that lacks it.
@@ -162,6 +169,9 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
     reader_ = new LoadingReader;
     if (path != nullptr && file_of(reader_).load(path)) {
       process = std::make_unique<QELG_SimulatorProcess>();
+      if (process->data() == nullptr) {
+        throw std::bad_alloc();
+      }
       LoadCAEHeader(*process);
       LoadSummary(*process);
       LoadFlowCTL(*process);
