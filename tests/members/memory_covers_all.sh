@@ -15,21 +15,23 @@ for library in "$@"; do
   nm -DC --defined-only "$library" | cut -d' ' -f3- | sed -E 's/@@.*//'
 done | grep -vE '^(vtable|typeinfo|VTT)|\[abi:' | sort -u |
   # The result of a template and what follows the last name are no part of the name.
-  sed -E -e 's/\(.*//' -e 's/^(bool|void|int|char\*|double) //' | grep -vE '<.*>$' | sort | uniq -c | sed -E 's/^ *//' |
-  while read -r count name; do
-    grep -qx "${name##*::}" "$folder/private" || echo "$count $name"
-  done >"$folder/exported"
-QELPRO_LIST_MEMBERS=1 "$fault_tests" --gtest_filter=Memory.HasRowsForMembersOfEveryClass | sed -n 's/^member //p' | sort | uniq -c | sed -E 's/^ *//' >"$folder/rows"
+  sed -E -e 's/\(.*//' -e 's/^(bool|void|int|char\*|double) //' | grep -vE '<.*>$' >"$folder/exported"
+QELPRO_LIST_MEMBERS=1 "$fault_tests" --gtest_filter=Memory.HasRowsForMembersOfEveryClass | sed -n 's/^member //p' >"$folder/rows"
 [[ $(wc -l <"$folder/exported") -gt 1000 ]] || { echo "the libraries were not understood" && exit 1; }
 
-status=0 members=0 rows=0
-while read -r count name; do
-  in_table=$(awk -v name="$name" '{ line = $0; sub(/^[0-9]+ /, "", line) } line == name { print $1 }' "$folder/rows")
-  ((members += count, rows += ${in_table:-0})) || true
-  if ((${in_table:-0} < count)); then
-    echo "$name: $count exported, ${in_table:-0} in the table"
-    status=1
-  fi
-done <"$folder/exported"
-echo "$members exported members, $rows ways to call them"
-exit $status
+awk '
+  FILENAME ~ /private$/ { is_private[$0]; next }
+  FILENAME ~ /rows$/ { ++rows[$0]; next }
+  { last = $0; sub(/.*::/, "", last); if (!(last in is_private)) ++exported[$0] }
+  END {
+    for (name in exported) {
+      members += exported[name]
+      ways += rows[name]
+      if (rows[name] < exported[name]) {
+        print name ": " exported[name] " exported, " rows[name] + 0 " in the table"
+        failed = 1
+      }
+    }
+    print members " exported members, " ways " ways to call them"
+    exit failed
+  }' "$folder/private" "$folder/rows" "$folder/exported"

@@ -292,7 +292,7 @@ void* use_and_end(void* started) {
 }
 
 void load_again(const char* plug_in, char* path) {
-  constexpr int kLoads = 1000;
+  constexpr int kLoads = 300;
   pthread_t thread;
   require(::pthread_create(&thread, nullptr, visit, nullptr) == 0, "a thread starts");
   std::size_t before = 0;
