@@ -27,6 +27,7 @@ struct Scratch {
   Buffer boundary_condition_name;
   Buffer part_insert_name;
   Buffer mold_metal_name;
+  Buffer mold_base_name;
 };
 
 Scratch& scratch();
