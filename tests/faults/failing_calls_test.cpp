@@ -37,6 +37,7 @@ constexpr Explained kExplained[] = {
     {"open", Failure::error, true, "what cannot be opened is created, which opens it"},
     {"fstat", Failure::error, true, "the same"},
     {"stat", Failure::error, false, "whatever stands there is looked at again once it is open"},
+    {"fcntl", Failure::error, false, "a file system without locks goes without"},
     {"close", Failure::error, false, "of a file that was only read"},
 };
 

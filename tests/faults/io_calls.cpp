@@ -82,6 +82,30 @@ using namespace qelpro_test::io_calls;
 
 #define VISIBLE extern "C" __attribute__((visibility("default")))
 
+namespace {
+
+using Fcntl = int(int, int, ...);
+Fcntl* real_fcntl() {
+  static auto* const real = next<Fcntl>("fcntl");
+  return real;
+}
+
+}  // namespace
+
+// Its locks count; other questions are not asked of a file system.
+VISIBLE int fcntl(int fd, int command, ...) {
+  std::va_list arguments;
+  va_start(arguments, command);
+  void* const argument = va_arg(arguments, void*);
+  va_end(arguments);
+  const bool is_lock = command == F_OFD_SETLK || command == F_OFD_SETLKW;
+  if (is_lock && static_cast<struct flock*>(argument)->l_type != F_UNLCK &&
+      fails("fcntl", ENOLCK, Interruption::possible)) {
+    return -1;
+  }
+  return real_fcntl()(fd, command, argument);
+}
+
 VISIBLE int open(const char* path, int flags, ...) {
   static auto* const real = next<int(const char*, int, ...)>("open");
   std::va_list arguments;
@@ -93,7 +117,7 @@ VISIBLE int open(const char* path, int flags, ...) {
     return -1;
   }
   const int fd = real(path, flags, mode);
-  if (plan.armed && fd >= 0 && (::fcntl(fd, F_GETFD) & FD_CLOEXEC) == 0) {
+  if (plan.armed && fd >= 0 && (real_fcntl()(fd, F_GETFD) & FD_CLOEXEC) == 0) {
     ++plan.outcome.inherited;
   }
   return fd;

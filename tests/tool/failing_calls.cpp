@@ -24,7 +24,6 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -299,9 +298,13 @@ VISIBLE int fstat(int fd, struct stat* status) noexcept {
   return fails("fstat", fd) ? -1 : real(fd, status);
 }
 
-VISIBLE int flock(int fd, int operation) noexcept {
-  static auto* const real = next<int(int, int)>("flock");
-  return fails("flock", fd) ? -1 : real(fd, operation);
+VISIBLE int fcntl(int fd, int command, ...) {
+  static auto* const real = next<int(int, int, ...)>("fcntl");
+  va_list more;
+  va_start(more, command);
+  void* const argument = va_arg(more, void*);
+  va_end(more);
+  return command == F_OFD_SETLK && fails("lock", fd) ? -1 : real(fd, command, argument);
 }
 
 VISIBLE int fchown(int fd, uid_t owner, gid_t group) noexcept {

@@ -107,7 +107,7 @@ class EveryCall : private InMemory, public WritingCommand {
 const std::pair<const char*, const char*> kExplained[] = {
     {"stat", "what stands there is looked at again once it is open"},
     {"fstat of_old", "the same"},
-    {"flock of_old", "a file system without locks goes without"},
+    {"lock of_old", "a file system without locks goes without"},
     {"fchown of_new",
      "who may not give a file away keeps it, and its group where that is possible"},
     {"open",

@@ -5,9 +5,9 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <system_error>
 
+#include "platform/os_file.h"
 #include "system/beside.h"
 #include "system/failure.h"
 #include "system/files.h"
@@ -77,9 +77,8 @@ void write_into(const std::string& path, const std::string& file, std::string_vi
   }
 }
 
-// A lock of the file itself would keep it from being replaced; the lock has the file's name.
 struct Replacement::Handles {
-  HANDLE lock = nullptr;
+  qel::platform::OsFile old_file;  // holds the lock
   std::string temporary;
 };
 
@@ -91,14 +90,12 @@ Replacement::Replacement(const std::string& file)
     errno = ENOENT;
     fail(file, "");
   }
-  const std::string name = "qelpro-" + std::to_string(std::hash<std::string>()(target_));
-  handles_->lock = ::CreateMutexA(nullptr, FALSE, name.c_str());
-  if (handles_->lock != nullptr) {
-    ::WaitForSingleObject(handles_->lock, INFINITE);
-  }
   if (const Stream writable(std::fopen(target_.c_str(), "r+b"), &std::fclose);
       writable == nullptr) {
     fail(file, "cannot be opened for writing: ");
+  }
+  if (!handles_->old_file.open_for_store(target_.c_str())) {
+    throw SystemFailure(file, kIsBusy, EAGAIN);
   }
   old_contents_ = read_file(target_);
 }
@@ -106,10 +103,6 @@ Replacement::Replacement(const std::string& file)
 Replacement::~Replacement() {
   if (!handles_->temporary.empty()) {
     std::remove(handles_->temporary.c_str());
-  }
-  if (handles_->lock != nullptr) {
-    ::ReleaseMutex(handles_->lock);
-    ::CloseHandle(handles_->lock);
   }
 }
 
