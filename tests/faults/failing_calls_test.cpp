@@ -14,6 +14,7 @@
 #include "api/proio/support.h"
 #include "faults/every_store.h"
 #include "faults/io_calls.h"
+#include "support/in_c_locale.h"
 #include "support/scratch.h"
 
 // Every call to the operating system fails once, in turn, in every kind of store. The file is as it
@@ -297,7 +298,7 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
         char* text = nullptr;
         const bool done = reader.SetFilePath(path.c_str()) &&
                           reader.ReadString("[Flow-1]", "FillTime", text, buffer, sizeof buffer);
-        value = done ? std::strtod(text, nullptr) : value;
+        value = done ? to_double(text) : value;
         return done;
       },
   };

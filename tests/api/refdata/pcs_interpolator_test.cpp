@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "QELPROEngine/QELPROEngine.h"
+#include "support/in_c_locale.h"
 #include "support/comma_locale.h"
 #include "support/scratch.h"
 
@@ -247,9 +248,7 @@ double expected_value(const std::vector<double>& x, const std::vector<double>& y
 }
 
 std::string number(double value) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.17g", value);
-  return text;
+  return printed("%.17g", value);
 }
 
 TEST_F(CoolantTables, AgreeWithAnIndependentFormulaForEverySize) {
