@@ -17,6 +17,8 @@ if os.environ.get("QELPRO_TEST_LOCALE"):
     # Of this process, in which the module works, and of those that it starts.
     os.environ["LC_ALL"] = os.environ["QELPRO_TEST_LOCALE"]
     locale.setlocale(locale.LC_ALL, os.environ["LC_ALL"])
+    # The system's words are held against those of processes that set none.
+    locale.setlocale(locale.LC_MESSAGES, "C")
 
 
 def pytest_runtest_logreport(report):
