@@ -56,11 +56,10 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
   changes_ = ChangeCount(0, 0);
   is_locked_ = lock == LockAnswer::held;
   FILE_STANDARD_INFO names{};
-  may_be_replaced_ =
-      purpose == Purpose::store &&
-      ::GetFileInformationByHandleEx(to_handle(handle), FileStandardInfo, &names, sizeof names) !=
-          0 &&
-      (names.DeletePending != 0 || names.NumberOfLinks == 0);
+  may_be_replaced_ = purpose == Purpose::store &&
+                     ::GetFileInformationByHandleEx(to_handle(handle), FileStandardInfo, &names,
+                                                    sizeof names) != 0 &&
+                     (names.DeletePending != 0 || names.NumberOfLinks == 0);
   return true;
 }
 
