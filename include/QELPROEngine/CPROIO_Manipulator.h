@@ -7,7 +7,7 @@
 namespace qel::proio {
 class Buffer;
 struct Row;
-}
+}  // namespace qel::proio
 
 /// Reads and writes one process file, key by key: an older interface to the file that
 /// CQELPROReader_Manipulator and CQELPROWriter_Manipulator serve, complete in itself. Files written

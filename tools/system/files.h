@@ -16,8 +16,8 @@ inline constexpr const char* kIsBusy = "cannot be written: another program is st
 std::string read_file(const std::string& file);
 
 /// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are
-/// followed. While it lives, no other store works on the file, be it this tool's or the engine's: it
-/// waits, a few seconds at most, as this one's constructor does.
+/// followed. While it lives, no other store works on the file, be it this tool's or the engine's:
+/// it waits, a few seconds at most, as this one's constructor does.
 class Replacement {
  public:
   explicit Replacement(const std::string& file);

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "platform/store_lock.h"
@@ -151,9 +152,9 @@ class SignalsWait {
 // does. Elsewhere it has a temporary name.
 class Unnamed {
  public:
-  Unnamed(const std::string& file, const std::string& target, mode_t mode)
-      : file_(file), target_(target) {
-    descriptor_.reset(open_file(folder_of(target), O_TMPFILE | O_RDWR, mode));
+  Unnamed(std::string file, std::string target, mode_t mode)
+      : file_(std::move(file)), target_(std::move(target)) {
+    descriptor_.reset(open_file(folder_of(target_), O_TMPFILE | O_RDWR, mode));
     if (descriptor_.is_open()) {
       path_ = link_of(descriptor_.get());
       if (::access(path_.c_str(), F_OK) == 0) {

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "QELPROEngine/QELPROEngine.h"
-#include "support/in_c_locale.h"
 #include "support/comma_locale.h"
+#include "support/in_c_locale.h"
 #include "support/scratch.h"
 
 namespace qelpro_test {
@@ -247,9 +247,7 @@ double expected_value(const std::vector<double>& x, const std::vector<double>& y
   return y[i - 1] * (1 - share) + y[i] * share;
 }
 
-std::string number(double value) {
-  return printed("%.17g", value);
-}
+std::string number(double value) { return printed("%.17g", value); }
 
 TEST_F(CoolantTables, AgreeWithAnIndependentFormulaForEverySize) {
   std::mt19937 random(20261121);
