@@ -74,10 +74,10 @@ bool CallerStream::lock() {
   const int fd = ::fileno(stream_);
   const LockAnswer answer = fd >= 0 && has_contents_ ? lock_for_store(fd) : LockAnswer::none;
   is_locked_ = answer == LockAnswer::held;
-  if (is_locked_) {
-    // What the stream read ahead may be older than the lock; from its beginning, it forgets all.
-    ::fseeko(stream_, 0, SEEK_SET);
-    std::fflush(stream_);
+  // What the stream read ahead may be older than the lock; from its beginning, it forgets all.
+  if (is_locked_ && (::fseeko(stream_, 0, SEEK_SET) != 0 || !flush())) {
+    unlock();
+    return false;
   }
   return answer != LockAnswer::busy;
 }

@@ -60,7 +60,11 @@ bool CQELPCSInterpolator::LoadDataFromFile(const char* path) {
     if (path == nullptr || !file.open_for_reading(path)) {
       return false;
     }
-    tables_->coolants = qel::refdata::read_coolants(file);
+    auto coolants = qel::refdata::read_coolants(file);
+    if (!coolants) {
+      return false;
+    }
+    tables_->coolants = *std::move(coolants);
     return true;
   });
 }

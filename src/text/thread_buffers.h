@@ -62,6 +62,7 @@ struct ThreadBuffers {
     ShortBuffer boundary_condition_name;
     ShortBuffer part_insert_name;
     ShortBuffer mold_metal_name;
+    ShortBuffer mold_base_name;
   } older;
 };
 static_assert(sizeof(ThreadBuffers) <= platform::kThreadMemory);

@@ -5,6 +5,7 @@
 
 #include "file/forms.h"
 #include "json/json_input.h"
+#include "support/comma_locale.h"
 #include "support/run.h"
 #include "support/scratch.h"
 #include "system/failure.h"
@@ -13,6 +14,7 @@ namespace {
 
 using namespace qelpro;
 using namespace qelpro_test;
+using testing::AllOf;
 using testing::HasSubstr;
 
 Outcome qelpro_tool(const std::vector<std::string>& arguments) {
@@ -106,6 +108,21 @@ TEST(Import, WritesValuesInTheLayoutOfTheirEncodings) {
         "GC-1                 = 1.5\t2\t1", "GC-2                 = 1.5\t2\t2\t7"}) {
     EXPECT_THAT(contents, HasSubstr(line));
   }
+}
+
+TEST(Import, WritesNumbersWithAPointWhateverTheHostsLocale) {
+  const CommaLocale comma;
+  if (!comma.is_set()) {
+    GTEST_SKIP() << "the machine has no locale with a decimal comma";
+  }
+  const std::string contents =
+      contents_of("f", parse_json("f",
+                                  "{\"Flow-1\": {\"FillTime\": 1.50, \"FR-1\": [-2.5e-3, 0.1]}, "
+                                  "\"Own\": {\"k\": 0.125}}"));
+  EXPECT_THAT(contents,
+              AllOf(HasSubstr("FillTime             = 1.50\n"), HasSubstr("= -2.5e-3\t0.1\n"),
+                    HasSubstr("k                    = 0.125\n")));
+  EXPECT_THROW(contents_of("f", parse_json("f", "{\"Flow-1\": {\"FRSet\": 1.5}}")), Failure);
 }
 
 TEST(Import, RefusesWhatCouldNotBeReadBack) {
