@@ -1,9 +1,9 @@
 #include "text/text.h"
 
+#include <algorithm>
+
 namespace qel::text {
 namespace {
-
-bool ends_token(char c) { return c == ' ' || c == '\t' || c == '='; }
 
 // These walk byte by byte: names and blanks are short, and a search for one of several characters
 // costs a call for each byte.
@@ -101,7 +101,10 @@ std::size_t length_without_padding(std::string_view contents, const Dialect& dia
 }
 
 bool is_findable(std::string_view name) {
-  return !name.empty() && name.find_first_of(" \t=\r\n") == std::string_view::npos;
+  const auto is_lost = [](char c) {
+    return c != '\0' && kEndsToken[static_cast<unsigned char>(c)] != Ends::no;
+  };
+  return !name.empty() && std::none_of(name.begin(), name.end(), is_lost);
 }
 
 bool is_section_name(std::string_view name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,18 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// A positional section is always created with this header; lookups find it by its first token.
 inline constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
+
+/// Which characters end a first token, and which are in none that a lookup finds.
+enum class Ends : unsigned char { no, token, name };
+inline constexpr auto kEndsToken = [] {
+  std::array<Ends, 256> ends{};
+  ends[' '] = ends['\t'] = ends['='] = Ends::token;
+  ends['\r'] = ends['\n'] = ends['\0'] = Ends::name;
+  return ends;
+}();
+constexpr bool ends_token(char c) {
+  return kEndsToken[static_cast<unsigned char>(c)] == Ends::token;
+}
 
 /// The text up to the first blank, tab or "=". A line that begins with a blank has an empty first
 /// token.
