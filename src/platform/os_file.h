@@ -36,6 +36,7 @@ class OsFile final : public RandomAccess {
   /// Moves with everything that this program writes to the file, through whatever object.
   [[nodiscard]] std::uint32_t change_count() const { return changes_.value(); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
+  std::int64_t read_some(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
   bool reserve(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;

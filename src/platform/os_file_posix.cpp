@@ -112,15 +112,20 @@ std::int64_t OsFile::size() {
                                                     : -1;
 }
 
+std::int64_t OsFile::read_some(std::int64_t offset, char* to, std::size_t count) {
+  ssize_t got = -1;
+  do {
+    got = ::pread(descriptor(handle_), to, count, static_cast<off_t>(offset));
+  } while (got < 0 && errno == EINTR);
+  return got;
+}
+
 std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) {
   std::size_t done = 0;
   while (done < count) {
-    const ssize_t got = ::pread(descriptor(handle_), to + done, count - done,
-                                static_cast<off_t>(offset) + static_cast<off_t>(done));
+    const std::int64_t got =
+        read_some(offset + static_cast<std::int64_t>(done), to + done, count - done);
     if (got < 0) {
-      if (errno == EINTR) {
-        continue;
-      }
       return -1;
     }
     if (got == 0) {

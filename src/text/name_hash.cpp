@@ -3,7 +3,6 @@
 #include <bit>
 #include <chrono>
 #include <cstddef>
-#include <cstring>
 #include <random>
 
 // SipHash with one round for each word and three at the end.
@@ -25,7 +24,7 @@ HashKey drawn_key() {
   } catch (...) {
     // A machine without a source of random numbers: the moment, and where the program was loaded.
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&name_hash)};
+    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&drawn_key)};
   }
 }
 
@@ -58,22 +57,40 @@ struct SipState {
   std::uint64_t a, b, c, d;
 };
 
-std::uint64_t word_of(const char* bytes, std::size_t count) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, count);
-  return word;
+std::uint64_t byte_of(const char* bytes, std::size_t at) {
+  return std::uint64_t{static_cast<unsigned char>(bytes[at])} << (8 * at);
 }
 
-}  // namespace
+// Of the first four bytes, which the compiler reads at once.
+std::uint64_t half_of(const char* bytes) {
+  return byte_of(bytes, 0) | byte_of(bytes, 1) | byte_of(bytes, 2) | byte_of(bytes, 3);
+}
 
-std::uint64_t name_hash(std::string_view name) {
+constexpr std::size_t kHalf = 4;
+constexpr std::size_t kWord = sizeof(std::uint64_t);
+
+std::uint64_t word_of(const char* bytes) {
+  return half_of(bytes) | (half_of(bytes + kHalf) << (8 * kHalf));
+}
+
+// Of fewer bytes than a word has; what is read twice is the same. To copy them would be a call.
+std::uint64_t word_of(const char* bytes, std::size_t count) {
+  if (count >= kHalf) {
+    return half_of(bytes) | (half_of(bytes + count - kHalf) << (8 * (count - kHalf)));
+  }
+  return count == 0 ? 0 : byte_of(bytes, 0) | byte_of(bytes, count / 2) | byte_of(bytes, count - 1);
+}
+
+const HashKey& key_of_program() {
   static const HashKey key = drawn_key();
-  constexpr std::size_t kWord = sizeof(std::uint64_t);
-  SipState state(key);
+  return key;
+}
+
+std::uint64_t hash_of(SipState state, std::string_view name) {
   const char* at = name.data();
   std::size_t left = name.size();
   for (; left >= kWord; left -= kWord, at += kWord) {
-    state.take(word_of(at, kWord));
+    state.take(word_of(at));
   }
   state.take(word_of(at, left) | (std::uint64_t{name.size()} << (8 * (kWord - 1))));
   state.c ^= 0xffU;
@@ -81,6 +98,16 @@ std::uint64_t name_hash(std::string_view name) {
   state.round();
   state.round();
   return state.a ^ state.b ^ state.c ^ state.d;
+}
+
+}  // namespace
+
+std::uint64_t name_hash(std::string_view name) { return hash_of(SipState(key_of_program()), name); }
+
+std::uint64_t name_hash(std::uint64_t owner, std::string_view name) {
+  SipState state(key_of_program());
+  state.take(owner);
+  return hash_of(state, name);
 }
 
 }  // namespace qel
