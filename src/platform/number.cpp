@@ -139,16 +139,17 @@ bool scan_short_decimal(const char*& at, double& value) {
   }
   const char* p = at;
   std::uint64_t digits = 0;
-  for (; is_digit(*p); ++p) {
-    digits = digits * 10 + static_cast<std::uint64_t>(*p - '0');
-  }
+  const auto take_digits = [&p, &digits] {
+    for (unsigned digit = 0; (digit = static_cast<unsigned char>(*p) - unsigned{'0'}) < 10U; ++p) {
+      digits = digits * 10 + digit;
+    }
+  };
+  take_digits();
   auto count = static_cast<std::size_t>(p - at);
   std::size_t after_point = 0;
   if (*p == '.') {
     const char* const fraction = ++p;
-    for (; is_digit(*p); ++p) {
-      digits = digits * 10 + static_cast<std::uint64_t>(*p - '0');
-    }
+    take_digits();
     after_point = static_cast<std::size_t>(p - fraction);
     count += after_point;
   }
@@ -156,7 +157,8 @@ bool scan_short_decimal(const char*& at, double& value) {
   if (count == 0 || count > kMostDigits || digits > kLargestExact || next == 'e' || next == 'x') {
     return false;
   }
-  value = static_cast<double>(digits) / kPowersOfTen[after_point];
+  const auto whole = static_cast<double>(static_cast<std::int64_t>(digits));
+  value = after_point == 0 ? whole : whole / kPowersOfTen[after_point];
   at = p;
   return true;
 }

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <random>
 
+#include "text/word.h"
+
 // SipHash with one round for each word and three at the end.
 
 namespace qel {
@@ -57,30 +59,6 @@ struct SipState {
   std::uint64_t a, b, c, d;
 };
 
-std::uint64_t byte_of(const char* bytes, std::size_t at) {
-  return std::uint64_t{static_cast<unsigned char>(bytes[at])} << (8 * at);
-}
-
-// Of the first four bytes, which the compiler reads at once.
-std::uint64_t half_of(const char* bytes) {
-  return byte_of(bytes, 0) | byte_of(bytes, 1) | byte_of(bytes, 2) | byte_of(bytes, 3);
-}
-
-constexpr std::size_t kHalf = 4;
-constexpr std::size_t kWord = sizeof(std::uint64_t);
-
-std::uint64_t word_of(const char* bytes) {
-  return half_of(bytes) | (half_of(bytes + kHalf) << (8 * kHalf));
-}
-
-// Of fewer bytes than a word has; what is read twice is the same. To copy them would be a call.
-std::uint64_t word_of(const char* bytes, std::size_t count) {
-  if (count >= kHalf) {
-    return half_of(bytes) | (half_of(bytes + count - kHalf) << (8 * (count - kHalf)));
-  }
-  return count == 0 ? 0 : byte_of(bytes, 0) | byte_of(bytes, count / 2) | byte_of(bytes, count - 1);
-}
-
 const HashKey& key_of_program() {
   static const HashKey key = drawn_key();
   return key;
@@ -89,10 +67,10 @@ const HashKey& key_of_program() {
 std::uint64_t hash_of(SipState state, std::string_view name) {
   const char* at = name.data();
   std::size_t left = name.size();
-  for (; left >= kWord; left -= kWord, at += kWord) {
+  for (; left >= kWordSize; left -= kWordSize, at += kWordSize) {
     state.take(word_of(at));
   }
-  state.take(word_of(at, left) | (std::uint64_t{name.size()} << (8 * (kWord - 1))));
+  state.take(word_of(at, left) | (std::uint64_t{name.size()} << (8 * (kWordSize - 1))));
   state.c ^= 0xffU;
   state.round();
   state.round();

@@ -61,6 +61,7 @@ class NameTable {
 
   [[nodiscard]] std::size_t size() const { return entries_.size(); }
   [[nodiscard]] Value& value(std::size_t position) { return entries_[position].value; }
+  [[nodiscard]] const Value& value(std::size_t position) const { return entries_[position].value; }
   [[nodiscard]] std::string_view name(std::size_t position) const {
     return {names_.data() + entries_[position].name_at, entries_[position].name_size};
   }

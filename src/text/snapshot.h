@@ -6,7 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "text/line_scanner.h"
 #include "text/name_table.h"
+#include "text/text.h"
 
 namespace qel {
 
@@ -30,6 +32,34 @@ class Snapshot {
   [[nodiscard]] std::optional<std::string_view> value(std::string_view section,
                                                       std::string_view key);
 
+  /// Hands each entry of the section, in the file's order, to `visit`: its key, and its line. False
+  /// where there is no such section.
+  template <class Visit>
+  bool visit_entries(std::string_view section, Visit visit) const {
+    const std::size_t found = sections_.position_of(HashedName(section));
+    if (found == kNone) {
+      return false;
+    }
+    LineScanner lines(contents_, sections_.value(found), may_hold_nul_);
+    for (Line line; lines.next(line) && !text::is_header(line.text);) {
+      if (const std::string_view key = text::first_token(line.text); !key.empty()) {
+        visit(key, line.text);
+      }
+    }
+    return true;
+  }
+
+  /// Hands a value to `use` as a text that ends with a NUL.
+  template <class Use>
+  void with_text(std::string_view value, Use use) {
+    if (value.empty()) {
+      use("");
+      return;
+    }
+    const Terminated text(contents_.data() + (value.data() - contents_.data()) + value.size());
+    use(value.data());
+  }
+
   struct Numbered {
     int number;
     std::string_view value;
@@ -52,6 +82,19 @@ class Snapshot {
   struct Sorted {
     std::uint64_t front;  // the key's first characters, which tell most keys apart
     std::size_t entry;
+  };
+
+  // A text in the contents ends there while this lives.
+  class Terminated {
+   public:
+    explicit Terminated(char* end) : end_(end), kept_(*end) { *end_ = '\0'; }
+    ~Terminated() { *end_ = kept_; }
+    Terminated(const Terminated&) = delete;
+    Terminated& operator=(const Terminated&) = delete;
+
+   private:
+    char* end_;
+    char kept_;
   };
 
   static constexpr std::size_t kNone = NameTable<std::int64_t>::kUnknown;
