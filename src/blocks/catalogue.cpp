@@ -82,8 +82,9 @@ constexpr std::size_t kKeyCount = [] {
 
 // The keys of all sections, and of each the first of its rows. What stands behind a number, and a
 // number behind a digit, is in no table.
+using KnownTable = KeyTable<kKeyCount>;
 struct KnownKeys {
-  KeyTable<kKeyCount> table;
+  KnownTable table;
   std::array<std::uint16_t, kKeyCount> row{};
   std::array<bool, kSections.size()> has_others{};
 };
@@ -93,7 +94,7 @@ consteval void check_apart(const KnownKeys& known, std::size_t section) {
   for (const KeyInfo& key : kSections[section]->keys) {
     const NumberedKey numbered = numbered_key(key.text);
     if (numbered.number >= 0 &&
-        known.table.find(section, numbered.prefix, true) != known.table.kNone) {
+        known.table.find(section, numbered.prefix, true) != KnownTable::kNone) {
       throw "a key that is another's number";
     }
   }
@@ -118,7 +119,7 @@ consteval KnownKeys known_keys() {
       const std::string_view prefix = pattern.prefix;
       if (pattern.is_numbered && prefix.ends_with('-') &&
           known.table.find(section, prefix.substr(0, prefix.size() - 1), true) !=
-              known.table.kNone) {
+              KnownTable::kNone) {
         throw "a key whose number has two signs";
       }
     }
@@ -167,7 +168,7 @@ const KeyInfo* find_key(const SectionInfo& section, std::string_view key, int& n
   if (owner == kSections.size() || kKnown.has_others[owner] || key.ends_with(kLowest)) {
     return find_row_by_row(section, key, number);
   }
-  constexpr std::size_t kNone = decltype(kKnown.table)::kNone;
+  constexpr std::size_t kNone = KnownTable::kNone;
   NumberedKey numbered = numbered_key(key);
   const auto position_of = [owner](const NumberedKey& wanted) {
     return kKnown.table.find(owner, wanted.prefix, true);

@@ -33,7 +33,8 @@ class LookupRoom {
 
  private:
   struct Glance {
-    Glance() {}  // nothing has to be written before it is read
+    // Nothing is written there before it is read; a default constructor would be asked for zeros.
+    Glance() {}  // NOLINT(modernize-use-equals-default)
     char text[kGlance];
   };
   std::variant<Glance, LineScanner> kept_;

@@ -206,8 +206,8 @@ class SectionLoad {
 };
 
 template <class Object, std::size_t count>
-void load_section(CQELPROReader_Manipulator* from, std::string_view section,
-                  const LoadPlan<count>& plan, Object& object) {
+void load_section(CQELPROReader_Manipulator* from, const char* section, const LoadPlan<count>& plan,
+                  Object& object) {
   SectionLoad<Object>(loading(from), object).load(section, plan);
 }
 

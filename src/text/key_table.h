@@ -117,7 +117,7 @@ class KeyTable {
     constexpr int kRotated = 29;
     const std::uint64_t mixed =
         (key.first ^ std::rotl(key.last, kRotated) ^ (key.kind * kOdd)) * kOdd;
-    std::size_t slot = static_cast<std::size_t>(mixed >> (64 - std::countr_zero(kSlots)));
+    auto slot = static_cast<std::size_t>(mixed >> (64 - std::countr_zero(kSlots)));
     while (slots_[slot] != 0 && !is(slots_[slot] - std::size_t{1}, key, text)) {
       slot = (slot + 1) % kSlots;
     }
