@@ -26,13 +26,13 @@ src/platform
 src/text platform
 src/core text platform
 src/blocks core text platform qelg
-src/objects
+src/objects platform
 src/api objects blocks core text platform refdata
 src/process objects blocks core text platform qelg
 src/proio objects blocks text platform
 src/refdata objects text platform
 src/qelg
-tools/system text
+tools/system text platform
 tools/json system
 tools/file blocks text platform system json
 tools/check file blocks proio text platform system json

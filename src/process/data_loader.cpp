@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
@@ -22,6 +23,7 @@
 #include "blocks/mold_thermal_boundary_type.h"
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
+#include "objects/attempt.h"
 #include "platform/number.h"
 #include "process/functions.h"
 #include "process/steps.h"
@@ -70,7 +72,13 @@ struct Convert {
     set(object, static_cast<unsigned int>(integer_of(key, text)));
   }
   void operator()(void (*set)(Object&, double)) const { set(object, platform::to_real(text)); }
-  void operator()(void (*set)(Object&, const char*)) const { set(object, text); }
+  void operator()(const TextItem<Object>& item) const {
+    item.set(object, text);
+    const char* kept = nullptr;
+    if (!item.get(object, kept) || std::strcmp(kept, text) != 0) {
+      throw std::bad_alloc();
+    }
+  }
 };
 
 // A list that found no memory for a point says so; no process rather than one that lacks it.
@@ -238,11 +246,14 @@ void CQELProcessData_Manipulator::Dispose() {
 const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
     const char* path) {
   Dispose();
-  try {
+  std::unique_ptr<QELG_SimulatorProcess> process;
+  const bool whole = attempt([&] {
     reader_ = new LoadingReader;
-    std::unique_ptr<QELG_SimulatorProcess> process;
     if (path != nullptr && file_of(reader_).load(path)) {
       process = std::make_unique<QELG_SimulatorProcess>();
+      if (process->data() == nullptr) {
+        throw std::bad_alloc();
+      }
       LoadCAEHeader(*process);
       LoadSummary(*process);
       LoadFlowCTL(*process);
@@ -252,12 +263,10 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
       DetermineInletCount(*process);
       LoadInlets(*process);
     }
-    Dispose();
-    return process.release();
-  } catch (...) {
-    Dispose();
-    return nullptr;
-  }
+    return true;
+  });
+  Dispose();
+  return whole ? process.release() : nullptr;
 }
 
 void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& process) {

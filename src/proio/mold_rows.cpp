@@ -28,8 +28,8 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
   const Words words(text);
   if (words.count() <= 2 * kNumbersOnEachSide + 1) {
     char* parsed = nullptr;
-    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0],
-                mechanical[1], mechanical[2]);
+    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, &Scratch::mold_metal_name},
+                mechanical[0], mechanical[1], mechanical[2]);
     return true;
   }
   const std::size_t after_name = words.count() - kNumbersOnEachSide;

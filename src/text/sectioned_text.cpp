@@ -53,7 +53,8 @@ LineKind kind_of(const TextLine& line) {
   if (seen.front() == ';' || seen.front() == '#' || seen.substr(0, 2) == "//") {
     return LineKind::comment;
   }
-  if (text::first_token(seen).empty()) {
+  // A carriage return that ends no line is in the way of a key as a blank in front of it is.
+  if (!text::is_findable(text::first_token(seen))) {
     return LineKind::indented;
   }
   return seen.find('=') == std::string_view::npos ? LineKind::without_equals : LineKind::entry;

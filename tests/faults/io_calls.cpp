@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstddef>
@@ -21,6 +22,20 @@ struct Plan {
   Outcome outcome;
 };
 thread_local Plan plan;
+
+constexpr std::size_t kPage = 4096;
+int pages_left = -1;  // none are counted
+
+// How many of the bytes go into the first page that a write touches.
+std::size_t part_in_page(std::size_t count, off_t offset) {
+  return std::min(count, kPage - static_cast<std::size_t>(offset) % kPage);
+}
+
+void count_page() {
+  if (pages_left-- == 0) {
+    ::_exit(1);
+  }
+}
 
 // Whether this call is to fail, or to write less.
 bool is_chosen(const char* name) {
@@ -53,6 +68,8 @@ Function* next(const char* name) {
 }
 
 }  // namespace
+
+void end_after_pages(int pages) { pages_left = pages; }
 
 void fail(int n, Failure failure) { plan = {true, n, failure, false, {}}; }
 
@@ -100,6 +117,19 @@ VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
 
 VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
+  if (pages_left >= 0) {
+    const char* bytes = static_cast<const char*>(from);
+    for (std::size_t done = 0; done < count;) {
+      const off_t at = offset + static_cast<off_t>(done);
+      const std::size_t part = part_in_page(count - done, at);
+      count_page();
+      if (real(fd, bytes + done, part, at) != static_cast<ssize_t>(part)) {
+        return -1;
+      }
+      done += part;
+    }
+    return static_cast<ssize_t>(count);
+  }
   if (plan.next_write_fails) {
     plan.next_write_fails = false;
     ++plan.outcome.calls;
@@ -145,6 +175,17 @@ VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count
                            std::FILE* stream) {
   static auto* const real =
       next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
+  if (pages_left >= 0) {
+    const char* bytes = static_cast<const char*>(from);
+    for (std::size_t done = 0; done < size * count;) {
+      const std::size_t part = part_in_page(size * count - done, ::ftello(stream));
+      count_page();
+      real(bytes + done, 1, part, stream);
+      std::fflush(stream);
+      done += part;
+    }
+    return count;
+  }
   if (is_chosen("fwrite") && plan.failure != Failure::interrupted) {
     plan.outcome.failed = true;
     errno = ENOSPC;

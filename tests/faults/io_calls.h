@@ -16,6 +16,10 @@ enum class Failure {
 /// From now on the n-th call (from 1) of this thread fails.
 void fail(int n, Failure failure);
 
+/// The process ends in the middle of a write once so many pages were written, as one does that is
+/// killed: a page of 4096 bytes is written whole or not at all.
+void end_after_pages(int pages);
+
 struct Outcome {
   int calls = 0;        ///< How many there were.
   bool failed = false;  ///< Whether the failure came about.

@@ -53,6 +53,25 @@ TEST(Export, OfTheImportedPlainFormIsTheSame) {
   }
 }
 
+TEST(Export, OfATextEndsItWhereTheEngineDoes) {
+  const SectionedText document(std::string("[FileHeader]\nRemark = a b\t\0c\n", 29));
+  EXPECT_EQ(plain_form(Entries(document)), Json({{"FileHeader", {{"Remark", "a b"}}}}));
+}
+
+TEST(Export, HasNoEntryThatNoLookupFinds) {
+  const SectionedText document("[Flow-1]\nFill\rTime = 1\nFillTime = 2\n");
+  EXPECT_EQ(json_text(plain_form(Entries(document))),
+            "{\n  \"Flow-1\": {\n    \"FillTime\": 2.0\n  }\n}");
+}
+
+TEST(Export, NamesASectionOfTwoBracketsAsItIs) {
+  const SectionedText document("[[A]]\nx = 1\n");
+  const Json form = plain_form(Entries(document));
+  EXPECT_EQ(form, Json({{"[[A]]", {{"x", "1"}}}}));
+  const SectionedText made(contents_of("form", form));
+  EXPECT_EQ(plain_form(Entries(made)), form);
+}
+
 TEST(Export, ExactFormsHoldEveryByte) {
   const Scratch scratch;
   std::mt19937 random(7);

@@ -32,6 +32,12 @@ Json lines_of(const SectionedText& document, const TextSection& section,
   return lines;
 }
 
+// A section is named without its brackets, but for one whose name would stand in brackets then.
+std::string name_in_form(std::string_view header) {
+  const std::string_view name = without_brackets(header);
+  return std::string(with_brackets(name) == header ? name : header);
+}
+
 [[noreturn]] void refuse(const std::string& name, const std::string& what) {
   throw Failure(kFileError, at(name, what));
 }
@@ -136,7 +142,7 @@ Json plain_form(const Entries& entries) {
         append_member(keys, entry.key, json_of(typed, entry.value));
       }
     }
-    append_member(form, std::string(without_brackets(section.name)), std::move(keys));
+    append_member(form, name_in_form(section.name), std::move(keys));
   }
   return form;
 }

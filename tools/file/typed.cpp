@@ -183,7 +183,9 @@ void read_typed(const qel::SectionInfo* section, std::string_view key, std::stri
   typed.number = reading.number;
   typed.unread = std::move(reading.unread);
   if (typed.key != nullptr && typed.fields.empty()) {
-    typed.fields = typed.key->encoding->fields(std::string(value).c_str(), typed.number);
+    // Behind a NUL byte nothing is read, and then blanks in front of it trail the value.
+    const std::string text(qel::text::index_value(value.substr(0, value.find('\0'))));
+    typed.fields = typed.key->encoding->fields(text.c_str(), typed.number);
   }
 }
 
