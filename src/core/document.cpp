@@ -9,6 +9,7 @@
 using qel::Entry;
 using qel::Line;
 using qel::LineScanner;
+using qel::LookupRoom;
 using qel::Result;
 using qel::Store;
 using qel::Target;
@@ -18,9 +19,9 @@ using qel::platform::RandomAccess;
 
 namespace {
 
-Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target,
+Result deliver(bool failed, const std::optional<Line>& line, const Target& target,
                const ValueBuffer& value) {
-  if (lines.failed()) {
+  if (failed) {
     return Result::no_open;
   }
   // A line on the file's first byte counts as not found; only a lookup by index that resumes at a
@@ -225,25 +226,23 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
 }
 
 qel::Result CQELPROIO::LookUp(const Target& target, const ValueBuffer& value) {
+  LookupRoom room;
+  if (indexed_ && file_.is_open()) {
+    if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
+      index_.forget();
+      seen_changes_ = changes;
+    }
+    const std::optional<Line> line = find_indexed(file_, target, index_, room);
+    return deliver(room.failed(), line, target, value);
+  }
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
     return chosen;
   }
-  std::optional<LineScanner> lines;
-  std::optional<Line> line;
-  if (indexed_) {
-    if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
-      index_.forget();
-      seen_changes_ = changes;
-    }
-    line = find_indexed(*file, target, index_, lines);
-  } else {
-    lines.emplace(*file, 0);
-    line = find_plainly(*lines, target);
-  }
-  return deliver(*lines, line, target, value);
+  const std::optional<Line> line = find_plainly(room.scan(*file, 0), target);
+  return deliver(room.failed(), line, target, value);
 }
 
 // Runs work on the lines after the section's first header. What is absent because the file could
@@ -298,13 +297,15 @@ qel::Result CQELPROIO::ReadOnce(std::string_view section, std::string_view key,
       return Result::no_open;
     }
     LineScanner lines(file, 0);
-    return deliver(lines, find_in_section(lines, target), target, value);
+    const std::optional<Line> line = find_in_section(lines, target);
+    return deliver(lines.failed(), line, target, value);
   }
   if (!holds_file()) {
     return Result::no_file;
   }
   LineScanner lines(held(), 0);
-  return deliver(lines, find_plainly(lines, target), target, value);
+  const std::optional<Line> line = find_plainly(lines, target);
+  return deliver(lines.failed(), line, target, value);
 }
 
 qel::Result CQELPROIO::SetValue(std::string_view section, std::string_view key,

@@ -128,6 +128,7 @@ void check_made(const std::string& name, const std::string& contents,
 Json plain_form(const Entries& entries) {
   const SectionedText& document = entries.document();
   Json form = Json::object();
+  TypedValue typed;
   for (const TextSection& section : document.sections()) {
     if (section.repeated) {
       continue;
@@ -137,7 +138,8 @@ Json plain_form(const Entries& entries) {
       append_member(keys, kLines, lines_of(document, section, entries.of(section)));
     } else {
       for (const FileEntry& entry : entries.of(section)) {
-        append_member(keys, entry.key, json_of(entries, entry));
+        read_typed(entries, entry, typed);
+        append_member(keys, entry.key, json_of(typed, entry.value));
       }
     }
     append_member(form, name_in_form(section.name), std::move(keys));
