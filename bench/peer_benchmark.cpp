@@ -12,8 +12,11 @@
 #include <fstream>
 #include <random>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "file/entries.h"
+#include "file/typed.h"
 #include "generated_file.h"
 #include "peers.h"
 
@@ -134,6 +137,28 @@ void one_system_call_a_key(benchmark::State& state) {
     }
   }
   ::close(descriptor);
+}
+
+// The file read once and every entry of it typed, as an export, a check or a table does it.
+void engine_one_pass(benchmark::State& state) {
+  const GeneratedFile file(static_cast<int>(state.range(0)));
+  const std::size_t asked = questions_of(static_cast<int>(state.range(0))).size();
+  for (auto _ : state) {
+    const qelpro::SectionedText document = qelpro::load_document(file.path());
+    const qelpro::Entries entries(document);
+    qelpro::TypedValue typed;
+    double sum = 0;
+    for (const qelpro::FileEntry& entry : entries.all()) {
+      qelpro::read_typed(entries, entry, typed);
+      for (const qel::Field& field : typed.fields) {
+        const double* const real = std::get_if<double>(&field);
+        const int* const integer = std::get_if<int>(&field);
+        sum += real != nullptr ? *real : integer != nullptr ? *integer : 0;
+      }
+    }
+    require(entries.all().size() > asked);
+    benchmark::DoNotOptimize(sum);
+  }
 }
 
 template <class Peer, bool shuffled>
@@ -260,6 +285,7 @@ BENCHMARK(peer_new_keys<GLibPeer>)->Name("new_keys/GLib")->Apply(counts);
   BENCHMARK(peer_every_key<InihPeer, shuffled>)->Name(name "/inih")->Apply(sizes)
 
 EVERY_KEY("every_key_in_order", false);
+BENCHMARK(engine_one_pass)->Name("every_key_in_order/one_pass")->Apply(sizes);
 EVERY_KEY("every_key_shuffled", true);
 
 }  // namespace

@@ -58,4 +58,12 @@ void fail(const std::string& message) {
   std::abort();
 }
 
+void fail(std::initializer_list<std::string_view> parts) {
+  std::string message;
+  for (const std::string_view part : parts) {
+    message += part;
+  }
+  fail(message);
+}
+
 }  // namespace qelpro_fuzz

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -18,5 +19,6 @@ inline std::string_view text_of(const std::uint8_t* data, std::size_t size) {
 
 /// Ends the run with a message, so that the input is kept.
 [[noreturn]] void fail(const std::string& message);
+[[noreturn]] void fail(std::initializer_list<std::string_view> parts);
 
 }  // namespace qelpro_fuzz

@@ -74,7 +74,7 @@ class Build:
         self.folder = folder.resolve()
         self.compile = {pathlib.Path(entry["file"]): shlex.split(entry["command"])
                         for entry in json.loads((self.folder / "compile_commands.json").read_text())
-                        if "engine_objects" in entry["command"]}
+                        if re.search("(engine|inside)_objects", entry["command"])}
 
     def link_command(self, target, real):
         commands = subprocess.run(["ninja", "-t", "commands", target], cwd=self.folder, check=True, capture_output=True, text=True).stdout

@@ -10,6 +10,9 @@
 #include "QELG/items.h"
 
 /// One melt inlet's flow control, filling, packing and curing.
+///
+/// Making one throws nothing. Where there is no memory for what it holds, setters store nothing,
+/// and the lists to fill are null, until there is some.
 class QELG_API QELG_SimulatorFlowPackProcess {
  public:
   QELG_SimulatorFlowPackProcess();
@@ -48,16 +51,20 @@ class QELG_API QELG_SimulatorFlowPackProcess {
   const QELG_Array<double>* GetPackingPressureTimeConstants() const;
 
   struct Data;
-  /// What the object holds, which the library alone knows; items have setters and getters.
-  Data& data() { return *data_; }
+  /// What the object holds, which the library alone knows; items have setters and getters. Null
+  /// where there is no memory for it, which is asked for again with each call.
+  Data* data();
   /// The same, to look at.
-  const Data& data() const { return *data_; }
+  const Data* data() const { return data_.get(); }
 
  private:
   std::unique_ptr<Data> data_;
 };
 
 /// A whole run: its inlets, numbered from 0 here, the machine and what holds for all inlets.
+///
+/// Making one throws nothing. Where there is no memory for what it holds, setters store nothing,
+/// and the lists to fill are null, until there is some.
 class QELG_API QELG_SimulatorProcess {
  public:
   QELG_SimulatorProcess();
@@ -68,7 +75,8 @@ class QELG_API QELG_SimulatorProcess {
   /// So many inlets a process has at most.
   static constexpr unsigned int kMostInlets = 4096;
 
-  /// Adds an inlet after the last one; the process owns it. Null once there are `kMostInlets`.
+  /// Adds an inlet after the last one; the process owns it. Null once there are `kMostInlets`, and
+  /// where there is no memory for it.
   QELG_SimulatorFlowPackProcess* AppendFlowPackProcess();
   /// How many inlets there are.
   unsigned int GetNumOfInlets() const;
@@ -87,10 +95,11 @@ class QELG_API QELG_SimulatorProcess {
   const QELG_Array<double>* GetInjectionPressureRamPosition() const;
 
   struct Data;
-  /// What the object holds, which the library alone knows; items have setters and getters.
-  Data& data() { return *data_; }
+  /// What the object holds, which the library alone knows; items have setters and getters. Null
+  /// where there is no memory for it, which is asked for again with each call.
+  Data* data();
   /// The same, to look at.
-  const Data& data() const { return *data_; }
+  const Data* data() const { return data_.get(); }
 
  private:
   std::unique_ptr<Data> data_;

@@ -5,8 +5,9 @@
 #include "QELPROEngine/export.h"
 
 namespace qel::proio {
+class Buffer;
 struct Row;
-}
+}  // namespace qel::proio
 
 /// Reads and writes one process file, key by key: an older interface to the file that
 /// CQELPROReader_Manipulator and CQELPROWriter_Manipulator serve, complete in itself. Files written
@@ -124,7 +125,8 @@ class QELPROENGINE_API CPROIO_Manipulator {
 
   /// Writes the default document: headers, counts, units and the filling stage of one inlet, with a
   /// "FileVersion" of 1008. Entries that exist are replaced, the others are added, and all else in
-  /// the file stays.
+  /// the file stays. Where the file does not take an entry, those after it are left; false, too,
+  /// where memory is missing.
   bool SetDefault();
 
   // [FileHeader]: what the file is, who wrote it and when.
@@ -1599,11 +1601,12 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool Set(const qel::proio::Row& row, Values... values);
   bool GetFlag(const qel::proio::Row& row, bool& flag);
 
-  static bool GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& record);
+  static bool GetMoldMetal(const char* text, qel::proio::Buffer& name,
+                           QELPRO_MMM_MECHANICAL& record);
   static bool GetBC(const char* text, int& count, char*& name, int& type);
   bool SetCoefficient(const qel::proio::Row& row, double value);
-  bool GetMoldRow(const qel::proio::Row& row, double& first, double& second, double& third,
-                  char*& name);
+  bool GetMoldRow(const qel::proio::Row& row, qel::proio::Buffer& buffer, double& first,
+                  double& second, double& third, char*& name);
   bool SetMoldRow(const qel::proio::Row& row, const QELPRO_MMM_MECHANICAL& record);
   bool ReadBC(long long line, char*& text);
   bool WriteBC(long long line, const char* text);

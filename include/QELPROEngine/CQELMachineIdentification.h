@@ -33,8 +33,9 @@ class QELPROENGINE_API CQELMachineIdentification {
   void SetIdentificationPath(const wchar_t* path);
 
   /// Forgets the machines and reads the bank. False when no path is set, when the file cannot be
-  /// opened (no machine is left then), or when a line with "TotalNo" stands after the header (the
-  /// machines before it stay). A bank of another version loads, and holds no machine.
+  /// opened or read to its end (no machine is left then), or when a line with "TotalNo" stands
+  /// after the header (the machines before it stay). A bank of another version loads, and holds no
+  /// machine.
   bool LoadFileData();
 
   /// How many makers the bank lists; 0 before it was loaded.

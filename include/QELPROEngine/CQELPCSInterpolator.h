@@ -25,7 +25,7 @@ class QELPROENGINE_API CQELPCSInterpolator {
   ~CQELPCSInterpolator();
 
   /// Takes the tables of a file in the place of those loaded before. False when it cannot be
-  /// opened; no table is left then.
+  /// opened or read to its end; no table is left then.
   bool LoadDataFromFile(const char* path);
 
   /// The four properties at an argument: linear between two rows, the first or last row's outside

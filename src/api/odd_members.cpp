@@ -31,9 +31,21 @@ void CQELPROWriter_Manipulator::WriteUnitBlock() {
 
 namespace {
 
-const char* control_point(int control) {
-  return control == cool_channel_x::kControlByPressure ? key_of(cool_channel_x::kKeys, "TCPP-%d")
-                                                       : key_of(cool_channel_x::kKeys, "TCP-%d");
+// A key that is not there counts as 0. Where it could not be looked for, the point would be that of
+// the other list.
+template <class Control, class Channel, class... Values>
+bool read_control_point(Session* session, const char* control_key, Place place, Values&... values) {
+  return done_by<Channel>(session, [&](Channel& channel) {
+    int control = 0;
+    const Result found = session->block<Control>().template Read<Integer>(control_key, {}, control);
+    if (found != Result::done && found != Result::absent) {
+      return found;
+    }
+    const char* const key = control == cool_channel_x::kControlByPressure
+                                ? key_of(cool_channel_x::kKeys, "TCPP-%d")
+                                : key_of(cool_channel_x::kKeys, "TCP-%d");
+    return channel.template Read<ControlPoint>(key, place, values...);
+  });
 }
 
 }  // namespace
@@ -42,20 +54,16 @@ bool CQELPROReader_Manipulator::CoolChannelX_ReadControlPointSetting(double& f1,
                                                                      double& temperature,
                                                                      double& flow, int& f5,
                                                                      int point, int channel) {
-  int control = 0;
-  Cool_ReadControlType(control);
-  return read<CQELPROBlockIOCoolChannelX, ControlPoint>(session_, control_point(control),
-                                                        at_point(point, channel), f1, system,
-                                                        temperature, flow, f5);
+  return read_control_point<CQELPROBlockIOCool, CQELPROBlockIOCoolChannelX>(
+      session_, key_of(cool::kKeys, "ControlType"), at_point(point, channel), f1, system,
+      temperature, flow, f5);
 }
 
 bool CQELPROReader_Manipulator::MoldPreheat_CoolChannelX_ReadControlPointSetting(
     double& f1, int& system, double& temperature, double& flow, int& f5, int point, int channel) {
-  int control = 0;
-  Cool_ReadMoldPreheat_ControlType(control);
-  return read<CQELPROBlockIOMoldPreHeatCoolChannelX, ControlPoint>(session_, control_point(control),
-                                                                   at_point(point, channel), f1,
-                                                                   system, temperature, flow, f5);
+  return read_control_point<CQELPROBlockIOMoldPreHeat, CQELPROBlockIOMoldPreHeatCoolChannelX>(
+      session_, key_of(mold_preheat::kKeys, "ControlType"), at_point(point, channel), f1, system,
+      temperature, flow, f5);
 }
 
 // [GateValve-%d]

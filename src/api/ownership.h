@@ -10,11 +10,12 @@ namespace qel {
 /// Null when there is no memory for one.
 template <class Kind>
 Kind* make_session() {
-  try {
-    return new Kind;
-  } catch (...) {
-    return nullptr;
-  }
+  Kind* session = nullptr;
+  attempt([&session] {
+    session = new Kind;
+    return true;
+  });
+  return session;
 }
 
 template <class Path>

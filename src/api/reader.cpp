@@ -11,14 +11,18 @@ namespace {
 // A size of 0 says nothing of the buffer's.
 constexpr std::size_t kAnySize = std::numeric_limits<std::size_t>::max();
 
-// A failing read leaves the caller's pointer alone.
+// Reads into the caller's buffer, or into the thread's where there is none. A failing read leaves
+// the caller's pointer alone.
 template <class Read>
-bool hand_out(const ValueBuffer& room, char*& value, Read read) {
-  const bool done = qel::attempt(read);
-  if (done) {
+bool hand_out(char* buffer, std::size_t size, ValueBuffer (*of_thread)(), char*& value, Read read) {
+  return qel::attempt([&] {
+    const ValueBuffer room = buffer != nullptr ? ValueBuffer{buffer, size} : of_thread();
+    if (!read(room)) {
+      return false;
+    }
     value = room.text;
-  }
-  return done;
+    return true;
+  });
 }
 
 }  // namespace
@@ -80,8 +84,7 @@ bool CQELPROReader_Manipulator::ReadString(const char* section, const char* key,
   if (raw_reads_disabled_ != 0 || session_ == nullptr) {
     return false;
   }
-  const auto room = buffer != nullptr ? ValueBuffer{buffer, size} : ValueBuffer::of_thread();
-  return hand_out(room, value, [&] {
+  return hand_out(buffer, size, &ValueBuffer::of_thread, value, [&](const ValueBuffer& room) {
     return session_->document().ReadOnce(qel::name_of(section), qel::name_of(key), room) ==
            qel::Result::done;
   });
@@ -92,9 +95,9 @@ bool CQELPROReader_Manipulator::ReadValue(const char* section, const char* key, 
   if (raw_reads_disabled_ != 0 || session_ == nullptr || section == nullptr || key == nullptr) {
     return false;
   }
-  const auto room = buffer != nullptr ? ValueBuffer{buffer, size != 0 ? size : kAnySize}
-                                      : ValueBuffer::of_thread_for_scans();
-  return hand_out(room, value, [&] {
-    return session_->document().ScanValue(session_->document().own_path(), section, key, room);
-  });
+  const std::size_t room_size = size != 0 ? size : kAnySize;
+  return hand_out(
+      buffer, room_size, &ValueBuffer::of_thread_for_scans, value, [&](const ValueBuffer& room) {
+        return session_->document().ScanValue(session_->document().own_path(), section, key, room);
+      });
 }

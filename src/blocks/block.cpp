@@ -7,17 +7,30 @@
 using qel::NumberedName;
 using qel::Result;
 
-NumberedName::NumberedName(std::string_view pattern, int number) {
-  const std::size_t percent = pattern.find('%');
-  const std::size_t letter =
-      percent == std::string_view::npos ? percent : pattern.find('d', percent);
-  const bool has_place = letter != std::string_view::npos;
-  char* end = text_ + pattern.copy(text_, has_place ? percent : kLongestPattern);
-  if (has_place) {
-    end = std::to_chars(end, end + kNumber, number).ptr;
-    end += pattern.copy(end, kLongestPattern - letter, letter + 1);
+// Walks over the few characters of a pattern: to search and copy its parts one by one costs a call
+// for each. A text without a place for a number is handed on where it stands.
+NumberedName::NumberedName(std::string_view pattern, int number)
+    : name_(pattern.substr(0, kLongestPattern)) {
+  const char* at = name_.data();
+  const char* const after = at + name_.size();
+  char* end = text_;
+  for (; at != after && *at != '%'; ++at) {
+    *end++ = *at;
   }
-  size_ = static_cast<std::size_t>(end - text_);
+  for (; at != after && *at != 'd'; ++at) {
+  }
+  if (at == after) {
+    return;
+  }
+  if (number >= 0 && number <= 9) {
+    *end++ = static_cast<char>('0' + number);
+  } else {
+    end = std::to_chars(end, end + kNumber, number).ptr;
+  }
+  for (++at; at != after; ++at) {
+    *end++ = *at;
+  }
+  name_ = {text_, static_cast<std::size_t>(end - text_)};
 }
 
 void CQELPROBlockIOBase::SetSectionName(const char* name) {

@@ -12,21 +12,23 @@
 namespace qel {
 
 /// The name of a section or a key: the number stands in the place of the pattern's "%d" or "%ld"; a
-/// text without one stays as it is.
+/// text without one stays as it is. The pattern outlives the name.
 class NumberedName {
  public:
   static constexpr std::size_t kLongestPattern = 255;
 
   NumberedName(std::string_view pattern, int number);
+  NumberedName(const NumberedName&) = delete;
+  NumberedName& operator=(const NumberedName&) = delete;
 
-  [[nodiscard]] std::string_view str() const { return {text_, size_}; }
+  [[nodiscard]] std::string_view str() const { return name_; }
 
  private:
   static constexpr std::size_t kNumber = 11;
 
   // Each reading member makes two: on the stack, without a need of memory.
   char text_[kLongestPattern + kNumber];
-  std::size_t size_;
+  std::string_view name_;
 };
 
 }  // namespace qel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "blocks/key.h"
 
 namespace qel {
@@ -12,9 +14,9 @@ struct Catalogue {
 
 /// The section whose name this is; where the name is a pattern, its number is handed out, and
 /// otherwise 0. Null for a section that is not known.
-const SectionInfo* find_section(const char* name, int& number);
+const SectionInfo* find_section(std::string_view name, int& number);
 
 /// The key of that text, in the same way. Of several encodings of one key it is the first.
-const KeyInfo* find_key(const SectionInfo& section, const char* key, int& number);
+const KeyInfo* find_key(const SectionInfo& section, std::string_view key, int& number);
 
 }  // namespace qel

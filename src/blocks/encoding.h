@@ -16,8 +16,9 @@
 ///
 /// `Values` are the types that `scan` sets, and `kArguments` how members name them; `Written` and
 /// `kWrittenArguments` are those of `print` where they differ. `kReading` and `kWriting` say in
-/// sentences what a caller of such a member should know. `kLimit` is the size of the text buffer
-/// that the format allows, terminator included; a longer text is not stored.
+/// sentences what a caller of such a member should know. `kIsPlain` marks those that read numbers
+/// with blanks between them, and nothing else. `kLimit` is the size of the text buffer that the
+/// format allows, terminator included; a longer text is not stored.
 namespace qel {
 
 inline constexpr std::size_t kScalarLimit = 4096;
@@ -26,6 +27,7 @@ inline constexpr std::size_t kCompoundLimit = 256;
 /// "%d"
 struct Integer {
   static constexpr const char* kName = "integer";
+  static constexpr bool kIsPlain = true;
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<int>;
   static constexpr Argument kArguments[] = {{"value", "the value"}};
@@ -36,6 +38,7 @@ struct Integer {
 /// "%lf", written "%g"
 struct Real {
   static constexpr const char* kName = "real";
+  static constexpr bool kIsPlain = true;
   static constexpr std::size_t kLimit = kScalarLimit;
   using Values = std::tuple<double>;
   static constexpr Argument kArguments[] = {{"value", "the value"}};
@@ -56,6 +59,7 @@ struct Text {
 /// "%d %d"; clears its outputs.
 struct IntegerPair {
   static constexpr const char* kName = "integer pair";
+  static constexpr bool kIsPlain = true;
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<int, int>;
   static constexpr Argument kArguments[] = {{"first", "the first code"},
@@ -82,6 +86,7 @@ struct FirstOfIntegerPair {
 /// "%lf %lf", written "%g\t%g": a profile point, x before y.
 struct RealPair {
   static constexpr const char* kName = "real pair";
+  static constexpr bool kIsPlain = true;
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double>;
   static constexpr Argument kArguments[] = {{"x", "x"}, {"y", "y"}};
@@ -92,6 +97,7 @@ struct RealPair {
 /// "%lf %lf %lf", written "%g\t%g\t%g"
 struct RealTriple {
   static constexpr const char* kName = "real triple";
+  static constexpr bool kIsPlain = true;
   static constexpr std::size_t kLimit = kCompoundLimit;
   using Values = std::tuple<double, double, double>;
   static constexpr Argument kArguments[] = {{"x", "x"}, {"y", "y"}, {"z", "z"}};

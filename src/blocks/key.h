@@ -40,7 +40,18 @@ struct EncodingInfo {
   const char* writing;
   /// The fields of a text as a reading member gives them.
   std::vector<Field> (*fields)(const char* text, int number);
+  /// The same of a text that is as plain as most; false for any other. Null where none is.
+  bool (*plain_fields)(const char* text, std::vector<Field>& fields);
 };
+
+template <class Encoding>
+constexpr auto plain_fields() -> bool (*)(const char*, std::vector<Field>&) {
+  if constexpr (requires { Encoding::kIsPlain; }) {
+    return &plain_fields_of<Encoding>;
+  } else {
+    return nullptr;
+  }
+}
 
 template <class Encoding>
 constexpr auto written_arguments() {
@@ -73,9 +84,14 @@ template <class Encoding>
 struct EncodingRow {
   static constexpr auto kRead = field_arguments<typename Encoding::Values>(Encoding::kArguments);
   static constexpr auto kWritten = written_arguments<Encoding>();
-  static constexpr EncodingInfo kInfo{
-      type_name<Encoding>(),  Encoding::kName,     kRead, kWritten, reading_of<Encoding>(),
-      writing_of<Encoding>(), &fields_of<Encoding>};
+  static constexpr EncodingInfo kInfo{type_name<Encoding>(),
+                                      Encoding::kName,
+                                      kRead,
+                                      kWritten,
+                                      reading_of<Encoding>(),
+                                      writing_of<Encoding>(),
+                                      &fields_of<Encoding>,
+                                      plain_fields<Encoding>()};
 };
 
 /// One key of a section as everything but its encoding sees it: the members, the tool and the

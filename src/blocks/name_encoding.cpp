@@ -3,8 +3,8 @@
 #include <cstring>
 #include <string_view>
 
-#include "blocks/name_buffer.h"
 #include "blocks/words.h"
+#include "text/thread_buffers.h"
 
 namespace qel {
 namespace {
@@ -128,7 +128,7 @@ void scan_insert_of_four(const char* text, NameBuffer& buffer, int insert, int& 
 
 void CoolantLine::scan(const char* text, double& p1, double& p2, double& p3, double& p4,
                        int& system, char*& name, double& f7, int& f8) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().coolant;
   fields::clear(p1, p2, p3, p4, system, name, f7, f8);
   std::string word;
   fields::scan(text, p1, p2, p3, p4, system, word, f7, f8);
@@ -139,18 +139,18 @@ void CoolantLine::scan(const char* text, double& p1, double& p2, double& p3, dou
 
 void MoldbaseLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name,
                         double& f5, double& f6, double& f7) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().moldbase;
   scan_material(text, buffer, f1, f2, f3, name, f5, f6, f7);
 }
 
 void MoldMetalLine::scan(const char* text, double& f1, double& f2, double& f3, char*& name,
                          double& f5, double& f6, double& f7) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().mold_metal;
   scan_material(text, buffer, f1, f2, f3, name, f5, f6, f7);
 }
 
 void IntegerAndQuotedName::scan(const char* text, int& number, char*& name) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().quoted;
   number = 0;
   fields::scan(text, number);
   const std::string_view whole(text);
@@ -161,24 +161,24 @@ void IntegerAndQuotedName::scan(const char* text, int& number, char*& name) {
 }
 
 void PartInsertLine::scan(const char* text, int& id, char*& name, double& temperature) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().part_insert;
   scan_insert(text, buffer, id, name, temperature);
 }
 
 void MoldInsertLine::scan(const char* text, int& id, char*& name, double& temperature) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().mold_insert;
   scan_insert(text, buffer, id, name, temperature);
 }
 
 void PartInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name,
                                 double& temperature, int& fourth) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().part_insert_of_four;
   scan_insert_of_four(text, buffer, insert, id, name, temperature, fourth);
 }
 
 void MoldInsertLineOfFour::scan(const char* text, int insert, int& id, char*& name,
                                 double& temperature, int& fourth) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().mold_insert_of_four;
   scan_insert_of_four(text, buffer, insert, id, name, temperature, fourth);
 }
 

@@ -2,13 +2,13 @@
 
 #include <string_view>
 
-#include "blocks/name_buffer.h"
 #include "blocks/words.h"
+#include "text/thread_buffers.h"
 
 namespace qel {
 
 void PositionalHeader::scan(const char* text, int& first, char*& name, int& second) {
-  thread_local NameBuffer buffer;
+  NameBuffer& buffer = thread_buffers().boundary_condition;
   constexpr const char* kSeparators = " \t\n";
   fields::clear(first, second);
   const std::vector<std::string> words = split(text, kSeparators);

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <cmath>
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <tuple>
+#include <type_traits>
 #include <variant>
 #include <vector>
+
+#include "platform/number.h"
 
 namespace qel {
 
@@ -47,6 +53,35 @@ std::vector<Field> fields_of(const char* text, int number) {
         return std::vector<Field>{to_field(outputs)...};
       },
       values);
+}
+
+/// The fields of a text that is nothing but its numbers with blanks and tabs between them, finite
+/// and in range, as most are. False for any other, which may be read all the same.
+template <class Encoding>
+bool plain_fields_of(const char* text, std::vector<Field>& fields) {
+  const auto ends = [](char c) { return c == '\0' || c == ' ' || c == '\t'; };
+  const auto take = [&](auto& value) {
+    using Value = std::remove_reference_t<decltype(value)>;
+    if constexpr (std::is_same_v<Value, int>) {
+      std::int64_t wide = 0;
+      if (!platform::scan_int64(text, wide) || wide < std::numeric_limits<int>::min() ||
+          wide > std::numeric_limits<int>::max()) {
+        return false;
+      }
+      value = static_cast<int>(wide);
+    } else if (!platform::scan_real(text, value) || !std::isfinite(value)) {
+      return false;
+    }
+    fields.emplace_back(value);
+    return ends(*text);
+  };
+  fields.clear();
+  typename Encoding::Values values{};
+  const bool all = std::apply([&](auto&... each) { return (take(each) && ...); }, values);
+  while (*text == ' ' || *text == '\t') {
+    ++text;
+  }
+  return all && *text == '\0';
 }
 
 }  // namespace qel

@@ -10,6 +10,7 @@
 using qel::Entry;
 using qel::Line;
 using qel::LineScanner;
+using qel::LookupRoom;
 using qel::Result;
 using qel::Store;
 using qel::Target;
@@ -20,9 +21,9 @@ using qel::platform::read_steadily;
 
 namespace {
 
-Result deliver(const LineScanner& lines, const std::optional<Line>& line, const Target& target,
+Result deliver(bool failed, const std::optional<Line>& line, const Target& target,
                const ValueBuffer& value) {
-  if (lines.failed()) {
+  if (failed) {
     return Result::no_open;
   }
   // A line on the file's first byte counts as not found; only a lookup by index that resumes at a
@@ -44,7 +45,7 @@ Result look_up_in(RandomAccess& file, const Target& target, const ValueBuffer& v
     lines.emplace(file, 0);
     return find(*lines, target);
   });
-  return deliver(*lines, line, target, value);
+  return deliver(lines->failed(), line, target, value);
 }
 
 bool open_or_create(OsFile& file, const char* path) {
@@ -248,29 +249,29 @@ Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
 }
 
 qel::Result CQELPROIO::LookUp(const Target& target, const ValueBuffer& value) {
+  if (indexed_ && file_.is_open()) {
+    LookupRoom room;
+    if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
+      index_.forget();
+      seen_changes_ = changes;
+    }
+    const std::uint64_t learnt = index_.learnt();
+    const std::optional<Line> line = read_steadily(
+        steady_, [&] { return find_indexed(steady_, target, index_, room); },
+        [&] {
+          if (index_.learnt() != learnt) {
+            index_.forget();  // lines may not stand where a disturbed look saw them
+          }
+        });
+    return deliver(room.failed(), line, target, value);
+  }
   OsFile own;
   RandomAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
     return chosen;
   }
-  if (!indexed_) {
-    return look_up_in(*file, target, value, qel::find_plainly);
-  }
-  if (const std::uint32_t changes = file_.change_count(); changes != seen_changes_) {
-    index_.forget();
-    seen_changes_ = changes;
-  }
-  std::optional<LineScanner> lines;
-  const std::uint64_t learnt = index_.learnt();
-  const std::optional<Line> line = read_steadily(
-      *file, [&] { return find_indexed(*file, target, index_, lines); },
-      [&] {
-        if (index_.learnt() != learnt) {
-          index_.forget();  // lines may not stand where a disturbed look saw them
-        }
-      });
-  return deliver(*lines, line, target, value);
+  return look_up_in(*file, target, value, qel::find_plainly);
 }
 
 // Runs work on the lines after the section's first header, after `begin`. What is absent because

@@ -1,5 +1,6 @@
 #include "core/lookup.h"
 
+#include "core/glance.h"
 #include "text/text.h"
 
 namespace qel {
@@ -31,24 +32,24 @@ bool find_header(LineScanner& lines, std::string_view section, SectionIndex* ind
 struct IndexedTarget {
   SectionIndex& index;
   SectionIndex::Section& section;
-  const HashedName& name;
+  HashedName name;
 };
 
 // Enters a line that was passed into the index, once.
-void learn(const IndexedTarget& at, const Target& target, const Line& line) {
-  const std::string_view token = text::first_token(line.text);
+void learn(const IndexedTarget& at, const Target& target, const Line& line,
+           std::string_view token) {
   if (token.empty() ||
       (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
     return;
   }
-  at.section.passed = at.index.mark(line, token);
+  const LineMark mark = at.index.mark(line, token);
   // A name with a carriage return in it is never looked up with success.
   if (target.by_key() && token == target.key) {
-    at.index.learn_entry(at.name, line, token);
+    at.index.learn_entry(at.name, mark);
   } else if (text::is_findable(token)) {
-    at.index.learn_entry(at.index.line_name(SectionIndex::Purpose::passed, target.section, token),
-                         line, token);
+    at.index.learn_entry(at.section.line_name(token), mark);
   }
+  at.section.passed = mark;
 }
 
 // From the line after the header on; or, when `header_comes_first`, from the header, which then
@@ -66,11 +67,12 @@ std::optional<Line> find_inside(LineScanner& lines, const Target& target,
     const bool is_own_header = header_comes_first && text::is_header(line.text);
     const bool found = is_target(target, line, position) && !(is_own_header && target.by_key());
     if (indexed != nullptr && !is_own_header && (target.by_key() || !found)) {
-      learn(*indexed, target, line);
+      learn(*indexed, target, line, text::first_token(line.text));
     }
     if (found) {
       if (indexed != nullptr && !target.by_key()) {
-        indexed->index.learn_position(indexed->name, line, text::first_token(line.text));
+        indexed->index.learn_position(indexed->name,
+                                      indexed->index.mark(line, text::first_token(line.text)));
       }
       return line;
     }
@@ -79,6 +81,7 @@ std::optional<Line> find_inside(LineScanner& lines, const Target& target,
 }
 
 constexpr std::size_t kOneLine = 256;
+constexpr std::size_t kFewLines = 512;
 constexpr std::size_t kOneSection = 4096;
 
 // A lookup in one reading session. Each step that takes something learnt of the present file looks
@@ -86,12 +89,8 @@ constexpr std::size_t kOneSection = 4096;
 class IndexedLookup {
  public:
   IndexedLookup(platform::RandomAccess& file, const Target& target, SectionIndex& index,
-                std::optional<LineScanner>& lines)
-      : file_(file),
-        target_(target),
-        index_(index),
-        lines_(lines),
-        name_(index.line_name(SectionIndex::Purpose::looked_for, target.section, target.key)) {}
+                LookupRoom& room)
+      : file_(file), target_(target), index_(index), room_(room) {}
 
   std::optional<Line> find();
   [[nodiscard]] bool changed() const { return changed_; }
@@ -103,25 +102,27 @@ class IndexedLookup {
   [[nodiscard]] bool is_present(std::uint32_t file) const {
     return index_.is_of_present_file(file);
   }
+  LineScanner& lines() { return room_.lines(); }
   void begin_at(const Place& place, std::size_t expected);
   bool next_at(const Place& place, Line& line);
   bool find_header_again(const Place& header, std::size_t expected, Line& line);
-  std::optional<Line> find_in(const Section* section, const Place& place);
-  std::optional<Line> find_known_entry(const Place& place);
-  std::optional<Line> find_known_position(const LineMark& mark);
-  std::optional<Line> find_after_passed(Section& section);
-  std::optional<Line> find_in_known(Section& section);
+  std::optional<Line> glance_at_known(const Section& section, const Place& place);
+  std::optional<Line> glance_after_passed(const IndexedTarget& indexed);
+  std::optional<Line> find_in(const Section& section, const Place& place);
+  std::optional<Line> find_known_entry(const Section& section, const Place& place);
+  std::optional<Line> find_known_position(const Section& section, const LineMark& mark);
+  std::optional<Line> find_after_passed(const IndexedTarget& indexed);
+  std::optional<Line> find_in_known(const IndexedTarget& indexed);
   std::optional<Line> find_in_unknown();
   std::optional<Line> note_change() {
-    changed_ = !lines_->failed();
+    changed_ = !room_.failed();
     return std::nullopt;
   }
 
   platform::RandomAccess& file_;
   const Target& target_;
   SectionIndex& index_;
-  std::optional<LineScanner>& lines_;
-  HashedName name_;
+  LookupRoom& room_;
   bool changed_ = false;
 };
 
@@ -133,13 +134,13 @@ bool has_break_before(const SectionIndex::Place& place) {
 
 // Begins to read at the place, or at the line break in front of it.
 void IndexedLookup::begin_at(const Place& place, std::size_t expected) {
-  lines_.emplace(file_, has_break_before(place) ? place.offset - 1 : place.offset, expected);
+  room_.scan(file_, has_break_before(place) ? place.offset - 1 : place.offset, expected);
 }
 
 // The line at the place, to which `lines_` has come; false where no line begins there any more.
 bool IndexedLookup::next_at(const Place& place, Line& line) {
-  return (!has_break_before(place) || (lines_->next(line) && line.end == place.offset)) &&
-         lines_->next(line);
+  return (!has_break_before(place) || (lines().next(line) && line.end == place.offset)) &&
+         lines().next(line);
 }
 
 bool IndexedLookup::find_header_again(const Place& header, std::size_t expected, Line& line) {
@@ -148,23 +149,70 @@ bool IndexedLookup::find_header_again(const Place& header, std::size_t expected,
          text::first_token(line.text) == target_.section;
 }
 
-// The line at a place in the section. In the present file, nothing where the section's header or
-// the line does not stand where it stood. One read serves for both where they are near each other.
-std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& place) {
-  Line line;
-  if (!is_present(place.file)) {
-    lines_.emplace(file_, place.offset, kOneLine);
-    return lines_->next(line) ? std::optional(line) : std::nullopt;
+// The line of a known key, where it and its section's header stand where they stood and are as most
+// are.
+std::optional<Line> IndexedLookup::glance_at_known(const Section& section, const Place& place) {
+  if (!is_present(place.file) || !is_present(section.header.file) ||
+      section.header.offset >= place.offset) {
+    return std::nullopt;
   }
-  bool is_there = false;
-  if (section != nullptr && is_present(section->header.file) &&
-      section->header.offset < place.offset) {
-    const std::int64_t distance = place.offset - section->header.offset;
-    const std::size_t both = static_cast<std::size_t>(distance) + kOneLine;
-    if (!find_header_again(section->header, both <= LineScanner::kFew ? both : kOneLine, line)) {
+  Glance glance(file_, room_.glance(), LookupRoom::kGlance);
+  Line line;
+  const bool found =
+      glance.see_header(section.header, target_.section, place.offset, Glance::kOneLine) &&
+      glance.go_to(place) && glance.next_of(target_.key, line);
+  return found ? std::optional(line) : std::nullopt;
+}
+
+// The line of a key that is not known yet, among the first ones after those that are, where all of
+// them are as most are.
+std::optional<Line> IndexedLookup::glance_after_passed(const IndexedTarget& indexed) {
+  Section& section = indexed.section;
+  const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
+  if (!is_present(section.header.file)) {
+    return std::nullopt;
+  }
+  const Place& last = has_passed ? section.passed.place() : section.header;
+  Glance glance(file_, room_.glance(), LookupRoom::kGlance);
+  Line line;
+  if (!glance.see_header(section.header, target_.section, last.offset,
+                         has_passed ? kFewLines : LookupRoom::kGlance / 2)) {
+    return std::nullopt;
+  }
+  if (!has_passed) {
+    section.passed = {};
+  } else if (!glance.go_to(last) || !glance.pass(section.passed)) {
+    return std::nullopt;
+  }
+  for (std::string_view token; glance.next(line, token) && !line.text.starts_with('[');) {
+    const bool is_wanted = !token.empty() && token == target_.key;
+    if (is_wanted && !Glance::is_whole(line)) {
       return std::nullopt;
     }
-    is_there = lines_->skip_to(has_break_before(place) ? place.offset - 1 : place.offset);
+    learn(indexed, target_, line, token);
+    if (is_wanted) {
+      return line;
+    }
+  }
+  return std::nullopt;
+}
+
+// The line at a place in the section. In the present file, nothing where the section's header or
+// the line does not stand where it stood. One read serves for both where they are near each other.
+std::optional<Line> IndexedLookup::find_in(const Section& section, const Place& place) {
+  Line line;
+  if (!is_present(place.file)) {
+    room_.scan(file_, place.offset, kOneLine);
+    return lines().next(line) ? std::optional(line) : std::nullopt;
+  }
+  bool is_there = false;
+  if (is_present(section.header.file) && section.header.offset < place.offset) {
+    const std::int64_t distance = place.offset - section.header.offset;
+    const std::size_t both = static_cast<std::size_t>(distance) + kOneLine;
+    if (!find_header_again(section.header, both <= LineScanner::kFew ? both : kOneLine, line)) {
+      return std::nullopt;
+    }
+    is_there = lines().skip_to(has_break_before(place) ? place.offset - 1 : place.offset);
   }
   if (!is_there) {
     begin_at(place, kOneLine);
@@ -172,34 +220,39 @@ std::optional<Line> IndexedLookup::find_in(const Section* section, const Place& 
   return next_at(place, line) ? std::optional(line) : std::nullopt;
 }
 
-std::optional<Line> IndexedLookup::find_known_entry(const Place& place) {
-  const std::optional<Line> line = find_in(index_.section(target_.section), place);
+std::optional<Line> IndexedLookup::find_known_entry(const Section& section, const Place& place) {
+  if (std::optional<Line> line = glance_at_known(section, place)) {
+    return line;
+  }
+  const std::optional<Line> line = find_in(section, place);
   return !is_present(place.file) || (line && text::first_token_is(line->text, target_.key))
              ? line
              : note_change();
 }
 
-std::optional<Line> IndexedLookup::find_known_position(const LineMark& mark) {
-  const std::optional<Line> line = find_in(index_.section(target_.section), mark.place());
+std::optional<Line> IndexedLookup::find_known_position(const Section& section,
+                                                       const LineMark& mark) {
+  const std::optional<Line> line = find_in(section, mark.place());
   return !is_present(mark.place().file) || (line && mark.matches(line->text)) ? line
                                                                               : note_change();
 }
 
 // Goes on where the last lookup in the section stopped.
-std::optional<Line> IndexedLookup::find_after_passed(Section& section) {
-  const std::optional<Line> line = find_in(&section, section.passed.place());
-  if (!line || !section.passed.matches(line->text)) {
+std::optional<Line> IndexedLookup::find_after_passed(const IndexedTarget& indexed) {
+  const LineMark& passed = indexed.section.passed;
+  const std::optional<Line> line = find_in(indexed.section, passed.place());
+  if (!line || !passed.matches(line->text)) {
     return note_change();
   }
-  const IndexedTarget indexed{index_, section, name_};
-  return find_inside(*lines_, target_, &indexed, false);
+  return find_inside(lines(), target_, &indexed, false);
 }
 
-std::optional<Line> IndexedLookup::find_in_known(Section& section) {
+std::optional<Line> IndexedLookup::find_in_known(const IndexedTarget& indexed) {
+  Section& section = indexed.section;
   const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
   if (has_passed && target_.by_key()) {
-    const std::optional<Line> found = find_after_passed(section);
-    if (found || changed_ || lines_->failed()) {
+    const std::optional<Line> found = find_after_passed(indexed);
+    if (found || changed_ || room_.failed()) {
       return found;
     }
   }
@@ -211,9 +264,8 @@ std::optional<Line> IndexedLookup::find_in_known(Section& section) {
   if (!has_passed) {
     section.passed = {};
   }
-  lines_.emplace(file_, header.offset, kOneSection);
-  const IndexedTarget indexed{index_, section, name_};
-  return find_inside(*lines_, target_, &indexed, true);
+  room_.scan(file_, header.offset, kOneSection);
+  return find_inside(lines(), target_, &indexed, true);
 }
 
 std::optional<Line> IndexedLookup::find_in_unknown() {
@@ -225,27 +277,39 @@ std::optional<Line> IndexedLookup::find_in_unknown() {
       return note_change();
     }
   } else {
-    lines_.emplace(file_, furthest.place().offset);
+    room_.scan(file_, furthest.place().offset);
   }
   Section* section = nullptr;
-  if (!find_header(*lines_, target_.section, &index_, &section)) {
+  if (!find_header(lines(), target_.section, &index_, &section)) {
     return std::nullopt;
   }
-  const IndexedTarget indexed{index_, *section, name_};
-  return find_inside(*lines_, target_, &indexed, false);
+  const IndexedTarget indexed{index_, *section, section->line_name(target_.key)};
+  return find_inside(lines(), target_, &indexed, false);
 }
 
 std::optional<Line> IndexedLookup::find() {
   changed_ = false;
-  if (target_.by_key()) {
-    if (const Place* known = index_.entry(name_)) {
-      return find_known_entry(*known);
-    }
-  } else if (const LineMark* known = index_.position(name_)) {
-    return find_known_position(*known);
-  }
   Section* const section = index_.section(target_.section);
-  return section != nullptr ? find_in_known(*section) : find_in_unknown();
+  if (section == nullptr) {
+    return find_in_unknown();
+  }
+  if (target_.by_key()) {
+    if (const Place* known = index_.next_entry(*section, target_.key)) {
+      return find_known_entry(*section, *known);
+    }
+  }
+  const IndexedTarget indexed{index_, *section, section->line_name(target_.key)};
+  if (target_.by_key()) {
+    if (const Place* known = index_.entry(indexed.name)) {
+      return find_known_entry(*section, *known);
+    }
+    if (std::optional<Line> line = glance_after_passed(indexed)) {
+      return line;
+    }
+  } else if (const LineMark* known = index_.position(indexed.name)) {
+    return find_known_position(*section, *known);
+  }
+  return find_in_known(indexed);
 }
 
 }  // namespace
@@ -286,8 +350,8 @@ std::optional<Line> find_in_section(LineScanner& lines, const Target& target) {
 }
 
 std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target,
-                                 SectionIndex& index, std::optional<LineScanner>& lines) {
-  IndexedLookup lookup(file, target, index, lines);
+                                 SectionIndex& index, LookupRoom& room) {
+  IndexedLookup lookup(file, target, index, room);
   std::optional<Line> line = lookup.find();
   if (lookup.changed()) {
     index.forget();

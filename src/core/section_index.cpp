@@ -20,7 +20,13 @@ bool LineMark::matches(std::string_view line) const {
 
 SectionIndex::Section& SectionIndex::learn_section(std::string_view name, const Line& header) {
   ++learnt_;
-  return *sections_.insert(HashedName(name), {{header.start, file_, header.is_piece}, {}}).value;
+  const HashedName hashed(name);
+  return *sections_
+              .insert(hashed, {{header.start, file_, header.is_piece},
+                               {},
+                               hashed.hash,
+                               static_cast<std::uint32_t>(sections_.size())})
+              .value;
 }
 
 SectionIndex::Section* SectionIndex::section(std::string_view name) {
@@ -34,33 +40,24 @@ SectionIndex::Section* SectionIndex::section(std::string_view name) {
   return &sections_.value(last_section_);
 }
 
-HashedName SectionIndex::line_name(Purpose purpose, std::string_view section,
-                                   std::string_view key) {
-  // Neither part holds a line break, so that no two lines share a name.
-  std::string& name = names_[static_cast<std::size_t>(purpose)];
-  name.assign(section).push_back('\n');
-  return HashedName(name.append(key));
-}
-
-void SectionIndex::note_furthest(const Line& line, std::string_view first_token) {
-  if (line.start > furthest_.place().offset) {
-    furthest_ = mark(line, first_token);
+void SectionIndex::note_furthest(const LineMark& line) {
+  if (line.place().offset > furthest_.place().offset) {
+    furthest_ = line;
   }
 }
 
-void SectionIndex::learn_entry(const HashedName& name, const Line& line,
-                               std::string_view first_token) {
+void SectionIndex::learn_entry(const HashedName& name, const LineMark& line) {
   ++learnt_;
-  if (entries_.insert(name, {line.start, file_, line.is_piece}).is_new) {
-    note_furthest(line, first_token);
+  if (entries_.insert(name, line.place()).is_new) {
+    last_entry_ = entries_.size() - 1;
+    note_furthest(line);
   }
 }
 
-void SectionIndex::learn_position(const HashedName& name, const Line& line,
-                                  std::string_view first_token) {
+void SectionIndex::learn_position(const HashedName& name, const LineMark& line) {
   ++learnt_;
-  positions_.insert(name, mark(line, first_token));
-  note_furthest(line, first_token);
+  positions_.insert(name, line);
+  note_furthest(line);
 }
 
 void SectionIndex::forget() {

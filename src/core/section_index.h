@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "text/line_scanner.h"
 #include "text/name_table.h"
+#include "text/text.h"
 
 namespace qel {
 
@@ -29,6 +29,13 @@ class LineMark {
   /// Whether a line begins with the first token that the marked one had, as far as the mark
   /// remembers it.
   [[nodiscard]] bool matches(std::string_view line) const;
+  /// The same of a text that the line begins, where a blank, a tab or a "=" ends the token. False,
+  /// too, for a token that the mark does not remember whole.
+  [[nodiscard]] bool begins(std::string_view ahead) const {
+    return token_size_ <= sizeof token_ && token_size_ < ahead.size() &&
+           text::ends_token(ahead[token_size_]) &&
+           ahead.starts_with(std::string_view(token_, token_size_));
+  }
 
  private:
   SeenAt place_;
@@ -51,6 +58,12 @@ class SectionIndex {
     Place header;
     LineMark passed;  ///< The last entry line of the present file that was learnt; what stands
                       ///< before it is known.
+    std::uint64_t hash = 0;    ///< Of its name.
+    std::uint32_t number = 0;  ///< Tells it from the others.
+
+    /// The name of a line of it: of an entry by its key as it is spelled in the file. The key
+    /// outlives the name.
+    [[nodiscard]] HashedName line_name(std::string_view key) const { return {hash, number, key}; }
   };
 
   /// The section of this name; valid until the next `learn_section`. It is entered where it is new,
@@ -59,18 +72,22 @@ class SectionIndex {
   /// Null for a section that has not been passed.
   [[nodiscard]] Section* section(std::string_view name);
 
-  /// The one name under which a line is looked up: its section's and its key's, as they are spelled
-  /// in the file. Valid until the next call with the same purpose.
-  enum class Purpose { looked_for, passed };
-  HashedName line_name(Purpose purpose, std::string_view section, std::string_view key);
-
   /// Enters the line of a key, the first time that the key is met.
-  void learn_entry(const HashedName& name, const Line& line, std::string_view first_token);
+  void learn_entry(const HashedName& name, const LineMark& line);
   /// Notes the line that a lookup by position found, the first time: later ones under the same name
   /// find it again.
-  void learn_position(const HashedName& name, const Line& line, std::string_view first_token);
+  void learn_position(const HashedName& name, const LineMark& line);
   /// Null for a line that has not been passed; valid until the next `learn_entry`.
-  [[nodiscard]] const Place* entry(const HashedName& name) { return entries_.find(name); }
+  [[nodiscard]] const Place* entry(const HashedName& name) {
+    return entry_at(entries_.position_of(name));
+  }
+  /// The entry that was learnt after the one that was asked for last, where it is this section's
+  /// and key's: who asks for all in order needs no hash.
+  [[nodiscard]] const Place* next_entry(const Section& section, std::string_view key) {
+    const std::size_t next = last_entry_ + 1;
+    return next < entries_.size() && entries_.is(next, section.number, key) ? entry_at(next)
+                                                                            : nullptr;
+  }
   [[nodiscard]] const LineMark* position(const HashedName& name) { return positions_.find(name); }
 
   /// The line learnt furthest from the file's beginning: the headers before it are all known.
@@ -91,16 +108,23 @@ class SectionIndex {
   void forget();
 
  private:
-  void note_furthest(const Line& line, std::string_view first_token);
+  void note_furthest(const LineMark& line);
+  const Place* entry_at(std::size_t position) {
+    if (position == NameTable<Place>::kUnknown) {
+      return nullptr;
+    }
+    last_entry_ = position;
+    return &entries_.value(position);
+  }
 
   NameTable<Section> sections_;
   NameTable<Place> entries_;
   NameTable<LineMark> positions_;
   std::size_t last_section_ = 0;  // the position of the one that was asked for last
+  std::size_t last_entry_ = 0;    // likewise
   LineMark furthest_;
   std::uint32_t file_ = 1;
   std::uint64_t learnt_ = 0;
-  std::string names_[2];
 };
 
 }  // namespace qel

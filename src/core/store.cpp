@@ -39,6 +39,17 @@ bool assigns(std::string_view line, std::string_view key) {
          text::trim_blanks(line.substr(0, end)) == key;
 }
 
+// Goes on to the header behind the section's, and tells where it begins, or where the contents end.
+std::size_t end_of_section(LineScanner& lines, std::string_view contents) {
+  Line line;
+  while (lines.next_starting_with('[', line)) {
+    if (text::is_header(line.text)) {
+      return static_cast<std::size_t>(line.start);
+    }
+  }
+  return contents.size();
+}
+
 Result done_if(bool stored) { return stored ? Result::done : Result::no_open; }
 
 }  // namespace
@@ -71,6 +82,11 @@ Result Store::replace_line(const Line& old, std::string line) {
                                static_cast<std::size_t>(old.end), line.append(edit_.line_break())));
 }
 
+// A key that stands nowhere behind the section's header is new: no line needs a look.
+bool Store::is_mentioned_behind(const Line& header, std::string_view key) const {
+  return edit_.contents().find(key, static_cast<std::size_t>(header.end)) != std::string_view::npos;
+}
+
 Result Store::insert_line(std::size_t at, std::string line) {
   line.append(edit_.line_break());
   return done_if(edit_.insert(at, std::move(line)));
@@ -91,6 +107,11 @@ Result Store::set(const Entry& entry, bool may_insert) {
   if (!find_plain_header(lines, target.section, line)) {
     return append_section(target.by_key() ? target.section : text::kPositionalHeader,
                           line_of(entry));
+  }
+  if (target.by_key() && !is_mentioned_behind(line, target.key)) {
+    return may_insert
+               ? insert_line(end_of_section(lines, edit_.contents()), inserted_line_of(entry))
+               : Result::absent;
   }
   for (int position = 1; lines.next(line); ++position) {
     if (!target.by_key() && text::is_header(line.text)) {
@@ -116,6 +137,9 @@ Result Store::insert_into_section(const Entry& entry) {
   Line line;
   if (!find_plain_header(lines, target.section, line)) {
     return append_section(target.section, inserted_line_of(entry));
+  }
+  if (!is_mentioned_behind(line, target.key)) {
+    return insert_line(end_of_section(lines, edit_.contents()), inserted_line_of(entry));
   }
   while (lines.next(line)) {
     if (text::is_header(line.text) || assigns(line.text, target.key)) {

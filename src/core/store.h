@@ -44,6 +44,7 @@ class Store {
 
  private:
   Result replace_line(const Line& old, std::string line);
+  [[nodiscard]] bool is_mentioned_behind(const Line& header, std::string_view key) const;
   Result insert_line(std::size_t at, std::string line);
   Result append_section(std::string_view header, std::string line);
   Result insert_into_section(const Entry& entry);

@@ -1,20 +1,13 @@
 #include "core/value_buffer.h"
 
+#include "text/thread_buffers.h"
+
 namespace qel {
-namespace {
 
-constexpr std::size_t kSize = 4096;
-
-}  // namespace
-
-ValueBuffer ValueBuffer::of_thread() {
-  thread_local char text[kSize];
-  return {text, kSize};
-}
+ValueBuffer ValueBuffer::of_thread() { return {thread_buffers().value, ThreadBuffers::kValue}; }
 
 ValueBuffer ValueBuffer::of_thread_for_scans() {
-  thread_local char text[kSize];
-  return {text, kSize};
+  return {thread_buffers().scanned_value, ThreadBuffers::kValue};
 }
 
 bool ValueBuffer::put(std::string_view value) const {

@@ -12,6 +12,7 @@ struct ValueBuffer {
 
   ValueBuffer(char* room, std::size_t room_size) : text(room), size(room_size) {}
   /// Of the thread: a text in it lives until the thread's next lookup through any document.
+  /// Throws std::bad_alloc where the thread has no memory.
   static ValueBuffer of_thread();
   /// Of the thread as well, and of scans of a whole text alone.
   static ValueBuffer of_thread_for_scans();

@@ -12,9 +12,8 @@ namespace {
 
 // What the stream read ahead may be older than what is asked now; from its beginning, it forgets
 // all.
-void forget_read_ahead(std::FILE* stream) {
-  ::fseeko(stream, 0, SEEK_SET);
-  std::fflush(stream);
+bool forget_read_ahead(std::FILE* stream) {
+  return ::fseeko(stream, 0, SEEK_SET) == 0 && std::fflush(stream) == 0;
 }
 
 }  // namespace
@@ -86,8 +85,9 @@ bool CallerStream::lock() {
   const int fd = ::fileno(stream_);
   const LockAnswer answer = fd >= 0 && has_contents_ ? lock_for_store(fd) : LockAnswer::none;
   is_locked_ = answer == LockAnswer::held;
-  if (is_locked_) {
-    forget_read_ahead(stream_);
+  if (is_locked_ && !forget_read_ahead(stream_)) {
+    unlock();
+    return false;
   }
   return answer != LockAnswer::busy;
 }

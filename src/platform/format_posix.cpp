@@ -6,7 +6,8 @@
 namespace qel::platform {
 namespace {
 
-// The thread's locale with the numbers of the "C" locale, put back at the end of the scope.
+// The thread's locale with the numbers of the "C" locale, put back at the end of the scope. There
+// may be no memory for one.
 class CNumbers {
  public:
   CNumbers() : previous_(::uselocale(nullptr)) {
@@ -29,6 +30,8 @@ class CNumbers {
   CNumbers(const CNumbers&) = delete;
   CNumbers& operator=(const CNumbers&) = delete;
 
+  [[nodiscard]] bool is_set() const { return own_ != nullptr; }
+
  private:
   locale_t previous_;
   locale_t own_ = nullptr;
@@ -38,6 +41,9 @@ class CNumbers {
 
 std::optional<std::string> format(const char* format, std::va_list arguments) {
   const CNumbers numbers;
+  if (!numbers.is_set()) {
+    return std::nullopt;
+  }
   std::va_list again;
   va_copy(again, arguments);
   const int length = std::vsnprintf(

@@ -1,9 +1,12 @@
 #include "platform/number.h"
 
 #include <array>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -119,6 +122,47 @@ bool is_huge(const Mantissa& number) {
   return magnitude + (negative ? -exponent : exponent) > 0;
 }
 
+// The powers of ten that a double holds exactly.
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// The usual number: few digits, perhaps with a point among them, and no exponent. Its digits as a
+// whole number and the power of ten are exact doubles, so that their quotient is the nearest one to
+// the number. False, and nothing is moved, for any other.
+bool scan_short_decimal(const char*& at, double& value) {
+  constexpr std::size_t kMostDigits = 18;  // a whole number of so many fits into 64 bits
+  constexpr std::uint64_t kLargestExact = std::uint64_t{1} << 53;
+  static_assert(kMostDigits < std::size(kPowersOfTen));
+  if (FLT_EVAL_METHOD != 0) {
+    return false;  // the quotient would be rounded twice
+  }
+  const char* p = at;
+  std::uint64_t digits = 0;
+  const auto take_digits = [&p, &digits] {
+    for (unsigned digit = 0; (digit = static_cast<unsigned char>(*p) - unsigned{'0'}) < 10U; ++p) {
+      digits = digits * 10 + digit;
+    }
+  };
+  take_digits();
+  auto count = static_cast<std::size_t>(p - at);
+  std::size_t after_point = 0;
+  if (*p == '.') {
+    const char* const fraction = ++p;
+    take_digits();
+    after_point = static_cast<std::size_t>(p - fraction);
+    count += after_point;
+  }
+  const char next = lower(*p);
+  if (count == 0 || count > kMostDigits || digits > kLargestExact || next == 'e' || next == 'x') {
+    return false;
+  }
+  const auto whole = static_cast<double>(static_cast<std::int64_t>(digits));
+  value = after_point == 0 ? whole : whole / kPowersOfTen[after_point];
+  at = p;
+  return true;
+}
+
 bool scan_real(const char*& at, Radix radix, double& value) {
   const char* p = at;
   skip_space(p);
@@ -127,6 +171,11 @@ bool scan_real(const char*& at, Radix radix, double& value) {
     ++p;
   }
   double result = 0;
+  if (scan_short_decimal(p, result)) {
+    value = negative ? -result : result;
+    at = p;
+    return true;
+  }
   if (take_word(p, "inf")) {
     // "inf" may go on to "infinity" only: a scan that has begun the longer word does not fall back
     // to the shorter one.

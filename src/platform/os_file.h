@@ -42,6 +42,7 @@ class OsFile final : public RandomAccess {
   /// Moves with everything that this program writes to the file, through whatever object.
   [[nodiscard]] std::uint32_t change_count() const { return changes_.value(); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
+  std::int64_t read_some(std::int64_t offset, char* to, std::size_t count) override;
   bool write_at(std::int64_t offset, const char* from, std::size_t count) override;
   bool reserve(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;
@@ -65,6 +66,7 @@ class OsFile final : public RandomAccess {
   bool open_locked(const Character* path, bool creates);
 
   std::intptr_t handle_ = kClosed;
+  int reads_ = 0;  // counted up to where they no longer stamp the file
   std::int64_t size_when_opened_ = -1;
   std::uint64_t identity_ = 0;
   ChangeCount changes_;

@@ -118,6 +118,10 @@ std::int64_t OsFile::read_at(std::int64_t offset, char* to, std::size_t count) {
   return read_from(to_handle(handle_), offset, to, count);
 }
 
+std::int64_t OsFile::read_some(std::int64_t offset, char* to, std::size_t count) {
+  return read_at(offset, to, count);
+}
+
 bool OsFile::write_at(std::int64_t offset, const char* from, std::size_t count) {
   const CountedChange change(changes_);
   return write_to(to_handle(handle_), offset, from, count);

@@ -29,6 +29,11 @@ class RandomAccess {
   /// Reads up to `count` bytes; fewer only at the end of the file. -1 on failure.
   virtual std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) = 0;
 
+  /// The same in one call of the operating system, which may give fewer bytes for whatever reason.
+  virtual std::int64_t read_some(std::int64_t offset, char* to, std::size_t count) {
+    return read_at(offset, to, count);
+  }
+
   /// Writes all of `count` bytes, or fails.
   virtual bool write_at(std::int64_t offset, const char* from, std::size_t count) = 0;
 

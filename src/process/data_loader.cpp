@@ -1,11 +1,15 @@
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
-#include <span>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "QELG/QELG.h"
 #include "QELPROEngine/CQELPROReader_Manipulator.h"
@@ -19,24 +23,34 @@
 #include "blocks/mold_thermal_boundary_type.h"
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
+#include "objects/attempt.h"
 #include "platform/number.h"
 #include "process/functions.h"
 #include "process/steps.h"
 #include "text/snapshot.h"
+#include "text/text.h"
 
 namespace {
 
 using namespace qel;
 
-// What a manipulator holds while it loads: a reader that is never given the file, and what the
-// file held when the load began.
-struct LoadingReader : CQELPROReader_Manipulator {
-  Snapshot file;
+// A numbered entry of a section.
+struct NumberedLine {
+  int number;
+  std::string_view line;
 };
 
-Snapshot& file_of(CQELPROReader_Manipulator* reader) {
-  return static_cast<LoadingReader*>(reader)->file;
+// What a manipulator holds while it loads: a reader that is never given the file, what the file
+// held when the load began, and the points of the section that is being loaded, key by key.
+struct LoadingReader : CQELPROReader_Manipulator {
+  Snapshot file;
+  std::vector<std::vector<NumberedLine>> points;
+};
+
+LoadingReader& loading(CQELPROReader_Manipulator* reader) {
+  return *static_cast<LoadingReader*>(reader);
 }
+Snapshot& file_of(CQELPROReader_Manipulator* reader) { return loading(reader).file; }
 
 int integer_of(const KeyInfo& key, const char* text) {
   if (!key.details.loads_second) {
@@ -58,7 +72,13 @@ struct Convert {
     set(object, static_cast<unsigned int>(integer_of(key, text)));
   }
   void operator()(void (*set)(Object&, double)) const { set(object, platform::to_real(text)); }
-  void operator()(void (*set)(Object&, const char*)) const { set(object, text); }
+  void operator()(const TextItem<Object>& item) const {
+    item.set(object, text);
+    const char* kept = nullptr;
+    if (!item.get(object, kept) || std::strcmp(kept, text) != 0) {
+      throw std::bad_alloc();
+    }
+  }
 };
 
 // A list that found no memory for a point says so; no process rather than one that lacks it.
@@ -79,54 +99,124 @@ void append(QELG_Array<double>& array, const char* text) {
   append_to(array, platform::to_real(text));
 }
 
-// The points of a list in order. Without a count, it ends before the first number that is missing;
-// with one, numbers that the section lacks are passed over, and the count costs no more than what
-// the section holds.
-template <class List>
-void load_list(Snapshot& file, std::string_view section, const LoadStep& step, List& list) {
-  int most = std::numeric_limits<int>::max();
-  if (!step.count.empty()) {
-    const auto count = file.value(section, step.count);
-    if (!count) {
-      return;
-    }
-    most = platform::to_int(std::string(*count).c_str());
-  }
-  std::string text;
-  int expected = 1;
-  for (const Snapshot::Numbered& entry : file.numbered(section, step.text, most)) {
-    if (step.count.empty() && entry.number != expected++) {
-      return;
-    }
-    append(list, text.assign(entry.value).c_str());
-  }
-}
-
-// What a section says of the object. `number` is that of numbered keys which are no points of a
-// list.
-template <class Object>
-void load_section(Snapshot& file, const char* name, std::span<const LoadStep> steps, Object& object,
-                  int number = 0) {
-  const std::string_view section = name;
-  if (!file.has_section(section)) {
+// Each number once, ascending, of several lines the first. Most files have them so.
+void put_in_order(std::vector<NumberedLine>& points) {
+  const auto is_before = [](const NumberedLine& a, const NumberedLine& b) {
+    return a.number < b.number;
+  };
+  const auto is_out_of_order = [](const NumberedLine& a, const NumberedLine& b) {
+    return a.number >= b.number;
+  };
+  if (std::adjacent_find(points.begin(), points.end(), is_out_of_order) == points.end()) {
     return;
   }
+  std::stable_sort(points.begin(), points.end(), is_before);
+  points.erase(std::unique(points.begin(), points.end(),
+                           [](const NumberedLine& a, const NumberedLine& b) {
+                             return a.number == b.number;
+                           }),
+               points.end());
+}
+
+// What a section says of an object, put there step by step.
+template <class Object>
+class SectionLoad {
   using Of = Functions<Object>;
-  for (const LoadStep& step : steps) {
-    const Destination& destination = step.key->details.loader;
-    if (const auto* item = std::get_if<typename Of::Item>(&destination)) {
-      const auto value = step.numbered
-                             ? file.value(section, NumberedName(step.key->text, number).str())
-                             : file.value(section, step.text);
-      if (value) {
-        std::visit(Convert<Object>{object, *step.key, std::string(*value).c_str()},
-                   Of::kSetters[static_cast<std::size_t>(*item)]);
+
+ public:
+  SectionLoad(LoadingReader& from, Object& object) : from_(from), object_(object) {}
+
+  template <std::size_t count>
+  void load(std::string_view section, const LoadPlan<count>& plan) {
+    // The first line of each key that has no number.
+    std::array<std::string_view, LoadPlan<count>::kKeys> lines{};
+    std::vector<std::vector<NumberedLine>>& points = from_.points;
+    if (points.size() < plan.keys.size()) {
+      points.resize(plan.keys.size());
+    }
+    for (std::vector<NumberedLine>& of_key : points) {
+      of_key.clear();
+    }
+    struct {
+      std::string_view prefix;
+      std::size_t of = 0;
+    } last;  // the points that were met last
+    const bool found = from_.file.visit_entries(
+        section, [&plan, &lines, &points, &last](std::string_view key, std::string_view line) {
+          // After a point most often comes the next one.
+          if (const int number = number_behind(last.prefix, key); number >= 1) {
+            points[last.of].push_back({number, line});
+            return;
+          }
+          const NumberedKey numbered = numbered_key(key);
+          const std::size_t of =
+              numbered.number >= 1 ? plan.keys.find(0, numbered.prefix, true) : plan.keys.kNone;
+          if (of != plan.keys.kNone) {
+            points[of].push_back({numbered.number, line});
+            last = {numbered.prefix, of};
+          } else if (const std::size_t at = plan.keys.find(0, key, false); at != plan.keys.kNone) {
+            lines[at] = lines[at].empty() ? line : lines[at];
+          }
+        });
+    for (std::size_t at = 0; found && at < count; ++at) {
+      const LoadStep& step = plan.steps[at];
+      const std::size_t key = plan.key[at];
+      if (const auto* item = std::get_if<typename Of::Item>(&step.key->details.loader)) {
+        if (!lines[key].empty()) {
+          set(*item, *step.key, text::entry_value(lines[key]));
+        }
+      } else if (const auto* list = std::get_if<typename Of::List>(&step.key->details.loader)) {
+        const bool is_counted = !step.count.empty();
+        const std::string_view counting =
+            is_counted ? lines[plan.count_key[at]] : std::string_view();
+        if (!is_counted || !counting.empty()) {
+          put_in_order(points[key]);
+          append_all(*list, points[key], is_counted ? std::optional(counting) : std::nullopt);
+        }
       }
-    } else if (const auto* list = std::get_if<typename Of::List>(&destination)) {
-      std::visit([&](auto get) { load_list(file, section, step, *(object.*get)()); },
-                 Of::kLists[static_cast<std::size_t>(*list)]);
     }
   }
+
+  void set(typename Of::Item item, const KeyInfo& key, std::string_view value) {
+    from_.file.with_text(value, [&](const char* text) {
+      std::visit(Convert<Object>{object_, key, text}, Of::kSetters[static_cast<std::size_t>(item)]);
+    });
+  }
+
+ private:
+  // The points in order. Without a count, the list ends before the first number that is missing;
+  // with one, numbers that the section lacks are passed over, and the count costs no more than what
+  // the section holds.
+  void append_all(typename Of::List list, const std::vector<NumberedLine>& points,
+                  std::optional<std::string_view> counting) {
+    int most = std::numeric_limits<int>::max();
+    if (counting) {
+      from_.file.with_text(text::entry_value(*counting),
+                           [&most](const char* text) { most = platform::to_int(text); });
+    }
+    std::visit(
+        [&](auto get) {
+          auto& to = *(object_.*get)();
+          int expected = 1;
+          for (const NumberedLine& point : points) {
+            if (point.number > most || (!counting && point.number != expected++)) {
+              return;
+            }
+            from_.file.with_text(text::entry_value(point.line),
+                                 [&to](const char* text) { append(to, text); });
+          }
+        },
+        Of::kLists[static_cast<std::size_t>(list)]);
+  }
+
+  LoadingReader& from_;
+  Object& object_;
+};
+
+template <class Object, std::size_t count>
+void load_section(CQELPROReader_Manipulator* from, const char* section, const LoadPlan<count>& plan,
+                  Object& object) {
+  SectionLoad<Object>(loading(from), object).load(section, plan);
 }
 
 const InletSource& source_of(const QELG_SimulatorProcess& process) {
@@ -156,11 +246,14 @@ void CQELProcessData_Manipulator::Dispose() {
 const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
     const char* path) {
   Dispose();
-  try {
+  std::unique_ptr<QELG_SimulatorProcess> process;
+  const bool whole = attempt([&] {
     reader_ = new LoadingReader;
-    std::unique_ptr<QELG_SimulatorProcess> process;
     if (path != nullptr && file_of(reader_).load(path)) {
       process = std::make_unique<QELG_SimulatorProcess>();
+      if (process->data() == nullptr) {
+        throw std::bad_alloc();
+      }
       LoadCAEHeader(*process);
       LoadSummary(*process);
       LoadFlowCTL(*process);
@@ -170,12 +263,10 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
       DetermineInletCount(*process);
       LoadInlets(*process);
     }
-    Dispose();
-    return process.release();
-  } catch (...) {
-    Dispose();
-    return nullptr;
-  }
+    return true;
+  });
+  Dispose();
+  return whole ? process.release() : nullptr;
 }
 
 void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& process) {
@@ -218,44 +309,53 @@ void CQELProcessData_Manipulator::LoadInlets(QELG_SimulatorProcess& process) {
 }
 
 void CQELProcessData_Manipulator::LoadCAEHeader(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), cae_header::kSection, kSteps<cae_header::kKeys>, process);
+  load_section(reader_, cae_header::kSection, kPlan<cae_header::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadSummary(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), summary::kSection, kSteps<summary::kKeys>, process);
+  load_section(reader_, summary::kSection, kPlan<summary::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadFlowCTL(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), flow_ctl::kSection, kSteps<flow_ctl::kKeys>, process);
+  load_section(reader_, flow_ctl::kSection, kPlan<flow_ctl::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::MoldThermalBoundaryType(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), mold_thermal_boundary_type::kSection,
-               kSteps<mold_thermal_boundary_type::kKeys>, process);
+  load_section(reader_, mold_thermal_boundary_type::kSection,
+               kPlan<mold_thermal_boundary_type::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadMachine(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), machine::kSection, kSteps<machine::kKeys>, process);
+  load_section(reader_, machine::kSection, kPlan<machine::kKeys>, process);
 }
 
 void CQELProcessData_Manipulator::LoadRamposition(QELG_SimulatorProcess& process) {
-  load_section(file_of(reader_), ram_position::kSection, kSteps<ram_position::kKeys>, process);
+  load_section(reader_, ram_position::kSection, kPlan<ram_position::kKeys>, process);
 }
 
+// All inlets have their keys in this one section, numbered as they are.
 void CQELProcessData_Manipulator::LoadFlowCTLInfo(QELG_SimulatorFlowPackProcess& inlet,
                                                   int number) {
-  load_section(file_of(reader_), flow_ctl_info::kSection, kSteps<flow_ctl_info::kKeys>, inlet,
-               number);
+  for (const LoadStep& step : kPlan<flow_ctl_info::kKeys>.steps) {
+    const auto* const item = std::get_if<InletItem>(&step.key->details.loader);
+    const auto value = item != nullptr
+                           ? file_of(reader_).value(flow_ctl_info::kSection,
+                                                    NumberedName(step.key->text, number).str())
+                           : std::nullopt;
+    if (value) {
+      SectionLoad(loading(reader_), inlet).set(*item, *step.key, *value);
+    }
+  }
 }
 
 void CQELProcessData_Manipulator::LoadFlow(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, kSteps<flow_x::kKeys>, inlet);
+  load_section(reader_, section, kPlan<flow_x::kKeys>, inlet);
 }
 
 void CQELProcessData_Manipulator::LoadPack(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, kSteps<pack_x::kKeys>, inlet);
+  load_section(reader_, section, kPlan<pack_x::kKeys>, inlet);
 }
 
 void CQELProcessData_Manipulator::LoadCure(QELG_SimulatorFlowPackProcess& inlet, char* section) {
-  load_section(file_of(reader_), section, kSteps<cure_x::kKeys>, inlet);
+  load_section(reader_, section, kPlan<cure_x::kKeys>, inlet);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 #include <variant>
 
 #include "QELG/QELG.h"
@@ -9,10 +10,26 @@
 /// The simulator's functions that the destinations of a load stand for.
 namespace qel {
 
+/// A text may find no memory in the object: its getter tells.
+template <class Object>
+struct TextItem {
+  void (*set)(Object&, const char*);
+  bool (*get)(const Object&, const char*&);
+};
+
 /// A setter's type says how the text is converted.
 template <class Object>
-using Setter = std::variant<void (*)(Object&, unsigned int), void (*)(Object&, double),
-                            void (*)(Object&, const char*)>;
+using Setter =
+    std::variant<void (*)(Object&, unsigned int), void (*)(Object&, double), TextItem<Object>>;
+
+template <class Object, class Value>
+constexpr Setter<Object> setter(void (*set)(Object&, Value), bool (*get)(const Object&, Value&)) {
+  if constexpr (std::is_pointer_v<Value>) {
+    return TextItem<Object>{set, get};
+  } else {
+    return set;
+  }
+}
 
 template <class Object>
 using ListGetter = std::variant<QELG_Profile* (Object::*)(), QELG_Array<double>* (Object::*)()>;
@@ -26,7 +43,7 @@ struct Functions<QELG_SimulatorProcess> {
   using List = ProcessList;
 
   static constexpr Setter<QELG_SimulatorProcess> kSetters[] = {
-#define QELG_PROCESS_ITEM(kind, name) set_process_##name,
+#define QELG_PROCESS_ITEM(kind, name) setter(set_process_##name, get_process_##name),
 #include "qelg/items.inc"
   };
   static constexpr ListGetter<QELG_SimulatorProcess> kLists[] = {
@@ -41,7 +58,7 @@ struct Functions<QELG_SimulatorFlowPackProcess> {
   using List = InletList;
 
   static constexpr Setter<QELG_SimulatorFlowPackProcess> kSetters[] = {
-#define QELG_INLET_ITEM(kind, name) set_process_##name,
+#define QELG_INLET_ITEM(kind, name) setter(set_process_##name, get_process_##name),
 #include "qelg/items.inc"
   };
   static constexpr ListGetter<QELG_SimulatorFlowPackProcess> kLists[] = {

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "blocks/key.h"
+#include "text/key_table.h"
 
 /// What a load does with a section, drawn from its rows when the program is compiled.
 namespace qel {
@@ -63,7 +64,40 @@ consteval auto steps_of() {
   return steps;
 }
 
+/// The steps of a section, and where in a table of their keys each has its own.
+template <std::size_t count>
+struct LoadPlan {
+  static constexpr std::size_t kKeys = 2 * count;
+
+  std::array<LoadStep, count> steps;
+  KeyTable<kKeys> keys;
+  std::array<std::size_t, count> key{};        ///< Of the item, or of the points.
+  std::array<std::size_t, count> count_key{};  ///< `KeyTable::kNone` where nothing counts them.
+};
+
 template <const auto& keys>
-inline constexpr auto kSteps = steps_of<keys>();
+consteval auto plan_of() {
+  constexpr auto kSteps = steps_of<keys>();
+  LoadPlan<kSteps.size()> plan{kSteps, {}};
+  const auto is_point = [&plan](std::string_view text) {
+    const NumberedKey key = numbered_key(text);
+    return key.number >= 0 && plan.keys.find(0, key.prefix, true) != plan.keys.kNone;
+  };
+  for (std::size_t at = 0; at < kSteps.size(); ++at) {
+    plan.key[at] = plan.keys.enter(0, kSteps[at].text, kSteps[at].numbered);
+    plan.count_key[at] =
+        kSteps[at].count.empty() ? plan.keys.kNone : plan.keys.enter(0, kSteps[at].count, false);
+  }
+  for (const LoadStep& step : kSteps) {
+    if ((step.numbered && numbered_key(step.text).number >= 0) ||
+        (!step.numbered && is_point(step.text)) || is_point(step.count)) {
+      throw "a key that is another's number";
+    }
+  }
+  return plan;
+}
+
+template <const auto& keys>
+inline constexpr auto kPlan = plan_of<keys>();
 
 }  // namespace qel

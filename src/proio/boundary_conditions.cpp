@@ -85,7 +85,7 @@ bool CPROIO_Manipulator::GetBC(const char* text, int& count, char*& name, int& t
   name = buffer.text();
   const Words words(text);
   if (words.count() < 4) {
-    scan_values(text, count, Word{name, buffer}, type);
+    scan_values(text, count, Word{name, &Scratch::boundary_condition_name}, type);
     return true;
   }
   const std::size_t last = words.count() - 1;

@@ -75,7 +75,7 @@ bool CPROIO_Manipulator::GetCoolant(int row, double& first, double& second, doub
                                     double& fourth, int& fifth, char*& name, double& seventh,
                                     int& eighth) {
   return GetZeroed(coolant::kRow.at(row), first, second, third, fourth, fifth,
-                   Word{name, scratch().coolant_name}, seventh, eighth);
+                   Word{name, &Scratch::coolant_name}, seventh, eighth);
 }
 bool CPROIO_Manipulator::SetCoolant(int row, double first, double second, double third,
                                     double fourth, int fifth, char* name, double seventh,

@@ -76,8 +76,7 @@ bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name,
   if (!Get(part_insert::kInsert.at(number), text)) {
     return false;
   }
-  Buffer& buffer = scratch().part_insert_name.assign({});
-  name = buffer.text();
+  name = scratch().part_insert_name.keep({});
   const char* at = text;
   if (!qel::fields::scan_one(at, id)) {
     return true;
@@ -85,7 +84,7 @@ bool CPROIO_Manipulator::GetPartInsertSetting(int number, int& id, char*& name,
   if (skip_missing_name(at)) {
     scan_values(at, temperature);
   } else {
-    scan_values(at, Word{name, buffer}, temperature);
+    scan_values(at, Word{name, &Scratch::part_insert_name}, temperature);
   }
   return true;
 }

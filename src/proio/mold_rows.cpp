@@ -16,20 +16,20 @@ constexpr double kOlderMechanical[] = {2e12, 0.3, 0.00012};
 
 // A row of up to seven words has a name of one word; a longer one has a name of several, and all
 // six numbers.
-bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& record) {
+bool CPROIO_Manipulator::GetMoldMetal(const char* text, Buffer& name,
+                                      QELPRO_MMM_MECHANICAL& record) {
   if (text == nullptr) {
     return false;
   }
   constexpr std::size_t kNumbersOnEachSide = 3;
-  Buffer& name = scratch().mold_metal_name.assign({});
-  record.name = name.text();
+  record.name = name.assign({}).text();
   double* thermal = record.thermal;
   double* mechanical = record.mechanical;
   const Words words(text);
   if (words.count() <= 2 * kNumbersOnEachSide + 1) {
     char* parsed = nullptr;
-    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, name}, mechanical[0],
-                mechanical[1], mechanical[2]);
+    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, &Scratch::mold_metal_name},
+                mechanical[0], mechanical[1], mechanical[2]);
     return true;
   }
   const std::size_t after_name = words.count() - kNumbersOnEachSide;
@@ -41,18 +41,18 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, QELPRO_MMM_MECHANICAL& r
   return true;
 }
 
-bool CPROIO_Manipulator::GetMoldRow(const Row& row, double& first, double& second, double& third,
-                                    char*& name) {
+bool CPROIO_Manipulator::GetMoldRow(const Row& row, Buffer& buffer, double& first, double& second,
+                                    double& third, char*& name) {
   char* text = nullptr;
   if (!Get(row, text)) {
     return false;
   }
   QELPRO_MMM_MECHANICAL record{};
-  const bool parsed = GetMoldMetal(text, record);
+  const bool parsed = GetMoldMetal(text, buffer, record);
   first = record.thermal[0];
   second = record.thermal[1];
   third = record.thermal[2];
-  name = scratch().mold_metal_name.text();
+  name = buffer.text();
   return parsed;
 }
 
@@ -68,7 +68,7 @@ bool CPROIO_Manipulator::SetMoldRow(const Row& row, const QELPRO_MMM_MECHANICAL&
 
 bool CPROIO_Manipulator::GetMoldbase(int row, double& first, double& second, double& third,
                                      char*& name) {
-  return GetMoldRow(moldbase::kRow.at(row), first, second, third, name);
+  return GetMoldRow(moldbase::kRow.at(row), scratch().mold_base_name, first, second, third, name);
 }
 bool CPROIO_Manipulator::SetMoldbase(int row, double first, double second, double third,
                                      char* name) {
@@ -77,7 +77,7 @@ bool CPROIO_Manipulator::SetMoldbase(int row, double first, double second, doubl
 bool CPROIO_Manipulator::GetMoldbase(int row, QELPRO_MMM_MECHANICAL& record) {
   char* text = nullptr;
   return checkIsThisPROFileSupport(kGatedVersion) && Get(moldbase::kRow.at(row), text) &&
-         GetMoldMetal(text, record);
+         GetMoldMetal(text, scratch().mold_base_name, record);
 }
 bool CPROIO_Manipulator::SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& record) {
   return SetMoldRow(moldbase::kRow.at(row), record);
@@ -87,7 +87,8 @@ bool CPROIO_Manipulator::SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& recor
 
 bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, double& first, double& second, double& third,
                                               char*& name) {
-  return GetMoldRow(mold_metal::kRow.at(row), first, second, third, name);
+  return GetMoldRow(mold_metal::kRow.at(row), scratch().mold_metal_name, first, second, third,
+                    name);
 }
 bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, double first, double second, double third,
                                               char* name) {
@@ -100,7 +101,7 @@ bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, QELPRO_MMM_MECHANICAL& re
   if (!Get(mold_metal::kRow.at(row), text)) {
     return false;
   }
-  const bool parsed = GetMoldMetal(text, record);
+  const bool parsed = GetMoldMetal(text, scratch().mold_metal_name, record);
   if (checkIsThisPROFileSupport(kGatedVersion)) {
     return parsed;
   }

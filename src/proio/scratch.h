@@ -1,34 +1,16 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <string_view>
+#include "text/thread_buffers.h"
 
 namespace qel::proio {
 
 /// A text of at most 127 characters; what does not fit is cut.
-class Buffer {
- public:
-  Buffer& assign(std::string_view text);
-  Buffer& append(std::string_view text);
-  [[nodiscard]] char* text() { return bytes_.data(); }
-
- private:
-  std::array<char, 128> bytes_{};
-  std::size_t length_ = 0;
-};
+using Buffer = ShortBuffer;
 
 /// The buffers that text results point into, shared by all objects of a thread.
-struct Scratch {
-  Buffer section;
-  Buffer key;
-  Buffer value;
-  Buffer coolant_name;
-  Buffer boundary_condition_name;
-  Buffer part_insert_name;
-  Buffer mold_metal_name;
-};
+using Scratch = decltype(ThreadBuffers::older);
 
-Scratch& scratch();
+/// Throws std::bad_alloc where the thread has no memory.
+inline Scratch& scratch() { return thread_buffers().older; }
 
 }  // namespace qel::proio

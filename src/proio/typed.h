@@ -10,7 +10,8 @@
 template <class... Values>
 bool CPROIO_Manipulator::Get(const qel::proio::Row& row, Values&&... values) {
   char* text = nullptr;
-  const bool found = IsOK(Read(SectionOf(row), KeyOf(row), text, kByKey));
+  const bool found =
+      qel::attempt([&] { return IsOK(Read(SectionOf(row), KeyOf(row), text, kByKey)); });
   if (found) {
     qel::proio::scan_values(text, values...);
   }

@@ -12,7 +12,7 @@ namespace qel::proio {
 /// A value that is one word of text, handed out in a buffer of its own.
 struct Word {
   char*& text;
-  Buffer& buffer;
+  Buffer Scratch::*buffer;
 };
 
 inline bool scan_one(const char*& at, const Word& value) {
@@ -20,7 +20,7 @@ inline bool scan_one(const char*& at, const Word& value) {
   if (!platform::scan_word(at, word)) {
     return false;
   }
-  value.text = value.buffer.assign(word).text();
+  value.text = (scratch().*value.buffer).keep(word);
   return true;
 }
 

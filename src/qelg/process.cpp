@@ -1,5 +1,6 @@
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "QELG/QELG.h"
@@ -23,10 +24,30 @@ void set(std::optional<Value>& item, Value value) {
   item = value;
 }
 
+// Without memory for it the text before stays.
 void set(std::optional<std::string>& item, const char* value) {
-  if (value != nullptr) {
-    item = value;
+  if (value == nullptr) {
+    return;
   }
+  try {
+    std::string text(value);
+    item = std::move(text);
+  } catch (...) {
+    return;
+  }
+}
+
+// What an object holds, made where it has none yet.
+template <class Data>
+Data* made(std::unique_ptr<Data>& data) {
+  if (data == nullptr) {
+    try {
+      data = std::make_unique<Data>();
+    } catch (...) {
+      return nullptr;
+    }
+  }
+  return data.get();
 }
 
 template <class Value>
@@ -59,14 +80,21 @@ struct QELG_SimulatorProcess::Data {
   std::vector<std::unique_ptr<QELG_SimulatorFlowPackProcess>> inlets;
 };
 
-#define QELG_ITEM(object, kind, name)                                                             \
-  void set_process_##name(object& target, passed::kind value) { set(target.data().name, value); } \
-  bool get_process_##name(const object& source, passed::kind& value) {                            \
-    return get(source.data().name, value);                                                        \
+#define QELG_ITEM(object, kind, name)                                   \
+  void set_process_##name(object& target, passed::kind value) {         \
+    if (object::Data* const data = target.data()) {                     \
+      set(data->name, value);                                           \
+    }                                                                   \
+  }                                                                     \
+  bool get_process_##name(const object& source, passed::kind& value) {  \
+    return source.data() != nullptr && get(source.data()->name, value); \
   }
-#define QELG_LIST(object, type, name)                      \
-  type* object::Get##name##_mod() { return &data_->name; } \
-  const type* object::Get##name() const { return &data_->name; }
+#define QELG_LIST(object, type, name)                                                    \
+  type* object::Get##name##_mod() { return data() != nullptr ? &data_->name : nullptr; } \
+  const type* object::Get##name() const {                                                \
+    static const type none;                                                              \
+    return data_ != nullptr ? &data_->name : &none;                                      \
+  }
 
 #define QELG_PROCESS_ITEM(kind, name) QELG_ITEM(QELG_SimulatorProcess, kind, name)
 #define QELG_PROCESS_LIST(type, name, title) QELG_LIST(QELG_SimulatorProcess, type, name)
@@ -74,20 +102,28 @@ struct QELG_SimulatorProcess::Data {
 #define QELG_INLET_LIST(type, name, title) QELG_LIST(QELG_SimulatorFlowPackProcess, type, name)
 #include "items.inc"
 
-QELG_SimulatorFlowPackProcess::QELG_SimulatorFlowPackProcess() : data_(std::make_unique<Data>()) {}
+QELG_SimulatorFlowPackProcess::QELG_SimulatorFlowPackProcess() { data(); }
 
 QELG_SimulatorFlowPackProcess::~QELG_SimulatorFlowPackProcess() = default;
 
-QELG_SimulatorProcess::QELG_SimulatorProcess() : data_(std::make_unique<Data>()) {}
+QELG_SimulatorProcess::QELG_SimulatorProcess() { data(); }
 
 QELG_SimulatorProcess::~QELG_SimulatorProcess() = default;
 
+QELG_SimulatorFlowPackProcess::Data* QELG_SimulatorFlowPackProcess::data() { return made(data_); }
+
+QELG_SimulatorProcess::Data* QELG_SimulatorProcess::data() { return made(data_); }
+
 QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::AppendFlowPackProcess() {
-  if (data_->inlets.size() >= kMostInlets) {
+  if (data() == nullptr || data_->inlets.size() >= kMostInlets) {
     return nullptr;
   }
   try {
-    data_->inlets.push_back(std::make_unique<QELG_SimulatorFlowPackProcess>());
+    auto inlet = std::make_unique<QELG_SimulatorFlowPackProcess>();
+    if (inlet->data() == nullptr) {
+      return nullptr;
+    }
+    data_->inlets.push_back(std::move(inlet));
   } catch (...) {
     return nullptr;
   }
@@ -95,14 +131,14 @@ QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::AppendFlowPackProcess() {
 }
 
 unsigned int QELG_SimulatorProcess::GetNumOfInlets() const {
-  return static_cast<unsigned int>(data_->inlets.size());
+  return data_ != nullptr ? static_cast<unsigned int>(data_->inlets.size()) : 0;
 }
 
 QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet_mod(unsigned int inlet) {
-  return inlet < data_->inlets.size() ? data_->inlets[inlet].get() : nullptr;
+  return inlet < GetNumOfInlets() ? data_->inlets[inlet].get() : nullptr;
 }
 
 const QELG_SimulatorFlowPackProcess* QELG_SimulatorProcess::GetFlowPackOfInlet(
     unsigned int inlet) const {
-  return inlet < data_->inlets.size() ? data_->inlets[inlet].get() : nullptr;
+  return inlet < GetNumOfInlets() ? data_->inlets[inlet].get() : nullptr;
 }

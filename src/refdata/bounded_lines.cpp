@@ -1,7 +1,6 @@
 #include "refdata/bounded_lines.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace qel::refdata {
 namespace {
@@ -17,7 +16,7 @@ std::size_t end_of_contents(std::string_view contents) {
   return contents.find(kEndMark, end) != std::string_view::npos ? end : contents.size();
 }
 
-// The same of a file.
+// The same of a file; below 0 where that cannot be told.
 std::int64_t end_of_contents(platform::RandomAccess& file) {
   const std::int64_t size = file.size();
   std::int64_t end = size;
@@ -27,7 +26,7 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
         std::max<std::int64_t>(end - static_cast<std::int64_t>(sizeof last), 0);
     const std::string_view piece(last, static_cast<std::size_t>(end - begin));
     if (file.read_at(begin, last, piece.size()) != end - begin) {
-      break;
+      return -1;
     }
     const std::size_t after = piece.find_last_not_of(kPadding) + 1;
     marked = marked || piece.find(kEndMark, after) != std::string_view::npos;
@@ -35,9 +34,6 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
     if (after != 0) {
       break;
     }
-  }
-  if (size < 0) {
-    return std::numeric_limits<std::int64_t>::max();
   }
   return marked ? end : size;
 }
@@ -47,8 +43,9 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
 BoundedLines::BoundedLines(platform::RandomAccess& file)
     : file_(&file), block_(new char[kBlock]), end_(end_of_contents(file)) {
   char start[kByteOrderMark.size()];
-  if (file.read_at(0, start, sizeof start) == sizeof start &&
-      std::string_view(start, sizeof start) == kByteOrderMark) {
+  const std::int64_t got = file.read_at(0, start, sizeof start);
+  failed_ = end_ < 0 || got < 0;
+  if (got == sizeof start && std::string_view(start, sizeof start) == kByteOrderMark) {
     offset_ = static_cast<std::int64_t>(kByteOrderMark.size());
   }
 }
@@ -64,12 +61,13 @@ bool BoundedLines::fill() {
   if (at_ < window_.size()) {
     return true;
   }
-  if (file_ == nullptr || offset_ >= end_) {
+  if (file_ == nullptr || failed_ || offset_ >= end_) {
     return false;
   }
   const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(end_ - offset_, kBlock));
   const std::int64_t got = file_->read_at(offset_, block_.get(), wanted);
   if (got <= 0) {
+    failed_ = got < 0;
     return false;
   }
   offset_ += got;

@@ -26,6 +26,8 @@ class BoundedLines {
   /// The next line without its line break; false, and an empty line, at the end of the file or when
   /// it cannot be read.
   bool next(std::string& line);
+  /// Whether the file could not be read to its end.
+  [[nodiscard]] bool failed() const { return failed_; }
 
   static constexpr std::size_t kLongestLine = 1023;
 
@@ -39,6 +41,7 @@ class BoundedLines {
   std::unique_ptr<char[]> block_;
   std::int64_t offset_ = 0;  // of what comes after the window
   std::int64_t end_ = 0;     // of the contents; what stands after is no line
+  bool failed_ = false;
   std::string_view window_;
   std::size_t at_ = 0;
 };

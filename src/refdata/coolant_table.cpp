@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "platform/number.h"
 #include "refdata/bounded_lines.h"
@@ -81,7 +82,7 @@ std::array<double, kProperties> Coolant::properties_at(double argument) const {
   return result;
 }
 
-std::vector<Coolant> read_coolants(platform::RandomAccess& file) {
+std::optional<std::vector<Coolant>> read_coolants(platform::RandomAccess& file) {
   std::vector<Coolant> coolants;
   BoundedLines lines(file);
   bool in_section = false;
@@ -98,7 +99,7 @@ std::vector<Coolant> read_coolants(platform::RandomAccess& file) {
       read_entry(line, coolants.back());
     }
   }
-  return coolants;
+  return lines.failed() ? std::nullopt : std::optional(std::move(coolants));
 }
 
 }  // namespace qel::refdata

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,8 @@ struct Coolant {
   [[nodiscard]] std::array<double, kProperties> properties_at(double argument) const;
 };
 
-/// The coolants of a settings file, in its order.
-std::vector<Coolant> read_coolants(platform::RandomAccess& file);
+/// The coolants of a settings file, in its order; nothing when it cannot be read to its end: the
+/// rows that are missing would be taken for 0.
+std::optional<std::vector<Coolant>> read_coolants(platform::RandomAccess& file);
 
 }  // namespace qel::refdata

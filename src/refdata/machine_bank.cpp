@@ -44,7 +44,7 @@ bool read_version(std::string& line, int& version) {
   return platform::scan_word(at, word) && platform::scan_int(at, version);
 }
 
-BankReport read(BoundedLines lines, int& version, Makers& makers) {
+BankReport read(BoundedLines& lines, int& version, Makers& makers) {
   constexpr int kUnreadVersion = 1000;
   constexpr int kMachine = 1;
   BankReport report;
@@ -98,13 +98,20 @@ BankReport read(BoundedLines lines, int& version, Makers& makers) {
 }  // namespace
 
 bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) {
-  return !read(BoundedLines(file), version, makers).has_total;
+  BoundedLines lines(file);
+  const bool ends_well = !read(lines, version, makers).has_total;
+  if (lines.failed()) {
+    makers.clear();
+    return false;
+  }
+  return ends_well;
 }
 
 BankReport examine_machine_bank(std::string_view contents) {
   int version = 0;
   Makers makers;
-  return read(BoundedLines(contents), version, makers);
+  BoundedLines lines(contents);
+  return read(lines, version, makers);
 }
 
 }  // namespace qel::refdata

@@ -115,7 +115,7 @@ bool LineScanner::is_padding(std::size_t begin) {
   }
 }
 
-bool LineScanner::next(Line& line) {
+bool LineScanner::next_of_any(Line& line) {
   const std::size_t longest = dialect_.longest_line;
   const std::size_t most = longest_in_bytes(dialect_);
   const auto find_break = [this, most] {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -39,7 +41,7 @@ class LineScanner {
   LineScanner& operator=(const LineScanner&) = delete;
 
   /// The next line; false at the end of the file, or when it cannot be read.
-  bool next(Line& line);
+  bool next(Line& line) { return next_as_usual(line) || next_of_any(line); }
 
   /// The next line that begins with the prefix, which is not empty. Much faster than asking `next`
   /// for each line between.
@@ -59,6 +61,26 @@ class LineScanner {
   static constexpr std::size_t kFew = 2048;
 
  private:
+  // A line that is in memory whole, and not too long. False for any other, and nothing is moved.
+  bool next_as_usual(Line& line) {
+    const char* const begin = window_ + at_;
+    const std::size_t most = std::min(available(), dialect_.longest_line);
+    const auto* const line_break = may_hold_nul_ || inside_long_line_ || failed_ || most == 0
+                                       ? nullptr
+                                       : static_cast<const char*>(std::memchr(begin, '\n', most));
+    if (line_break == nullptr) {
+      return false;
+    }
+    const auto length = static_cast<std::size_t>(line_break - begin);
+    line.start = window_offset_ + static_cast<std::int64_t>(at_);
+    at_ += length + 1;
+    line.end = window_offset_ + static_cast<std::int64_t>(at_);
+    line.text = {begin, length - static_cast<std::size_t>(length > 0 && line_break[-1] == '\r')};
+    line.is_piece = false;
+    line.has_break = true;
+    return true;
+  }
+  bool next_of_any(Line& line);
   bool read_more();
   void drop_end_mark();
   bool is_padding(std::size_t begin);

@@ -3,8 +3,9 @@
 #include <bit>
 #include <chrono>
 #include <cstddef>
-#include <cstring>
 #include <random>
+
+#include "text/word.h"
 
 // SipHash with one round for each word and three at the end.
 
@@ -25,7 +26,7 @@ HashKey drawn_key() {
   } catch (...) {
     // A machine without a source of random numbers: the moment, and where the program was loaded.
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&name_hash)};
+    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&drawn_key)};
   }
 }
 
@@ -58,29 +59,33 @@ struct SipState {
   std::uint64_t a, b, c, d;
 };
 
-std::uint64_t word_of(const char* bytes, std::size_t count) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, count);
-  return word;
+const HashKey& key_of_program() {
+  static const HashKey key = drawn_key();
+  return key;
 }
 
-}  // namespace
-
-std::uint64_t name_hash(std::string_view name) {
-  static const HashKey key = drawn_key();
-  constexpr std::size_t kWord = sizeof(std::uint64_t);
-  SipState state(key);
+std::uint64_t hash_of(SipState state, std::string_view name) {
   const char* at = name.data();
   std::size_t left = name.size();
-  for (; left >= kWord; left -= kWord, at += kWord) {
-    state.take(word_of(at, kWord));
+  for (; left >= kWordSize; left -= kWordSize, at += kWordSize) {
+    state.take(word_of(at));
   }
-  state.take(word_of(at, left) | (std::uint64_t{name.size()} << (8 * (kWord - 1))));
+  state.take(word_of(at, left) | (std::uint64_t{name.size()} << (8 * (kWordSize - 1))));
   state.c ^= 0xffU;
   state.round();
   state.round();
   state.round();
   return state.a ^ state.b ^ state.c ^ state.d;
+}
+
+}  // namespace
+
+std::uint64_t name_hash(std::string_view name) { return hash_of(SipState(key_of_program()), name); }
+
+std::uint64_t name_hash(std::uint64_t owner, std::string_view name) {
+  SipState state(key_of_program());
+  state.take(owner);
+  return hash_of(state, name);
 }
 
 }  // namespace qel

@@ -12,11 +12,15 @@
 namespace qel {
 
 /// A name with its hash, so that asking for it and entering it costs one hash. The text outlives
-/// the name.
+/// the name. One that belongs to another, as a section's key does, has that one's hash in its own
+/// and tells its owner by a number.
 struct HashedName {
   explicit HashedName(std::string_view name) : text(name), hash(name_hash(name)) {}
+  HashedName(std::uint64_t owner_hash, std::uint32_t owner_number, std::string_view name)
+      : text(name), hash(name_hash(owner_hash, name)), owner(owner_number) {}
   std::string_view text;
   std::uint64_t hash;
+  std::uint32_t owner = 0;
 };
 
 /// Values by name, in the order in which they were entered. An entry is never removed by itself.
@@ -49,16 +53,21 @@ class NameTable {
     }
     const std::size_t name_at = names_.size();
     names_.append(name.text);
-    entries_.push_back({name.hash, name_at, name.text.size(), std::move(value)});
+    entries_.push_back({name.hash, name_at, static_cast<std::uint32_t>(name.text.size()),
+                        name.owner, std::move(value)});
     slots_[slot] = static_cast<std::uint32_t>(entries_.size());
     return {&entries_.back().value, true};
   }
 
   [[nodiscard]] std::size_t size() const { return entries_.size(); }
   [[nodiscard]] Value& value(std::size_t position) { return entries_[position].value; }
+  [[nodiscard]] const Value& value(std::size_t position) const { return entries_[position].value; }
   [[nodiscard]] std::string_view name(std::size_t position) const {
-    return std::string_view(names_).substr(entries_[position].name_at,
-                                           entries_[position].name_size);
+    return {names_.data() + entries_[position].name_at, entries_[position].name_size};
+  }
+  /// Whether the entry at the position has the name.
+  [[nodiscard]] bool is(std::size_t position, std::uint32_t owner, std::string_view text) const {
+    return entries_[position].owner == owner && name(position) == text;
   }
 
   void clear() {
@@ -71,7 +80,8 @@ class NameTable {
   struct Named {
     std::uint64_t hash;
     std::size_t name_at;
-    std::size_t name_size;
+    std::uint32_t name_size;
+    std::uint32_t owner;
     Value value;
   };
 
@@ -80,7 +90,7 @@ class NameTable {
     const std::size_t mask = slots_.size() - 1;
     std::size_t slot = static_cast<std::size_t>(wanted.hash) & mask;
     while (slots_[slot] != 0 && (entries_[slots_[slot] - 1].hash != wanted.hash ||
-                                 name(slots_[slot] - 1) != wanted.text)) {
+                                 !is(slots_[slot] - 1, wanted.owner, wanted.text))) {
       slot = (slot + 1) & mask;
     }
     return slot;

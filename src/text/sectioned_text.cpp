@@ -53,7 +53,8 @@ LineKind kind_of(const TextLine& line) {
   if (seen.front() == ';' || seen.front() == '#' || seen.substr(0, 2) == "//") {
     return LineKind::comment;
   }
-  if (text::first_token(seen).empty()) {
+  // A carriage return that ends no line is in the way of a key as a blank in front of it is.
+  if (!text::is_findable(text::first_token(seen))) {
     return LineKind::indented;
   }
   return seen.find('=') == std::string_view::npos ? LineKind::without_equals : LineKind::entry;
@@ -65,27 +66,32 @@ SectionedText::SectionedText(std::string contents) : contents_(std::move(content
 }
 
 void SectionedText::split() {
-  std::size_t lines = 0;
-  std::size_t headers = 0;
   Line line;
   has_nul_ = contents_.find('\0') != std::string::npos;
-  for (LineScanner counted(contents_, 0, has_nul_); counted.next(line); ++lines) {
-    headers += static_cast<std::size_t>(text::is_header(line.text));
+  // As many as there are, but for lines that are too long and what only begins as a header.
+  std::size_t headers = 0;
+  for (std::size_t at = contents_.find('['); at != std::string::npos;
+       at = contents_.find('[', at + 1)) {
+    headers += static_cast<std::size_t>(at == 0 || contents_[at - 1] == '\n');
   }
-  begins_.reserve(lines);
   sections_.reserve(headers);
+  begins_.reserve(static_cast<std::size_t>(std::count(contents_.begin(), contents_.end(), '\n')) +
+                  1);
   for (LineScanner scanner(contents_, 0, has_nul_); scanner.next(line);) {
     if (text::is_header(line.text)) {
       if (!sections_.empty()) {
         sections_.back().after = begins_.size();
       }
-      sections_.push_back({name_of(line.text), begins_.size(), lines});
+      sections_.push_back({name_of(line.text), begins_.size(), 0});
     }
     if (line.is_piece) {
       pieces_.push_back(begins_.size());
     }
     begins_.push_back(static_cast<std::size_t>(line.start));
     end_ = static_cast<std::size_t>(line.end);
+  }
+  if (!sections_.empty()) {
+    sections_.back().after = begins_.size();
   }
 }
 

@@ -28,7 +28,8 @@ struct TextSection {
       false;  ///< A section that lookups take for the same came before: it is never read.
 };
 
-/// What a line inside or before the sections is.
+/// What a line inside or before the sections is. As `indented` counts what has no key that a lookup
+/// takes: a "=" in front, or a carriage return in the key.
 enum class LineKind { blank, comment, indented, without_equals, entry };
 LineKind kind_of(const TextLine& line);
 

@@ -2,11 +2,15 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "text/key_order.h"
+#include "text/line_scanner.h"
 #include "text/name_table.h"
+#include "text/text.h"
 
 namespace qel {
 
@@ -17,57 +21,75 @@ class Snapshot {
   Snapshot() = default;
   Snapshot(const Snapshot&) = delete;
   Snapshot& operator=(const Snapshot&) = delete;
-  Snapshot(Snapshot&&) = default;
-  Snapshot& operator=(Snapshot&&) = default;
   ~Snapshot() = default;
 
   /// False when the file cannot be read.
   bool load(const char* path);
 
-  /// The entries of the section that was asked for last, here or below, are kept in order, so that
-  /// all keys of one section cost about one pass over it.
-  [[nodiscard]] bool has_section(std::string_view section) { return sort_entries_of(section); }
+  /// The entries of the section that was asked for last are kept in order, so that all keys of one
+  /// section cost about one pass over it.
   [[nodiscard]] std::optional<std::string_view> value(std::string_view section,
                                                       std::string_view key);
 
-  struct Numbered {
-    int number;
-    std::string_view value;
-  };
+  /// Hands each entry of the section, in the file's order, to `visit`: its key, and its line. False
+  /// where there is no such section.
+  template <class Visit>
+  bool visit_entries(std::string_view section, Visit visit) const {
+    const std::size_t found = sections_.position_of(HashedName(section));
+    if (found == kNone) {
+      return false;
+    }
+    LineScanner lines(contents_, sections_.value(found), may_hold_nul_);
+    for (Line line; lines.next(line) && !text::is_header(line.text);) {
+      if (const std::string_view key = text::first_token(line.text); !key.empty()) {
+        visit(key, line.text);
+      }
+    }
+    return true;
+  }
+
+  /// Hands a value to `use` as a text that ends with a NUL.
+  template <class Use>
+  void with_text(std::string_view value, Use use) {
+    if (value.empty()) {
+      use("");
+      return;
+    }
+    const Terminated text(contents_.data() + (value.data() - contents_.data()) + value.size());
+    use(value.data());
+  }
+
   /// The numbers from 1 to `most` of the sections whose names are the pattern with a number in the
   /// place of "%d", ascending.
   [[nodiscard]] std::vector<int> numbered_sections(std::string_view pattern, int most) const;
 
-  /// The entries of the section whose keys are the prefix and a number from 1 to `most`, in
-  /// ascending order; valid until the next call.
-  [[nodiscard]] const std::vector<Numbered>& numbered(std::string_view section,
-                                                      std::string_view prefix, int most);
-
  private:
-  struct KeyLine {
-    std::string_view key;
-    std::string_view line;
-  };
-  // What is sorted: small, and most often compared without a look at the entry.
-  struct Sorted {
-    std::uint64_t front;  // the key's first characters, which tell most keys apart
-    std::size_t entry;
+  // A text in the contents ends there while this lives.
+  class Terminated {
+   public:
+    explicit Terminated(char* end) : end_(end), kept_(*end) { *end_ = '\0'; }
+    ~Terminated() { *end_ = kept_; }
+    Terminated(const Terminated&) = delete;
+    Terminated& operator=(const Terminated&) = delete;
+
+   private:
+    char* end_;
+    char kept_;
   };
 
   static constexpr std::size_t kNone = NameTable<std::int64_t>::kUnknown;
 
   // False where there is no such section.
   bool sort_entries_of(std::string_view section);
-  // The first of the sorted entries whose key is not below this one.
-  [[nodiscard]] std::vector<Sorted>::const_iterator first_from(std::string_view key) const;
 
   std::string contents_;
   bool may_hold_nul_ = false;
   NameTable<std::int64_t> sections_;    // where the line after the header begins
   std::size_t sorted_section_ = kNone;  // the section that was asked for last
-  std::vector<KeyLine> entries_;        // its entries as they stand in the file
-  std::vector<Sorted> sorted_;          // the same by key, then by place
-  std::vector<Numbered> numbered_;      // what was handed out last
+  std::vector<std::string_view> keys_;  // of its entries, as they stand in the file
+  std::vector<std::string_view> lines_;
+  KeyOrder in_order_;
+  std::span<const std::size_t> order_;  // of the same
 };
 
 }  // namespace qel

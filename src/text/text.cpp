@@ -1,9 +1,9 @@
 #include "text/text.h"
 
+#include <algorithm>
+
 namespace qel::text {
 namespace {
-
-bool ends_token(char c) { return c == ' ' || c == '\t' || c == '='; }
 
 // These walk byte by byte: names and blanks are short, and a search for one of several characters
 // costs a call for each byte.
@@ -26,14 +26,6 @@ std::string_view without_trailing(std::string_view text) {
 
 }  // namespace
 
-std::string_view first_token(std::string_view line) {
-  std::size_t length = 0;
-  while (length < line.size() && !ends_token(line[length])) {
-    ++length;
-  }
-  return line.substr(0, length);
-}
-
 bool first_token_is(std::string_view line, std::string_view token) {
   return !token.empty() && line.substr(0, token.size()) == token &&
          (line.size() == token.size() || ends_token(line[token.size()])) && is_findable(token);
@@ -53,10 +45,7 @@ std::string_view index_value(std::string_view line) {
   return without_trailing(without_leading_blanks(line));
 }
 
-bool is_header(std::string_view line) {
-  if (line.empty() || line.front() != '[') {
-    return false;
-  }
+bool is_header_in_brackets(std::string_view line) {
   if (const std::string_view trimmed = without_trailing(line);
       trimmed.size() > 1 && trimmed.back() == ']') {
     return true;
@@ -101,7 +90,10 @@ std::size_t length_without_padding(std::string_view contents, const Dialect& dia
 }
 
 bool is_findable(std::string_view name) {
-  return !name.empty() && name.find_first_of(" \t=\r\n") == std::string_view::npos;
+  const auto is_lost = [](char c) {
+    return c != '\0' && kEndsToken[static_cast<unsigned char>(c)] != Ends::no;
+  };
+  return !name.empty() && std::none_of(name.begin(), name.end(), is_lost);
 }
 
 bool is_section_name(std::string_view name) {

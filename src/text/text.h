@@ -1,9 +1,14 @@
 #pragma once
 
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "text/dialect.h"
+#include "text/word.h"
 
 /// The text rules of a process file. A line is given without its line break.
 namespace qel::text {
@@ -14,9 +19,38 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// A positional section is always created with this header; lookups find it by its first token.
 inline constexpr std::string_view kPositionalHeader = "[SURFACE ELEMENT BOUNDARY CONDITION NAME]";
 
+/// Which characters end a first token, and which are in none that a lookup finds.
+enum class Ends : unsigned char { no, token, name };
+inline constexpr auto kEndsToken = [] {
+  std::array<Ends, 256> ends{};
+  ends[' '] = ends['\t'] = ends['='] = Ends::token;
+  ends['\r'] = ends['\n'] = ends['\0'] = Ends::name;
+  return ends;
+}();
+constexpr bool ends_token(char c) {
+  return kEndsToken[static_cast<unsigned char>(c)] == Ends::token;
+}
+
 /// The text up to the first blank, tab or "=". A line that begins with a blank has an empty first
 /// token.
-std::string_view first_token(std::string_view line);
+constexpr std::string_view first_token(std::string_view line) {
+  // Where its first eight characters are there, the end is most often among them, and all are
+  // looked at together: which one it is cannot be foretold.
+  std::size_t length = 0;
+  for (; line.size() - length >= kWordSize; length += kWordSize) {
+    const std::uint64_t word = word_of(line.data() + length);
+    const std::uint64_t ends = zeros_in(word ^ word_full_of(' ')) |
+                               zeros_in(word ^ word_full_of('\t')) |
+                               zeros_in(word ^ word_full_of('='));
+    if (ends != 0) {
+      return line.substr(0, length + static_cast<std::size_t>(std::countr_zero(ends)) / 8);
+    }
+  }
+  while (length < line.size() && !ends_token(line[length])) {
+    ++length;
+  }
+  return line.substr(0, length);
+}
 
 /// Whether the first token of the line is exactly this non-empty text.
 bool first_token_is(std::string_view line, std::string_view token);
@@ -33,7 +67,10 @@ std::string_view index_value(std::string_view line);
 
 /// Whether a section begins at the line: it reads "[...]" once what trails it is removed, or words
 /// stand after its "[...]". A "=" after the brackets makes it the entry of an odd key.
-bool is_header(std::string_view line);
+bool is_header_in_brackets(std::string_view line);  // of a line that begins with one
+inline bool is_header(std::string_view line) {
+  return !line.empty() && line.front() == '[' && is_header_in_brackets(line);
+}
 
 /// Whether the line is the header of the section of this name. A name that does not begin with a
 /// bracket, under which nothing is ever stored, is found at any line that begins with it.

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstddef>
@@ -18,18 +19,40 @@ struct Plan {
   bool armed = false;
   int at = 0;
   Failure failure = Failure::none;
+  int error = 0;
   bool next_write_fails = false;
   Outcome outcome;
 };
 thread_local Plan plan;
 thread_local std::function<void(int)> announce_call;
 
-// Whether this call is to fail, or to write less.
+constexpr std::size_t kPage = 4096;
+int pages_left = -1;  // none are counted
+
+// How many of the bytes go into the first page that a write touches.
+std::size_t part_in_page(std::size_t count, off_t offset) {
+  return std::min(count, kPage - static_cast<std::size_t>(offset) % kPage);
+}
+
+void count_page() {
+  if (pages_left-- == 0) {
+    ::_exit(1);
+  }
+}
+
+void record(const char* name) {
+  if (const auto at = static_cast<std::size_t>(plan.outcome.calls++);
+      at < plan.outcome.names.size()) {
+    plan.outcome.names[at] = name;
+  }
+}
+
+// Whether this call is to fail, or to read or write less.
 bool is_chosen(const char* name) {
   if (!plan.armed) {
     return false;
   }
-  ++plan.outcome.calls;
+  record(name);
   if (announce_call) {
     plan.armed = false;
     announce_call(plan.outcome.calls);
@@ -41,6 +64,8 @@ bool is_chosen(const char* name) {
   plan.outcome.failed_call = name;
   return true;
 }
+
+int error_or(int usual) { return plan.error != 0 ? plan.error : usual; }
 
 enum class Interruption { possible, impossible };
 
@@ -54,7 +79,7 @@ bool fails(const char* name, int error, Interruption interruption = Interruption
     return false;
   }
   plan.outcome.failed = true;
-  errno = interrupted ? EINTR : error;
+  errno = interrupted ? EINTR : error_or(error);
   return true;
 }
 
@@ -65,7 +90,9 @@ Function* next(const char* name) {
 
 }  // namespace
 
-void fail(int n, Failure failure) { plan = {true, n, failure, false, {}}; }
+void end_after_pages(int pages) { pages_left = pages; }
+
+void fail(int n, Failure failure, int error) { plan = {true, n, failure, error, false, {}}; }
 
 void announce(std::function<void(int call)> announcement) {
   announce_call = std::move(announcement);
@@ -85,13 +112,45 @@ using namespace qelpro_test::io_calls;
 
 #define VISIBLE extern "C" __attribute__((visibility("default")))
 
+namespace {
+
+using Fcntl = int(int, int, ...);
+Fcntl* real_fcntl() {
+  static auto* const real = next<Fcntl>("fcntl");
+  return real;
+}
+
+}  // namespace
+
+// Its locks count; other questions are not asked of a file system.
+VISIBLE int fcntl(int fd, int command, ...) {
+  std::va_list arguments;
+  va_start(arguments, command);
+  void* const argument = va_arg(arguments, void*);
+  va_end(arguments);
+  const bool is_lock = command == F_OFD_SETLK || command == F_OFD_SETLKW;
+  if (is_lock && static_cast<struct flock*>(argument)->l_type != F_UNLCK &&
+      fails("fcntl", ENOLCK, Interruption::possible)) {
+    return -1;
+  }
+  return real_fcntl()(fd, command, argument);
+}
+
 VISIBLE int open(const char* path, int flags, ...) {
   static auto* const real = next<int(const char*, int, ...)>("open");
   std::va_list arguments;
   va_start(arguments, flags);
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return fails("open", EIO, Interruption::possible) ? -1 : real(path, flags, mode);
+  const char* const name = (flags & O_ACCMODE) == O_RDONLY ? kOpenToRead : "open";
+  if (fails(name, EIO, Interruption::possible)) {
+    return -1;
+  }
+  const int fd = real(path, flags, mode);
+  if (plan.armed && fd >= 0 && (real_fcntl()(fd, F_GETFD) & FD_CLOEXEC) == 0) {
+    ++plan.outcome.inherited;
+  }
+  return fd;
 }
 
 VISIBLE int close(int fd) {
@@ -122,6 +181,11 @@ VISIBLE int fcntl(int fd, int command, ...) {
              : real(fd, command, argument);
 }
 
+VISIBLE int stat(const char* path, struct stat* status) noexcept {
+  static auto* const real = next<int(const char*, struct stat*)>("stat");
+  return fails("stat", EIO) ? -1 : real(path, status);
+}
+
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
   return fails("pread", EIO, Interruption::possible) ? -1 : real(fd, to, count, offset);
@@ -129,16 +193,29 @@ VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
 
 VISIBLE ssize_t pwrite(int fd, const void* from, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, const void*, std::size_t, off_t)>("pwrite");
+  if (pages_left >= 0) {
+    const char* bytes = static_cast<const char*>(from);
+    for (std::size_t done = 0; done < count;) {
+      const off_t at = offset + static_cast<off_t>(done);
+      const std::size_t part = part_in_page(count - done, at);
+      count_page();
+      if (real(fd, bytes + done, part, at) != static_cast<ssize_t>(part)) {
+        return -1;
+      }
+      done += part;
+    }
+    return static_cast<ssize_t>(count);
+  }
   if (plan.next_write_fails) {
     plan.next_write_fails = false;
-    ++plan.outcome.calls;
-    errno = ENOSPC;
+    record("pwrite");
+    errno = error_or(ENOSPC);
     return -1;
   }
   if (is_chosen("pwrite")) {
     if (plan.failure == Failure::error || plan.failure == Failure::interrupted) {
       plan.outcome.failed = true;
-      errno = plan.failure == Failure::error ? ENOSPC : EINTR;
+      errno = plan.failure == Failure::error ? error_or(ENOSPC) : EINTR;
       return -1;
     }
     if (count > 1) {
@@ -167,6 +244,13 @@ VISIBLE int fseeko(std::FILE* stream, off_t offset, int whence) {
 
 VISIBLE std::size_t fread(void* to, std::size_t size, std::size_t count, std::FILE* stream) {
   static auto* const real = next<std::size_t(void*, std::size_t, std::size_t, std::FILE*)>("fread");
+  if (is_chosen("fread") && plan.failure == Failure::error) {
+    plan.outcome.failed = true;
+    const std::size_t half = real(to, 1, size * count / 2, stream);
+    stream->_flags |= _IO_ERR_SEEN;  // what ferror() looks at
+    errno = error_or(EIO);
+    return half / size;
+  }
   return real(to, size, count, stream);
 }
 
@@ -174,9 +258,20 @@ VISIBLE std::size_t fwrite(const void* from, std::size_t size, std::size_t count
                            std::FILE* stream) {
   static auto* const real =
       next<std::size_t(const void*, std::size_t, std::size_t, std::FILE*)>("fwrite");
+  if (pages_left >= 0) {
+    const char* bytes = static_cast<const char*>(from);
+    for (std::size_t done = 0; done < size * count;) {
+      const std::size_t part = part_in_page(size * count - done, ::ftello(stream));
+      count_page();
+      real(bytes + done, 1, part, stream);
+      std::fflush(stream);
+      done += part;
+    }
+    return count;
+  }
   if (is_chosen("fwrite") && plan.failure != Failure::interrupted) {
     plan.outcome.failed = true;
-    errno = ENOSPC;
+    errno = error_or(ENOSPC);
     const std::size_t half =
         plan.failure == Failure::error ? 0 : real(from, 1, size * count / 2, stream);
     return half / size;

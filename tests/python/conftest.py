@@ -1,6 +1,7 @@
 """What the tests share."""
 
 import json
+import locale
 import os
 import subprocess
 import traceback
@@ -11,6 +12,22 @@ import pytest
 import qelpro
 
 os.environ.setdefault("MPLBACKEND", "Agg")
+
+if os.environ.get("QELPRO_TEST_LOCALE"):
+    # Of this process, in which the module works, and of those that it starts.
+    os.environ["LC_ALL"] = os.environ["QELPRO_TEST_LOCALE"]
+    locale.setlocale(locale.LC_ALL, os.environ["LC_ALL"])
+    # The system's words are held against those of processes that set none.
+    locale.setlocale(locale.LC_MESSAGES, "C")
+
+
+def pytest_runtest_logreport(report):
+    """Tells the run's summary what was skipped, which ctest does not see."""
+    told = os.environ.get("QELPRO_SKIPPED_TESTS")
+    if told and report.skipped and not hasattr(report, "wasxfail"):
+        reason = " ".join(str(report.longrepr[-1]).removeprefix("Skipped: ").split())
+        with open(told, "a", encoding="utf-8") as stream:
+            stream.write(f"python: {report.nodeid}: {reason}\n")
 
 ROOT = Path(os.environ["QELPRO_DATA"])
 """The source tree, for its examples and test data."""

@@ -78,7 +78,8 @@ def test_each_call_that_fails_is_an_exception_or_does_not_matter(store, folder, 
             and ("not stored" in message or "cannot be written" in message)
         ), (number, message)
     assert outcomes[-1][1] is None
-    assert len([raised for _, raised, _, _ in outcomes if raised]) >= 5
+    # Of a file without a name fewer calls matter; one that cannot be had has a name at once.
+    assert len([raised for _, raised, _, _ in outcomes if raised]) >= (3 if store == "new" else 5)
 
 
 @needs_library

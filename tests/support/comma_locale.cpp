@@ -11,6 +11,11 @@ CommaLocale::CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)) {
   }
 }
 
+CommaLocale::CommaLocale(const std::string& name)
+    : before_(std::setlocale(LC_ALL, nullptr)),
+      is_set_(std::setlocale(LC_ALL, name.c_str()) != nullptr &&
+              *std::localeconv()->decimal_point == ',') {}
+
 CommaLocale::~CommaLocale() { std::setlocale(LC_ALL, before_.c_str()); }
 
 }  // namespace qelpro_test

@@ -8,6 +8,8 @@ namespace qelpro_test {
 class CommaLocale {
  public:
   CommaLocale();
+  /// This one.
+  explicit CommaLocale(const std::string& name);
   CommaLocale(const CommaLocale&) = delete;
   CommaLocale& operator=(const CommaLocale&) = delete;
   ~CommaLocale();

@@ -7,6 +7,7 @@
 
 #include "support/scratch.h"
 #include "tool/shell.h"
+#include "tool/writers.h"
 
 // Commands that write a file, while calls fail, while they are killed, and two at once.
 
@@ -17,38 +18,6 @@ using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-constexpr const char* kOld = "[A]\nx = 1\ny = 2\n";
-
-/// What writes into "$1", where "$2" is a form of JSON.
-struct Writer {
-  const char* command;
-  const char* made;  ///< What the file is afterwards.
-};
-const std::vector<Writer> kWriters = {
-    {"\"$0\" set \"$1\" A.x=5 B.z=6", "[A]\nx = 5\ny = 2\n\n[B]\nz                    = 6\n"},
-    {"\"$0\" unset \"$1\" A.x", "[A]\ny = 2\n"},
-    {"\"$0\" import \"$2\" --onto \"$1\"", "[A]\nx = 7\ny = 2\n"},
-    {"\"$0\" import \"$2\" -o \"$1\"", "[A]\nx                    = 7\n"},
-    {"\"$0\" set \"$1\" --from \"$3\"", "[A]\nx = 8\ny = 2\n"},
-    {"\"$0\" export \"$2.pro\" -o \"$1\"", "{}\n"}};
-
-class WritingCommand : public testing::TestWithParam<Writer> {
- protected:
-  void SetUp() override {
-    put_bytes(forms_.path("form.json"), "{\"A\": {\"x\": \"7\"}}");
-    put_bytes(forms_.path("form.json.pro"), "");
-    put_bytes(forms_.path("values.json"), "{\"A.x\": \"8\"}");
-  }
-  Outcome write(const std::string& file, const std::string& before = "",
-                const std::string& after = "") {
-    return shell(before + GetParam().command + after,
-                 {file, forms_.path("form.json"), forms_.path("values.json")});
-  }
-  Scratch forms_;
-  Scratch scratch_;
-  std::string file_ = scratch_.file(kOld);
-};
 
 TEST_P(WritingCommand, Writes) {
   EXPECT_EQ(write(file_).err, "");
@@ -110,7 +79,7 @@ TEST_P(WritingCommand, LosesNothingOnAFullDisk) {
   EXPECT_EQ(after, kOld);
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, WritingCommand, testing::ValuesIn(kWriters));
+INSTANTIATE_TEST_SUITE_P(Commands, WritingCommand, testing::ValuesIn(kWriters), NameOfWriter());
 
 TEST(TwoAtOnce, EveryOneThatReportsSuccessIsInTheFile) {
   const Scratch scratch;

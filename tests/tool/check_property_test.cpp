@@ -13,6 +13,7 @@
 #include "blocks/catalogue.h"
 #include "check/check.h"
 #include "members/every_member.h"
+#include "support/in_c_locale.h"
 #include "support/scratch.h"
 
 // Where no error is found, every member of the reader that gives typed values gives what stands in
@@ -75,7 +76,7 @@ std::vector<std::string> words_of(const std::string& text) {
 // The number that begins a word; what stands behind it only where `is_last`.
 std::optional<Value> number_in(const std::string& word, char letter, bool is_last) {
   char* end = nullptr;
-  const double real = std::strtod(word.c_str(), &end);
+  const double real = in_c_locale([&] { return std::strtod(word.c_str(), &end); });
   const bool is_whole_word = *end == '\0';
   if (end == word.c_str() || (!is_whole_word && !is_last)) {
     return std::nullopt;

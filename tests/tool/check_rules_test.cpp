@@ -59,6 +59,7 @@ std::vector<Faulty> faulty() {
       {"P005", "[Flow-1]\nFillTime = 1\nMoldTemp = 2\nFillTime = 1\n", 4, 1, "the one on line 2"},
       {"P006", "[Flow-1]\nsome words\n", 2, 1, "has no \"=\""},
       {"P006", "[Flow-1]\n= 5\n", 2, 1, "no entry"},
+      {"P006", "[Flow-1]\nFill\rTime = 5\n", 2, 1, "no entry"},
       {"P006", "[Flow-1]\n [Pack-1]\n", 2, 1, "no section begins here"},
       {"P007", "[Flow-1] the first\n", 1, 1, "words stand behind the header [Flow-1]"},
       {"P007", "[Flow-1]\t; the first\n", 1, 1, "words stand behind the header [Flow-1]"},
@@ -260,6 +261,10 @@ TEST(CheckRules, AskNothingFurtherOfWhatIsNeverRead) {
 
 TEST(CheckRules, TellAKeyWithoutEqualsTwice) {
   EXPECT_EQ(codes_in("[Flow-1]\nFillTime 1.5\n"), (std::vector<std::string>{"P006", "P201"}));
+}
+
+TEST(CheckRules, DoNotTakeThePatternOfAKeyForAKey) {
+  EXPECT_EQ(codes_in("[Flow-1]\nFR-%d = 0 1\n"), (std::vector<std::string>{"P102"}));
 }
 
 TEST(CheckRules, NameNothingNearWhereNothingIsLeftOfTheName) {

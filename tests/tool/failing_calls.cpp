@@ -6,13 +6,24 @@
 // QELPRO_TEST_FAIL_AT the number of the call, of those below, that fails with EIO, and
 // QELPRO_TEST_KILL_AT the one in front of which the program is killed; from 1, counted while either
 //                     stands in the environment. qelpro_test_calls() tells how many there were.
+// QELPRO_TEST_SIGNAL_AT the same for a signal that the program gets, the number in
+//                     QELPRO_TEST_SIGNAL_NUMBER
+// QELPRO_TEST_TEAR_AT the number of the call that, where it writes, writes half of what it is
+// given;
+//                     what is written after it fails with ENOSPC
+// QELPRO_TEST_SHORT   every write writes half of what it is given, and goes on
+// QELPRO_TEST_NAMED   there are no files without a name
+// QELPRO_TEST_REPORT  a file that takes, when the program ends, how many calls were counted and the
+//                     name of the one that failed, with what its file is to the command
+// QELPRO_TEST_INHERITED a file that takes the path of each file that is opened so that programs
+// which
+//                     are started meanwhile hold it, too
 // QELPRO_TEST_LOG     a file that takes, for the first write into a file, that file's path and mode
 //
 // A file whose name holds "unreadable" fails after its first 16 KiB.
 
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -34,6 +45,57 @@ Function* next(const char* name) {
 }
 
 long calls = 0;
+std::string failed_call = "-";
+bool disk_is_full = false;
+
+void append_line(const char* variable, const std::string& line) {
+  if (const char* file = std::getenv(variable)) {
+    std::FILE* stream = std::fopen(file, "ae");
+    std::fprintf(stream, "%s\n", line.c_str());
+    std::fclose(stream);
+  }
+}
+
+std::string path_of(int fd) {
+  char path[4096];
+  const ssize_t length =
+      ::readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof path);
+  return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : "";
+}
+
+// What the file is to a command that writes one: the old one, the new one, their folder, or one
+// that is only read.
+std::string role_of(int fd) {
+  struct stat status {};
+  if (fd < 0 || ::fstat(fd, &status) != 0) {
+    return "";
+  }
+  if (S_ISDIR(status.st_mode)) {
+    return " of_folder";
+  }
+  if ((::fcntl(fd, F_GETFL) & O_ACCMODE) == O_RDONLY) {
+    return " of_reading";
+  }
+  // One without a name is "#" and a number.
+  const std::string path = path_of(fd);
+  return path.find("/#") != std::string::npos || path.find("/.qelpro-") != std::string::npos
+             ? " of_new"
+             : " of_old";
+}
+
+struct Report {
+  ~Report() { append_line("QELPRO_TEST_REPORT", std::to_string(calls) + " " + failed_call); }
+} report;
+
+bool are_counted() {
+  for (const char* variable : {"QELPRO_TEST_FAIL_AT", "QELPRO_TEST_KILL_AT",
+                               "QELPRO_TEST_SIGNAL_AT", "QELPRO_TEST_TEAR_AT"}) {
+    if (std::getenv(variable) != nullptr) {
+      return true;
+    }
+  }
+  return false;
+}
 
 // Whether it is this call's turn.
 bool is_turn(const char* variable) {
@@ -41,14 +103,18 @@ bool is_turn(const char* variable) {
   return number != nullptr && std::atol(number) == calls;
 }
 
-bool fails(std::string_view call) {
-  if (std::getenv("QELPRO_TEST_FAIL_AT") != nullptr ||
-      std::getenv("QELPRO_TEST_KILL_AT") != nullptr) {
+bool fails(const char* name_of_call, int fd = -1) {
+  const std::string_view call = name_of_call;
+  if (are_counted()) {
     ++calls;
+    if (is_turn("QELPRO_TEST_SIGNAL_AT")) {
+      ::kill(::getpid(), std::atoi(std::getenv("QELPRO_TEST_SIGNAL_NUMBER")));
+    }
     if (is_turn("QELPRO_TEST_KILL_AT")) {
       ::kill(::getpid(), SIGKILL);
     }
     if (is_turn("QELPRO_TEST_FAIL_AT")) {
+      failed_call = name_of_call + role_of(fd);
       errno = EIO;
       return true;
     }
@@ -66,13 +132,6 @@ bool fails(std::string_view call) {
   }
   errno = EIO;
   return true;
-}
-
-std::string path_of(int fd) {
-  char path[4096];
-  const ssize_t length =
-      ::readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof path);
-  return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : "";
 }
 
 constexpr off_t kReadable = 16 * 1024;
@@ -103,6 +162,13 @@ void log_first_write(int fd) {
   std::fclose(stream);
 }
 
+void tell_inherited(int fd) {
+  if (fd >= 0 && std::getenv("QELPRO_TEST_INHERITED") != nullptr &&
+      (::fcntl(fd, F_GETFD) & FD_CLOEXEC) == 0) {
+    append_line("QELPRO_TEST_INHERITED", path_of(fd));
+  }
+}
+
 }  // namespace
 
 #define VISIBLE extern "C" __attribute__((visibility("default")))
@@ -110,21 +176,32 @@ void log_first_write(int fd) {
 VISIBLE ssize_t read(int fd, void* to, std::size_t count) {
   static auto* const real = next<ssize_t(int, void*, std::size_t)>("read");
   const ssize_t most = readable(fd, ::lseek(fd, 0, SEEK_CUR), count);
-  return most < 0 || fails("read") ? -1 : real(fd, to, static_cast<std::size_t>(most));
+  return most < 0 || fails("read", fd) ? -1 : real(fd, to, static_cast<std::size_t>(most));
 }
 
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
   const ssize_t most = readable(fd, offset, count);
-  return most < 0 || fails("read") ? -1 : real(fd, to, static_cast<std::size_t>(most), offset);
+  return most < 0 || fails("read", fd) ? -1 : real(fd, to, static_cast<std::size_t>(most), offset);
 }
 
 VISIBLE ssize_t write(int fd, const void* from, std::size_t count) {
   static auto* const real = next<ssize_t(int, const void*, std::size_t)>("write");
   if (fd > STDERR_FILENO) {
     log_first_write(fd);
-    if (fails("write")) {
+    if (disk_is_full) {
+      errno = ENOSPC;
       return -1;
+    }
+    if (fails("write", fd)) {
+      return -1;
+    }
+    if (is_turn("QELPRO_TEST_TEAR_AT")) {
+      disk_is_full = true;
+      failed_call = "write";
+      count /= 2;
+    } else if (std::getenv("QELPRO_TEST_SHORT") != nullptr) {
+      count = (count + 1) / 2;
     }
   }
   return real(fd, from, count);
@@ -132,17 +209,17 @@ VISIBLE ssize_t write(int fd, const void* from, std::size_t count) {
 
 VISIBLE int fsync(int fd) {
   static auto* const real = next<int(int)>("fsync");
-  return fails("fsync") ? -1 : real(fd);
+  return fails("fsync", fd) ? -1 : real(fd);
 }
 
 VISIBLE int fchmod(int fd, mode_t mode) noexcept {
   static auto* const real = next<int(int, mode_t)>("fchmod");
-  return fails("fchmod") ? -1 : real(fd, mode);
+  return fails("fchmod", fd) ? -1 : real(fd, mode);
 }
 
 VISIBLE int ftruncate(int fd, off_t length) noexcept {
   static auto* const real = next<int(int, off_t)>("ftruncate");
-  return fails("ftruncate") ? -1 : real(fd, length);
+  return fails("ftruncate", fd) ? -1 : real(fd, length);
 }
 
 VISIBLE int rename(const char* from, const char* to) noexcept {
@@ -162,18 +239,43 @@ VISIBLE int link(const char* from, const char* to) noexcept {
   return fails("link") ? -1 : real(from, to);
 }
 
+VISIBLE int linkat(int from_folder, const char* from, int to_folder, const char* to,
+                   int flags) noexcept {
+  static auto* const real = next<int(int, const char*, int, const char*, int)>("linkat");
+  return fails("linkat") || fails("link") ? -1 : real(from_folder, from, to_folder, to, flags);
+}
+
+// What the C++ library's streams open.
+VISIBLE std::FILE* fopen(const char* path, const char* mode) {
+  static auto* const real = next<std::FILE*(const char*, const char*)>("fopen");
+  std::FILE* stream = real(path, mode);
+  if (stream != nullptr) {
+    tell_inherited(::fileno(stream));
+  }
+  return stream;
+}
+
 VISIBLE int open(const char* path, int flags, ...) {
   static auto* const real = next<int(const char*, int, mode_t)>("open");
   va_list more;
   va_start(more, flags);
-  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+  const mode_t mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? va_arg(more, mode_t) : 0;
   va_end(more);
-  return fails("open") ? -1 : real(path, flags, mode);
+  if (fails("open")) {
+    return -1;
+  }
+  if ((flags & O_TMPFILE) == O_TMPFILE && std::getenv("QELPRO_TEST_NAMED") != nullptr) {
+    errno = EOPNOTSUPP;
+    return -1;
+  }
+  const int fd = real(path, flags, mode);
+  tell_inherited(fd);
+  return fd;
 }
 
 VISIBLE int close(int fd) {
   static auto* const real = next<int(int)>("close");
-  const bool is_failure = fails("close");
+  const bool is_failure = fails("close", fd);
   const int result = real(fd);  // what fails is closed nevertheless
   if (is_failure) {
     errno = EIO;
@@ -193,17 +295,21 @@ VISIBLE int lstat(const char* path, struct stat* status) noexcept {
 
 VISIBLE int fstat(int fd, struct stat* status) noexcept {
   static auto* const real = next<int(int, struct stat*)>("fstat");
-  return fails("fstat") ? -1 : real(fd, status);
+  return fails("fstat", fd) ? -1 : real(fd, status);
 }
 
-VISIBLE int flock(int fd, int operation) noexcept {
-  static auto* const real = next<int(int, int)>("flock");
-  return fails("flock") ? -1 : real(fd, operation);
+VISIBLE int fcntl(int fd, int command, ...) {
+  static auto* const real = next<int(int, int, ...)>("fcntl");
+  va_list more;
+  va_start(more, command);
+  void* const argument = va_arg(more, void*);
+  va_end(more);
+  return command == F_OFD_SETLK && fails("lock", fd) ? -1 : real(fd, command, argument);
 }
 
 VISIBLE int fchown(int fd, uid_t owner, gid_t group) noexcept {
   static auto* const real = next<int(int, uid_t, gid_t)>("fchown");
-  return fails("fchown") ? -1 : real(fd, owner, group);
+  return fails("fchown", fd) ? -1 : real(fd, owner, group);
 }
 
 VISIBLE long qelpro_test_calls() { return calls; }

@@ -87,7 +87,7 @@ TEST(New, LeavesNothingAfterWhenACallFails) {
 }
 
 TEST(New, LeavesNothingButTheNewFileWhenItIsInterrupted) {
-  for (const std::string call : {"write", "fsync", "ftruncate", "renameat2"}) {
+  for (const std::string call : {"write", "fsync", "ftruncate", "linkat"}) {
     const Scratch scratch;
     shell(kPreload + "export QELPRO_TEST_SIGNAL=" + call + "; \"$0\" new \"$1\"", {scratch.path()});
     for (const std::string& name : names_in(scratch.path(""))) {
@@ -99,7 +99,8 @@ TEST(New, LeavesNothingButTheNewFileWhenItIsInterrupted) {
 TEST(New, WorksWhereAFileCannotBeRenamedWithoutReplacing) {
   const Scratch scratch;
   EXPECT_EQ(
-      shell(kPreload + "export QELPRO_TEST_FAIL=renameat2; \"$0\" new \"$1\"", {scratch.path()})
+      shell(kPreload + "export QELPRO_TEST_NAMED=1 QELPRO_TEST_FAIL=renameat2; \"$0\" new \"$1\"",
+            {scratch.path()})
           .status,
       0);
   EXPECT_EQ(names_in(scratch.path("")), std::vector<std::string>{"file.pro"});

@@ -5,6 +5,7 @@
 
 #include "file/forms.h"
 #include "json/json_input.h"
+#include "support/comma_locale.h"
 #include "support/run.h"
 #include "support/scratch.h"
 #include "system/failure.h"
@@ -13,6 +14,7 @@ namespace {
 
 using namespace qelpro;
 using namespace qelpro_test;
+using testing::AllOf;
 using testing::HasSubstr;
 
 Outcome qelpro_tool(const std::vector<std::string>& arguments) {
@@ -53,6 +55,25 @@ TEST(Export, OfTheImportedPlainFormIsTheSame) {
   }
 }
 
+TEST(Export, OfATextEndsItWhereTheEngineDoes) {
+  const SectionedText document(std::string("[FileHeader]\nRemark = a b\t\0c\n", 29));
+  EXPECT_EQ(plain_form(Entries(document)), Json({{"FileHeader", {{"Remark", "a b"}}}}));
+}
+
+TEST(Export, HasNoEntryThatNoLookupFinds) {
+  const SectionedText document("[Flow-1]\nFill\rTime = 1\nFillTime = 2\n");
+  EXPECT_EQ(json_text(plain_form(Entries(document))),
+            "{\n  \"Flow-1\": {\n    \"FillTime\": 2.0\n  }\n}");
+}
+
+TEST(Export, NamesASectionOfTwoBracketsAsItIs) {
+  const SectionedText document("[[A]]\nx = 1\n");
+  const Json form = plain_form(Entries(document));
+  EXPECT_EQ(form, Json({{"[[A]]", {{"x", "1"}}}}));
+  const SectionedText made(contents_of("form", form));
+  EXPECT_EQ(plain_form(Entries(made)), form);
+}
+
 TEST(Export, ExactFormsHoldEveryByte) {
   const Scratch scratch;
   std::mt19937 random(7);
@@ -87,6 +108,21 @@ TEST(Import, WritesValuesInTheLayoutOfTheirEncodings) {
         "GC-1                 = 1.5\t2\t1", "GC-2                 = 1.5\t2\t2\t7"}) {
     EXPECT_THAT(contents, HasSubstr(line));
   }
+}
+
+TEST(Import, WritesNumbersWithAPointWhateverTheHostsLocale) {
+  const CommaLocale comma;
+  if (!comma.is_set()) {
+    GTEST_SKIP() << "the machine has no locale with a decimal comma";
+  }
+  const std::string contents =
+      contents_of("f", parse_json("f",
+                                  "{\"Flow-1\": {\"FillTime\": 1.50, \"FR-1\": [-2.5e-3, 0.1]}, "
+                                  "\"Own\": {\"k\": 0.125}}"));
+  EXPECT_THAT(contents,
+              AllOf(HasSubstr("FillTime             = 1.50\n"), HasSubstr("= -2.5e-3\t0.1\n"),
+                    HasSubstr("k                    = 0.125\n")));
+  EXPECT_THROW(contents_of("f", parse_json("f", "{\"Flow-1\": {\"FRSet\": 1.5}}")), Failure);
 }
 
 TEST(Import, RefusesWhatCouldNotBeReadBack) {

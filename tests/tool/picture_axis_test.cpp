@@ -1,4 +1,5 @@
 #include "picture/axis.h"
+#include "support/in_c_locale.h"
 
 #include <gmock/gmock.h>
 
@@ -74,7 +75,7 @@ void check(double a, double b, int steps) {
   }
   for (const Tick& tick : axis.ticks) {
     ASSERT_TRUE(std::isfinite(tick.value));
-    ASSERT_NEAR(std::strtod(tick.label.c_str(), nullptr) / std::max(1e-300, std::abs(tick.value)),
+    ASSERT_NEAR(qelpro_test::to_double(tick.label) / std::max(1e-300, std::abs(tick.value)),
                 tick.value / std::max(1e-300, std::abs(tick.value)), 1e-9)
         << tick.label;
   }

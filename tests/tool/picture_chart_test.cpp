@@ -10,6 +10,7 @@
 
 #include "picture/character_plot.h"
 #include "picture/timeline.h"
+#include "support/in_c_locale.h"
 
 namespace {
 
@@ -66,7 +67,9 @@ TEST(Chart, PlacesPointsBetweenItsTicks) {
   const std::regex line(
       R"re(class="curve c0" stroke-dasharray="none" d="M([\d.]+) ([\d.]+)L([\d.]+) ([\d.]+)L([\d.]+) ([\d.]+)")re");
   ASSERT_TRUE(std::regex_search(drawn, path, line)) << drawn;
-  const auto number = [&](int at) { return std::stod(path[static_cast<std::size_t>(at)]); };
+  const auto number = [&](int at) {
+    return qelpro_test::to_double(path[static_cast<std::size_t>(at)]);
+  };
   EXPECT_NEAR(number(3), (number(1) + number(5)) / 2, 0.02);
   EXPECT_NEAR(number(6), (number(2) + number(4)) / 2, 0.02);
   EXPECT_LT(number(4), number(2));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "study/plan.h"
+#include "support/in_c_locale.h"
 #include "system/failure.h"
 #include "work/workers.h"
 
@@ -118,10 +119,10 @@ TEST(Plan, DrawsOneSampleInEachPartOfEachRange) {
   std::vector<std::uint64_t> falling;
   std::vector<std::uint64_t> counts(4);
   for (std::uint64_t file = 0; file < kSamples; ++file) {
-    parts.push_back(
-        static_cast<std::uint64_t>((std::stod(plan.value(file, 0)) - 220) / 40 * kSamples));
-    falling.push_back(
-        static_cast<std::uint64_t>((1 - std::stod(plan.value(file, 1))) / 0.5 * kSamples));
+    parts.push_back(static_cast<std::uint64_t>((qelpro_test::to_double(plan.value(file, 0)) - 220) /
+                                               40 * kSamples));
+    falling.push_back(static_cast<std::uint64_t>((1 - qelpro_test::to_double(plan.value(file, 1))) /
+                                                 0.5 * kSamples));
     ++counts.at(static_cast<std::size_t>(plan.value(file, 2).front() - 'a'));
   }
   EXPECT_FALSE(std::ranges::is_sorted(parts));

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -80,6 +81,60 @@ TEST(ValueCheck, TakesAPositionalHeaderLineWithoutItsLastNumber) {
             std::nullopt);
   EXPECT_EQ(unread_part(qel::Key<qel::PositionalHeader>{"", {}, {}, ""}, "2\ttop\tx", 0),
             "field 3, a whole number, does not begin with \"x\"");
+}
+
+TEST(ValueCheck, ReadsPlainlyWhatItReadsWholeAndWithTheSameFields) {
+  const qel::KeyInfo rows[] = {
+      qel::Key<qel::Integer>{"", {}, {}, ""}, qel::Key<qel::Real>{"", {}, {}, ""},
+      qel::Key<qel::IntegerPair>{"", {}, {}, ""}, qel::Key<qel::RealPair>{"", {}, {}, ""},
+      qel::Key<qel::RealTriple>{"", {}, {}, ""}};
+  const std::vector<std::string> parts{"1",
+                                       "-2",
+                                       "+3",
+                                       "1.5",
+                                       ".5",
+                                       "5.",
+                                       "1e3",
+                                       "1e400",
+                                       "nan",
+                                       "inf",
+                                       "0x1F",
+                                       ",",
+                                       ".",
+                                       " ",
+                                       "\t",
+                                       " ",
+                                       "\v",
+                                       "\n",
+                                       "x",
+                                       "-",
+                                       "007",
+                                       "2147483647",
+                                       "2147483648",
+                                       "-2147483648",
+                                       "99999999999999999999",
+                                       std::string(1, '\0'),
+                                       std::string(60, '0')};
+  std::mt19937 random(20261122);
+  int plain = 0;
+  std::vector<qel::Field> fields;
+  for (int round = 0; round < 40000; ++round) {
+    std::string text;
+    for (std::size_t count = random() % 6; count != 0; --count) {
+      text += parts[random() % parts.size()];
+    }
+    for (const qel::KeyInfo& row : rows) {
+      if (read_plainly(row, text, fields)) {
+        ++plain;
+        EXPECT_FALSE(fault_of(row, text, 0)) << text;
+        EXPECT_EQ(fields, row.encoding->fields(text.c_str(), 0)) << text;
+      }
+    }
+  }
+  EXPECT_GT(plain, 5000);
+  EXPECT_TRUE(read_plainly(rows[3], "10\t99.5", fields));
+  EXPECT_EQ(fields, (std::vector<qel::Field>{10.0, 99.5}));
+  EXPECT_FALSE(read_plainly(qel::Key<qel::Text>{"", {}, {}, ""}, "10", fields));
 }
 
 TEST(ValueCheck, TellsNothingOfKeysThatAreNotKnown) {

@@ -37,7 +37,9 @@ void KnownKeys::visit_owners(std::string_view key, const Take& take) const {
       std::ranges::for_each(found->second, take);
     }
   };
-  find(key);
+  if (!qel::is_numbered(key)) {  // "FR-%d" itself is no key
+    find(key);
+  }
   // A number may stand anywhere in it, with a sign of its own; no key of the catalogue holds
   // several.
   constexpr int kMostNumbers = 2;

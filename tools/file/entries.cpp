@@ -1,9 +1,10 @@
 #include "file/entries.h"
 
 #include <algorithm>
-#include <numeric>
+#include <string>
 
 #include "blocks/catalogue.h"
+#include "text/key_order.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -17,7 +18,7 @@ class KnownSections {
       int number = 0;
       last_ = name;
       any_ = true;
-      found_ = qel::find_section(std::string(name).c_str(), number);
+      found_ = qel::find_section(name, number);
     }
     return found_;
   }
@@ -32,38 +33,44 @@ class Everything : public EntryFilter {
  public:
   bool wants_section(std::string_view /*name*/) override { return true; }
   bool wants_key(std::string_view /*key*/) override { return true; }
+  [[nodiscard]] bool wants_all() const override { return true; }
 };
 
-bool is_known(const qel::SectionInfo* section, const std::string& key) {
+bool is_known(const qel::SectionInfo* section, std::string_view key) {
   int number = 0;
-  return section != nullptr && qel::find_key(*section, key.c_str(), number) != nullptr;
+  return section != nullptr && qel::find_key(*section, key, number) != nullptr;
 }
 
-// A value that goes on behind what the engine reads is whole here.
-std::string_view value_of(const SectionedText& document, const TextLine& line) {
-  return line.goes_on ? qel::text::entry_value(document.to_line_break(line))
-                      : qel::whole_value(line);
-}
-
-std::vector<FileEntry> positional_lines(const SectionedText& document, std::size_t index) {
-  const TextSection& section = document.sections()[index];
-  std::vector<FileEntry> lines;
-  std::size_t last = 0;  // that is not empty
-  for (std::size_t at = section.header + 1; at < section.after; ++at) {
-    const TextLine line = document.line(at);
-    lines.push_back(
-        {index, at, "#" + std::to_string(at - section.header), qel::text::index_value(line.whole)});
-    last = qel::kind_of(line) != LineKind::blank ? lines.size() : last;
+// A value that goes on behind what the engine reads is whole here. `equals` is where the line's
+// first "=" stands.
+std::string_view value_of(const SectionedText& document, const TextLine& line, std::size_t equals) {
+  if (line.goes_on) {
+    return qel::text::entry_value(document.to_line_break(line));
   }
-  lines.resize(last);
-  return lines;
+  return equals != std::string_view::npos ? qel::text::index_value(line.whole.substr(equals + 1))
+                                          : std::string_view();
+}
+
+// Whether lookups of its key may take the line, whose first token is not empty.
+bool may_be_entry(const TextLine& line, std::string_view key) {
+  switch (key.front()) {
+    case ';':
+    case '#':
+    case '/':
+    case qel::text::kEndMark: {
+      const LineKind kind = qel::kind_of(line);
+      return kind == LineKind::entry || kind == LineKind::without_equals;
+    }
+    default:
+      return true;
+  }
 }
 
 }  // namespace
 
 const qel::SectionInfo* known_section(const std::string& name) {
   int number = 0;
-  return qel::find_section(with_brackets(name).c_str(), number);
+  return qel::find_section(with_brackets(name), number);
 }
 
 Entries::Entries(const SectionedText& document) : document_(document) {
@@ -75,73 +82,105 @@ Entries::Entries(const SectionedText& document, EntryFilter& filter) : document_
   add_sections(filter);
 }
 
+void Entries::add_positional_section(std::size_t index) {
+  const TextSection& section = document_.sections()[index];
+  std::size_t last = entries_.size();  // after one that is not empty
+  for (std::size_t at = section.header + 1; at < section.after; ++at) {
+    const TextLine line = document_.line(at);
+    entries_.push_back(
+        {index, at, "#" + std::to_string(at - section.header), qel::text::index_value(line.whole)});
+    last = qel::kind_of(line) != LineKind::blank ? entries_.size() : last;
+  }
+  entries_.resize(last);
+  while (by_key_.size() < last) {
+    by_key_.push_back(by_key_.size());
+  }
+}
+
+// The lines of a section that lookups of their keys may take, in the file's order.
+struct Entries::Candidates {
+  void find(const SectionedText& document, const TextSection& section, EntryFilter& filter) {
+    keys.clear();
+    lines.clear();
+    for (std::size_t at = section.header + 1; at < section.after; ++at) {
+      const TextLine line = document.line(at);
+      const std::string_view key = qel::text::first_token(line.text);
+      if (!key.empty() && filter.wants_key(key) && may_be_entry(line, key)) {
+        keys.push_back(key);
+        const std::size_t equals = line.text.find('=', key.size());
+        lines.push_back(
+            {at, value_of(document, line, equals), equals != std::string_view::npos, false, 0});
+      }
+    }
+  }
+
+  // Of each key the first line, where it makes an entry.
+  void choose(const qel::SectionInfo* known) {
+    order = in_order.of(keys);
+    for (std::size_t at = 0; at < order.size();) {
+      const std::size_t first = order[at];
+      bool has_equals = false;
+      for (; at < order.size() && keys[order[at]] == keys[first]; ++at) {
+        has_equals = has_equals || lines[order[at]].has_equals;
+      }
+      lines[first].is_taken = has_equals || is_known(known, keys[first]);
+    }
+  }
+
+  struct Candidate {
+    std::size_t line;
+    std::string_view value;
+    bool has_equals;
+    bool is_taken;
+    std::size_t entry;  // that was made of it
+  };
+  std::vector<std::string_view> keys;
+  std::vector<Candidate> lines;
+  qel::KeyOrder in_order;
+  std::span<const std::size_t> order;
+};
+
+void Entries::add_section(std::size_t index, EntryFilter& filter, Candidates& candidates) {
+  const TextSection& section = document_.sections()[index];
+  if (qel::is_positional(section.name)) {
+    add_positional_section(index);
+    return;
+  }
+  candidates.find(document_, section, filter);
+  candidates.choose(known_[index]);
+  for (std::size_t at = 0; at < candidates.lines.size(); ++at) {
+    if (Candidates::Candidate& line = candidates.lines[at]; line.is_taken) {
+      line.entry = entries_.size();
+      entries_.push_back({index, line.line, std::string(candidates.keys[at]), line.value});
+    }
+  }
+  for (const std::size_t at : candidates.order) {
+    if (candidates.lines[at].is_taken) {
+      by_key_.push_back(candidates.lines[at].entry);
+    }
+  }
+}
+
 void Entries::add_sections(EntryFilter& filter) {
   KnownSections known;
+  Candidates candidates;
   const std::vector<TextSection>& sections = document_.sections();
+  constexpr std::size_t kShortest = 16;  // that a usual entry's line is
   first_of_section_.reserve(sections.size() + 1);
   known_.reserve(sections.size());
+  entries_.reserve(filter.wants_all()
+                       ? std::min(document_.line_count(), document_.contents().size() / kShortest)
+                       : 0);
+  by_key_.reserve(entries_.capacity());
   for (std::size_t index = 0; index < sections.size(); ++index) {
     first_of_section_.push_back(entries_.size());
     const bool wanted = filter.wants_section(sections[index].name);
     known_.push_back(wanted ? known.find(sections[index].name) : nullptr);
     if (wanted && !sections[index].repeated) {
-      add_section(index, filter);
+      add_section(index, filter, candidates);
     }
   }
   first_of_section_.push_back(entries_.size());
-}
-
-void Entries::add_section(std::size_t index, EntryFilter& filter) {
-  const TextSection& section = document_.sections()[index];
-  if (qel::is_positional(section.name)) {
-    for (FileEntry& line : positional_lines(document_, index)) {
-      by_key_.push_back(entries_.size());
-      entries_.push_back(std::move(line));
-    }
-    return;
-  }
-  // The lines that a lookup of their key may take, by key and then by place.
-  struct Candidate {
-    std::string_view key;
-    std::size_t line;
-    bool has_equals;
-  };
-  std::vector<Candidate> candidates;
-  for (std::size_t at = section.header + 1; at < section.after; ++at) {
-    const TextLine line = document_.line(at);
-    const std::string_view key = qel::text::first_token(line.text);
-    if (!filter.wants_key(key)) {
-      continue;
-    }
-    const LineKind kind = qel::kind_of(line);
-    if (kind == LineKind::entry || kind == LineKind::without_equals) {
-      candidates.push_back({key, at, kind == LineKind::entry});
-    }
-  }
-  std::ranges::sort(candidates, [](const Candidate& a, const Candidate& b) {
-    const int order = a.key.compare(b.key);
-    return order != 0 ? order < 0 : a.line < b.line;
-  });
-  const std::size_t first = entries_.size();
-  for (std::size_t at = 0; at < candidates.size();) {
-    const Candidate& taken = candidates[at];
-    bool has_equals = false;
-    for (; at < candidates.size() && candidates[at].key == taken.key; ++at) {
-      has_equals = has_equals || candidates[at].has_equals;
-    }
-    std::string key(taken.key);
-    if (has_equals || is_known(known_[index], key)) {
-      entries_.push_back(
-          {index, taken.line, std::move(key), value_of(document_, document_.line(taken.line))});
-    }
-  }
-  std::ranges::sort(entries_.begin() + static_cast<std::ptrdiff_t>(first), entries_.end(),
-                    std::ranges::less(), &FileEntry::line);
-  by_key_.resize(entries_.size());
-  const auto own = by_key_.begin() + static_cast<std::ptrdiff_t>(first);
-  std::iota(own, by_key_.end(), first);
-  std::ranges::sort(own, by_key_.end(), std::ranges::less(),
-                    [this](std::size_t at) -> const std::string& { return entries_[at].key; });
 }
 
 std::span<const FileEntry> Entries::of(const TextSection& section) const {

@@ -65,7 +65,9 @@ class Entries {
 
  private:
   void add_sections(EntryFilter& filter);
-  void add_section(std::size_t index, EntryFilter& filter);
+  struct Candidates;
+  void add_section(std::size_t index, EntryFilter& filter, Candidates& candidates);
+  void add_positional_section(std::size_t index);
 
   const SectionedText& document_;
   std::vector<FileEntry> entries_;

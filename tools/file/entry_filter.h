@@ -17,6 +17,8 @@ class EntryFilter {
   /// Whether an entry of that key is, in the section that was asked for last. A line of the section
   /// whose lines have a position is not asked for.
   virtual bool wants_key(std::string_view key) = 0;
+  /// Whether all are known to be: room is made for as many entries as there may be.
+  [[nodiscard]] virtual bool wants_all() const { return false; }
 };
 
 }  // namespace qelpro

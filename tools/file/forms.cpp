@@ -32,6 +32,12 @@ Json lines_of(const SectionedText& document, const TextSection& section,
   return lines;
 }
 
+// A section is named without its brackets, but for one whose name would stand in brackets then.
+std::string name_in_form(std::string_view header) {
+  const std::string_view name = without_brackets(header);
+  return std::string(with_brackets(name) == header ? name : header);
+}
+
 [[noreturn]] void refuse(const std::string& name, const std::string& what) {
   throw Failure(kFileError, at(name, what));
 }
@@ -122,6 +128,7 @@ void check_made(const std::string& name, const std::string& contents,
 Json plain_form(const Entries& entries) {
   const SectionedText& document = entries.document();
   Json form = Json::object();
+  TypedValue typed;
   for (const TextSection& section : document.sections()) {
     if (section.repeated) {
       continue;
@@ -131,10 +138,11 @@ Json plain_form(const Entries& entries) {
       append_member(keys, kLines, lines_of(document, section, entries.of(section)));
     } else {
       for (const FileEntry& entry : entries.of(section)) {
-        append_member(keys, entry.key, json_of(entries, entry));
+        read_typed(entries, entry, typed);
+        append_member(keys, entry.key, json_of(typed, entry.value));
       }
     }
-    append_member(form, std::string(without_brackets(section.name)), std::move(keys));
+    append_member(form, name_in_form(section.name), std::move(keys));
   }
   return form;
 }

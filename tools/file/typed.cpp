@@ -176,25 +176,40 @@ std::size_t digits_of(std::string_view text) {
 
 }  // namespace
 
+void read_typed(const qel::SectionInfo* section, std::string_view key, std::string_view value,
+                TypedValue& typed) {
+  Reading reading = reading_of(section, key, value, typed.fields);
+  typed.key = reading.key;
+  typed.number = reading.number;
+  typed.unread = std::move(reading.unread);
+  if (typed.key != nullptr && typed.fields.empty()) {
+    // Behind a NUL byte nothing is read, and then blanks in front of it trail the value.
+    const std::string text(qel::text::index_value(value.substr(0, value.find('\0'))));
+    typed.fields = typed.key->encoding->fields(text.c_str(), typed.number);
+  }
+}
+
+void read_typed(const Entries& entries, const FileEntry& entry, TypedValue& typed) {
+  const TextSection& section = entries.document().sections()[entry.section];
+  if (!qel::is_positional(section.name)) {
+    read_typed(entries.known_section(section), entry.key, entry.value, typed);
+    return;
+  }
+  const qel::KeyInfo& kind = positional_kind(entry.value);
+  typed = {&kind, 0, {}, unread_part(kind, entry.value, 0)};
+  typed.fields = kind.encoding->fields(std::string(entry.value).c_str(), 0);
+}
+
 TypedValue typed_value(const qel::SectionInfo* section, std::string_view key,
                        std::string_view value) {
-  const Reading reading = reading_of(section, key, value);
-  TypedValue typed{reading.key, reading.number, {}, reading.unread};
-  if (reading.key != nullptr) {
-    typed.fields = reading.key->encoding->fields(std::string(value).c_str(), reading.number);
-  }
+  TypedValue typed;
+  read_typed(section, key, value, typed);
   return typed;
 }
 
 TypedValue typed_value(const Entries& entries, const FileEntry& entry) {
-  const TextSection& section = entries.document().sections()[entry.section];
-  const qel::SectionInfo* const known = entries.known_section(section);
-  if (!qel::is_positional(section.name)) {
-    return typed_value(known, entry.key, entry.value);
-  }
-  const qel::KeyInfo& kind = positional_kind(entry.value);
-  TypedValue typed{&kind, 0, {}, unread_part(kind, entry.value, 0)};
-  typed.fields = kind.encoding->fields(std::string(entry.value).c_str(), 0);
+  TypedValue typed;
+  read_typed(entries, entry, typed);
   return typed;
 }
 

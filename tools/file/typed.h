@@ -25,6 +25,12 @@ TypedValue typed_value(const Entries& entries, const FileEntry& entry);
 TypedValue typed_value(const qel::SectionInfo* section, std::string_view key,
                        std::string_view value);
 
+/// The same over what is there, for who reads one entry after the other: no memory is asked for
+/// again.
+void read_typed(const Entries& entries, const FileEntry& entry, TypedValue& typed);
+void read_typed(const qel::SectionInfo* section, std::string_view key, std::string_view value,
+                TypedValue& typed);
+
 /// What there is to say of an entry that is not read whole.
 Failure unread_failure(const std::string& file, const Entries& entries, const FileEntry& entry,
                        const TypedValue& typed);

@@ -515,15 +515,34 @@ std::optional<std::string> unread_part(const qel::KeyInfo& key, std::string_view
   return unread(fault_of(key, text, number));
 }
 
+bool read_plainly(const qel::KeyInfo& key, std::string_view text, std::vector<qel::Field>& fields) {
+  constexpr std::size_t kLongest = 63;
+  char copy[kLongest + 1];
+  if (key.encoding->plain_fields == nullptr || text.size() > kLongest) {
+    return false;
+  }
+  text.copy(copy, text.size());
+  copy[text.size()] = '\0';
+  return text.find('\0') == std::string_view::npos && key.encoding->plain_fields(copy, fields);
+}
+
 Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text) {
+  std::vector<qel::Field> fields;
+  return reading_of(section, key, text, fields);
+}
+
+Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text,
+                   std::vector<qel::Field>& fields) {
   Reading reading;
+  fields.clear();
   if (section == nullptr) {
     return reading;
   }
-  reading.key = qel::find_key(*section, std::string(key).c_str(), reading.number);
-  if (reading.key == nullptr) {
+  reading.key = qel::find_key(*section, key, reading.number);
+  if (reading.key == nullptr || read_plainly(*reading.key, text, fields)) {
     return reading;
   }
+  fields.clear();
   reading.fault = fault_of(*reading.key, text, reading.number);
   const std::string_view pattern = reading.key->text;
   for (std::size_t index = 0; reading.fault && index < section->keys.size(); ++index) {

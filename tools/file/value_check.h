@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "blocks/key.h"
 
@@ -38,6 +39,14 @@ struct Reading {
 /// Of several encodings of one key the first that reads the text whole, or else the first.
 /// `section` may be null.
 Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text);
+/// The same; `fields` are those of the text where `read_plainly` yields them, and none elsewhere.
+Reading reading_of(const qel::SectionInfo* section, std::string_view key, std::string_view text,
+                   std::vector<qel::Field>& fields);
+
+/// Reads a text that is nothing but the numbers of its key, as most are, into `fields`, over what
+/// is there. False for any other, which may be read whole all the same; a text that is too long to
+/// be looked at is one.
+bool read_plainly(const qel::KeyInfo& key, std::string_view text, std::vector<qel::Field>& fields);
 
 /// What is wrong with the text for one encoding; the first fault of several.
 std::optional<ValueFault> fault_of(const qel::KeyInfo& key, std::string_view text, int number);

@@ -36,6 +36,15 @@ bool is_byte(std::optional<unsigned int> unit) {
   return unit && *unit >= 0xDC80 && *unit <= 0xDCFF;
 }
 
+// The parser gives a number with the decimal point of the program's locale.
+std::string with_point(std::string digits) {
+  const std::size_t point = digits.find_first_not_of("+-0123456789eE");
+  if (point != std::string::npos) {
+    digits[point] = '.';
+  }
+  return digits;
+}
+
 std::string with_marks(std::string_view text) {
   constexpr std::size_t kEscape = 6;
   constexpr const char* kDigits = "0123456789abcdef";
@@ -101,7 +110,7 @@ class Builder : public nlohmann::json_sax<Json> {
   bool number_integer(number_integer_t value) override { return put(value); }
   bool number_unsigned(number_unsigned_t value) override { return put(value); }
   bool number_float(number_float_t /*value*/, const string_t& text) override {
-    return put(number_of_text(text));
+    return put(number_of_text(with_point(text)));
   }
   bool string(string_t& value) override { return put(without_marks(value)); }
   bool binary(binary_t& /*value*/) override { return false; }

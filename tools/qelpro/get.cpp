@@ -7,6 +7,7 @@
 #include "file/entries.h"
 #include "file/near.h"
 #include "file/typed.h"
+#include "file/wanted.h"
 #include "output.h"
 #include "system/failure.h"
 #include "system/visible.h"
@@ -88,7 +89,9 @@ std::string typed_text(const std::string& file, const Entries& entries, const Fi
 int run_get(const GetArguments& arguments) {
   const std::vector<Request> requests = requests_of(arguments.words);
   const SectionedText document = load_document(arguments.file);
-  const Entries entries(document);
+  WantedEntries wanted(requests);
+  const Entries entries(document, wanted);
+  std::optional<Entries> all;  // what is not found is told beside what is there
   const bool is_alone = requests.size() == 1 && !arguments.json &&
                         (!requests.front().is_pattern ||
                          entries.find(requests.front().addresses.empty()
@@ -112,11 +115,14 @@ int run_get(const GetArguments& arguments) {
           arguments.typed ? typed_text(arguments.file, entries, *entry) : std::string(entry->value),
           arguments.json ? json_of(entries, *entry) : Json());
     }
+    if (found.empty() && !all) {
+      all.emplace(document);
+    }
     if (found.empty() && !arguments.otherwise) {
-      tell_not_found(arguments.file, entries, request);
+      tell_not_found(arguments.file, *all, request);
       status = kNotFound;
     } else if (found.empty() && !request.is_pattern) {
-      put(text_of(entries.targets_of(request).front()), *arguments.otherwise, *arguments.otherwise);
+      put(text_of(all->targets_of(request).front()), *arguments.otherwise, *arguments.otherwise);
     }
   }
   if (arguments.json) {

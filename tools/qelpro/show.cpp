@@ -26,6 +26,7 @@ enum class Why : std::uint8_t {
   comment,
   no_key,
   blank_before,
+  return_in_key,
   no_equals,
   before_sections,
   not_counted
@@ -39,6 +40,8 @@ const char* text_of(Why why) {
       return "no key before the \"=\"";
     case Why::blank_before:
       return "it begins with a blank";
+    case Why::return_in_key:
+      return "a carriage return stands in its key";
     case Why::no_equals:
       return "no \"=\"";
     case Why::before_sections:
@@ -195,7 +198,9 @@ Why why_passed_over(const TextLine& line) {
     case LineKind::comment:
       return Why::comment;
     case LineKind::indented:
-      return line.text.front() == '=' ? Why::no_key : Why::blank_before;
+      return line.text.front() == '='                    ? Why::no_key
+             : qel::text::first_token(line.text).empty() ? Why::blank_before
+                                                         : Why::return_in_key;
     case LineKind::without_equals:
       return Why::no_equals;
     case LineKind::blank:

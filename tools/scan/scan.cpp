@@ -7,7 +7,7 @@
 
 #include "file/entries.h"
 #include "file/typed.h"
-#include "scan/wanted.h"
+#include "file/wanted.h"
 #include "system/failure.h"
 #include "system/files.h"
 #include "work/workers.h"

@@ -18,11 +18,11 @@ void make_new_file(const std::string& path) {
   NewFile file(path, kExpectedSize);
   CPROIO_Manipulator document;
   document.SetFilePath(file.temporary_path().data());
-  document.SetDefault();
-  // It never tells a failure; its last entry does.
+  // It tells of missing memory alone; where the file did not take an entry, the last one is not
+  // there.
   double x = 0;
   double y = 0;
-  if (!document.GetFRProfile(2, x, y, 1)) {
+  if (!document.SetDefault() || !document.GetFRProfile(2, x, y, 1)) {
     throw Failure(kFileError, at(path, "cannot be written: no room for the default values"));
   }
   file.publish();

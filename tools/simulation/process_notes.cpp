@@ -138,7 +138,9 @@ class Diagnosis {
       case LineKind::comment:
         return;
       case LineKind::indented:
-        add(entries, &line, "", "dropped: the line begins with a blank");
+        add(entries, &line, "",
+            key.empty() ? "dropped: the line begins with a blank"
+                        : "dropped: a carriage return stands in its key");
         return;
       case LineKind::without_equals:
         add(entries, &line, key, "read without a value: the line has no \"=\"");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <random>
 #include <string>
 
@@ -11,6 +12,15 @@ inline std::string path_beside(const std::string& file) {
   std::random_device random;
   return (std::filesystem::path(file).parent_path() /
           (".qelpro-" + std::to_string(random()) + ".tmp"))
+      .string();
+}
+
+/// A path there that is always the same for the same file.
+inline std::string path_beside_for_a_moment(const std::string& file) {
+  const std::filesystem::path path(file);
+  return (path.parent_path() /
+          (".qelpro-" + std::to_string(std::hash<std::string>()(path.filename().string())) +
+           ".tmp"))
       .string();
 }
 

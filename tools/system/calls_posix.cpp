@@ -25,4 +25,6 @@ bool write_all(int descriptor, std::string_view contents) {
   return true;
 }
 
+std::string link_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
+
 }  // namespace qelpro

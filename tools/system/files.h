@@ -16,8 +16,8 @@ inline constexpr const char* kIsBusy = "cannot be written: another program is st
 std::string read_file(const std::string& file);
 
 /// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are
-/// followed. While it lives, no other store works on the file, be it this tool's or the engine's: it
-/// waits, a few seconds at most, as this one's constructor does.
+/// followed. While it lives, no other store works on the file, be it this tool's or the engine's:
+/// it waits, a few seconds at most, as this one's constructor does.
 class Replacement {
  public:
   explicit Replacement(const std::string& file);
@@ -27,8 +27,8 @@ class Replacement {
   ~Replacement();
 
   [[nodiscard]] const std::string& old_contents() const { return old_contents_; }
-  /// Writes the new contents into a file beside the old one, which has its mode, owner and
-  /// attributes from its first byte, and gives its path.
+  /// Writes the new contents into a file that has the old one's mode, owner and attributes from its
+  /// first byte, and gives a path under which it can be read.
   const std::string& write(std::string_view contents);
   /// Puts the file that was written into the place of the old one.
   void commit();
@@ -37,7 +37,6 @@ class Replacement {
   struct Handles;
   std::string file_;    // as the caller names it
   std::string target_;  // where its symbolic links lead
-  std::string temporary_;
   std::string old_contents_;
   std::unique_ptr<Handles> handles_;
 };
@@ -45,7 +44,7 @@ class Replacement {
 /// A file that does not exist yet and is made whole or not at all.
 class NewFile {
  public:
-  /// Makes an empty file beside the place of the new one, in which there is room for so many bytes.
+  /// Makes an empty file, in which there is room for so many bytes.
   NewFile(const std::string& file, std::size_t room);
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
@@ -63,6 +62,10 @@ class NewFile {
   std::string file_;
   std::string temporary_;
 };
+
+/// Puts the contents into what stands under a path, a device or a pipe too, by itself: not whole or
+/// not at all. `file` is what messages call it.
+void write_into(const std::string& path, const std::string& file, std::string_view contents);
 
 /// Puts the contents into a file that does not exist yet, whole or not at all.
 void write_new(const std::string& file, std::string_view contents);

@@ -3,12 +3,15 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "platform/steady_read.h"
@@ -145,25 +148,106 @@ class SignalsWait {
   sigset_t before_{};
 };
 
-// Makes a temporary file beside the file and hands its path out.
-int make_beside(const std::string& file, const std::string& target, mode_t mode,
-                std::string& path) {
-  constexpr int kAttempts = 100;
-  int descriptor = -1;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    path = path_beside(target);
-    descriptor = open_file(path, O_RDWR | O_CREAT | O_EXCL, mode);
-    if (descriptor >= 0 || errno != EEXIST) {
-      break;
+// A file that is to get its name, or another one's, once it is whole. It has none until then where
+// the file system knows such files: the system takes it away when the program ends, however it
+// does. Elsewhere it has a temporary name.
+class Unnamed {
+ public:
+  Unnamed(std::string file, std::string target, mode_t mode)
+      : file_(std::move(file)), target_(std::move(target)) {
+    descriptor_.reset(open_file(folder_of(target_), O_TMPFILE | O_RDWR, mode));
+    if (descriptor_.is_open()) {
+      path_ = link_of(descriptor_.get());
+      if (::access(path_.c_str(), F_OK) == 0) {
+        return;
+      }
+    }
+    // Any reason: where a file with a name cannot be made either, that one is told.
+    descriptor_.reset(-1);
+    at_free_name([&] {
+      descriptor_.reset(open_file(name_, O_RDWR | O_CREAT | O_EXCL, mode));
+      return descriptor_.is_open();
+    });
+    path_ = name_;
+  }
+  Unnamed(const Unnamed&) = delete;
+  Unnamed& operator=(const Unnamed&) = delete;
+  ~Unnamed() {
+    if (!name_.empty()) {
+      ::unlink(name_.c_str());
     }
   }
-  if (descriptor < 0) {
-    const int error = errno;
-    path.clear();
-    fail(file, "cannot be written: no file can be made in \"" + folder_of(target) + "\": ", error);
+
+  [[nodiscard]] int descriptor() const { return descriptor_.get(); }
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+  // Puts it into the place of the target, of which nobody else makes another one meanwhile. False,
+  // with the reason in errno, where it cannot be had.
+  bool replace() {
+    if (name_.empty()) {
+      link_beside();
+    }
+    if (!descriptor_.close() || ::rename(name_.c_str(), target_.c_str()) != 0) {
+      return false;
+    }
+    name_.clear();
+    return true;
   }
-  return descriptor;
-}
+
+  // Gives it the target's name, which must be free. What is on the disk already loses nothing when
+  // it is closed.
+  bool publish() {
+    if (name_.empty()) {
+      return link_to(target_);
+    }
+    // Neither call takes the place of what is there; not every file system knows both.
+    if (::renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, target_.c_str(), RENAME_NOREPLACE) == 0) {
+      name_.clear();
+      return true;
+    }
+    return errno != EEXIST && ::link(name_.c_str(), target_.c_str()) == 0;
+  }
+
+ private:
+  bool link_to(const std::string& name) const {
+    return ::linkat(AT_FDCWD, path_.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  }
+
+  // A name for the moment until it takes the target's. It is the same each time, so that what a
+  // program left there that was killed in that moment goes when the file is next written.
+  void link_beside() {
+    name_ = path_beside_for_a_moment(target_);
+    if (link_to(name_) || (errno == EEXIST && ::unlink(name_.c_str()) == 0 && link_to(name_))) {
+      return;
+    }
+    at_free_name([&] { return link_to(name_); });
+  }
+
+  // Tries temporary names until one is free for what `make` makes under it.
+  template <class Make>
+  void at_free_name(Make make) {
+    constexpr int kAttempts = 100;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+      name_ = path_beside(target_);
+      if (make()) {
+        return;
+      }
+      if (errno != EEXIST) {
+        break;
+      }
+    }
+    const int error = errno;
+    name_.clear();
+    fail(file_,
+         "cannot be written: no file can be made in \"" + folder_of(target_) + "\": ", error);
+  }
+
+  std::string file_;
+  std::string target_;
+  std::string path_;  // under which it can be opened
+  std::string name_;  // to be taken away again
+  Descriptor descriptor_;
+};
 
 }  // namespace
 
@@ -192,10 +276,18 @@ std::string read_file(const std::string& file) {
   });
 }
 
+void write_into(const std::string& path, const std::string& file, std::string_view contents) {
+  constexpr mode_t kAsTheUserWants = 0666;
+  Descriptor descriptor(open_file(path, O_WRONLY | O_CREAT | O_TRUNC, kAsTheUserWants));
+  if (!descriptor.is_open() || !write_all(descriptor.get(), contents) || !descriptor.close()) {
+    fail(file, "cannot be written: ");
+  }
+}
+
 struct Replacement::Handles {
-  Descriptor old_file;  // holds the lock
-  Descriptor new_file;
-  std::unique_ptr<SignalsWait> signals_wait;
+  Descriptor old_file;                        // holds the lock
+  std::unique_ptr<SignalsWait> signals_wait;  // goes after the file that has a temporary name
+  std::unique_ptr<Unnamed> new_file;
 };
 
 Replacement::Replacement(const std::string& file)
@@ -224,11 +316,7 @@ Replacement::Replacement(const std::string& file)
   old_contents_ = read_all(handles_->old_file.get(), file);
 }
 
-Replacement::~Replacement() {
-  if (!temporary_.empty()) {
-    ::unlink(temporary_.c_str());
-  }
-}
+Replacement::~Replacement() = default;
 
 const std::string& Replacement::write(std::string_view contents) {
   constexpr mode_t kOwnersAlone = 0600;
@@ -236,8 +324,8 @@ const std::string& Replacement::write(std::string_view contents) {
   constexpr mode_t kGroupBits = 0070;
   constexpr mode_t kOtherBits = 0007;
   handles_->signals_wait = std::make_unique<SignalsWait>();
-  handles_->new_file.reset(make_beside(file_, target_, kOwnersAlone, temporary_));
-  const int descriptor = handles_->new_file.get();
+  handles_->new_file = std::make_unique<Unnamed>(file_, target_, kOwnersAlone);
+  const int descriptor = handles_->new_file->descriptor();
   struct stat status {};
   if (::fstat(handles_->old_file.get(), &status) != 0) {
     fail(file_, "");
@@ -255,19 +343,19 @@ const std::string& Replacement::write(std::string_view contents) {
   if (!write_all(descriptor, contents) || retried([&] { return ::fsync(descriptor); }) != 0) {
     fail(file_, "cannot be written, and is as it was: ");
   }
-  return temporary_;
+  return handles_->new_file->path();
 }
 
 void Replacement::commit() {
-  if (!handles_->new_file.close() || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+  if (!handles_->new_file->replace()) {
     fail(file_, "cannot be written, and is as it was: ");
   }
-  temporary_.clear();
   sync_folder(target_);
 }
 
 struct NewFile::Guard {
-  SignalsWait signals_wait;
+  SignalsWait signals_wait;  // goes after the file that has a temporary name
+  std::unique_ptr<Unnamed> new_file;
 };
 
 NewFile::NewFile(const std::string& file, std::size_t room)
@@ -280,40 +368,26 @@ NewFile::NewFile(const std::string& file, std::size_t room)
         S_ISLNK(status.st_mode) ? "a symbolic link of this name exists already" : "exists already",
         EEXIST);
   }
-  Descriptor descriptor(make_beside(file, file, kAsTheUserWants, temporary_));
-  if (!write_all(descriptor.get(), std::string(room, ' ')) ||
-      retried([&] { return ::fsync(descriptor.get()); }) != 0 ||
-      retried([&] { return ::ftruncate(descriptor.get(), 0); }) != 0 || !descriptor.close()) {
-    const int error = errno;
-    ::unlink(temporary_.c_str());
-    fail(file, "cannot be written: ", error);
+  guard_->new_file = std::make_unique<Unnamed>(file, file, kAsTheUserWants);
+  temporary_ = guard_->new_file->path();
+  const int descriptor = guard_->new_file->descriptor();
+  if (!write_all(descriptor, std::string(room, ' ')) ||
+      retried([&] { return ::fsync(descriptor); }) != 0 ||
+      retried([&] { return ::ftruncate(descriptor, 0); }) != 0) {
+    fail(file, "cannot be written: ");
   }
 }
 
-NewFile::~NewFile() {
-  if (!temporary_.empty()) {
-    ::unlink(temporary_.c_str());
-  }
-}
+NewFile::~NewFile() = default;
 
 void NewFile::publish() {
-  {
-    const Descriptor descriptor(open_file(temporary_, O_RDWR));
-    if (!descriptor.is_open() || retried([&] { return ::fsync(descriptor.get()); }) != 0) {
-      fail(file_, "cannot be written: ");
-    }
-  }
-  // Neither call takes the place of what is there; not every file system knows both.
-  if (::renameat2(AT_FDCWD, temporary_.c_str(), AT_FDCWD, file_.c_str(), RENAME_NOREPLACE) != 0) {
+  const int descriptor = guard_->new_file->descriptor();
+  if (retried([&] { return ::fsync(descriptor); }) != 0 || !guard_->new_file->publish()) {
     if (errno == EEXIST) {
       throw SystemFailure(file_, "exists already", EEXIST);
     }
-    if (::link(temporary_.c_str(), file_.c_str()) != 0) {
-      fail(file_, "cannot be written: ");
-    }
-    ::unlink(temporary_.c_str());
+    fail(file_, "cannot be written: ");
   }
-  temporary_.clear();
   sync_folder(file_);
 }
 

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 #include "platform/os_file.h"
@@ -79,8 +80,19 @@ std::string read_file(const std::string& file) {
   return qel::platform::read_steadily(watched, [&] { return read_all(stream, file); });
 }
 
+void write_into(const std::string& path, const std::string& file, std::string_view contents) {
+  errno = 0;
+  std::ofstream out(path, std::ios::binary);
+  out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  out.close();
+  if (!out) {
+    fail(file, "cannot be written: ");
+  }
+}
+
 struct Replacement::Handles {
   qel::platform::OsFile old_file;  // holds the lock
+  std::string temporary;
 };
 
 Replacement::Replacement(const std::string& file)
@@ -102,27 +114,27 @@ Replacement::Replacement(const std::string& file)
 }
 
 Replacement::~Replacement() {
-  if (!temporary_.empty()) {
-    std::remove(temporary_.c_str());
+  if (!handles_->temporary.empty()) {
+    std::remove(handles_->temporary.c_str());
   }
 }
 
 const std::string& Replacement::write(std::string_view contents) {
-  Stream stream = make_beside(file_, target_, temporary_);
+  Stream stream = make_beside(file_, target_, handles_->temporary);
   const bool whole = put(stream.get(), contents);
   if (std::fclose(stream.release()) != 0 || !whole) {
     fail(file_, "cannot be written, and is as it was: ");
   }
-  return temporary_;
+  return handles_->temporary;
 }
 
 void Replacement::commit() {
   // The one call that keeps the old file's attributes and access list.
-  if (::ReplaceFileA(target_.c_str(), temporary_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                     nullptr, nullptr) == 0) {
+  if (::ReplaceFileA(target_.c_str(), handles_->temporary.c_str(), nullptr,
+                     REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) == 0) {
     fail_by_system(file_, "cannot be written, and is as it was: ");
   }
-  temporary_.clear();
+  handles_->temporary.clear();
 }
 
 // A console's interruption ends the program on a thread of its own, and cannot be held back.

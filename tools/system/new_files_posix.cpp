@@ -18,8 +18,6 @@ namespace {
   throw SystemFailure(file, "cannot be written: " + reason_of(error), error);
 }
 
-std::string link_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
-
 }  // namespace
 
 // Files without a name: the system takes them away when the program ends, however it does.

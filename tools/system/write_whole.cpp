@@ -1,25 +1,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 
 #include "system/failure.h"
 #include "system/files.h"
 
 namespace qelpro {
-namespace {
-
-void write_into(const std::string& path, const std::string& file, std::string_view contents) {
-  errno = 0;
-  std::ofstream out(path, std::ios::binary);
-  out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
-  out.close();
-  if (!out) {
-    throw SystemFailure(file, "cannot be written: " + reason_of(errno), errno);
-  }
-}
-
-}  // namespace
 
 bool exists(const std::string& file) {
   std::error_code error;

@@ -6,16 +6,10 @@
 #include <string>
 
 #include "QELPROEngine/CPROIO_Manipulator.h"
+#include "support/naive_older_object.h"
 #include "support/scratch.h"
 
 namespace qelpro_test {
-
-/// An entry as the object writes it: the key in 14 columns.
-inline std::string entry(const std::string& key, const std::string& value) {
-  constexpr std::size_t kColumns = 14;
-  return key + std::string(key.size() < kColumns ? kColumns - key.size() : 0, ' ') + " = " + value +
-         "\n";
-}
 
 inline const std::string kMaskedDate = entry("Date", "<date>");
 

@@ -12,6 +12,7 @@
 
 #include "QELPROEngine/QELPROEngine.h"
 #include "support/comma_locale.h"
+#include "support/in_c_locale.h"
 #include "support/scratch.h"
 
 namespace qelpro_test {
@@ -246,11 +247,7 @@ double expected_value(const std::vector<double>& x, const std::vector<double>& y
   return y[i - 1] * (1 - share) + y[i] * share;
 }
 
-std::string number(double value) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.17g", value);
-  return text;
-}
+std::string number(double value) { return printed("%.17g", value); }
 
 TEST_F(CoolantTables, AgreeWithAnIndependentFormulaForEverySize) {
   std::mt19937 random(20261121);

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
+#include <vector>
 
 #include "inner/text/memory_file.h"
 #include "text/text.h"
@@ -32,12 +34,13 @@ std::string in_section(const std::string& contents, const Target& target) {
 class Indexed : public testing::Test {
  protected:
   std::string find(const Target& target) {
-    std::optional<LineScanner> lines;
-    return text_of(find_indexed(file, target, index, lines));
+    LookupRoom room;
+    return text_of(find_indexed(file, target, index, room));
   }
   std::optional<std::int64_t> offset_of(const std::string& section, const std::string& key) {
+    const SectionIndex::Section* known = index.section(section);
     const SectionIndex::Place* place =
-        index.entry(index.line_name(SectionIndex::Purpose::looked_for, section, key));
+        known != nullptr ? index.entry(known->line_name(key)) : nullptr;
     return place != nullptr ? std::optional(place->offset) : std::nullopt;
   }
 
@@ -317,7 +320,7 @@ TEST_F(Indexed, FindsAgainWhatAPieceOfALongLineHolds) {
 }
 
 TEST_F(Indexed, AnswersFromTheIndexWithOneReadOfHeaderAndLineOrOneOfEach) {
-  const std::string between(3000, '#');
+  const std::string between(5000, '#');
   file.bytes = "[A]\n" + between + "\nx = 1\n[B]\nw = 1\nx = 2\n" + between + "\ny = 3\n";
   const auto reads_for = [this](const Target& target) {
     find(target);
@@ -328,6 +331,92 @@ TEST_F(Indexed, AnswersFromTheIndexWithOneReadOfHeaderAndLineOrOneOfEach) {
   EXPECT_EQ(reads_for({"[A]", "x"}), 2);
   EXPECT_EQ(reads_for({"[B]", "x"}), 1);
   EXPECT_EQ(reads_for({"[B]", "y"}), 2);
+}
+
+TEST_F(Indexed, LearnsTheNextLineWithOneRead) {
+  file.bytes = "\n\n\n\n[A]\na = 1\nb = 2\r\n\nc\t= 3\n[B]\n";
+  find({"[A]", "a"});
+  const int before = file.reads;
+  EXPECT_EQ(find({"[A]", "b"}), "b = 2");
+  EXPECT_EQ(find({"[A]", "c"}), "c\t= 3");
+  EXPECT_EQ(file.reads - before, 2);
+  EXPECT_EQ(offset_of("[A]", "c"), 22);
+}
+
+// One whose lines are never seen at a glance.
+struct SlowFile : MemoryFile {
+  std::int64_t read_some(std::int64_t /*offset*/, char* /*to*/, std::size_t /*count*/) override {
+    return 0;
+  }
+};
+
+// A session that takes lines at a glance beside one that scans for each, while the file changes.
+TEST(Glance, AnswersAsAScanDoes) {
+  std::mt19937 random(20261122);
+  const auto below = [&random](std::size_t count) { return random() % count; };
+  const std::vector<std::string> sections{"[A]", "[B]", "[", "[A", "]", ""};
+  const std::vector<std::string> keys{"a",    "b", "ab", "a-twenty-characters-long-key-1",
+                                      "a\rb", "",  "[",  "a b"};
+  const std::vector<std::string> parts{"[A]",
+                                       "[B]",
+                                       "[A] more",
+                                       "a",
+                                       "b",
+                                       "ab",
+                                       " = ",
+                                       "=",
+                                       " ",
+                                       "\t",
+                                       "1",
+                                       "2",
+                                       "\n",
+                                       "\n",
+                                       "\n",
+                                       "\r\n",
+                                       "\r",
+                                       "[",
+                                       "]",
+                                       "#",
+                                       "a\rb",
+                                       "a-twenty-characters-long-key-1",
+                                       std::string(1, '\0'),
+                                       "\x1A",
+                                       "\n[A]\n",
+                                       "\n[B]\r\n",
+                                       "\na = 1\n",
+                                       "\nb = 2\n",
+                                       "\xEF\xBB\xBF",
+                                       std::string(4090, 'x')};
+  for (int round = 0; round < 4000; ++round) {
+    MemoryFile file;
+    SlowFile slow;
+    SectionIndex index;
+    SectionIndex slow_index;
+    for (std::size_t count = below(40); count != 0; --count) {
+      file.bytes += parts[below(round % 10 == 0 ? parts.size() : parts.size() - 1)];
+    }
+    for (int step = 0; step < 12; ++step) {
+      slow.bytes = file.bytes;
+      const Target target{sections[below(step % 2 == 0 ? 2 : sections.size())],
+                          keys[below(step % 2 == 0 ? 3 : keys.size())],
+                          below(6) == 0 ? static_cast<int>(below(4)) : Target::kByKey};
+      LookupRoom room;
+      LookupRoom slow_room;
+      const std::optional<Line> found = find_indexed(file, target, index, room);
+      const std::optional<Line> expected = find_indexed(slow, target, slow_index, slow_room);
+      ASSERT_EQ(text_of(found), text_of(expected)) << round << ": " << file.bytes;
+      ASSERT_EQ(found ? found->start : -1, expected ? expected->start : -1) << file.bytes;
+      const std::size_t change = below(4);
+      if (change == 0 && !file.bytes.empty()) {
+        file.bytes[below(file.bytes.size())] = parts[below(parts.size() - 1)][0];
+      } else if (change == 1) {
+        file.bytes.insert(below(file.bytes.size() + 1), parts[below(parts.size() - 1)]);
+      } else if (change == 2 && below(8) == 0) {
+        index.begin_file();
+        slow_index.begin_file();
+      }
+    }
+  }
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ TEST(Format, DoesNotFollowTheProgramsLocale) {
 }
 
 TEST(Format, GivesNothingWhereTheFormatCannotBeApplied) {
-  const wchar_t no_character[] = {static_cast<wchar_t>(0x7FFFFFFF), L'\0'};
+  const wchar_t no_character[] = {static_cast<wchar_t>(0xD800), L'\0'};
   EXPECT_EQ(formatted("%ls", no_character), "(nothing)");
 }
 

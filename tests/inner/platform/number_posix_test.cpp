@@ -1,5 +1,6 @@
 #include "platform/number.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <random>
 #include <regex>
@@ -27,6 +28,22 @@ TEST(ScanReal, AgreesWithTheScanFormatOnRandomTexts) {
     if (!std::regex_search(text, no_digits)) {
       expect_same_real(text);
     }
+  }
+}
+
+TEST(ScanReal, AgreesWithTheScanFormatOnDecimalsOfAnyLength) {
+  std::mt19937_64 random(20261122);
+  constexpr std::uint64_t kLargestExact = std::uint64_t{1} << 53;
+  for (int round = 0; round < 200000; ++round) {
+    // Those of sixteen digits stand around the whole numbers that a double no longer holds.
+    std::string text = std::to_string(round % 3 == 0 ? kLargestExact - 500 + random() % 1000
+                                                     : random() >> (random() % 64));
+    text.insert(0, random() % 4, '0');
+    text.append(random() % 4, '0');
+    text.insert(random() % (text.size() + 1), random() % 8 == 0 ? "" : ".");
+    text.insert(0, random() % 4 == 0 ? "-" : "");
+    text.append(random() % 8 == 0 ? "e-5" : "");
+    expect_same_real(text);
   }
 }
 

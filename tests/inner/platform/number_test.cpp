@@ -9,6 +9,7 @@
 
 #include "inner/platform/scanned_number.h"
 #include "support/comma_locale.h"
+#include "support/in_c_locale.h"
 
 namespace qelpro_test {
 namespace {
@@ -138,8 +139,7 @@ TEST(PrintReal, AgreesWithThePrintFormatButForTheExponentsWidth) {
     if (std::isnan(value)) {
       continue;
     }
-    char expected[64];
-    std::snprintf(expected, sizeof expected, "%g", value);
+    const std::string expected = printed("%g", value);
     EXPECT_EQ(print_real(value), std::regex_replace(expected, two_digits, "e$010$2")) << value;
   }
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/number.h"
+#include "support/in_c_locale.h"
 
 /// A number as the C library scans it, beside the same as the scanner does.
 namespace qelpro_test {
@@ -21,7 +22,8 @@ struct Real {
 inline Real by_scanf(const std::string& text) {
   double value = -7;
   int consumed = 0;
-  const int fields = std::sscanf(text.c_str(), "%lf%n", &value, &consumed);
+  const int fields =
+      in_c_locale([&] { return std::sscanf(text.c_str(), "%lf%n", &value, &consumed); });
   return {fields == 1 ? 1 : 0, value, fields == 1 ? static_cast<std::size_t>(consumed) : 0};
 }
 

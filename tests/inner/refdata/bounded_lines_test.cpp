@@ -66,5 +66,71 @@ TEST(BoundedLines, ComeInPiecesOverTheBlocksOfAFile) {
   EXPECT_EQ(lines_of(std::string(1023, 'x') + "yz\n"), Lines({std::string(1023, 'x'), "yz"}));
 }
 
+// The blocks in which a file comes are 64 KiB. Wherever the end of one falls among the bytes of a
+// line, the lines are those of the contents in memory.
+TEST(BoundedLines, AreTheSameWhereverABlockEnds) {
+  constexpr std::size_t kBlock = std::size_t{64} * 1024;
+  for (const char* const line_break : {"\n", "\r\n", "\r\r\n", "\n\r", "\r"}) {
+    for (std::size_t first = kBlock - 6; first <= kBlock + 2; ++first) {
+      std::string contents;
+      Lines expected;
+      // Lines of up to 1000 bytes in front, the last of which ends where the break begins.
+      while (contents.size() + 2000 < first) {
+        expected.emplace_back(999, 'a');
+        contents += expected.back() + "\n";
+      }
+      expected.emplace_back(1, 'b');
+      contents += "b\n";
+      expected.emplace_back((first - contents.size()) / 2, 'c');
+      contents += expected.back() + "\n";
+      expected.emplace_back(first - contents.size(), 'd');
+      contents += expected.back();
+      ASSERT_EQ(contents.size(), first);
+      ASSERT_LT(expected.back().size(), qel::refdata::BoundedLines::kLongestLine);
+      contents += std::string(line_break) + "after\r\nlast";
+      const std::string breaks = line_break;
+      if (breaks == "\n" || breaks == "\r\n") {
+        expected.insert(expected.end(), {"after", "last"});
+      } else if (breaks == "\r\r\n") {
+        expected.back() += "\r";
+        expected.insert(expected.end(), {"after", "last"});
+      } else if (breaks == "\n\r") {
+        expected.insert(expected.end(), {"\rafter", "last"});
+      } else {
+        expected.back() += "\rafter";
+        expected.emplace_back("last");
+      }
+      EXPECT_EQ(lines_of(contents), expected) << first << " " << breaks.size();
+    }
+  }
+}
+
+// A line of the longest length, and of one byte more, whose break stands across the end of a block.
+TEST(BoundedLines, OfTheLongestLengthMayEndAcrossBlocks) {
+  constexpr std::size_t kBlock = std::size_t{64} * 1024;
+  constexpr std::size_t kLongest = qel::refdata::BoundedLines::kLongestLine;
+  for (std::size_t length = kLongest - 2; length <= kLongest + 2; ++length) {
+    for (std::size_t end = kBlock - 2; end <= kBlock + 2; ++end) {
+      const std::size_t before = end - length;
+      std::string contents;
+      Lines expected;
+      while (contents.size() + 512 < before) {
+        expected.emplace_back(511, 'a');
+        contents += expected.back() + "\n";
+      }
+      expected.emplace_back(before - contents.size() - 1, 'b');
+      contents += expected.back() + "\n";
+      std::string line(length, 'x');
+      contents += line + "\r\nlast";
+      for (; line.size() >= kLongest; line.erase(0, kLongest)) {
+        expected.emplace_back(kLongest, 'x');
+      }
+      expected.push_back(line);
+      expected.emplace_back("last");
+      EXPECT_EQ(lines_of(contents), expected) << length << " " << end;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace qelpro_test

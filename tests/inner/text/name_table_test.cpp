@@ -63,6 +63,22 @@ TEST(NameTable, TellsNamesOfOneHashApart) {
   EXPECT_EQ(number_of(table, unknown), -1);
 }
 
+TEST(NameTable, TellsTheSameNameOfTwoOwnersApart) {
+  Numbers table;
+  const HashedName first(name_hash("[A]"), 0, "x");
+  const HashedName second(name_hash("[B]"), 1, "x");
+  HashedName third(name_hash("[C]"), 2, "x");
+  EXPECT_NE(first.hash, second.hash);
+  table.insert(first, 1);
+  EXPECT_EQ(number_of(table, second), -1);
+  EXPECT_TRUE(table.insert(second, 2).is_new);
+  third.hash = first.hash;
+  EXPECT_TRUE(table.insert(third, 3).is_new);
+  EXPECT_EQ(number_of(table, first), 1);
+  EXPECT_EQ(number_of(table, second), 2);
+  EXPECT_EQ(number_of(table, third), 3);
+}
+
 TEST(NameTable, AgreesWithAMapAsItGrows) {
   Numbers table;
   std::map<std::string, int> model;

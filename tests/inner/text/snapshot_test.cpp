@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <map>
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/document.h"
@@ -46,67 +46,41 @@ TEST(Snapshot, AnswersAsAOneShotReadDoes) {
   }
 }
 
-TEST(Snapshot, KnowsItsSections) {
-  const Scratch scratch;
-  Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file(kAwkward).c_str()));
-  EXPECT_TRUE(snapshot.has_section("[A]"));
-  EXPECT_TRUE(snapshot.has_section("[B]"));
-  EXPECT_TRUE(snapshot.has_section("[C]")) << "words behind a header are no part of it";
-  EXPECT_FALSE(snapshot.has_section("[not"));
-  EXPECT_FALSE(snapshot.has_section(""));
+// What a section's entries are, one after the other; nothing where there is no such section.
+std::string entries_of(const Snapshot& snapshot, std::string_view section) {
+  std::string listed;
+  return snapshot.visit_entries(section,
+                                [&listed](std::string_view key, std::string_view line) {
+                                  listed.append(key).append("|").append(line).append(";");
+                                })
+             ? listed
+             : "(nothing)";
 }
 
-TEST(Snapshot, ListsNumberedEntriesInAscendingOrder) {
+TEST(Snapshot, HandsOutTheEntriesOfItsSectionsAsTheyStand) {
   const Scratch scratch;
   Snapshot snapshot;
   ASSERT_TRUE(snapshot.load(
-      scratch.file("[A]\nP-3 = c\nP-1 = a\nP-20 = d\nP-2 = b\n[B]\nP-4 = x\n").c_str()));
-  std::string listed;
-  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "P-", 1000)) {
-    listed.append(std::to_string(entry.number)).append(entry.value).append(" ");
-  }
-  EXPECT_EQ(listed, "1a 2b 3c 20d ");
-}
-
-TEST(Snapshot, ListsTheEntriesThatALookupByNumberWouldFind) {
-  const Scratch scratch;
-  Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file(kAwkward).c_str()));
-  std::string listed;
-  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "FR-", 2147483647)) {
-    EXPECT_EQ(snapshot.value("[A]", "FR-" + std::to_string(entry.number)), entry.value);
-    listed.append(std::to_string(entry.number)).append(" ");
-  }
-  EXPECT_EQ(listed, "1 2 10 ");
-}
-
-TEST(Snapshot, TakesTheFirstOfSeveralEntriesOfOneKey) {
-  const Scratch scratch;
-  Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch
-                                .file("[A]\nLongPrefix-2 = b\nLongPrefix-1\nLongPrefix-1 = "
-                                      "a\nLongPrefix-2 = c\nLong = d\nLong = e\n")
-                                .c_str()));
-  std::string listed;
-  for (const Snapshot::Numbered& entry : snapshot.numbered("[A]", "LongPrefix-", 1000)) {
-    listed.append(std::to_string(entry.number)).append("=").append(entry.value).append(" ");
-  }
-  EXPECT_EQ(listed, "1= 2=b ");
-  EXPECT_EQ(snapshot.value("[A]", "LongPrefix-2"), "b");
-  EXPECT_EQ(snapshot.value("[A]", "Long"), "d");
-}
-
-TEST(Snapshot, TakesOnlyPrintedNumbersForNumbers) {
-  const Scratch scratch;
-  Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(
-      scratch.file("[A]\nP-1x = a\nP-02 = b\nP-+3 = c\nP-99999999999 = d\nP- = e\nP-4 = f\n")
+      scratch.file("x = 0\n[A]\nb = 1\r\n c = 2\n\nb = 3\nd\n[B] z\n[A]\ne = 4\n[not\nf = 5")
           .c_str()));
-  const std::vector<Snapshot::Numbered> listed = snapshot.numbered("[A]", "P-", 2147483647);
-  ASSERT_EQ(listed.size(), 1U);
-  EXPECT_EQ(listed.front().number, 4);
-  EXPECT_EQ(listed.front().value, "f");
+  EXPECT_EQ(entries_of(snapshot, "[A]"), "b|b = 1;b|b = 3;d|d;");
+  EXPECT_EQ(entries_of(snapshot, "[B]"), "");
+  EXPECT_EQ(entries_of(snapshot, "[not"), "(nothing)");
+  EXPECT_EQ(entries_of(snapshot, ""), "(nothing)");
+}
+
+TEST(Snapshot, HandsAValueOutAsATextAndKeepsWhatStandsBehindIt) {
+  const Scratch scratch;
+  Snapshot snapshot;
+  ASSERT_TRUE(snapshot.load(scratch.file("[A]\na = 1\nb =\nc = 2").c_str()));
+  for (const auto& [key, expected] :
+       {std::pair("a", "1"), std::pair("b", ""), std::pair("c", "2"), std::pair("a", "1")}) {
+    std::string text = "(nothing)";
+    snapshot.with_text(snapshot.value("[A]", key).value(),
+                       [&text](const char* value) { text = value; });
+    EXPECT_EQ(text, expected) << key;
+  }
+  EXPECT_EQ(entries_of(snapshot, "[A]"), "a|a = 1;b|b =;c|c = 2;");
 }
 
 TEST(Snapshot, FindsEachOfManySimilarKeys) {
@@ -128,12 +102,6 @@ TEST(Snapshot, FindsEachOfManySimilarKeys) {
   ASSERT_TRUE(snapshot.load(scratch.file(contents).c_str()));
   for (const auto& [key, value] : first) {
     EXPECT_EQ(snapshot.value("[A]", key), value);
-    const std::string prefix = key.substr(0, key.find('-') + 1);
-    const auto with_prefix = [&](const auto& entry) {
-      return entry.first.substr(0, prefix.size()) == prefix;
-    };
-    EXPECT_EQ(snapshot.numbered("[A]", prefix, 20).size(),
-              static_cast<std::size_t>(std::count_if(first.begin(), first.end(), with_prefix)));
   }
 }
 
@@ -162,15 +130,6 @@ TEST(Snapshot, HoldsNoFileThatCannotBeRead) {
   const std::string huge = scratch.file("[A]\n");
   std::filesystem::resize_file(huge, std::uintmax_t{1} << 31U);
   EXPECT_FALSE(snapshot.load(huge.c_str()));
-}
-
-TEST(Snapshot, ListsNothingBeyondTheGivenNumber) {
-  const Scratch scratch;
-  Snapshot snapshot;
-  ASSERT_TRUE(snapshot.load(scratch.file("[A]\nP-1 = a\nP-2 = b\nP-3 = c\n").c_str()));
-  EXPECT_EQ(snapshot.numbered("[A]", "P-", 2).size(), 2U);
-  EXPECT_TRUE(snapshot.numbered("[A]", "P-", 0).empty());
-  EXPECT_TRUE(snapshot.numbered("[B]", "P-", 2).empty());
 }
 
 TEST(Snapshot, StaysAsItWasWhenTheFileChanges) {

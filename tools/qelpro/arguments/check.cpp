@@ -8,10 +8,9 @@
 
 namespace qelpro {
 
-void add_check(CLI::App& app, int& status) {
+void add_check(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<CheckArguments>();
-  CLI::App* command =
-      app.add_subcommand("check", "Find what is wrong in process files, line by line");
+  CLI::App* command = app.add_subcommand(name, "Find what is wrong in process files, line by line");
   add_words(*command, "FILE", arguments->files, "The process files; - is standard input");
   command->add_flag("--strict", arguments->strict, "End with 1 where there is a warning, too");
   CLI::Option* json = command->add_flag("--json", arguments->json, "Print JSON");

@@ -6,10 +6,10 @@
 
 namespace qelpro {
 
-void add_completion(CLI::App& app, int& status) {
+void add_completion(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<CompletionArguments>();
   CLI::App* command = app.add_subcommand(
-      "completion", "Print what makes a shell complete commands, options, sections and keys");
+      name, "Print what makes a shell complete commands, options, sections and keys");
   command->add_option("SHELL", arguments->shell, "bash, zsh or fish")
       ->required()
       ->check(CLI::IsMember({"bash", "zsh", "fish"}));

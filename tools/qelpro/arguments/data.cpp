@@ -6,10 +6,10 @@
 
 namespace qelpro {
 
-void add_process(CLI::App& app, int& status) {
+void add_process(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ProcessArguments>();
   CLI::App* command =
-      app.add_subcommand("process", "Build the simulator process of a file and print it");
+      app.add_subcommand(name, "Build the simulator process of a file and print it");
   command->add_option("FILE", arguments->file, "The process file")->required();
   command->add_flag("--json", arguments->json, "Print JSON");
   command->footer(
@@ -19,10 +19,10 @@ void add_process(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_process(*arguments); });
 }
 
-void add_machines(CLI::App& app, int& status) {
+void add_machines(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<MachinesArguments>();
   CLI::App* command = app.add_subcommand(
-      "machines",
+      name,
       "List the makers of a machine bank with their numbers of grades, or the grades of one maker");
   command->add_option("FILE", arguments->bank, "The machine bank")->required();
   command->add_option("MAKER", arguments->maker, "The maker whose grades are listed");
@@ -31,10 +31,10 @@ void add_machines(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_machines(*arguments); });
 }
 
-void add_coolant(CLI::App& app, int& status) {
+void add_coolant(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<CoolantArguments>();
   CLI::App* command = app.add_subcommand(
-      "coolant", "Print the four properties of a coolant at a temperature, or a table of them");
+      name, "Print the four properties of a coolant at a temperature, or a table of them");
   command
       ->add_option("FILE ID TEMPERATURE", arguments->words,
                    "The coolant settings file (the user's own where it is left out), the coolant's "

@@ -8,10 +8,10 @@
 
 namespace qelpro {
 
-void add_diff(CLI::App& app, int& status) {
+void add_diff(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<DiffArguments>();
   CLI::App* command =
-      app.add_subcommand("diff", "Compare two files by sections, entries and profiles");
+      app.add_subcommand(name, "Compare two files by sections, entries and profiles");
   add_words(*command, "A B", arguments->words, "The two files; - for standard input");
   command
       ->add_option("--tolerance", arguments->relative,

@@ -6,19 +6,19 @@
 
 namespace qelpro {
 
-void add_new(CLI::App& app, int& status) {
+void add_new(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<NewArguments>();
-  CLI::App* command = app.add_subcommand("new", "Make a process file with default values");
+  CLI::App* command = app.add_subcommand(name, "Make a process file with default values");
   command->add_option("FILE", arguments->file, "The process file; one that exists is left alone")
       ->required();
   command->footer("Example: qelpro new Default.pro");
   command->callback([arguments, &status] { status = run_new(*arguments); });
 }
 
-void add_show(CLI::App& app, int& status) {
+void add_show(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ShowArguments>();
   CLI::App* command = app.add_subcommand(
-      "show",
+      name,
       "Print every entry with its meaning and its typed value, and the lines that are never read");
   command->add_option("FILE", arguments->file, "The process file")->required();
   command->add_option("SECTION", arguments->section, "One section, with or without its brackets");
@@ -27,10 +27,10 @@ void add_show(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_show(*arguments); });
 }
 
-void add_export(CLI::App& app, int& status) {
+void add_export(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ExportArguments>();
   CLI::App* command = app.add_subcommand(
-      "export", "Print a process file as JSON: sections, keys, and values typed by the catalogue");
+      name, "Print a process file as JSON: sections, keys, and values typed by the catalogue");
   command->add_option("FILE", arguments->file, "The process file; - is standard input")->required();
   command->add_option("-o,--output", arguments->out, "The file to write, not standard output")
       ->type_name("OUT");
@@ -42,10 +42,10 @@ void add_export(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_export(*arguments); });
 }
 
-void add_import(CLI::App& app, int& status) {
+void add_import(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ImportArguments>();
   CLI::App* command =
-      app.add_subcommand("import", "Make a process file of JSON, or set its entries in one");
+      app.add_subcommand(name, "Make a process file of JSON, or set its entries in one");
   command
       ->add_option("JSON", arguments->form,
                    "What export printed, in either form; - is standard input")

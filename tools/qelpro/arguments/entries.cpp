@@ -19,9 +19,9 @@ constexpr const char* kAddresses =
 
 }  // namespace
 
-void add_get(CLI::App& app, int& status) {
+void add_get(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<GetArguments>();
-  CLI::App* command = app.add_subcommand("get", "Print the value of a key, or of several");
+  CLI::App* command = app.add_subcommand(name, "Print the value of a key, or of several");
   command->add_option("FILE", arguments->file, kFile)->required();
   add_words(*command, "ADDRESS", arguments->words, kAddresses);
   command->add_flag("--typed", arguments->typed,
@@ -36,10 +36,10 @@ void add_get(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_get(*arguments); });
 }
 
-void add_set(CLI::App& app, int& status) {
+void add_set(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<SetArguments>();
   CLI::App* command =
-      app.add_subcommand("set", "Change the values of keys, or add keys; all of them or none");
+      app.add_subcommand(name, "Change the values of keys, or add keys; all of them or none");
   command->add_option("FILE", arguments->file, kChangedFile)->required();
   command
       ->add_option("ADDRESS=VALUE", arguments->words,
@@ -58,9 +58,9 @@ void add_set(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_set(*arguments); });
 }
 
-void add_unset(CLI::App& app, int& status) {
+void add_unset(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<UnsetArguments>();
-  CLI::App* command = app.add_subcommand("unset", "Remove entries, or sections");
+  CLI::App* command = app.add_subcommand(name, "Remove entries, or sections");
   command->add_option("FILE", arguments->file, kChangedFile)->required();
   add_words(*command, "ADDRESS", arguments->words, kAddresses);
   command->add_flag("--dry-run", arguments->dry_run, "Print what diff would, and write nothing");
@@ -70,9 +70,9 @@ void add_unset(CLI::App& app, int& status) {
   command->callback([arguments, &status] { status = run_unset(*arguments); });
 }
 
-void add_list(CLI::App& app, int& status) {
+void add_list(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ListArguments>();
-  CLI::App* command = app.add_subcommand("list", "Print the addresses of a file, one a line");
+  CLI::App* command = app.add_subcommand(name, "Print the addresses of a file, one a line");
   command->add_option("FILE", arguments->file, kFile)->required();
   command->add_option(
       "PATTERN", arguments->pattern,

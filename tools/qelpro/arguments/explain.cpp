@@ -7,10 +7,10 @@
 
 namespace qelpro {
 
-void add_explain(CLI::App& app, int& status) {
+void add_explain(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ExplainArguments>();
   CLI::App* command = app.add_subcommand(
-      "explain", "Tell what the library knows of a section or a key: meaning, unit, members");
+      name, "Tell what the library knows of a section or a key: meaning, unit, members");
   add_words(*command, "SECTION.KEY", arguments->words,
             "A section or a key of one, as it stands in a file (Flow-2.FR-3) or as a pattern "
             "(Flow-%ld.FR-%d); without it all sections",

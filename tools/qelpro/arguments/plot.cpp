@@ -7,10 +7,10 @@
 
 namespace qelpro {
 
-void add_plot(CLI::App& app, int& status) {
+void add_plot(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<PlotArguments>();
   CLI::App* command =
-      app.add_subcommand("plot", "Draw profiles of a process file, overlaid, as a picture");
+      app.add_subcommand(name, "Draw profiles of a process file, overlaid, as a picture");
   command->add_option("FILE", arguments->file, "The process file; - is standard input")->required();
   add_words(*command, "SECTION.PROFILE", arguments->profiles,
             "The profiles, such as Flow-1.FR; or patterns, such as 'Flow-*.FR'");

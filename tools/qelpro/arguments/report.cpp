@@ -7,10 +7,10 @@
 
 namespace qelpro {
 
-void add_report(CLI::App& app, int& status) {
+void add_report(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<ReportArguments>();
   CLI::App* command = app.add_subcommand(
-      "report", "Make a page of HTML about a process file, or about several side by side");
+      name, "Make a page of HTML about a process file, or about several side by side");
   add_words(*command, "FILE", arguments->files, "The process files; - is standard input");
   command
       ->add_option("-o,--output", arguments->output,

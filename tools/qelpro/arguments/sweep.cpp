@@ -27,10 +27,10 @@ CLI::Validator is_whole_number(std::uint64_t least) {
 
 }  // namespace
 
-void add_sweep(CLI::App& app, int& status) {
+void add_sweep(CLI::App& app, const char* name, int& status) {
   auto arguments = std::make_shared<SweepArguments>();
   CLI::App* command = app.add_subcommand(
-      "sweep", "Make the files of a parameter study: a process file with other values each time");
+      name, "Make the files of a parameter study: a process file with other values each time");
   command->add_option("FILE", arguments->file, "The process file; - is standard input")->required();
   command
       ->add_option("--set", arguments->settings,
