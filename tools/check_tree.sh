@@ -26,7 +26,7 @@ src/platform
 src/text platform
 src/core text platform
 src/blocks core text platform qelg
-src/objects
+src/objects platform
 src/api objects blocks core text platform refdata
 src/process objects blocks core text platform qelg
 src/proio objects blocks text platform

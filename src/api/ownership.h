@@ -10,11 +10,9 @@ namespace qel {
 /// Null when there is no memory for one.
 template <class Kind>
 Kind* make_session() {
-  try {
-    return new Kind;
-  } catch (...) {
-    return nullptr;
-  }
+  Kind* session = nullptr;
+  attempt([&session] { return (session = new Kind) != nullptr; });
+  return session;
 }
 
 template <class Path>
@@ -22,6 +20,13 @@ bool open(CQELPROIOBase& session, Path path, int mode) {
   return attempt([&] {
     return session.document().SetFilePath(path, mode) &&
            session.AttachDocument(&session.document());
+  });
+}
+
+inline void close(CQELPROIOBase& session) {
+  attempt([&] {
+    session.document().CloseFile();
+    return true;
   });
 }
 

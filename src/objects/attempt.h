@@ -1,15 +1,26 @@
 #pragma once
 
+#include "platform/host_thread.h"
+
 namespace qel {
 
-/// No exception leaves the library: running out of memory is a failure like any other.
+// A function of its own: the unwinding of a thread that is cancelled as soon as the member ends
+// passes its caller, and would end the program at one that catches.
 template <class Work>
-bool attempt(Work work) noexcept {
+[[gnu::noinline]] bool caught(Work& work) noexcept {
   try {
     return work();
   } catch (...) {
     return false;
   }
+}
+
+/// Does a member's work. No exception leaves it: running out of memory is a failure like any other.
+/// The thread is not cancelled in the middle of it.
+template <class Work>
+bool attempt(Work work) noexcept {
+  const platform::Member member;
+  return member.leave(caught(work));
 }
 
 }  // namespace qel

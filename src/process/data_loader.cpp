@@ -19,6 +19,7 @@
 #include "blocks/mold_thermal_boundary_type.h"
 #include "blocks/ram_position.h"
 #include "blocks/summary.h"
+#include "objects/attempt.h"
 #include "platform/number.h"
 #include "process/functions.h"
 #include "process/steps.h"
@@ -149,14 +150,18 @@ CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(
 CQELProcessData_Manipulator::~CQELProcessData_Manipulator() { Dispose(); }
 
 void CQELProcessData_Manipulator::Dispose() {
-  delete reader_;
-  reader_ = nullptr;
+  attempt([this] {
+    delete reader_;
+    reader_ = nullptr;
+    return true;
+  });
 }
 
 const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
     const char* path) {
+  const QELG_SimulatorProcess* loaded = nullptr;
   Dispose();
-  try {
+  attempt([&] {
     reader_ = new LoadingReader;
     std::unique_ptr<QELG_SimulatorProcess> process;
     if (path != nullptr && file_of(reader_).load(path)) {
@@ -170,12 +175,11 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
       DetermineInletCount(*process);
       LoadInlets(*process);
     }
-    Dispose();
-    return process.release();
-  } catch (...) {
-    Dispose();
-    return nullptr;
-  }
+    loaded = process.release();
+    return loaded != nullptr;
+  });
+  Dispose();
+  return loaded;
 }
 
 void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& process) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "QELPROEngine/CQELMachineIdentification.h"
+#include "objects/attempt.h"
 #include "objects/owners.h"
 #include "platform/os_file.h"
 #include "refdata/machine_bank.h"
@@ -48,11 +49,9 @@ using Record = qel::Shared<QELMachineRecord>;
 Record* record_of(QELMachineRecord* record) { return static_cast<Record*>(record); }
 
 Record* make_record() {
-  try {
-    return new Record;
-  } catch (...) {
-    return nullptr;
-  }
+  Record* record = nullptr;
+  qel::attempt([&record] { return (record = new Record) != nullptr; });
+  return record;
 }
 
 // An object that found no memory for its record makes it here.
@@ -65,11 +64,11 @@ void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*p
   if (record == nullptr || text == nullptr) {
     return;
   }
-  try {
+  // Without memory the path before stays.
+  qel::attempt([&] {
     (record->*path).set(text);
-  } catch (...) {
-    return;  // the path before stays
-  }
+    return true;
+  });
 }
 
 // No terminator is added when the text fills the buffer.
@@ -101,19 +100,17 @@ bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, cons
   if (texts.empty() || list == nullptr || count == nullptr) {
     return false;
   }
-  try {
+  return qel::attempt([&] {
     std::vector<const char*> pointers;
     pointers.reserve(texts.size());
     for (const auto& text : texts) {
       pointers.push_back(text_of(text).c_str());
     }
     record.handed_out = std::move(pointers);
-  } catch (...) {
-    return false;
-  }
-  *list = record.handed_out.data();
-  *count = static_cast<int>(record.handed_out.size());
-  return true;
+    *list = record.handed_out.data();
+    *count = static_cast<int>(record.handed_out.size());
+    return true;
+  });
 }
 
 }  // namespace
@@ -152,19 +149,21 @@ bool CQELMachineIdentification::LoadFileData() {
   if (record_ == nullptr) {
     return false;
   }
-  record_->makers_in_order.clear();
-  record_->makers.clear();
-  record_->handed_out.clear();
-  try {
-    qel::platform::OsFile file;
-    const bool loaded = record_->user_bank.open(file) &&
-                        qel::refdata::read_machine_bank(file, record_->version, record_->makers);
-    record_->makers_in_order = in_order(record_->makers);
-    return loaded;
-  } catch (...) {
-    record_->makers.clear();  // those read so far would be known by name, and not be listed
-    return false;
-  }
+  return qel::attempt([this] {
+    record_->makers_in_order.clear();
+    record_->makers.clear();
+    record_->handed_out.clear();
+    try {
+      qel::platform::OsFile file;
+      const bool loaded = record_->user_bank.open(file) &&
+                          qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+      record_->makers_in_order = in_order(record_->makers);
+      return loaded;
+    } catch (...) {
+      record_->makers.clear();  // those read so far would be known by name, and not be listed
+      throw;
+    }
+  });
 }
 
 int CQELMachineIdentification::GetMakerCount() {

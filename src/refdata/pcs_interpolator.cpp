@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "QELPROEngine/CQELPCSInterpolator.h"
+#include "objects/attempt.h"
 #include "objects/owners.h"
 #include "platform/os_file.h"
 #include "refdata/coolant_table.h"
@@ -50,18 +51,18 @@ CQELPCSInterpolator& CQELPCSInterpolator::operator=(const CQELPCSInterpolator& o
 
 CQELPCSInterpolator::~CQELPCSInterpolator() { qel::release(tables_of(tables_)); }
 
-bool CQELPCSInterpolator::LoadDataFromFile(const char* path) try {
-  qel::release(tables_of(tables_));
-  tables_ = nullptr;  // should there be no memory for another
-  tables_ = new Tables;
-  qel::platform::OsFile file;
-  if (path == nullptr || !file.open_for_reading(path)) {
-    return false;
-  }
-  tables_->coolants = qel::refdata::read_coolants(file);
-  return true;
-} catch (...) {
-  return false;
+bool CQELPCSInterpolator::LoadDataFromFile(const char* path) {
+  return qel::attempt([&] {
+    qel::release(tables_of(tables_));
+    tables_ = nullptr;  // should there be no memory for another
+    tables_ = new Tables;
+    qel::platform::OsFile file;
+    if (path == nullptr || !file.open_for_reading(path)) {
+      return false;
+    }
+    tables_->coolants = qel::refdata::read_coolants(file);
+    return true;
+  });
 }
 
 bool CQELPCSInterpolator::InterpolateCoolantProperties(int coolant, double argument, double& p1,
@@ -84,13 +85,13 @@ bool CQELPCSInterpolator::InterpolateCoolantProperties(int coolant, double argum
   return true;
 }
 
-bool g_GetCurrentUserPSCFilePath(char* buffer, unsigned int size) try {
-  const std::string path = qel::refdata::user_coolant_file();
-  if (buffer == nullptr || path.empty() || path.size() >= size) {
-    return false;
-  }
-  std::memcpy(buffer, path.c_str(), path.size() + 1);
-  return true;
-} catch (...) {
-  return false;
+bool g_GetCurrentUserPSCFilePath(char* buffer, unsigned int size) {
+  return qel::attempt([&] {
+    const std::string path = qel::refdata::user_coolant_file();
+    if (buffer == nullptr || path.empty() || path.size() >= size) {
+      return false;
+    }
+    std::memcpy(buffer, path.c_str(), path.size() + 1);
+    return true;
+  });
 }
