@@ -7,6 +7,8 @@
 #include <limits>
 #include <system_error>
 
+#include "platform/rounding.h"
+
 namespace qel::platform {
 namespace {
 
@@ -186,9 +188,13 @@ bool scan_int(const char*& at, int& value) {
   return true;
 }
 
-bool scan_real(const char*& at, double& value) { return scan_real(at, Radix::any, value); }
+bool scan_real(const char*& at, double& value) {
+  const NearestRounding rounding;
+  return scan_real(at, Radix::any, value);
+}
 
 bool scan_decimal_real(const char*& at, double& value) {
+  const NearestRounding rounding;
   return scan_real(at, Radix::decimal, value);
 }
 
