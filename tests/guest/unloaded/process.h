@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+/// What the host asks of the operating system.
+namespace unloaded {
+
+using UseEachClass = int (*)(const char* folder);
+
+/// A plug-in, loaded while this lives.
+class Plugin {
+ public:
+  explicit Plugin(const std::string& path);
+  Plugin(const Plugin&) = delete;
+  Plugin& operator=(const Plugin&) = delete;
+  ~Plugin();
+
+  [[nodiscard]] UseEachClass use() const { return use_; }
+
+ private:
+  void* handle_;
+  UseEachClass use_;
+};
+
+struct Held {
+  std::size_t memory = 0;  ///< In bytes: what the process has for itself.
+  std::size_t files = 0;   ///< Open descriptors, or handles.
+  std::size_t keys = 0;    ///< Of thread-local data that are still to be had.
+};
+Held held_now();
+
+bool is_engine_loaded();
+
+}  // namespace unloaded
