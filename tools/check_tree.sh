@@ -32,7 +32,7 @@ src/process objects blocks core text platform qelg
 src/proio objects blocks text platform
 src/refdata objects text platform
 src/qelg
-tools/system text
+tools/system text platform
 tools/json system
 tools/file blocks text platform system json
 tools/check file blocks proio text platform system json

@@ -45,6 +45,21 @@ Result store_into(OsFile& file, Work work) {
   return file.close() ? result : Result::no_open;
 }
 
+// Runs a store on a file that stays open, and that no other store works on meanwhile.
+template <class Work>
+Result store_into_held(RandomAccess& file, Work work) {
+  struct Unlocking {
+    RandomAccess& file;
+    ~Unlocking() { file.unlock(); }
+  };
+  if (!file.lock()) {
+    return Result::no_open;
+  }
+  const Unlocking unlocking{file};
+  Store store(file);
+  return work(store);
+}
+
 }  // namespace
 
 CQELPROIO::~CQELPROIO() {
@@ -181,9 +196,9 @@ bool CQELPROIO::open_path(OsFile& file) const {
                                : file.open_for_reading(path_copy_.c_str());
 }
 
-bool CQELPROIO::open_path_for_update(OsFile& file) const {
-  return wide_path_ != nullptr ? file.open_for_update(wide_path_copy_.c_str())
-                               : open_or_create(file, path_copy_.c_str());
+bool CQELPROIO::open_path_for_store(OsFile& file) const {
+  return wide_path_ != nullptr ? file.open_for_store(wide_path_copy_.c_str())
+                               : file.open_or_create_for_store(path_copy_.c_str());
 }
 
 qel::Result CQELPROIO::GetValue(std::string_view section, std::string_view key, char*& value,
@@ -302,14 +317,15 @@ qel::Result CQELPROIO::SetValue(std::string_view section, std::string_view key,
     if (!holds_file()) {
       return Result::no_file;
     }
-    const Result result = Store(held()).set(entry, false);
+    const Result result =
+        store_into_held(held(), [&](Store& store) { return store.set(entry, false); });
     return result == Result::absent ? InsertValue(own_path(), section, key, value) : result;
   }
   if (path_ == nullptr && wide_path_ == nullptr) {
     return Result::no_file;
   }
   OsFile file;
-  if (!open_path_for_update(file)) {
+  if (!open_path_for_store(file)) {
     return Result::no_open;
   }
   // A new key of an existing section needs the narrow path.
@@ -327,7 +343,7 @@ qel::Result CQELPROIO::WriteOnce(std::string_view section, std::string_view key,
   }
   if (path_ != nullptr) {
     OsFile file;
-    if (!open_or_create(file, path_copy_.c_str())) {
+    if (!file.open_or_create_for_store(path_copy_.c_str())) {
       return Result::no_open;
     }
     return store_into(file, [&](Store& store) { return store.set(entry, true); });
@@ -335,7 +351,8 @@ qel::Result CQELPROIO::WriteOnce(std::string_view section, std::string_view key,
   if (!holds_file()) {
     return Result::no_file;
   }
-  const Result result = Store(held()).set(entry, false);
+  const Result result =
+      store_into_held(held(), [&](Store& store) { return store.set(entry, false); });
   return result == Result::absent ? Result::no_open : result;
 }
 
@@ -343,7 +360,7 @@ qel::Result CQELPROIO::InsertValue(const char* path, std::string_view section, s
                                    std::string_view value) {
   const Entry entry{{section, key}, value};
   OsFile file;
-  if (path == nullptr || is_refused(entry) || !file.open_for_update(path)) {
+  if (path == nullptr || is_refused(entry) || !file.open_for_store(path)) {
     return Result::no_open;
   }
   return store_into(file, [&](Store& store) { return store.insert(entry); });
@@ -353,7 +370,7 @@ qel::Result CQELPROIO::ReplaceValue(std::string_view section, std::string_view k
                                     std::string_view value) {
   const Entry entry{{section, key}, value};
   OsFile file;
-  if (path_ == nullptr || is_refused(entry) || !file.open_for_update(path_copy_.c_str())) {
+  if (path_ == nullptr || is_refused(entry) || !file.open_for_store(path_copy_.c_str())) {
     return Result::no_open;
   }
   return store_into(file, [&](Store& store) { return store.replace(entry); });

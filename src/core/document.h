@@ -106,7 +106,7 @@ class CQELPROIO {
   template <class Work>
   qel::Result scan_section(std::string_view section, Work work);
   bool open_path(qel::platform::OsFile& file) const;
-  bool open_path_for_update(qel::platform::OsFile& file) const;
+  bool open_path_for_store(qel::platform::OsFile& file) const;
 
   const char* path_ = nullptr;
   const wchar_t* wide_path_ = nullptr;

@@ -20,11 +20,14 @@ class CallerStream final : public RandomAccess {
   bool reserve(std::int64_t old_size, std::int64_t end) override;
   bool truncate(std::int64_t size) override;
   bool flush() override;
+  bool lock() override;
+  void unlock() override;
 
  private:
   std::FILE* stream_;
   bool has_contents_ = false;
   ChangeCount changes_;
+  bool is_locked_ = false;
 };
 
 }  // namespace qel::platform

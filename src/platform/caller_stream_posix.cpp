@@ -4,6 +4,7 @@
 
 #include "platform/caller_stream.h"
 #include "platform/file_length_posix.h"
+#include "platform/store_lock.h"
 
 namespace qel::platform {
 
@@ -66,6 +67,26 @@ bool CallerStream::truncate(std::int64_t size) {
   const CountedChange change(changes_);
   const int fd = ::fileno(stream_);
   return fd >= 0 && flush() && set_length(fd, size);
+}
+
+// The caller's own lock of the same open file stays: the byte in question is nobody else's.
+bool CallerStream::lock() {
+  const int fd = ::fileno(stream_);
+  const LockAnswer answer = fd >= 0 && has_contents_ ? lock_for_store(fd) : LockAnswer::none;
+  is_locked_ = answer == LockAnswer::held;
+  if (is_locked_) {
+    // What the stream read ahead may be older than the lock; from its beginning, it forgets all.
+    ::fseeko(stream_, 0, SEEK_SET);
+    std::fflush(stream_);
+  }
+  return answer != LockAnswer::busy;
+}
+
+void CallerStream::unlock() {
+  if (is_locked_) {
+    unlock_after_store(::fileno(stream_));
+    is_locked_ = false;
+  }
 }
 
 bool CallerStream::flush() { return std::fflush(stream_) == 0; }

@@ -3,6 +3,7 @@
 #include <io.h>
 
 #include "platform/handle_windows.h"
+#include "platform/store_lock.h"
 
 // The bytes are read and written below the stream, which may have been opened in text mode and
 // would translate them.
@@ -51,5 +52,19 @@ bool CallerStream::truncate(std::int64_t size) {
 }
 
 bool CallerStream::flush() { return synchronize(stream_); }
+
+bool CallerStream::lock() {
+  const LockAnswer answer =
+      has_contents_ ? lock_for_store(handle_number(handle_of(stream_))) : LockAnswer::none;
+  is_locked_ = answer == LockAnswer::held;
+  return answer != LockAnswer::busy;
+}
+
+void CallerStream::unlock() {
+  if (is_locked_) {
+    unlock_after_store(handle_number(handle_of(stream_)));
+    is_locked_ = false;
+  }
+}
 
 }  // namespace qel::platform

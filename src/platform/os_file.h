@@ -23,6 +23,12 @@ class OsFile final : public RandomAccess {
   /// Creates the file; an existing one is opened with its contents as they are.
   bool create(const char* path);
 
+  /// For a store: no other one works on the file until it is closed. False, too, when another one
+  /// does not end.
+  bool open_for_store(const char* path);
+  bool open_for_store(const wchar_t* path);
+  bool open_or_create_for_store(const char* path);
+
   [[nodiscard]] bool is_open() const { return handle_ != kClosed; }
   /// False when the operating system reports that something written earlier was lost.
   bool close();
@@ -47,12 +53,17 @@ class OsFile final : public RandomAccess {
 
  private:
   static constexpr std::intptr_t kClosed = -1;
-  bool adopt(std::intptr_t handle);
+  enum class Purpose { use, store };
+  bool adopt(std::intptr_t handle, Purpose purpose = Purpose::use);
+  template <class Character>
+  bool open_locked(const Character* path, bool creates);
 
   std::intptr_t handle_ = kClosed;
   std::int64_t size_when_opened_ = -1;
   std::uint64_t identity_ = 0;
   ChangeCount changes_;
+  bool is_locked_ = false;
+  bool may_be_replaced_ = false;  // its name may have gone to another file meanwhile
 };
 
 }  // namespace qel::platform

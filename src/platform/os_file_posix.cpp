@@ -6,6 +6,8 @@
 
 #include "platform/file_length_posix.h"
 #include "platform/os_file.h"
+#include "platform/patience.h"
+#include "platform/store_lock.h"
 #include "platform/utf8.h"
 
 namespace qel::platform {
@@ -47,17 +49,27 @@ std::uint64_t identity_of(std::uint64_t device, std::uint64_t file) {
 
 int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
+// Whether somebody has put another file into the place of an open one.
+bool is_replaced(int fd, const char* path) {
+  struct stat held {};
+  struct stat named {};
+  return ::fstat(fd, &held) != 0 || ::stat(path, &named) != 0 || named.st_dev != held.st_dev ||
+         named.st_ino != held.st_ino;
+}
+
 }  // namespace
 
 OsFile::~OsFile() { close(); }
 
-bool OsFile::adopt(std::intptr_t handle) {
+bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
   close();
   if (handle < 0) {
     return false;
   }
+  const LockAnswer lock = purpose == Purpose::store ? lock_for_store(handle) : LockAnswer::none;
   struct stat status {};
-  if (::fstat(descriptor(handle), &status) != 0 || !S_ISREG(status.st_mode)) {
+  if (lock == LockAnswer::busy || ::fstat(descriptor(handle), &status) != 0 ||
+      !S_ISREG(status.st_mode)) {
     ::close(descriptor(handle));
     return false;
   }
@@ -65,7 +77,29 @@ bool OsFile::adopt(std::intptr_t handle) {
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
   identity_ = identity_of(status.st_dev, status.st_ino);
   changes_ = ChangeCount(status.st_dev, status.st_ino);
+  is_locked_ = lock == LockAnswer::held;
+  may_be_replaced_ = status.st_nlink != 1;
   return true;
+}
+
+// Who waited for another store may find that its file is no longer the one under the path.
+template <>
+bool OsFile::open_locked(const char* path, bool creates) {
+  Patience patience;
+  do {
+    int fd = open_file(path, O_RDWR);
+    if (fd < 0 && creates) {
+      fd = open_file(path, O_RDWR | O_CREAT);
+    }
+    if (!adopt(fd, Purpose::store)) {
+      return false;
+    }
+    if (!may_be_replaced_ || !is_replaced(descriptor(handle_), path)) {
+      return true;
+    }
+  } while (patience.waits());
+  close();
+  return false;
 }
 
 // A reader needs no more of the file than what the look before the opening told: should another one
@@ -97,10 +131,20 @@ bool OsFile::open_for_update(const wchar_t* path) { return open_for_update(to_ut
 
 bool OsFile::create(const char* path) { return adopt(open_file(path, O_RDWR | O_CREAT)); }
 
+bool OsFile::open_for_store(const char* path) { return open_locked(path, false); }
+
+bool OsFile::open_for_store(const wchar_t* path) { return open_for_store(to_utf8(path).c_str()); }
+
+bool OsFile::open_or_create_for_store(const char* path) { return open_locked(path, true); }
+
 bool OsFile::close() {
   if (!is_open()) {
     return true;
   }
+  if (is_locked_ && !is_unlocked_by_closing()) {
+    unlock_after_store(handle_);
+  }
+  is_locked_ = false;
   const int result = ::close(descriptor(handle_));
   handle_ = kClosed;
   return result == 0 || errno == EINTR;

@@ -7,6 +7,8 @@
 #include <algorithm>
 
 #include "platform/handle_windows.h"
+#include "platform/patience.h"
+#include "platform/store_lock.h"
 
 namespace qel::platform {
 // To ask for a file's number takes as long as to open it: all files share one counter here.
@@ -18,33 +20,65 @@ constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
 constexpr DWORD kReading = GENERIC_READ;
 constexpr DWORD kUpdating = GENERIC_READ | GENERIC_WRITE;
 
-std::intptr_t open_existing(const char* path, DWORD access) {
+std::intptr_t open_or_create(const char* path, DWORD access, DWORD disposition) {
   return handle_number(
-      ::CreateFileA(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+      ::CreateFileA(path, access, kShared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-std::intptr_t open_existing(const wchar_t* path, DWORD access) {
+std::intptr_t open_or_create(const wchar_t* path, DWORD access, DWORD disposition) {
   return handle_number(
-      ::CreateFileW(path, access, kShared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+      ::CreateFileW(path, access, kShared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+template <class Character>
+std::intptr_t open_existing(const Character* path, DWORD access) {
+  return open_or_create(path, access, OPEN_EXISTING);
 }
 
 }  // namespace
 
 OsFile::~OsFile() { close(); }
 
-bool OsFile::adopt(std::intptr_t handle) {
+bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
   close();
   if (handle == kClosed) {
     return false;
   }
-  if (!is_disk_file(to_handle(handle))) {
+  const bool is_file = is_disk_file(to_handle(handle));
+  const LockAnswer lock =
+      is_file && purpose == Purpose::store ? lock_for_store(handle) : LockAnswer::none;
+  if (!is_file || lock == LockAnswer::busy) {
     ::CloseHandle(to_handle(handle));
     return false;
   }
   handle_ = handle;
   size_when_opened_ = size();
   changes_ = ChangeCount(0, 0);
+  is_locked_ = lock == LockAnswer::held;
+  FILE_STANDARD_INFO names{};
+  may_be_replaced_ =
+      purpose == Purpose::store &&
+      ::GetFileInformationByHandleEx(to_handle(handle), FileStandardInfo, &names, sizeof names) !=
+          0 &&
+      (names.DeletePending != 0 || names.NumberOfLinks == 0);
   return true;
+}
+
+// Who waited for another store may find that its file is no longer the one under the path.
+template <class Character>
+bool OsFile::open_locked(const Character* path, bool creates) {
+  Patience patience;
+  do {
+    if (!adopt(open_or_create(path, kUpdating, creates ? OPEN_ALWAYS : OPEN_EXISTING),
+               Purpose::store)) {
+      return false;
+    }
+    if (!may_be_replaced_) {
+      return true;
+    }
+  } while (patience.waits());
+  close();
+  return false;
 }
 
 bool OsFile::open_for_reading(const char* path) { return adopt(open_existing(path, kReading)); }
@@ -56,14 +90,23 @@ bool OsFile::open_for_update(const char* path) { return adopt(open_existing(path
 bool OsFile::open_for_update(const wchar_t* path) { return adopt(open_existing(path, kUpdating)); }
 
 bool OsFile::create(const char* path) {
-  return adopt(handle_number(::CreateFileA(path, kUpdating, kShared, nullptr, OPEN_ALWAYS,
-                                           FILE_ATTRIBUTE_NORMAL, nullptr)));
+  return adopt(open_or_create(path, kUpdating, OPEN_ALWAYS));
 }
+
+bool OsFile::open_for_store(const char* path) { return open_locked(path, false); }
+
+bool OsFile::open_for_store(const wchar_t* path) { return open_locked(path, false); }
+
+bool OsFile::open_or_create_for_store(const char* path) { return open_locked(path, true); }
 
 bool OsFile::close() {
   if (!is_open()) {
     return true;
   }
+  if (is_locked_ && !is_unlocked_by_closing()) {
+    unlock_after_store(handle_);
+  }
+  is_locked_ = false;
   const BOOL closed = ::CloseHandle(to_handle(handle_));
   handle_ = kClosed;
   return closed != 0;

@@ -38,6 +38,10 @@ class RandomAccess {
 
   /// Hands everything written to the operating system; false when that failed.
   virtual bool flush() = 0;
+
+  /// Keeps other stores out of a file that is open already; false when another one does not end.
+  virtual bool lock() { return true; }
+  virtual void unlock() {}
 };
 
 }  // namespace qel::platform

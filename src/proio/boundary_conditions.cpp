@@ -141,7 +141,7 @@ bool CPROIO_Manipulator::SetBCProfile(int bc, int point, double x, double y) {
     }
     const std::string line = fields::print(" = ", point, fields::print("\t", x, y).c_str());
     platform::OsFile file;
-    if (!file.open_for_update(path_) && (point < 1 || !file.create(path_))) {
+    if (point < 1 ? !file.open_for_store(path_) : !file.open_or_create_for_store(path_)) {
       return point >= 1;
     }
     qel::FileEdit edit(file, kDialect);

@@ -22,7 +22,7 @@ bool is_storable(const char* value) {
 
 bool store_into(const char* path, const qel::Target& target, const char* value) {
   platform::OsFile file;
-  if (!file.open_for_update(path) && !file.create(path)) {
+  if (!file.open_or_create_for_store(path)) {
     return false;
   }
   qel::FileEdit edit(file, kDialect);

@@ -9,12 +9,15 @@
 /// has the operating system's reason.
 namespace qelpro {
 
+/// Why a file is not replaced that other programs store into without an end.
+inline constexpr const char* kIsBusy = "cannot be written: another program is storing into it";
+
 /// The bytes of a regular file, all of them; "-" is standard input.
 std::string read_file(const std::string& file);
 
 /// A file that is about to be replaced by new contents, whole or not at all. Symbolic links are
-/// followed. While it lives, no other store of this tool works on the file: another one waits in
-/// its constructor.
+/// followed. While it lives, no other store works on the file, be it this tool's or the engine's: it
+/// waits, a few seconds at most, as this one's constructor does.
 class Replacement {
  public:
   explicit Replacement(const std::string& file);

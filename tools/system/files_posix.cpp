@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -12,6 +11,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "platform/store_lock.h"
 #include "system/beside.h"
 #include "system/calls_posix.h"
 #include "system/failure.h"
@@ -202,8 +202,10 @@ Replacement::Replacement(const std::string& file)
     if (!handles_->old_file.is_open()) {
       fail(file, "cannot be opened for writing: ");
     }
-    // A file system without locks goes without.
-    retried([&] { return ::flock(handles_->old_file.get(), LOCK_EX); });
+    if (qel::platform::lock_for_store(handles_->old_file.get()) ==
+        qel::platform::LockAnswer::busy) {
+      throw SystemFailure(file, kIsBusy, EAGAIN);
+    }
     // Whoever held the lock has put another file into this one's place.
   } while (::fstat(handles_->old_file.get(), &held) != 0 || ::stat(target_.c_str(), &named) != 0 ||
            held.st_dev != named.st_dev || held.st_ino != named.st_ino);

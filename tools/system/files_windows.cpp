@@ -4,9 +4,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <system_error>
 
+#include "platform/os_file.h"
 #include "system/beside.h"
 #include "system/failure.h"
 #include "system/files.h"
@@ -66,9 +66,8 @@ std::string read_file(const std::string& file) {
   return contents;
 }
 
-// A lock of the file itself would keep it from being replaced; the lock has the file's name.
 struct Replacement::Handles {
-  HANDLE lock = nullptr;
+  qel::platform::OsFile old_file;  // holds the lock
 };
 
 Replacement::Replacement(const std::string& file)
@@ -79,14 +78,12 @@ Replacement::Replacement(const std::string& file)
     errno = ENOENT;
     fail(file, "");
   }
-  const std::string name = "qelpro-" + std::to_string(std::hash<std::string>()(target_));
-  handles_->lock = ::CreateMutexA(nullptr, FALSE, name.c_str());
-  if (handles_->lock != nullptr) {
-    ::WaitForSingleObject(handles_->lock, INFINITE);
-  }
   if (const Stream writable(std::fopen(target_.c_str(), "r+b"), &std::fclose);
       writable == nullptr) {
     fail(file, "cannot be opened for writing: ");
+  }
+  if (!handles_->old_file.open_for_store(target_.c_str())) {
+    throw SystemFailure(file, kIsBusy, EAGAIN);
   }
   old_contents_ = read_file(target_);
 }
@@ -94,10 +91,6 @@ Replacement::Replacement(const std::string& file)
 Replacement::~Replacement() {
   if (!temporary_.empty()) {
     std::remove(temporary_.c_str());
-  }
-  if (handles_->lock != nullptr) {
-    ::ReleaseMutex(handles_->lock);
-    ::CloseHandle(handles_->lock);
   }
 }
 
