@@ -1,4 +1,4 @@
-#include "guest/odd_paths.h"
+#include "support/odd_paths.h"
 
 #include <gtest/gtest.h>
 

@@ -5,13 +5,14 @@
 
 #include "system/failure.h"
 #include "system/files.h"
+#include "system/own_path.h"
 
 namespace qelpro {
 namespace {
 
 void write_into(const std::string& path, const std::string& file, std::string_view contents) {
   errno = 0;
-  std::ofstream out(path, std::ios::binary);
+  std::ofstream out(own_path(path), std::ios::binary);
   out.write(contents.data(), static_cast<std::streamsize>(contents.size()));
   out.close();
   if (!out) {
@@ -23,12 +24,12 @@ void write_into(const std::string& path, const std::string& file, std::string_vi
 
 bool exists(const std::string& file) {
   std::error_code error;
-  return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+  return std::filesystem::exists(std::filesystem::symlink_status(own_path(file), error));
 }
 
 void write_whole(const std::string& file, std::string_view contents) {
   std::error_code error;
-  const auto kind = std::filesystem::status(file, error).type();
+  const auto kind = std::filesystem::status(own_path(file), error).type();
   if (kind == std::filesystem::file_type::character || kind == std::filesystem::file_type::fifo) {
     write_into(file, file, contents);
   } else if (exists(file)) {

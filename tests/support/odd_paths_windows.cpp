@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "guest/odd_paths.h"
+#include "support/odd_paths.h"
 
 namespace qelpro_test {
 
