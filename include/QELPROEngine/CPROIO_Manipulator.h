@@ -51,6 +51,9 @@ struct Row;
 /// Where the boundary conditions are the file's last section, a new key goes to the end of its own
 /// section: at the end of the file it would be one of their lines.
 ///
+/// Every member opens the file and closes it again, which on POSIX drops the record locks that the
+/// program itself holds on it (`fcntl` with `F_SETLK`).
+///
 /// Copies share the caller's path. One object is used by one thread at a time; different objects on
 /// different files need no lock.
 class QELPROENGINE_API CPROIO_Manipulator {
