@@ -72,13 +72,18 @@ struct Bytes {
   std::string all;
   std::size_t at = 0;
   bool cancels = false;
+
+  void cancel() const {
+    if (cancels) {
+      pthread_cancel(pthread_self());
+      pthread_testcancel();
+    }
+  }
 };
 
 ssize_t read_bytes(void* cookie, char* to, std::size_t count) {
   auto& bytes = *static_cast<Bytes*>(cookie);
-  if (bytes.cancels) {
-    pthread_cancel(pthread_self());
-  }
+  bytes.cancel();
   const std::size_t got = std::min(count, bytes.all.size() - bytes.at);
   bytes.all.copy(to, got, bytes.at);
   bytes.at += got;
@@ -87,9 +92,7 @@ ssize_t read_bytes(void* cookie, char* to, std::size_t count) {
 
 ssize_t write_bytes(void* cookie, const char* from, std::size_t count) {
   auto& bytes = *static_cast<Bytes*>(cookie);
-  if (bytes.cancels) {
-    pthread_cancel(pthread_self());
-  }
+  bytes.cancel();
   bytes.all.replace(bytes.at, count, from, count);
   bytes.at += count;
   return static_cast<ssize_t>(count);

@@ -50,13 +50,12 @@ TEST(SmallStack, HoldsEveryMember) {
     }
   }
   EXPECT_TRUE(in_child({}, [&] {
-    bool all = true;
     on_stack_of(32 * kKiB, [&] {
       for (const Use& use : uses.all()) {
         use.run();
       }
     });
-    return all;
+    return true;  // a stack that is too small would have ended the program
   }));
 #endif
 }

@@ -23,6 +23,9 @@ class Plugin {
   UseEachClass use_;
 };
 
+/// Runs it on a thread with as little stack as hosts give: 32 KB, or the least that the system has.
+bool on_small_stack(UseEachClass use, const char* folder);
+
 struct Held {
   std::size_t memory = 0;  ///< In bytes: what the process has for itself.
   std::size_t files = 0;   ///< Open descriptors, or handles.

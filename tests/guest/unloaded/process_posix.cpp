@@ -14,7 +14,7 @@
 namespace unloaded {
 
 Plugin::Plugin(const std::string& path)
-    : handle_(::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)), use_(nullptr) {
+    : handle_(::dlopen(path.c_str(), RTLD_LAZY | RTLD_LOCAL)), use_(nullptr) {
   if (handle_ == nullptr) {
     std::cerr << ::dlerror() << '\n';
     std::exit(2);
@@ -23,6 +23,35 @@ Plugin::Plugin(const std::string& path)
 }
 
 Plugin::~Plugin() { ::dlclose(handle_); }
+
+namespace {
+
+struct SmallWork {
+  UseEachClass use;
+  const char* folder;
+  bool done;
+};
+
+void* do_small(void* argument) {
+  auto& work = *static_cast<SmallWork*>(argument);
+  work.done = work.use(work.folder) != 0;
+  return nullptr;
+}
+
+}  // namespace
+
+bool on_small_stack(UseEachClass use, const char* folder) {
+  constexpr std::size_t kSmall = std::size_t{32} * 1024;
+  SmallWork work{use, folder, false};
+  pthread_attr_t attributes{};
+  pthread_t thread{};
+  const bool ran = ::pthread_attr_init(&attributes) == 0 &&
+                   ::pthread_attr_setstacksize(&attributes, kSmall) == 0 &&
+                   ::pthread_create(&thread, &attributes, do_small, &work) == 0 &&
+                   ::pthread_join(thread, nullptr) == 0;
+  ::pthread_attr_destroy(&attributes);
+  return ran && work.done;
+}
 
 Held held_now() {
   Held held;

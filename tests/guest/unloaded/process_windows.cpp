@@ -24,6 +24,35 @@ Plugin::~Plugin() { ::FreeLibrary(static_cast<HMODULE>(handle_)); }
 
 namespace {
 
+struct SmallWork {
+  UseEachClass use;
+  const char* folder;
+  bool done;
+};
+
+DWORD WINAPI do_small(void* argument) {
+  auto& work = *static_cast<SmallWork*>(argument);
+  work.done = work.use(work.folder) != 0;
+  return 0;
+}
+
+}  // namespace
+
+bool on_small_stack(UseEachClass use, const char* folder) {
+  constexpr SIZE_T kSmall = SIZE_T{32} * 1024;
+  SmallWork work{use, folder, false};
+  const HANDLE thread =
+      ::CreateThread(nullptr, kSmall, do_small, &work, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+  if (thread == nullptr) {
+    return false;
+  }
+  ::WaitForSingleObject(thread, INFINITE);
+  ::CloseHandle(thread);
+  return work.done;
+}
+
+namespace {
+
 // What the heaps of the process have handed out.
 std::size_t in_heaps() {
   HANDLE heaps[64];

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <iterator>
 #include <random>
 #include <string>
@@ -82,7 +81,7 @@ TEST(ToUtf8, KeepsEveryCharacterOfRandomTexts) {
       }
       high = 0;
     };
-    for (std::uint32_t n = random() % 12; n > 0; --n) {
+    for (auto n = random() % 12; n > 0; --n) {
       const auto& kind = kinds[random() % std::size(kinds)];
       const auto c = static_cast<char32_t>(kind[0] + random() % (kind[1] - kind[0] + 1));
       if (sizeof(wchar_t) == 2 && c > 0x10FFFF) {
