@@ -1,5 +1,6 @@
 #include "text/file_edit.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/line_break.h"
@@ -21,45 +22,84 @@ bool FileEdit::load() {
   return true;
 }
 
-// Puts bytes over the file's from an offset on, growing it where they reach further. The room for
-// them is made sure of before an old byte is touched.
+// Makes sure of the room before an old byte is touched.
+bool FileEdit::reserve(std::size_t end) {
+  return file_.reserve(static_cast<std::int64_t>(image_.bytes().size()),
+                       static_cast<std::int64_t>(end));
+}
+
+// Puts bytes over the file's from an offset on, growing it where they reach further. False with the
+// file as it was.
 bool FileEdit::overwrite(std::size_t at, std::string_view bytes) {
-  const auto offset = static_cast<std::int64_t>(at);
-  const auto old_size = static_cast<std::int64_t>(image_.bytes().size());
-  if (!file_.reserve(old_size, offset + static_cast<std::int64_t>(bytes.size()))) {
+  if (!reserve(at + bytes.size())) {
     return false;
   }
-  if (file_.write_at(offset, bytes.data(), bytes.size())) {
+  if (file_.write_at(static_cast<std::int64_t>(at), bytes.data(), bytes.size())) {
     return true;
   }
-  image_.restore();
-  file_.write_at(offset, image_.bytes().data() + at, image_.bytes().size() - at);
-  file_.truncate(old_size);
+  put_back(at);
   return false;
 }
 
-bool FileEdit::replace(std::size_t begin, std::size_t end, std::string_view lines) {
-  if (lines.size() == end - begin && !drops_padding_) {
-    return overwrite(begin, lines);
+void FileEdit::put_back(std::size_t at) {
+  image_.restore();
+  const std::string_view old = image_.bytes();
+  file_.write_at(static_cast<std::int64_t>(at), old.data() + at, old.size() - at);
+  file_.truncate(static_cast<std::int64_t>(old.size()));
+}
+
+bool FileEdit::overwrite_in_steps(PageSteps& steps) {
+  const std::size_t old_end = image_.bytes().size();
+  std::size_t end = 0;
+  for (std::string& text : steps.texts) {
+    if (steps.moves_all && steps.at + text.size() < old_end) {
+      text.append(old_end - steps.at - text.size(), ' ');
+    }
+    end = std::max(end, steps.at + text.size());
   }
-  const std::size_t contents_size = contents_.size();
-  std::string after;
-  if (drops_padding_) {
-    after =
-        (end < contents_size ? contents_ : lines).back() == '\n' ? std::string_view() : line_break_;
-  } else if (lines.size() < end - begin) {
-    // The blanks of earlier padding are there already.
-    after.assign(end - begin - lines.size(), ' ');
-  }
-  const std::string_view bytes = image_.compose(lines, end, contents_size, after);
-  if (!overwrite(begin, bytes)) {
+  if (!reserve(end)) {
     return false;
   }
-  const std::size_t new_end = begin + bytes.size();
+  for (const std::string& text : steps.texts) {
+    if (!file_.write_at(static_cast<std::int64_t>(steps.at), text.data(), text.size())) {
+      put_back(steps.at);
+      return false;
+    }
+  }
+  return true;
+}
+
+bool FileEdit::replace(std::size_t begin, std::size_t end, std::string_view lines) {
+  const bool moves = lines.size() != end - begin;
+  const std::size_t contents_size = contents_.size();
+  const bool is_whole = (end < contents_size ? contents_ : lines).back() == '\n';
+  PageSteps steps = page_steps({contents_, begin, end, lines});
+  std::size_t new_end = contents_size - (end - begin) + lines.size();
+  if (!steps.texts.empty()) {
+    if (!overwrite_in_steps(steps)) {
+      return false;
+    }
+  } else if (!moves && !drops_padding_) {
+    return overwrite(begin, lines);
+  } else {
+    std::string after;
+    if (drops_padding_ && !is_whole) {
+      after = line_break_;
+      new_end += after.size();
+    }
+    // The blanks of earlier padding are there already; what is dropped is not to be seen before it
+    // is.
+    const std::size_t old_end = drops_padding_ ? image_.bytes().size() : contents_size;
+    if (new_end < old_end) {
+      after.append(old_end - new_end, ' ');
+    }
+    if (!overwrite(begin, image_.compose(lines, end, contents_size, after))) {
+      return false;
+    }
+  }
   if (drops_padding_ && new_end < image_.bytes().size() &&
       !file_.truncate(static_cast<std::int64_t>(new_end))) {
-    image_.restore();
-    overwrite(begin, image_.bytes().substr(begin));
+    put_back(steps.texts.empty() ? begin : steps.at);
     return false;
   }
   return true;

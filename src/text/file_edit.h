@@ -9,6 +9,7 @@
 #include "platform/random_access.h"
 #include "text/dialect.h"
 #include "text/file_image.h"
+#include "text/page_steps.h"
 
 namespace qel {
 
@@ -50,7 +51,10 @@ class FileEdit {
  private:
   FileEdit(platform::RandomAccess& file, std::int64_t size, const text::Dialect& dialect)
       : file_(file), size_(size), dialect_(dialect) {}
+  bool reserve(std::size_t end);
   bool overwrite(std::size_t at, std::string_view bytes);
+  bool overwrite_in_steps(PageSteps& steps);
+  void put_back(std::size_t at);
 
   platform::RandomAccess& file_;
   std::int64_t size_;

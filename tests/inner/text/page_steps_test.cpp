@@ -1,0 +1,170 @@
+#include "text/page_steps.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "core/lookup.h"
+#include "core/store.h"
+#include "text/line_scanner.h"
+#include "text/text.h"
+
+// A program may be killed while the operating system writes for it, between any two pages. The file
+// that it leaves then has every entry as it was, or as it was to become.
+
+namespace qel {
+namespace {
+
+// Keeps the bytes as they were after every page that was written.
+class StoppingFile final : public platform::RandomAccess {
+ public:
+  explicit StoppingFile(std::string contents) : bytes_(std::move(contents)) {}
+
+  std::int64_t size() override { return static_cast<std::int64_t>(bytes_.size()); }
+  std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override {
+    return static_cast<std::int64_t>(bytes_.copy(to, count, static_cast<std::size_t>(offset)));
+  }
+  bool write_at(std::int64_t offset, const char* from, std::size_t count) override {
+    auto at = static_cast<std::size_t>(offset);
+    while (count > 0) {
+      const std::size_t part = std::min(count, kPageSize - at % kPageSize);
+      bytes_.resize(std::max(bytes_.size(), at + part));
+      bytes_.replace(at, part, from, part);
+      states_.push_back(bytes_);
+      at += part;
+      from += part;
+      count -= part;
+    }
+    return true;
+  }
+  bool reserve(std::int64_t, std::int64_t) override { return true; }
+  bool truncate(std::int64_t size) override {
+    bytes_.resize(static_cast<std::size_t>(size));
+    states_.push_back(bytes_);
+    return true;
+  }
+  bool flush() override { return true; }
+
+  [[nodiscard]] const std::string& bytes() const { return bytes_; }
+  [[nodiscard]] const std::vector<std::string>& states() const { return states_; }
+
+ private:
+  std::string bytes_;
+  std::vector<std::string> states_;
+};
+
+using Values = std::map<std::string, std::string>;
+
+// What lookups of every key in every section find: those that end with the section, and those that
+// go on behind it.
+Values values_in(const std::string& bytes) {
+  Values values;
+  std::map<std::string, Values> going_on;
+  std::string section;
+  LineScanner lines(bytes);
+  for (Line line; lines.next(line);) {
+    const std::string token(text::first_token(line.text));
+    if (text::is_header(line.text)) {
+      const bool is_first = going_on.emplace(token, Values()).second;
+      section = is_first ? token : std::string();
+      if (is_first) {
+        values[token] = "is there";
+      }
+    } else if (!token.empty()) {
+      const std::string value(text::entry_value(line.text));
+      if (!section.empty()) {
+        values.emplace(section + token, value);
+      }
+      for (auto& [name, found] : going_on) {
+        found.emplace(token, value);
+      }
+    }
+  }
+  for (const auto& [name, found] : going_on) {
+    for (const auto& [key, value] : found) {
+      values[name + key + " or behind"] = value;
+    }
+  }
+  return values;
+}
+
+std::string found_in(const Values& values, const std::string& name) {
+  const auto found = values.find(name);
+  return found != values.end() ? found->second : "(absent)";
+}
+
+struct Kind {
+  bool padded;
+  std::string line_break;
+  std::size_t padding;
+};
+
+class PageSteps : public testing::TestWithParam<Kind> {};
+
+std::string key_of(std::mt19937& random) { return "Key" + std::to_string(random() % 40); }
+
+std::string file_of(std::mt19937& random, const Kind& kind, std::size_t size) {
+  std::string text;
+  for (int section = 1; text.size() < size; ++section) {
+    text += kind.line_break + "[Flow-" + std::to_string(section) + "]" + kind.line_break;
+    for (auto count = random() % 30; count > 0; --count) {
+      const std::string key = key_of(random);
+      const std::string value(1 + random() % 12, static_cast<char>('a' + random() % 26));
+      text += (kind.padded ? text::padded_entry(key, value) : text::plain_entry(key, value)) +
+              kind.line_break;
+    }
+  }
+  return text + std::string(kind.padding, ' ');
+}
+
+TEST_P(PageSteps, LeaveEveryEntryOldOrNewAfterEveryPage) {
+  std::mt19937 random(GetParam().padding + GetParam().line_break.size());
+  const int rounds = std::getenv("QELPRO_LOAD") != nullptr ? 3000 : 60;
+  int stops = 0;
+  for (int round = 0; round < rounds; ++round) {
+    const std::string old = file_of(random, GetParam(), 1000 + random() % 20000);
+    const std::string section = "[Flow-" + std::to_string(1 + random() % 20) + "]";
+    const std::string key = key_of(random);
+    const std::string value(1 + random() % 14, '#');
+    StoppingFile file(old);
+    Store store(file);
+    const Entry entry{{section, key}, value};
+    const Result result = random() % 4 == 0 ? store.replace(entry) : store.set(entry, true);
+    ASSERT_EQ(result, Result::done);
+    const Values before = values_in(old);
+    const Values after = values_in(file.bytes());
+    Values all = before;
+    all.insert(after.begin(), after.end());
+    bool is_whole = true;
+    for (const std::string& state : file.states()) {
+      ++stops;
+      const Values values = values_in(state);
+      all.insert(values.begin(), values.end());
+      for (const auto& [name, unused] : all) {
+        const std::string found = found_in(values, name);
+        if (is_whole && found != found_in(before, name) && found != found_in(after, name)) {
+          is_whole = false;
+          EXPECT_TRUE(false) << "round " << round << ": " << name << " is " << found << ", was "
+                             << found_in(before, name) << ", is to be " << found_in(after, name)
+                             << "; store " << section << key << " = " << value << " of "
+                             << file.states().size() << " stops";
+        }
+      }
+    }
+  }
+  std::cout << "[ measured ] " << stops << " stops\n";
+  EXPECT_GT(stops, rounds);
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, PageSteps,
+                         testing::Values(Kind{true, "\n", 0}, Kind{true, "\r\n", 0},
+                                         Kind{true, "\n", 100}));
+
+}  // namespace
+}  // namespace qel
