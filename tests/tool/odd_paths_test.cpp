@@ -68,6 +68,11 @@ TEST_P(ToolOnOddPaths, MakesReadsChangesAndChecksFiles) {
   const Outcome swept =
       tool({"sweep", file, "--set", "Flow-1.FillTime=1,2", "-o", in_folder("study")});
   EXPECT_EQ(swept.status, 0) << swept.err;
+  EXPECT_TRUE(fs::exists(own_path(fs::path(scratch_.path("")) / fs::path(GetParam().folder) /
+                                  "study" / "manifest.json")));
+  if (in_folder("").size() > 250) {
+    return;  // not every standard library lists what stands in a folder so deep
+  }
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(
            own_path(fs::path(scratch_.path("")) / fs::path(GetParam().folder)))) {

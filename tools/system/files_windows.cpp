@@ -47,7 +47,7 @@ std::string where_links_lead(const std::string& file) {
   std::wstring path(::GetFinalPathNameByHandleW(handle, nullptr, 0, 0), L'\0');
   path.resize(::GetFinalPathNameByHandleW(handle, path.data(), static_cast<DWORD>(path.size()), 0));
   ::CloseHandle(handle);
-  return text_of(path);
+  return path.empty() ? file : text_of(path);  // not every version tells of a long path
 }
 
 Stream make_beside(const std::string& file, const std::string& target, std::string& path) {
