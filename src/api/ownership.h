@@ -24,10 +24,7 @@ bool open(CQELPROIOBase& session, Path path, int mode) {
 }
 
 inline void close(CQELPROIOBase& session) {
-  attempt([&] {
-    session.document().CloseFile();
-    return true;
-  });
+  give_back([&session] { session.document().CloseFile(); });
 }
 
 inline bool lend(CQELPROIOBase& session, std::FILE*& stream) {

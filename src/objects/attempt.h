@@ -23,4 +23,15 @@ bool attempt(Work work) noexcept {
   return member.leave(caught(work));
 }
 
+/// The same for what gives memory and files back, whatever there is no memory for.
+template <class Work>
+void give_back(Work work) noexcept {
+  const platform::Member member;
+  const auto done = [&work] {
+    work();
+    return true;
+  };
+  member.leave(caught(done));
+}
+
 }  // namespace qel

@@ -24,10 +24,7 @@ Owned* share(Owned* record) {
 template <class Owned>
 void release(Owned* record) {
   if (record != nullptr && --record->owners == 0) {
-    attempt([record] {
-      delete record;
-      return true;
-    });
+    give_back([record] { delete record; });
   }
 }
 

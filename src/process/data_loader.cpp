@@ -150,10 +150,9 @@ CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(
 CQELProcessData_Manipulator::~CQELProcessData_Manipulator() { Dispose(); }
 
 void CQELProcessData_Manipulator::Dispose() {
-  attempt([this] {
+  give_back([this] {
     delete reader_;
     reader_ = nullptr;
-    return true;
   });
 }
 
