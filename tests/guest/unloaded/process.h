@@ -33,6 +33,9 @@ struct Held {
 };
 Held held_now();
 
+/// What a cycle may leave behind, in bytes: of the platform's, not of the libraries.
+extern const double kStaysBehind;
+
 bool is_engine_loaded();
 
 }  // namespace unloaded

@@ -53,6 +53,8 @@ bool on_small_stack(UseEachClass use, const char* folder) {
   return ran && work.done;
 }
 
+const double kStaysBehind = 0;
+
 Held held_now() {
   Held held;
   ::malloc_trim(0);
