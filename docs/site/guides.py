@@ -12,7 +12,7 @@ import shutil
 import sys
 
 # These first, in this order; then all others.
-ORDER = ["tool", "python", "format", "reliability", "benchmarks", "windows", "design"]
+ORDER = ["tool", "python", "format", "reliability", "benchmarks", "hosts", "windows", "design"]
 
 
 def as_graphviz(match):

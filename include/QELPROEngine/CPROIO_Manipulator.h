@@ -4,8 +4,11 @@
 #include "QELPROEngine/constant_text.h"
 #include "QELPROEngine/export.h"
 
+namespace qel {
+template <decltype(sizeof 0) size>
+class TextBuffer;
+}  // namespace qel
 namespace qel::proio {
-class Buffer;
 struct Row;
 }  // namespace qel::proio
 
@@ -51,6 +54,9 @@ struct Row;
 ///
 /// Where the boundary conditions are the file's last section, a new key goes to the end of its own
 /// section: at the end of the file it would be one of their lines.
+///
+/// Every member opens the file and closes it again, which on POSIX drops the record locks that the
+/// program itself holds on it (`fcntl` with `F_SETLK`).
 ///
 /// Copies share the caller's path. One object is used by one thread at a time; different objects on
 /// different files need no lock.
@@ -1601,11 +1607,11 @@ class QELPROENGINE_API CPROIO_Manipulator {
   bool Set(const qel::proio::Row& row, Values... values);
   bool GetFlag(const qel::proio::Row& row, bool& flag);
 
-  static bool GetMoldMetal(const char* text, qel::proio::Buffer& name,
+  static bool GetMoldMetal(const char* text, qel::TextBuffer<128>& name,
                            QELPRO_MMM_MECHANICAL& record);
   static bool GetBC(const char* text, int& count, char*& name, int& type);
   bool SetCoefficient(const qel::proio::Row& row, double value);
-  bool GetMoldRow(const qel::proio::Row& row, qel::proio::Buffer& buffer, double& first,
+  bool GetMoldRow(const qel::proio::Row& row, qel::TextBuffer<128>& buffer, double& first,
                   double& second, double& third, char*& name);
   bool SetMoldRow(const qel::proio::Row& row, const QELPRO_MMM_MECHANICAL& record);
   bool ReadBC(long long line, char*& text);

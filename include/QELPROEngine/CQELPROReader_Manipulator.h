@@ -45,11 +45,16 @@ class QELPROENGINE_API CQELPROReader_Manipulator {
   /// even where a program puts another one in its place, as editors and `qelpro set` do: a new
   /// reader sees that one, and this one after the next `SetFilePath`, as far as what it remembers
   /// fits. `ReadString` and `ReadValue` open the path for each call.
+  ///
+  /// Where closing a file drops the record locks that the program itself holds on it (POSIX: those
+  /// of `fcntl` with `F_SETLK`), it does so here: whenever this reader closes the file, and after
+  /// each `ReadString` and `ReadValue`.
   bool SetFilePath(const char* path);
   /// The same by a wide path. `GetFilePath` hands out null then, and `ReadValue` finds nothing.
   bool SetFilePath(const wchar_t* path);
-  /// Reads through a stream that the caller opened and keeps open. False for null. Lookups through
-  /// a lent stream scan it from the top, and search for a key beyond the end of its section.
+  /// Reads through a stream that the caller opened and keeps open. False for null, and on Windows
+  /// for a stream of another C runtime than the library's. Lookups through a lent stream scan it
+  /// from the top, and search for a key beyond the end of its section.
   bool SetFilePtr(std::FILE*& stream);
   /// Closes the file, or the lent stream. The section members are false from then on, until a file
   /// is set again. Raw access goes on: `ReadString` and `ReadValue` open a file that was given by a

@@ -44,12 +44,17 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   /// Chooses the file; one that does not exist is created empty. False when it cannot be opened for
   /// writing. `GetFilePath` hands the caller's own pointer back, so the text should stay valid
   /// while the file is in use.
+  ///
+  /// Each store opens the file and closes it again, which on POSIX drops the record locks that the
+  /// program itself holds on it (`fcntl` with `F_SETLK`); those of open file descriptions and of
+  /// `flock` stay.
   bool SetFilePath(const char* path);
   /// The same for a file that exists already: a wide path never creates one. New keys of existing
   /// sections, and `WriteString` and `WriteItems`, need a narrow path.
   bool SetFilePath(const wchar_t* path);
   /// Writes through a stream that the caller opened for reading and writing, and keeps open. False
-  /// for null. New keys of existing sections need a narrow path.
+  /// for null, and on Windows for a stream of another C runtime than the library's. New keys of
+  /// existing sections need a narrow path.
   bool SetFilePtr(std::FILE*& stream);
   /// Closes a lent stream; nothing can be written until a file is set again. A file that was given
   /// by a path is open during a member alone: there is nothing to close, and writing to it goes on,

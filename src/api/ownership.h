@@ -11,10 +11,7 @@ namespace qel {
 template <class Kind>
 Kind* make_session() {
   Kind* session = nullptr;
-  attempt([&session] {
-    session = new Kind;
-    return true;
-  });
+  attempt([&session] { return (session = new Kind) != nullptr; });
   return session;
 }
 
@@ -24,6 +21,10 @@ bool open(CQELPROIOBase& session, Path path, int mode) {
     return session.document().SetFilePath(path, mode) &&
            session.AttachDocument(&session.document());
   });
+}
+
+inline void close(CQELPROIOBase& session) {
+  give_back([&session] { session.document().CloseFile(); });
 }
 
 inline bool lend(CQELPROIOBase& session, std::FILE*& stream) {

@@ -67,7 +67,7 @@ bool CQELPROReader_Manipulator::SetFilePtr(std::FILE*& stream) {
 
 void CQELPROReader_Manipulator::CloseFile() {
   if (session_ != nullptr) {
-    session_->document().CloseFile();
+    qel::close(*session_);
   }
 }
 

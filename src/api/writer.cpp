@@ -71,7 +71,7 @@ bool CQELPROWriter_Manipulator::SetFilePtr(std::FILE*& stream) {
 
 void CQELPROWriter_Manipulator::CloseFile() {
   if (session_ != nullptr) {
-    session_->document().CloseFile();
+    qel::close(*session_);
   }
 }
 

@@ -186,7 +186,7 @@ bool CQELPROIO::SetFilePath(const char* path, int mode) { return open(path, mode
 bool CQELPROIO::SetFilePath(const wchar_t* path, int mode) { return open(path, mode); }
 
 bool CQELPROIO::SetFilePtr(std::FILE*& stream) {
-  if (stream == nullptr) {
+  if (stream == nullptr || !qel::platform::CallerStream::is_of_this_runtime(stream)) {
     return false;
   }
   auto lent = std::make_unique<qel::platform::CallerStream>(stream);

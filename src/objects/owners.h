@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "objects/attempt.h"
+
 /// What copies of an exported object share: a record that counts its `owners`, of which the last
 /// one deletes it. The copies may come and go on different threads.
 namespace qel {
@@ -22,7 +24,7 @@ Owned* share(Owned* record) {
 template <class Owned>
 void release(Owned* record) {
   if (record != nullptr && --record->owners == 0) {
-    delete record;
+    give_back([record] { delete record; });
   }
 }
 

@@ -12,6 +12,10 @@ namespace qel::platform {
 /// written is flushed. A stream over a device or a pipe can neither be read nor measured.
 class CallerStream final : public RandomAccess {
  public:
+  /// Whether the stream is of the C runtime that the library has, as far as that can be told:
+  /// another one's would be taken for a file that it is not, or waited for without end.
+  static bool is_of_this_runtime(std::FILE* stream);
+  /// Of a stream for which that holds.
   explicit CallerStream(std::FILE* stream);
 
   std::int64_t size() override;

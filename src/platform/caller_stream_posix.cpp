@@ -18,6 +18,9 @@ bool forget_read_ahead(std::FILE* stream) {
 
 }  // namespace
 
+// A program has one C library here.
+bool CallerStream::is_of_this_runtime(std::FILE* /*stream*/) { return true; }
+
 // A device may go on without end, and a pipe has no offsets. A stream over memory has no
 // descriptor.
 CallerStream::CallerStream(std::FILE* stream) : stream_(stream) {
@@ -104,10 +107,7 @@ bool CallerStream::begins_read() {
   if (fd < 0 || !has_contents_) {
     return true;
   }
-  if (!watch_.lasts()) {
-    forget_read_ahead(stream_);
-  }
-  return watch_.begins_read(fd);
+  return (watch_.lasts() || forget_read_ahead(stream_)) && watch_.begins_read(fd);
 }
 
 ReadEnd CallerStream::ends_read() {

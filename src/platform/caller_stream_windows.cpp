@@ -16,6 +16,23 @@ HANDLE handle_of(std::FILE* stream) {
   return descriptor >= 0 ? to_handle(::_get_osfhandle(descriptor)) : INVALID_HANDLE_VALUE;
 }
 
+#ifdef _IORW
+
+// The runtime whose streams show what they hold. The newer one has another number where these have
+// that of their file, 0 nearly always, which is here that of standard input alone.
+bool looks_like_ours(const std::FILE* stream) {
+  constexpr int kEveryFlag = 0x7fff;
+  const bool is_open = (stream->_flag & (_IOREAD | _IOWRT | _IORW)) != 0;
+  return is_open && (stream->_flag & ~kEveryFlag) == 0 && stream->_file > 0 &&
+         to_handle(::_get_osfhandle(stream->_file)) != INVALID_HANDLE_VALUE;
+}
+
+#else
+
+bool looks_like_ours(const std::FILE* /*stream*/) { return true; }
+
+#endif
+
 // What the stream holds back goes to the file, and what it read ahead is forgotten.
 bool synchronize(std::FILE* stream) {
   std::clearerr(stream);
@@ -23,6 +40,27 @@ bool synchronize(std::FILE* stream) {
 }
 
 }  // namespace
+
+// The streams of a runtime stand in a table that is part of it, or in memory of their own. What
+// stands in another library is not ours; what stands in memory has to look as ours do.
+bool CallerStream::is_of_this_runtime(std::FILE* stream) {
+  for (std::FILE* const standard : {stdin, stdout, stderr}) {
+    if (stream == standard) {
+      return true;
+    }
+  }
+  HMODULE holder = nullptr;
+  if (::GetModuleHandleExW(
+          GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+          reinterpret_cast<const wchar_t*>(stream), &holder) != 0) {
+    HMODULE own = nullptr;
+    return ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                    GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                                reinterpret_cast<const wchar_t*>(stdin), &own) != 0 &&
+           holder == own;
+  }
+  return looks_like_ours(stream);
+}
 
 CallerStream::CallerStream(std::FILE* stream)
     : stream_(stream), has_contents_(is_disk_file(handle_of(stream))), changes_(0, 0) {}

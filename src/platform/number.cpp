@@ -10,6 +10,8 @@
 #include <limits>
 #include <system_error>
 
+#include "platform/rounding.h"
+
 namespace qel::platform {
 namespace {
 
@@ -235,9 +237,13 @@ bool scan_int(const char*& at, int& value) {
   return true;
 }
 
-bool scan_real(const char*& at, double& value) { return scan_real(at, Radix::any, value); }
+bool scan_real(const char*& at, double& value) {
+  const NearestRounding rounding;
+  return scan_real(at, Radix::any, value);
+}
 
 bool scan_decimal_real(const char*& at, double& value) {
+  const NearestRounding rounding;
   return scan_real(at, Radix::decimal, value);
 }
 

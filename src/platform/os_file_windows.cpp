@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/handle_windows.h"
+#include "platform/path_windows.h"
 #include "platform/patience.h"
 #include "platform/store_lock.h"
 
@@ -20,14 +21,10 @@ constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
 constexpr DWORD kReading = GENERIC_READ;
 constexpr DWORD kUpdating = GENERIC_READ | GENERIC_WRITE;
 
-std::intptr_t open_or_create(const char* path, DWORD access, DWORD disposition) {
-  return handle_number(
-      ::CreateFileA(path, access, kShared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
-}
-
-std::intptr_t open_or_create(const wchar_t* path, DWORD access, DWORD disposition) {
-  return handle_number(
-      ::CreateFileW(path, access, kShared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+template <class Character>
+std::intptr_t open_or_create(const Character* path, DWORD access, DWORD disposition) {
+  return handle_number(::CreateFileW(system_path(path).c_str(), access, kShared, nullptr,
+                                     disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 template <class Character>

@@ -2,6 +2,7 @@
 
 #include <shlobj.h>
 
+#include "platform/path_windows.h"
 #include "platform/user_folder.h"
 
 namespace qel::platform {
@@ -10,15 +11,16 @@ const char kPathSeparator = '\\';
 
 // The roaming folder, made where it is missing.
 std::string user_folder() {
-  char folder[MAX_PATH] = {};
-  return SHGetSpecialFolderPathA(nullptr, folder, CSIDL_APPDATA, TRUE) ? folder : std::string();
+  wchar_t folder[MAX_PATH] = {};
+  return SHGetSpecialFolderPathW(nullptr, folder, CSIDL_APPDATA, TRUE) ? narrow_path(folder)
+                                                                       : std::string();
 }
 
 void make_folder(const std::string& path) {
   for (std::size_t end = 0; end < path.size();) {
     const std::size_t separator = path.find(kPathSeparator, end + 1);
     end = separator != std::string::npos ? separator : path.size();
-    CreateDirectoryA(path.substr(0, end).c_str(), nullptr);
+    CreateDirectoryW(system_path(path.substr(0, end).c_str()).c_str(), nullptr);
   }
 }
 

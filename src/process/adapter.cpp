@@ -39,19 +39,16 @@ CQEL_ProcessAdapter& CQEL_ProcessAdapter::operator=(const CQEL_ProcessAdapter& o
 CQEL_ProcessAdapter::~CQEL_ProcessAdapter() { qel::release(shared(writer_)); }
 
 bool CQEL_ProcessAdapter::SetProcessPath(const char* path) {
-  return qel::attempt([&] {
-    if (writer_ != nullptr) {
-      return false;
-    }
-    auto writer = std::make_unique<SharedWriter>();
-    writer->path = path != nullptr ? path : "";
-    writer_ = writer.release();
-    if (!writer_->SetFilePath(path)) {
-      return false;
-    }
-    path_ = path;
-    return true;
-  });
+  return writer_ == nullptr && qel::attempt([&] {
+           auto writer = std::make_unique<SharedWriter>();
+           writer->path = path != nullptr ? path : "";
+           writer_ = writer.release();
+           if (!writer_->SetFilePath(path)) {
+             return false;
+           }
+           path_ = path;
+           return true;
+         });
 }
 
 void CQEL_ProcessAdapter::EndFile() {
@@ -201,9 +198,12 @@ void CQEL_ProcessAdapter::GetMaterialDefaultValue(int kind, double& p1, double& 
 }
 
 void CQEL_ProcessAdapter::GetMaterialTemperature(double& mold, double& melt) {
-  CQELPROReader_Manipulator reader;
-  if (path_ != nullptr && reader.SetFilePath(shared(writer_)->path.c_str())) {
-    reader.FlowCTL_ReadMeltTemperature(melt);
-    reader.FlowCTL_ReadMoldTemperature(mold);
-  }
+  qel::attempt([&] {
+    CQELPROReader_Manipulator reader;
+    if (path_ == nullptr || !reader.SetFilePath(shared(writer_)->path.c_str())) {
+      return false;
+    }
+    const bool has_melt = reader.FlowCTL_ReadMeltTemperature(melt);
+    return reader.FlowCTL_ReadMoldTemperature(mold) && has_melt;
+  });
 }

@@ -239,15 +239,18 @@ CQELProcessData_Manipulator& CQELProcessData_Manipulator::operator=(
 CQELProcessData_Manipulator::~CQELProcessData_Manipulator() { Dispose(); }
 
 void CQELProcessData_Manipulator::Dispose() {
-  delete reader_;
-  reader_ = nullptr;
+  give_back([this] {
+    delete reader_;
+    reader_ = nullptr;
+  });
 }
 
 const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructure(
     const char* path) {
+  const QELG_SimulatorProcess* loaded = nullptr;
   Dispose();
-  std::unique_ptr<QELG_SimulatorProcess> process;
-  const bool whole = attempt([&] {
+  attempt([&] {
+    std::unique_ptr<QELG_SimulatorProcess> process;
     reader_ = new LoadingReader;
     if (path != nullptr && file_of(reader_).load(path)) {
       process = std::make_unique<QELG_SimulatorProcess>();
@@ -263,10 +266,11 @@ const QELG_SimulatorProcess* CQELProcessData_Manipulator::GetProcessDataStructur
       DetermineInletCount(*process);
       LoadInlets(*process);
     }
-    return true;
+    loaded = process.release();
+    return loaded != nullptr;
   });
   Dispose();
-  return whole ? process.release() : nullptr;
+  return loaded;
 }
 
 void CQELProcessData_Manipulator::DetermineInletCount(QELG_SimulatorProcess& process) {

@@ -28,8 +28,10 @@ bool CPROIO_Manipulator::GetMoldMetal(const char* text, Buffer& name,
   const Words words(text);
   if (words.count() <= 2 * kNumbersOnEachSide + 1) {
     char* parsed = nullptr;
-    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, &Scratch::mold_metal_name},
-                mechanical[0], mechanical[1], mechanical[2]);
+    Buffer Scratch::*const room =
+        &name == &scratch().mold_base_name ? &Scratch::mold_base_name : &Scratch::mold_metal_name;
+    scan_values(text, thermal[0], thermal[1], thermal[2], Word{parsed, room}, mechanical[0],
+                mechanical[1], mechanical[2]);
     return true;
   }
   const std::size_t after_name = words.count() - kNumbersOnEachSide;

@@ -50,10 +50,7 @@ Record* record_of(QELMachineRecord* record) { return static_cast<Record*>(record
 
 Record* make_record() {
   Record* record = nullptr;
-  qel::attempt([&record] {
-    record = new Record;
-    return true;
-  });
+  qel::attempt([&record] { return (record = new Record) != nullptr; });
   return record;
 }
 
@@ -67,8 +64,9 @@ void set_path(QELMachineRecord*& record, qel::refdata::Path QELMachineRecord::*p
   if (record == nullptr || text == nullptr) {
     return;
   }
+  // Without memory the path before stays.
   qel::attempt([&] {
-    (record->*path).set(text);  // where it fails, the path before stays
+    (record->*path).set(text);
     return true;
   });
 }
@@ -102,21 +100,17 @@ bool hand_out(QELMachineRecord& record, const Texts& texts, TextOf text_of, cons
   if (texts.empty() || list == nullptr || count == nullptr) {
     return false;
   }
-  const bool listed = qel::attempt([&] {
+  return qel::attempt([&] {
     std::vector<const char*> pointers;
     pointers.reserve(texts.size());
     for (const auto& text : texts) {
       pointers.push_back(text_of(text).c_str());
     }
     record.handed_out = std::move(pointers);
+    *list = record.handed_out.data();
+    *count = static_cast<int>(record.handed_out.size());
     return true;
   });
-  if (!listed) {
-    return false;
-  }
-  *list = record.handed_out.data();
-  *count = static_cast<int>(record.handed_out.size());
-  return true;
 }
 
 }  // namespace
@@ -155,21 +149,21 @@ bool CQELMachineIdentification::LoadFileData() {
   if (record_ == nullptr) {
     return false;
   }
-  record_->makers_in_order.clear();
-  record_->makers.clear();
-  record_->handed_out.clear();
-  bool loaded = false;
-  const bool whole = qel::attempt([&] {
-    qel::platform::OsFile file;
-    loaded = record_->user_bank.open(file) &&
-             qel::refdata::read_machine_bank(file, record_->version, record_->makers);
-    record_->makers_in_order = in_order(record_->makers);
-    return true;
+  return qel::attempt([this] {
+    record_->makers_in_order.clear();
+    record_->makers.clear();
+    record_->handed_out.clear();
+    try {
+      qel::platform::OsFile file;
+      const bool loaded = record_->user_bank.open(file) &&
+                          qel::refdata::read_machine_bank(file, record_->version, record_->makers);
+      record_->makers_in_order = in_order(record_->makers);
+      return loaded;
+    } catch (...) {
+      record_->makers.clear();  // those read so far would be known by name, and not be listed
+      throw;
+    }
   });
-  if (!whole) {
-    record_->makers.clear();  // those read so far would be known by name, and not be listed
-  }
-  return whole && loaded;
 }
 
 int CQELMachineIdentification::GetMakerCount() {

@@ -52,9 +52,9 @@ CQELPCSInterpolator& CQELPCSInterpolator::operator=(const CQELPCSInterpolator& o
 CQELPCSInterpolator::~CQELPCSInterpolator() { qel::release(tables_of(tables_)); }
 
 bool CQELPCSInterpolator::LoadDataFromFile(const char* path) {
-  qel::release(tables_of(tables_));
-  tables_ = nullptr;  // should there be no memory for another
   return qel::attempt([&] {
+    qel::release(tables_of(tables_));
+    tables_ = nullptr;  // should there be no memory for another
     tables_ = new Tables;
     qel::platform::OsFile file;
     if (path == nullptr || !file.open_for_reading(path)) {

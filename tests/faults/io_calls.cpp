@@ -129,8 +129,9 @@ VISIBLE int fcntl(int fd, int command, ...) {
   void* const argument = va_arg(arguments, void*);
   va_end(arguments);
   const bool is_lock = command == F_OFD_SETLK || command == F_OFD_SETLKW;
-  if (is_lock && static_cast<struct flock*>(argument)->l_type != F_UNLCK &&
-      fails("fcntl", ENOLCK, Interruption::possible)) {
+  if (command == F_OFD_GETLK ? fails("fcntl", ENOLCK)
+                             : is_lock && static_cast<struct flock*>(argument)->l_type != F_UNLCK &&
+                                   fails("fcntl", ENOLCK, Interruption::possible)) {
     return -1;
   }
   return real_fcntl()(fd, command, argument);
@@ -167,18 +168,6 @@ VISIBLE int close(int fd) {
 VISIBLE int fstat(int fd, struct stat* status) noexcept {
   static auto* const real = next<int(int, struct stat*)>("fstat");
   return fails("fstat", EIO) ? -1 : real(fd, status);
-}
-
-VISIBLE int fcntl(int fd, int command, ...) {
-  static auto* const real = next<int(int, int, ...)>("fcntl");
-  std::va_list arguments;
-  va_start(arguments, command);
-  void* const argument = va_arg(arguments, void*);
-  va_end(arguments);
-  const bool waits = command == F_OFD_SETLK;
-  return fails("fcntl", EIO, waits ? Interruption::possible : Interruption::impossible)
-             ? -1
-             : real(fd, command, argument);
 }
 
 VISIBLE int stat(const char* path, struct stat* status) noexcept {

@@ -21,6 +21,19 @@ std::string quoted(const std::string& text) {
   return result.append(backslashes, '\\').append("\"");
 }
 
+// UTF-8, or else the code page.
+std::wstring widened(const std::string& text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  int length =
+      ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, wide.data(), size);
+  if (length == 0) {
+    length = ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
+  }
+  wide.resize(static_cast<std::size_t>(length));
+  return wide;
+}
+
 HANDLE inherited(const std::string& path, DWORD access, DWORD disposition) {
   SECURITY_ATTRIBUTES inherit{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
   return ::CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherit,
@@ -37,7 +50,8 @@ Outcome run(const std::string& program, const std::vector<std::string>& argument
   for (const std::string& argument : arguments) {
     command.append(" ").append(quoted(argument));
   }
-  STARTUPINFOA start{};
+  std::wstring wide = widened(command);
+  STARTUPINFOW start{};
   start.cb = sizeof start;
   start.dwFlags = STARTF_USESTDHANDLES;
   start.hStdInput = inherited("NUL", GENERIC_READ, OPEN_EXISTING);
@@ -45,7 +59,7 @@ Outcome run(const std::string& program, const std::vector<std::string>& argument
   start.hStdError = inherited(scratch.path("err"), GENERIC_WRITE, CREATE_ALWAYS);
   PROCESS_INFORMATION process{};
   DWORD status = static_cast<DWORD>(-1);
-  if (::CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+  if (::CreateProcessW(nullptr, wide.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
                        &process) != 0) {
     ::WaitForSingleObject(process.hProcess, INFINITE);
     ::GetExitCodeProcess(process.hProcess, &status);

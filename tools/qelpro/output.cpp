@@ -7,6 +7,7 @@
 
 #include "system/failure.h"
 #include "system/files.h"
+#include "system/own_path.h"
 #include "system/streams.h"
 #include "system/visible.h"
 
@@ -79,7 +80,7 @@ void write_answer(const std::optional<std::string>& file, const std::vector<std:
   }
   for (const std::string& input : read) {
     std::error_code error;
-    if (std::filesystem::equivalent(*file, input, error)) {
+    if (std::filesystem::equivalent(own_path(*file), own_path(input), error)) {
       throw Failure(kUsage, at(*file, "the output would take the place of what it is made from"));
     }
   }

@@ -3,6 +3,7 @@
 #include "file/typed.h"
 #include "json/json_text.h"
 #include "study/study.h"
+#include "system/own_path.h"
 
 namespace qelpro {
 namespace {
@@ -68,7 +69,7 @@ void Study::write_csv(Sink& output) const {
 
 void Study::write_json(Sink& output) const {
   constexpr std::size_t kIndent = 2;
-  const Json source = {{"file", std::filesystem::path(file_).filename().string()},
+  const Json source = {{"file", text_of(own_path(file_).filename())},
                        {"bytes", document_.contents().size()},
                        {"fnv1a64", checksum(document_.contents())}};
   Json settings = Json::array();

@@ -8,6 +8,7 @@
 
 #include "file/json_value.h"
 #include "system/failure.h"
+#include "system/own_path.h"
 #include "text/text.h"
 
 namespace qelpro {
@@ -67,7 +68,7 @@ Setting setting_of(const Entries& entries, const std::string& address, const Jso
 
 Study::Study(std::string file, std::string contents, StudyRequest request)
     : file_(file == "-" ? "process" : std::move(file)),
-      stem_(std::filesystem::path(file_).stem().string()),
+      stem_(text_of(own_path(file_).stem())),
       request_(std::move(request)),
       document_(document_text(file_, std::move(contents))),
       plan_(plan_of(request_)),

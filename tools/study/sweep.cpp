@@ -10,6 +10,7 @@
 #include "system/failure.h"
 #include "system/files.h"
 #include "system/new_files.h"
+#include "system/own_path.h"
 #include "work/workers.h"
 
 namespace qelpro {
@@ -18,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string in_folder(const std::string& folder, const std::string& name) {
-  return (fs::path(folder) / name).string();
+  return text_of(own_path(folder) / name);
 }
 
 [[noreturn]] void fail(const std::string& name, const std::string& what) {
@@ -45,12 +46,12 @@ Present look_into(const Study& study, const std::string& folder) {
     return present;
   }
   std::error_code error;
-  if (!fs::is_directory(folder, error)) {
+  if (!fs::is_directory(own_path(folder), error)) {
     throw SystemFailure(folder, "no folder, which the files need; name another one", ENOTDIR);
   }
-  fs::directory_iterator names(folder, error);
+  fs::directory_iterator names(own_path(folder), error);
   for (; !error && names != fs::directory_iterator(); names.increment(error)) {
-    const std::string name = names->path().filename().string();
+    const std::string name = text_of(names->path().filename());
     const std::optional<std::uint64_t> index = study.index_of(name);
     present.json = present.json || name == kManifestJson;
     present.csv = present.csv || name == kManifestCsv;
@@ -113,7 +114,7 @@ void check_same(const Study& study, const std::string& folder, const Present& pr
 void check_room(const Study& study, const std::string& folder, std::uint64_t files,
                 std::uint64_t manifests) {
   constexpr std::uint64_t kDiskBlock = 4096;
-  fs::path place(folder.empty() ? "." : folder);
+  fs::path place = own_path(folder.empty() ? "." : folder);
   std::error_code error;
   place = fs::absolute(place, error);
   while (!error && !fs::exists(place, error) && place.has_relative_path()) {
@@ -160,7 +161,7 @@ std::uint64_t make_files(const Study& study, const std::string& folder, Existing
   }
   check_room(study, folder, study.size() - present.file_count, json.size() + csv.size());
   std::error_code error;
-  fs::create_directories(folder, error);
+  fs::create_directories(own_path(folder), error);
   if (error) {
     fail(folder, "cannot be made: ", error);
   }

@@ -1,6 +1,5 @@
 #include "system/engine_file.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -11,8 +10,8 @@ namespace qelpro {
 
 EngineFile::EngineFile(const std::string& file, std::string_view contents) : path_(file) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) {
-    path_ = path_beside((std::filesystem::temp_directory_path() / "standard_input").string());
+  if (!std::filesystem::is_regular_file(own_path(file), error)) {
+    path_ = path_beside(text_of(std::filesystem::temp_directory_path() / "standard_input"));
     write_whole(path_, contents);
     is_temporary_ = true;
   }
@@ -20,7 +19,8 @@ EngineFile::EngineFile(const std::string& file, std::string_view contents) : pat
 
 EngineFile::~EngineFile() {
   if (is_temporary_) {
-    std::remove(path_.c_str());
+    std::error_code ignored;
+    std::filesystem::remove(own_path(path_), ignored);
   }
 }
 

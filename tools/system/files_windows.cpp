@@ -13,6 +13,7 @@
 #include "system/beside.h"
 #include "system/failure.h"
 #include "system/files.h"
+#include "system/own_path.h"
 
 namespace qelpro {
 namespace {
@@ -28,13 +29,33 @@ namespace {
 
 using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
+Stream open_stream(const std::string& file, const wchar_t* mode) {
+  return {::_wfopen(own_path(file).c_str(), mode), &std::fclose};
+}
+
+void remove(const std::string& file) { ::_wremove(own_path(file).c_str()); }
+
 bool put(std::FILE* stream, std::string_view contents) {
   return std::fwrite(contents.data(), 1, contents.size(), stream) == contents.size();
 }
 
+// Empty where there is no file.
+std::string where_links_lead(const std::string& file) {
+  constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE handle = ::CreateFileW(own_path(file).c_str(), 0, kShared, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    return {};
+  }
+  std::wstring path(::GetFinalPathNameByHandleW(handle, nullptr, 0, 0), L'\0');
+  path.resize(::GetFinalPathNameByHandleW(handle, path.data(), static_cast<DWORD>(path.size()), 0));
+  ::CloseHandle(handle);
+  return path.empty() ? file : text_of(path);  // not every version tells of a long path
+}
+
 Stream make_beside(const std::string& file, const std::string& target, std::string& path) {
   path = path_beside(target);
-  Stream stream(std::fopen(path.c_str(), "wbx"), &std::fclose);
+  Stream stream = open_stream(path, L"wbx");
   if (stream == nullptr) {
     path.clear();
     fail(file, "cannot be written: no file can be made in \"" + folder_of(target) + "\": ");
@@ -43,7 +64,7 @@ Stream make_beside(const std::string& file, const std::string& target, std::stri
 }
 
 Stream open_to_read(const std::string& file) {
-  Stream stream(std::fopen(file.c_str(), "rb"), &std::fclose);
+  Stream stream = open_stream(file, L"rb");
   if (stream == nullptr) {
     fail(file, "");
   }
@@ -70,7 +91,7 @@ std::string read_file(const std::string& file) {
     return read_standard_input();
   }
   std::error_code error;
-  const auto kind = std::filesystem::status(file, error);
+  const auto kind = std::filesystem::status(own_path(file), error);
   if (std::filesystem::exists(kind) && !std::filesystem::is_regular_file(kind)) {
     throw Failure(kFileError, at(file, std::filesystem::is_directory(kind) ? reason_of(EISDIR)
                                                                            : "not a regular file"));
@@ -97,14 +118,12 @@ struct Replacement::Handles {
 
 Replacement::Replacement(const std::string& file)
     : file_(file), handles_(std::make_unique<Handles>()) {
-  std::error_code error;
-  target_ = std::filesystem::canonical(file, error).string();
-  if (error) {
+  target_ = where_links_lead(file);
+  if (target_.empty()) {
     errno = ENOENT;
     fail(file, "");
   }
-  if (const Stream writable(std::fopen(target_.c_str(), "r+b"), &std::fclose);
-      writable == nullptr) {
+  if (const Stream writable = open_stream(target_, L"r+b"); writable == nullptr) {
     fail(file, "cannot be opened for writing: ");
   }
   if (!handles_->old_file.open_for_store(target_.c_str())) {
@@ -115,7 +134,7 @@ Replacement::Replacement(const std::string& file)
 
 Replacement::~Replacement() {
   if (!handles_->temporary.empty()) {
-    std::remove(handles_->temporary.c_str());
+    remove(handles_->temporary);
   }
 }
 
@@ -130,7 +149,7 @@ const std::string& Replacement::write(std::string_view contents) {
 
 void Replacement::commit() {
   // The one call that keeps the old file's attributes and access list.
-  if (::ReplaceFileA(target_.c_str(), handles_->temporary.c_str(), nullptr,
+  if (::ReplaceFileW(own_path(target_).c_str(), own_path(handles_->temporary).c_str(), nullptr,
                      REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) == 0) {
     fail_by_system(file_, "cannot be written, and is as it was: ");
   }
@@ -142,16 +161,16 @@ struct NewFile::Guard {};
 
 NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
   if (std::error_code error;
-      std::filesystem::exists(std::filesystem::symlink_status(file, error))) {
+      std::filesystem::exists(std::filesystem::symlink_status(own_path(file), error))) {
     throw Failure(kFileError, at(file, "exists already"));
   }
   Stream stream = make_beside(file, file, temporary_);
   const bool whole = put(stream.get(), std::string(room, ' '));
-  const bool emptied = std::fclose(stream.release()) == 0 &&
-                       Stream(std::fopen(temporary_.c_str(), "wb"), &std::fclose) != nullptr;
+  const bool emptied =
+      std::fclose(stream.release()) == 0 && open_stream(temporary_, L"wb") != nullptr;
   if (!whole || !emptied) {
     const int error = errno;
-    std::remove(temporary_.c_str());
+    remove(temporary_);
     errno = error;
     fail(file, "cannot be written: ");
   }
@@ -159,12 +178,13 @@ NewFile::NewFile(const std::string& file, std::size_t room) : file_(file) {
 
 NewFile::~NewFile() {
   if (!temporary_.empty()) {
-    std::remove(temporary_.c_str());
+    remove(temporary_);
   }
 }
 
 void NewFile::publish() {
-  if (::MoveFileExA(temporary_.c_str(), file_.c_str(), MOVEFILE_WRITE_THROUGH) == 0) {
+  if (::MoveFileExW(own_path(temporary_).c_str(), own_path(file_).c_str(),
+                    MOVEFILE_WRITE_THROUGH) == 0) {
     fail_by_system(file_, "cannot be written: ");
   }
   temporary_.clear();

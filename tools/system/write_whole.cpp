@@ -4,17 +4,18 @@
 
 #include "system/failure.h"
 #include "system/files.h"
+#include "system/own_path.h"
 
 namespace qelpro {
 
 bool exists(const std::string& file) {
   std::error_code error;
-  return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+  return std::filesystem::exists(std::filesystem::symlink_status(own_path(file), error));
 }
 
 void write_whole(const std::string& file, std::string_view contents) {
   std::error_code error;
-  const auto kind = std::filesystem::status(file, error).type();
+  const auto kind = std::filesystem::status(own_path(file), error).type();
   if (kind == std::filesystem::file_type::character || kind == std::filesystem::file_type::fifo) {
     write_into(file, file, contents);
   } else if (exists(file)) {

@@ -124,7 +124,7 @@ std::string file_of(std::mt19937& random, const Kind& kind, std::size_t size) {
 }
 
 TEST_P(PageSteps, LeaveEveryEntryOldOrNewAfterEveryPage) {
-  std::mt19937 random(GetParam().padding + GetParam().line_break.size());
+  std::mt19937 random(static_cast<unsigned>(GetParam().padding + GetParam().line_break.size()));
   const int rounds = std::getenv("QELPRO_LOAD") != nullptr ? 3000 : 60;
   int stops = 0;
   for (int round = 0; round < rounds; ++round) {
