@@ -11,6 +11,9 @@ namespace {
 
 constexpr std::size_t kMostWays = 8;
 
+// A larger file than any simulation has is not held in memory three times.
+constexpr std::size_t kMostMoved = std::size_t{1} << 20U;
+
 std::size_t page_of(std::size_t offset) { return offset / kPageSize; }
 
 // Lines that change, on the way from the old ones to the new ones: with empty lines behind them,
@@ -123,7 +126,8 @@ bool fits_a_page(const LineChange& change) {
 }  // namespace
 
 PageSteps page_steps(const LineChange& change) {
-  if (fits_a_page(change) || !is_whole(change.contents) || !is_whole(change.lines)) {
+  if (fits_a_page(change) || change.contents.size() - change.begin > kMostMoved ||
+      !is_whole(change.contents) || !is_whole(change.lines)) {
     return {};
   }
   Steps steps(change);

@@ -62,7 +62,7 @@ bool may_be_entry(const TextLine& line, std::string_view key) {
       return kind == LineKind::entry || kind == LineKind::without_equals;
     }
     default:
-      return true;
+      return key.find('\r') == std::string_view::npos;
   }
 }
 
