@@ -56,8 +56,8 @@ def attempt(store, variable, number, path, answer):
 def main(name, kind, folder):
     path = os.path.join(folder, "a.pro")
     found = []
-    # A new file is several hundred calls, of which most are alike.
-    for number in [*range(1, 40), *range(40, 1000, 60)]:
+    # A new file is some thousand calls, of which most are alike.
+    for number in [*range(1, 40), *range(40, 9000, 240)]:
         for left in os.listdir(folder):
             os.remove(os.path.join(folder, left))
         if not name.startswith("new"):
@@ -75,7 +75,7 @@ def main(name, kind, folder):
         os.close(writer)
         status = os.waitstatus_to_exitcode(os.waitpid(child, 0)[1])
         with os.fdopen(reader) as stream:
-            raised, calls = json.loads(stream.read() or "[null, 1000]")
+            raised, calls = json.loads(stream.read() or "[null, 9000]")
         contents = None
         if os.path.exists(path):
             with open(path, "rb") as stream:

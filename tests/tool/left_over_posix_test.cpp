@@ -108,6 +108,7 @@ const std::pair<const char*, const char*> kExplained[] = {
     {"stat", "what stands there is looked at again once it is open"},
     {"fstat of_old", "the same"},
     {"lock of_old", "a file system without locks goes without"},
+    {"fstat of_reading", "the file is read again, under the lock of its stores"},
     {"fchown of_new",
      "who may not give a file away keeps it, and its group where that is possible"},
     {"open",
