@@ -63,7 +63,9 @@ bool is_store_under_way(std::intptr_t handle) {
   return is_held();
 }
 
-LockAnswer lock_for_read(std::intptr_t handle) { return lock(handle, kSharedLock, Patience::kOfReads); }
+LockAnswer lock_for_read(std::intptr_t handle) {
+  return lock(handle, kSharedLock, Patience::kOfReads);
+}
 
 void unlock_after_read(std::intptr_t handle) { unlock(handle); }
 
