@@ -6,6 +6,7 @@
 #include "file/forms.h"
 #include "json/json_input.h"
 #include "support/comma_locale.h"
+#include "support/line_break.h"
 #include "support/run.h"
 #include "support/scratch.h"
 #include "system/failure.h"
@@ -119,7 +120,7 @@ TEST(Import, WritesNumbersWithAPointWhateverTheHostsLocale) {
       contents_of("f", parse_json("f",
                                   "{\"Flow-1\": {\"FillTime\": 1.50, \"FR-1\": [-2.5e-3, 0.1]}, "
                                   "\"Own\": {\"k\": 0.125}}"));
-  EXPECT_THAT(contents,
+  EXPECT_THAT(without_returns(contents),
               AllOf(HasSubstr("FillTime             = 1.50\n"), HasSubstr("= -2.5e-3\t0.1\n"),
                     HasSubstr("k                    = 0.125\n")));
   EXPECT_THROW(contents_of("f", parse_json("f", "{\"Flow-1\": {\"FRSet\": 1.5}}")), Failure);

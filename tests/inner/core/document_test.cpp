@@ -19,7 +19,9 @@ TEST_F(Document, HasNoFileAtFirst) {
   EXPECT_EQ(document.SetValue("[A]", "x", "1", kByKey), kNoFile);
   EXPECT_EQ(document.WriteOnce("[A]", "x", "1"), kNoFile);
   EXPECT_EQ(document.ReplaceValue("[A]", "x", "1"), kNoOpen);
-  EXPECT_EQ(document.VisitLines("[A]", 1, [] {}, [](std::string_view) {}), kNoFile);
+  EXPECT_EQ(document.VisitLines(
+                "[A]", 1, [] {}, [](std::string_view) {}),
+            kNoFile);
   EXPECT_FALSE(document.GetFilePtr(stream));
   EXPECT_EQ(document.narrow_path(), nullptr);
   document.CloseFile();
@@ -239,8 +241,12 @@ TEST_F(Document, VisitsLinesAfterAHeaderOnTheFirstByte) {
                 [&visited](std::string_view line) { visited.append(line).append("|"); }),
             kDone);
   EXPECT_EQ(visited, "first|second|");
-  EXPECT_EQ(document.VisitLines("[A]", 3, [] {}, [](std::string_view) {}), kAbsent);
-  EXPECT_EQ(document.VisitLines("[B]", 1, [] {}, [](std::string_view) {}), kAbsent);
+  EXPECT_EQ(document.VisitLines(
+                "[A]", 3, [] {}, [](std::string_view) {}),
+            kAbsent);
+  EXPECT_EQ(document.VisitLines(
+                "[B]", 1, [] {}, [](std::string_view) {}),
+            kAbsent);
 }
 
 TEST_F(Document, ReplacesNothingInAFileThatItLeft) {
@@ -258,7 +264,9 @@ TEST_F(Document, WritesNothingWhereAFolderHasTakenItsFilesPlace) {
   std::filesystem::create_directory(path);
   EXPECT_EQ(document.WriteOnce("[A]", "x", "2"), kNoOpen);
   EXPECT_EQ(document.SetValue("[A]", "x", "2", kByKey), kNoOpen);
-  EXPECT_EQ(document.VisitLines("[A]", 1, [] {}, [](std::string_view) {}), kNoOpen);
+  EXPECT_EQ(document.VisitLines(
+                "[A]", 1, [] {}, [](std::string_view) {}),
+            kNoOpen);
   EXPECT_EQ(look(document, "[A]", "x"), "0");
 }
 
