@@ -42,11 +42,19 @@ struct Pattern {
   bool is_numbered;
 };
 
+// The standard library's search is no constant expression under every sanitizer.
+constexpr std::size_t place_of(char wanted, std::string_view text, std::size_t from) {
+  while (from < text.size() && text[from] != wanted) {
+    ++from;
+  }
+  return from;
+}
+
 constexpr Pattern pattern_of(std::string_view text) {
-  const std::size_t percent = text.find('%');
-  return percent == std::string_view::npos
-             ? Pattern{text, {}, false}
-             : Pattern{text.substr(0, percent), text.substr(text.find('d', percent) + 1), true};
+  const std::size_t percent = place_of('%', text, 0);
+  return percent == text.size() ? Pattern{text, {}, false}
+                                : Pattern{text.substr(0, percent),
+                                          text.substr(place_of('d', text, percent) + 1), true};
 }
 
 // Whether the text is the pattern, with a number as it is printed in the place of "%d" or "%ld".

@@ -60,13 +60,14 @@ bool FileEdit::overwrite_in_steps(PageSteps& steps) {
   if (!reserve(end)) {
     return false;
   }
-  for (const std::string& text : steps.texts) {
-    if (!file_.write_at(static_cast<std::int64_t>(steps.at), text.data(), text.size())) {
-      put_back(steps.at);
-      return false;
-    }
+  const auto at = static_cast<std::int64_t>(steps.at);
+  if (std::ranges::all_of(steps.texts, [this, at](const std::string& text) {
+        return file_.write_at(at, text.data(), text.size());
+      })) {
+    return true;
   }
-  return true;
+  put_back(steps.at);
+  return false;
 }
 
 bool FileEdit::replace(std::size_t begin, std::size_t end, std::string_view lines) {
