@@ -85,12 +85,17 @@ using qelpro_test::allocations::struck;
 
 namespace {
 
-void* allocate(std::size_t size) {
+void* allocate_or_null(std::size_t size) noexcept {
   void* const memory = fails() ? nullptr : std::malloc(size != 0 ? size : 1);
+  return memory != nullptr ? noted(memory) : nullptr;
+}
+
+void* allocate(std::size_t size) {
+  void* const memory = allocate_or_null(size);
   if (memory == nullptr) {
     throw std::bad_alloc();
   }
-  return noted(memory);
+  return memory;
 }
 
 void deallocate(void* memory) { std::free(struck(memory)); }
@@ -100,6 +105,12 @@ void deallocate(void* memory) { std::free(struck(memory)); }
 // These stand in front of the C++ library's for the shared library too.
 VISIBLE void* operator new(std::size_t size) { return allocate(size); }
 VISIBLE void* operator new[](std::size_t size) { return allocate(size); }
+VISIBLE void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return allocate_or_null(size);
+}
+VISIBLE void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return allocate_or_null(size);
+}
 VISIBLE void operator delete(void* memory) noexcept { deallocate(memory); }
 VISIBLE void operator delete[](void* memory) noexcept { deallocate(memory); }
 VISIBLE void operator delete(void* memory, std::size_t /*size*/) noexcept { deallocate(memory); }

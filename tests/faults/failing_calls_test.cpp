@@ -378,7 +378,8 @@ TEST(FailingReads, OfAStreamThatFailsMidwayAreNoValues) {
     EXPECT_TRUE(readable >= value_end || !done) << readable;
     EXPECT_TRUE(readable < contents.size() || done) << readable;
     CQELPROWriter_Manipulator writer;
-    EXPECT_FALSE(writer.SetFilePtr(stream) && writer.FlowX_WriteFillingTime(2.5, 1)) << readable;
+    const bool stored = writer.SetFilePtr(stream) && writer.FlowX_WriteFillingTime(2.5, 1);
+    EXPECT_TRUE(readable == contents.size() || !stored) << readable;
     std::fclose(stream);
   }
 }
