@@ -1,4 +1,3 @@
-#include <cxxabi.h>
 #include <pthread.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -10,6 +9,7 @@
 #include <cstring>
 #include <new>
 
+#include "platform/exception_memory.h"
 #include "platform/thread_memory.h"
 
 // No code of this library runs when a thread ends: another thread may be unloading the library at
@@ -106,21 +106,9 @@ Piece* new_piece(std::uint64_t thread) {
   return piece;
 }
 
-// The loader ends the program where it finds no memory for what the C++ library keeps of a thread:
-// it is asked for that where some was there a moment ago.
-bool prepare_exceptions() {
-  constexpr std::size_t kMoreThanItTakes = 4096;
-  void* volatile const spare = std::malloc(kMoreThanItTakes);
-  if (spare == nullptr) {
-    return false;
-  }
-  std::free(spare);
-  return abi::__cxa_get_globals() != nullptr;
-}
-
 void* first_memory() {
   ::pthread_once(&key_once, make_key);
-  if (!has_key.load(std::memory_order_acquire) || !prepare_exceptions()) {
+  if (!has_key.load(std::memory_order_acquire) || !prepare_exception_memory()) {
     return nullptr;
   }
   const ::pid_t process = ::getpid();

@@ -1,8 +1,8 @@
-#include <cxxabi.h>
 #include <windows.h>
 
 #include <cstdlib>
 
+#include "platform/exception_memory.h"
 #include "platform/thread_memory.h"
 
 // The system frees a thread's memory when the thread ends, and that of all threads when the library
@@ -37,20 +37,8 @@ class Index {
 constexpr int kFirst = 101;
 __attribute__((init_priority(kFirst))) Index index;
 
-// What the C++ library keeps of a thread for exceptions ends the program where there is no memory
-// for it: it is asked for where some was there a moment ago.
-bool prepare_exceptions() {
-  constexpr std::size_t kMoreThanItTakes = 4096;
-  void* volatile const spare = std::malloc(kMoreThanItTakes);
-  if (spare == nullptr) {
-    return false;
-  }
-  std::free(spare);
-  return abi::__cxa_get_globals() != nullptr;
-}
-
 void* first_memory() {
-  if (!prepare_exceptions()) {
+  if (!prepare_exception_memory()) {
     return nullptr;
   }
   void* const memory = std::calloc(1, kThreadMemory);

@@ -44,88 +44,76 @@ std::string value(int process, int number) {
          std::string(static_cast<std::size_t>((number * 7 + process) % 40), '.');
 }
 
-TEST(Load, OfManyProcessesOnOneFileLosesNoStore) {
-  constexpr int kProcesses = 8;
-  const int stores = load(60, 5000);
-  // A key is stored again and again, so that the file stays of a size that a simulation has.
-  constexpr int kKeys = 50;
-  const Scratch scratch;
-  const std::string others = "\n[Others]\nfirst = 1\n# a remark\nlast = 2\n";
-  const std::string path = scratch.file(others);
-  std::vector<pid_t> children;
-  children.reserve(kProcesses);
-  for (int process = 0; process < kProcesses; ++process) {
-    children.push_back(in_a_process([&, process] {
-      CQELPROWriter_Manipulator writer;
-      int done = 0;
-      if (writer.SetFilePath(path.c_str())) {
+// Processes that store into one file at once, each under keys of its own, which it goes through
+// again and again.
+struct Processes {
+  static constexpr int kCount = 8;
+  int stores;
+  int keys;
+
+  void run(const std::string& path) const {
+    std::vector<pid_t> children;
+    children.reserve(kCount);
+    for (int process = 0; process < kCount; ++process) {
+      children.push_back(in_a_process([&, process] {
+        CQELPROWriter_Manipulator writer;
+        bool done = writer.SetFilePath(path.c_str());
         for (int number = 0; number < stores; ++number) {
-          done += writer.WriteString("[Many]", key(process, number % kKeys).c_str(),
-                                     value(process, number).c_str())
-                      ? 1
-                      : 0;
+          done = writer.WriteString("[Many]", key(process, number % keys).c_str(),
+                                    value(process, number).c_str()) &&
+                 done;
         }
-      }
-      return done == stores;
-    }));
-  }
-  for (const pid_t child : children) {
-    EXPECT_TRUE(ended_well(child));
-  }
-  CQELPROReader_Manipulator reader;
-  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
-  char* text = nullptr;
-  int found = 0;
-  for (int process = 0; process < kProcesses; ++process) {
-    for (int number = std::max(0, stores - kKeys); number < stores; ++number) {
-      found +=
-          reader.ReadString("[Many]", key(process, number % kKeys).c_str(), text, nullptr, 0) &&
-                  text == value(process, number)
-              ? 1
-              : 0;
+        return done;
+      }));
+    }
+    for (const pid_t child : children) {
+      EXPECT_TRUE(ended_well(child));
     }
   }
-  EXPECT_EQ(found, kProcesses * std::min(stores, kKeys));
-  EXPECT_EQ(bytes_of(path).substr(0, others.size()), others);
+
+  // Of the values that were stored last, those that are there.
+  [[nodiscard]] int found(const std::string& path) const {
+    CQELPROReader_Manipulator reader;
+    EXPECT_TRUE(reader.SetFilePath(path.c_str()));
+    char* text = nullptr;
+    int found = 0;
+    for (int process = 0; process < kCount; ++process) {
+      for (int number = stores - keys; number < stores; ++number) {
+        found +=
+            reader.ReadString("[Many]", key(process, number % keys).c_str(), text, nullptr, 0) &&
+                    text == value(process, number)
+                ? 1
+                : 0;
+      }
+    }
+    return found;
+  }
+};
+
+const std::string kOthers = "\n[Others]\nfirst = 1\n# a remark\nlast = 2\n";
+
+TEST(Load, OfManyProcessesOnOneFileLosesNoStore) {
+  const Scratch scratch;
+  const std::string path = scratch.file(kOthers);
+  // The file stays of a size that a simulation has.
+  const Processes processes{load(60, 5000), 50};
+  processes.run(path);
+  EXPECT_EQ(processes.found(path), Processes::kCount * processes.keys);
+  EXPECT_EQ(bytes_of(path).substr(0, kOthers.size()), kOthers);
 }
 
-// Every key of its own: nothing that was ever stored is lost.
+// Every key is new: nothing that was ever stored is lost.
 TEST(Load, OfManyProcessesThatAddKeysLosesNone) {
-  constexpr int kProcesses = 8;
-  const int stores = load(40, 5000);
   const Scratch scratch;
-  const std::string path = scratch.file("\n[Others]\nfirst = 1\n");
-  std::vector<pid_t> children;
-  children.reserve(kProcesses);
-  for (int process = 0; process < kProcesses; ++process) {
-    children.push_back(in_a_process([&, process] {
-      CQELPROWriter_Manipulator writer;
-      bool done = writer.SetFilePath(path.c_str());
-      for (int number = 0; number < stores; ++number) {
-        done = writer.WriteString("[Many]", key(process, number).c_str(),
-                                  value(process, number).c_str()) &&
-               done;
-      }
-      return done;
-    }));
-  }
-  for (const pid_t child : children) {
-    EXPECT_TRUE(ended_well(child));
-  }
-  CQELPROReader_Manipulator reader;
-  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
-  char* text = nullptr;
-  int found = 0;
-  for (int process = 0; process < kProcesses; ++process) {
-    for (int number = 0; number < stores; ++number) {
-      found += reader.ReadString("[Many]", key(process, number).c_str(), text, nullptr, 0) &&
-                       text == value(process, number)
-                   ? 1
-                   : 0;
-    }
-  }
-  std::cout << "[ measured ] " << found << " of " << kProcesses * stores << " values are there\n";
-  EXPECT_EQ(found, kProcesses * stores);
+  const std::string path = scratch.file(kOthers);
+  const int stores = load(40, 5000);
+  const Processes processes{stores, stores};
+  processes.run(path);
+  const int found = processes.found(path);
+  std::cout << "[ measured ] " << found << " of " << Processes::kCount * stores
+            << " values are there\n";
+  EXPECT_EQ(found, Processes::kCount * stores);
+  EXPECT_EQ(bytes_of(path).substr(0, kOthers.size()), kOthers);
 }
 
 // What the writer stores: a text, a filling time and a point of a profile, each of which tells by

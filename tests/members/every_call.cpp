@@ -30,8 +30,11 @@ struct Given<bool> {
 };
 template <>
 struct Given<char*> {
-  std::string text = kLongText;
-  char* pass() { return text.data(); }
+  // Some members keep the pointer.
+  static char* pass() {
+    static std::string text = kLongText;
+    return text.data();
+  }
   static void tell(std::vector<std::string>& /*outputs*/) {}
 };
 template <>
