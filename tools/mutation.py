@@ -28,6 +28,14 @@ STEP = re.compile(r"\+\+|--")
 CONDITION = re.compile(r"\b(if|while) \(")
 TIMEOUT = 90
 
+# The tests that most often tell come first; those that take long, or wait, come last and only where they may tell. Those of objects that use
+# neither of the mutated folders never tell.
+SLOW = "Model.*:*PageSteps*:*BeyondTwoGiB*"
+PATIENT = "Memory.*:LockedFile.*:StoreThatStops.*:KilledWriter.*"
+FOREIGN = "SelfContained*:CoolantTables*:MachineBank*"
+STEPS = ("page_steps", "page_layout", "file_edit")
+LIBRARY = "libQELPROEngine.so"
+
 
 def blanked(text):
     """The text with comments, literals and preprocessor lines blanked, so that places stay the same."""
@@ -83,9 +91,9 @@ class Build:
         return shlex.split(command.removeprefix(": && ").split(" && ")[0])
 
     def prepare(self):
-        self.inner = self.link_command("tests/inner_tests", "tests/inner_tests")
-        shared = sorted(path.name for path in (self.folder / "src").glob("libQELPROEngine.so.*.*.*"))[0]
-        self.library = self.link_command("src/libQELPROEngine.so", f"src/{shared}")
+        shared = sorted(path.name for path in (self.folder / "src").glob(f"{LIBRARY}.*.*.*"))[0]
+        self.links = {"inner_tests": self.link_command("tests/inner_tests", "tests/inner_tests"),
+                      LIBRARY: self.link_command(f"src/{LIBRARY}", f"src/{shared}")}
 
     def run_quietly(self, command, **more):
         return subprocess.run(command, cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TIMEOUT, **more)
@@ -107,35 +115,34 @@ class Build:
             if self.run_quietly(command + ["-w"]).returncode != 0:
                 return "invalid"
 
-            def linked(link, name):
-                words = [obj if word == output else word for word in link if word != "-g"]
-                words[words.index("-o") + 1] = f"{scratch}/{name}"
-                subprocess.run(words + ["-Wl,-S"], cwd=self.folder, check=True, stdout=subprocess.DEVNULL)
-                return f"{scratch}/{name}"
+            made = {}
 
-            def fails(program, preload=None, arguments=()):
+            def linked(name):
+                if name not in made:
+                    words = [obj if word == output else word for word in self.links[name] if word != "-g"]
+                    words[words.index("-o") + 1] = made[name] = f"{scratch}/{name}"
+                    subprocess.run(words + ["-Wl,-S"], cwd=self.folder, check=True, stdout=subprocess.DEVNULL)
+                return made[name]
+
+            def fails(program, chosen):
+                """Whether a program's chosen tests fail, which has the mutant in itself or in the library that it loads."""
                 environment = dict(os.environ, TMPDIR=scratch)
-                if preload:
-                    environment["LD_PRELOAD"] = preload
+                if program in self.links:
+                    path = linked(program)
+                else:
+                    path = str(self.folder / "tests" / program)
+                    environment["LD_PRELOAD"] = linked(LIBRARY)
                 try:
-                    return self.run_quietly([program, "--gtest_fail_fast", "--gtest_brief=1", *arguments], env=environment).returncode != 0
+                    return self.run_quietly([path, "--gtest_fail_fast", "--gtest_brief=1", f"--gtest_filter={chosen}"], env=environment).returncode != 0
                 except subprocess.TimeoutExpired:
                     return True
 
-            # The tests that most often tell come first; those of objects that use neither of the two folders never tell.
-            slow = "Model.*:*BeyondTwoGiB*"
-            foreign = "SelfContained*:CoolantTables*:MachineBank*"
-            api = str(self.folder / "tests/api_tests")
-            if "process" not in source.parts:
-                inner = linked(self.inner, "inner_tests")
-                if any(fails(inner, arguments=[f"--gtest_filter={chosen}"]) for chosen in (f"-{slow}:{foreign}", "Model.*")):
-                    return "killed"
-            library = linked(self.library, "libQELPROEngine.so")
-            own = "DataLoader*:*Adapter*:*Process*:*ValueReader*"
-            for chosen in ([own] if "process" in source.parts else []) + [f"-{foreign}"]:
-                if fails(api, library, [f"--gtest_filter={chosen}"]):
-                    return "killed"
-            return "survived"
+            stages = [("inner_tests", f"-{SLOW}"), ("api_tests", f"-{FOREIGN}"), ("inner_tests", "Model.*"), ("fault_tests", f"-{PATIENT}")]
+            if "process" in source.parts:
+                stages = [("api_tests", "DataLoader*:*Adapter*:*Process*:*ValueReader*"), ("api_tests", f"-{FOREIGN}"), ("fault_tests", f"-{PATIENT}")]
+            elif source.stem in STEPS:
+                stages.insert(1, ("inner_tests", "*PageSteps*"))
+            return "killed" if any(fails(*stage) for stage in stages) else "survived"
 
 
 def is_listed(report, source, line, old, new):

@@ -68,6 +68,7 @@ class OsFile final : public RandomAccess {
   std::intptr_t handle_ = kClosed;
   int reads_ = 0;  // counted up to where they no longer stamp the file
   std::int64_t size_when_opened_ = -1;
+  std::int64_t room_when_opened_ = 0;
   std::uint64_t identity_ = 0;
   ChangeCount changes_;
   StoreWatch watch_;

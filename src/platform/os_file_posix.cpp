@@ -6,6 +6,7 @@
 
 #include "platform/file_length_posix.h"
 #include "platform/file_stamp_posix.h"
+#include "platform/file_status_posix.h"
 #include "platform/os_file.h"
 #include "platform/patience.h"
 #include "platform/store_lock.h"
@@ -26,8 +27,8 @@ int open_retrying(const char* path, int flags) {
 
 // Whether something stands there that is no regular file.
 bool is_something_else(const char* path) {
-  struct stat status {};
-  return ::stat(path, &status) == 0 && !S_ISREG(status.st_mode);
+  FileStatus status;
+  return look_at(path, status) && !status.is_regular;
 }
 
 // What takes a regular file's place meanwhile may not stop the caller, so that nothing is waited
@@ -66,10 +67,9 @@ void stamp_no_more([[maybe_unused]] int fd) {
 
 // Whether somebody has put another file into the place of an open one.
 bool is_replaced(int fd, const char* path) {
-  struct stat held {};
-  struct stat named {};
-  return ::fstat(fd, &held) != 0 || ::stat(path, &named) != 0 || named.st_dev != held.st_dev ||
-         named.st_ino != held.st_ino;
+  FileStatus held;
+  FileStatus named;
+  return !look_at(fd, held) || !look_at(path, named) || !named.is_of_same_file(held);
 }
 
 }  // namespace
@@ -82,20 +82,20 @@ bool OsFile::adopt(std::intptr_t handle, Purpose purpose) {
     return false;
   }
   const LockAnswer lock = purpose == Purpose::store ? lock_for_store(handle) : LockAnswer::none;
-  struct stat status {};
-  if (lock == LockAnswer::busy || ::fstat(descriptor(handle), &status) != 0 ||
-      !S_ISREG(status.st_mode)) {
+  FileStatus status;
+  if (lock == LockAnswer::busy || !look_at(descriptor(handle), status) || !status.is_regular) {
     ::close(descriptor(handle));
     return false;
   }
   handle_ = handle;
   reads_ = kStampingReads + 1;  // and go on: it may be written to
-  size_when_opened_ = static_cast<std::int64_t>(status.st_size);
-  identity_ = identity_of(status.st_dev, status.st_ino);
-  changes_ = ChangeCount(status.st_dev, status.st_ino);
-  watch_.note(stamp_of(status));
+  size_when_opened_ = status.size;
+  room_when_opened_ = status.room;
+  identity_ = identity_of(status.device, status.number);
+  changes_ = ChangeCount(status.device, status.number);
+  watch_ = StoreWatch();
   is_locked_ = lock == LockAnswer::held;
-  may_be_replaced_ = status.st_nlink != 1;
+  may_be_replaced_ = status.names != 1;
   return true;
 }
 
@@ -134,6 +134,7 @@ bool OsFile::open_for_reading(const char* path) {
   handle_ = fd;
   reads_ = 0;
   size_when_opened_ = static_cast<std::int64_t>(status.st_size);
+  room_when_opened_ = 0;
   identity_ = identity_of(status.st_dev, status.st_ino);
   changes_ = ChangeCount(status.st_dev, status.st_ino);
   watch_.note(stamp_of(status));
@@ -223,22 +224,13 @@ bool OsFile::reserve(std::int64_t old_size, std::int64_t end) {
   if (!is_within_limit(end)) {
     return false;
   }
-  if (end <= old_size) {
-    return true;
-  }
-  struct stat status {};
-  if (::fstat(descriptor(handle_), &status) != 0) {
-    return false;
-  }
-  constexpr std::int64_t kStatBlock = 512;
-  if (static_cast<std::int64_t>(status.st_blocks) * kStatBlock >= end) {
-    return true;
-  }
-  return reserve_blocks(descriptor(handle_), old_size, end);
+  return end <= old_size || end <= room_when_opened_ ||
+         reserve_blocks(descriptor(handle_), old_size, end);
 }
 
 bool OsFile::truncate(std::int64_t size) {
   const CountedChange change(changes_);
+  room_when_opened_ = 0;  // what is cut off is given back
   return set_length(descriptor(handle_), size);
 }
 

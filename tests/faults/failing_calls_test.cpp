@@ -36,8 +36,9 @@ struct Explained {
 constexpr Explained kExplained[] = {
     {"pwrite", Failure::short_write, true, "another call writes the rest"},
     {"open", Failure::error, true, "what cannot be opened is created, which opens it"},
-    {"fstat", Failure::error, true, "the same"},
-    {"stat", Failure::error, false, "whatever stands there is looked at again once it is open"},
+    {"statx", Failure::error, true, "the same"},
+    {"fstat", Failure::error, true, "of a read, which is repeated under the lock of stores"},
+    {"statx", Failure::error, false, "whatever stands there is looked at again once it is open"},
     {"fcntl", Failure::error, false, "a file system without locks goes without"},
     {"close", Failure::error, false, "of a file that was only read"},
 };

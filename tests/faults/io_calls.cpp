@@ -175,6 +175,12 @@ VISIBLE int stat(const char* path, struct stat* status) noexcept {
   return fails("stat", EIO) ? -1 : real(path, status);
 }
 
+VISIBLE int statx(int fd, const char* path, int flags, unsigned mask,
+                  struct statx* status) noexcept {
+  static auto* const real = next<int(int, const char*, int, unsigned, struct statx*)>("statx");
+  return fails("statx", EIO) ? -1 : real(fd, path, flags, mask, status);
+}
+
 VISIBLE ssize_t pread(int fd, void* to, std::size_t count, off_t offset) {
   static auto* const real = next<ssize_t(int, void*, std::size_t, off_t)>("pread");
   return fails("pread", EIO, Interruption::possible) ? -1 : real(fd, to, count, offset);

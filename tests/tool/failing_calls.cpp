@@ -298,6 +298,13 @@ VISIBLE int fstat(int fd, struct stat* status) noexcept {
   return fails("fstat", fd) ? -1 : real(fd, status);
 }
 
+VISIBLE int statx(int fd, const char* path, int flags, unsigned mask,
+                  struct statx* status) noexcept {
+  static auto* const real = next<int(int, const char*, int, unsigned, struct statx*)>("statx");
+  return (*path == '\0' ? fails("fstat", fd) : fails("stat")) ? -1
+                                                              : real(fd, path, flags, mask, status);
+}
+
 VISIBLE int fcntl(int fd, int command, ...) {
   static auto* const real = next<int(int, int, ...)>("fcntl");
   va_list more;
