@@ -1,5 +1,6 @@
 #include "core/glance.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "text/text.h"
@@ -9,7 +10,7 @@ namespace qel {
 void Glance::read(std::int64_t offset, std::size_t count) {
   const std::int64_t got = file_.read_some(offset, room_, count);
   begin_ = offset;
-  bytes_ = {room_, got > 0 ? static_cast<std::size_t>(got) : 0};
+  bytes_ = {room_, static_cast<std::size_t>(std::max<std::int64_t>(got, 0))};
   at_ = 0;
 }
 
@@ -21,8 +22,11 @@ bool Glance::see_header(const SeenAt& place, std::string_view section, std::int6
   const std::size_t name_at = place.offset == 0 ? 0 : 1;  // after the line break in front of it
   const std::int64_t begin = place.offset - static_cast<std::int64_t>(name_at);
   const std::size_t header = name_at + section.size() + 2;
+  if (header > size_) {
+    return false;
+  }
   const std::size_t wanted = static_cast<std::size_t>(offset - begin) + more;
-  read(begin, wanted > header && wanted <= size_ ? wanted : header);
+  read(begin, wanted <= size_ ? std::max(wanted, header) : header);
   if (bytes_.size() < header || (name_at != 0 && bytes_.front() != '\n') ||
       std::memcmp(bytes_.data() + name_at, section.data(), section.size()) != 0) {
     return false;

@@ -343,6 +343,22 @@ TEST_F(Indexed, LearnsTheNextLineWithOneRead) {
   EXPECT_EQ(offset_of("[A]", "c"), 22);
 }
 
+// The longest names that a line holds: a look at one takes more bytes than the name has.
+TEST_F(Indexed, FindsKeysOfSectionsWithTheLongestNames) {
+  for (std::size_t size = qel::text::kLongestLine - 6; size <= qel::text::kLongestLine + 1;
+       ++size) {
+    const std::string name = "[" + std::string(size - 2, 'n') + "]";
+    file.bytes = "\n" + name + "\nx = 1\n\ny = 2\n";
+    index.forget();
+    const bool is_line = size <= qel::text::kLongestLine;
+    for (const char* key : {"x", "x", "y", "x", "y"}) {
+      EXPECT_EQ(find({name, key}),
+                is_line ? std::string(key) + (*key == 'x' ? " = 1" : " = 2") : kNothing)
+          << size;
+    }
+  }
+}
+
 // One whose lines are never seen at a glance.
 struct SlowFile : MemoryFile {
   std::int64_t read_some(std::int64_t /*offset*/, char* /*to*/, std::size_t /*count*/) override {
