@@ -14,6 +14,7 @@
 #include "api/proio/support.h"
 #include "faults/every_store.h"
 #include "faults/io_calls.h"
+#include "support/broken_medium_posix.h"
 #include "support/in_c_locale.h"
 #include "support/scratch.h"
 
@@ -330,35 +331,6 @@ TEST(FailingReads, AreToldByTheDocumentAndByTheObject) {
   std::fclose(stream);
 }
 
-// A stream whose medium fails behind a number of bytes.
-struct BrokenMedium {
-  std::string contents;
-  std::size_t readable = 0;
-  std::size_t at = 0;
-
-  static ssize_t read(void* cookie, char* to, std::size_t size) {
-    auto& medium = *static_cast<BrokenMedium*>(cookie);
-    if (medium.at >= medium.readable && medium.readable < medium.contents.size()) {
-      errno = EIO;
-      return -1;
-    }
-    const std::size_t count =
-        std::min(size, std::min(medium.readable, medium.contents.size()) - medium.at);
-    medium.contents.copy(to, count, medium.at);
-    medium.at += count;
-    return static_cast<ssize_t>(count);
-  }
-  static int seek(void* cookie, off64_t* offset, int whence) {
-    auto& medium = *static_cast<BrokenMedium*>(cookie);
-    const off64_t from = whence == SEEK_SET   ? 0
-                         : whence == SEEK_CUR ? static_cast<off64_t>(medium.at)
-                                              : static_cast<off64_t>(medium.contents.size());
-    *offset += from;
-    medium.at = static_cast<std::size_t>(*offset);
-    return 0;
-  }
-};
-
 // Wherever a stream begins to fail, a value is the file's or none; and no key counts as missing
 // that may stand in what was not read, so that none is added a second time.
 TEST(FailingReads, OfAStreamThatFailsMidwayAreNoValues) {
@@ -369,9 +341,7 @@ TEST(FailingReads, OfAStreamThatFailsMidwayAreNoValues) {
        {std::size_t{0}, std::size_t{9}, std::size_t{4096}, value_end - 14, value_end - 2,
         value_end - 1, value_end, contents.size()}) {
     BrokenMedium medium{contents, readable};
-    std::FILE* stream =
-        ::fopencookie(&medium, "r+", {&BrokenMedium::read, nullptr, &BrokenMedium::seek, nullptr});
-    std::setvbuf(stream, nullptr, _IONBF, 0);
+    std::FILE* stream = opened(medium);
     CQELPROReader_Manipulator reader;
     double value = -1;
     const bool done = reader.SetFilePtr(stream) && reader.FlowX_ReadFillingTime(value, 1);

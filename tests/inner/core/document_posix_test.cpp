@@ -4,6 +4,7 @@
 #include <string>
 
 #include "inner/core/document_fixture.h"
+#include "support/broken_medium_posix.h"
 #include "support/child.h"
 
 namespace qelpro_test {
@@ -53,6 +54,23 @@ TEST_F(Document, ReadsThroughAStreamOverMemory) {
   stream = ::fmemopen(memory, sizeof memory, "r");
   ASSERT_TRUE(document.SetFilePtr(stream));
   EXPECT_EQ(look(document, "[A]", "x"), "1");
+  std::fclose(stream);
+}
+
+// A line that cannot be read is not one that is not there.
+TEST_F(Document, TellsALineThatCannotBeReadFromOneThatIsAbsent) {
+  BrokenMedium medium{"[A]\nfirst\n" + std::string(9000, '#') + "\nsecond\n", 4096};
+  stream = opened(medium);
+  ASSERT_TRUE(document.SetFilePtr(stream));
+  const auto visits = [this](const char* section) {
+    return document.VisitLines(
+        section, 3, [] {}, [](std::string_view) {});
+  };
+  EXPECT_EQ(visits("[A]"), kNoOpen);
+  EXPECT_EQ(visits("[B]"), kNoOpen);
+  medium.readable = medium.contents.size();
+  EXPECT_EQ(visits("[A]"), kDone);
+  EXPECT_EQ(visits("[B]"), kAbsent);
   std::fclose(stream);
 }
 
