@@ -54,7 +54,8 @@ class QELPROENGINE_API CQELPROWriter_Manipulator {
   bool SetFilePath(const wchar_t* path);
   /// Writes through a stream that the caller opened for reading and writing, and keeps open. False
   /// for null, and on Windows for a stream of another C runtime than the library's. New keys of
-  /// existing sections need a narrow path.
+  /// existing sections need a narrow path. Where another file comes under the name meanwhile, the
+  /// stream and its stores stay with the one that it has open.
   bool SetFilePtr(std::FILE*& stream);
   /// Closes a lent stream; nothing can be written until a file is set again. A file that was given
   /// by a path is open during a member alone: there is nothing to close, and writing to it goes on,

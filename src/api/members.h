@@ -35,7 +35,7 @@ bool read(Session* session, const char* key, Place place, Values&... values) {
 /// A null text is never written.
 template <class Block, class Encoding, class... Values>
 bool write(Session* session, const char* key, Place place, Values... values) {
-  return !(is_null(values) || ...) && done_by<Block>(session, [&](Block& block) {
+  return !any_is_null(values...) && done_by<Block>(session, [&](Block& block) {
     return block.template Write<Encoding>(key, place, values...);
   });
 }

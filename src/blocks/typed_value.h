@@ -50,7 +50,10 @@ std::vector<Field> fields_of(const char* text, int number) {
   return std::apply(
       [&](auto&... outputs) {
         scan_entry<Encoding>(copy.data(), number, outputs...);
-        return std::vector<Field>{to_field(outputs)...};
+        std::vector<Field> fields;
+        fields.reserve(sizeof...(outputs));
+        (fields.push_back(to_field(outputs)), ...);
+        return fields;
       },
       values);
 }

@@ -38,8 +38,7 @@ struct IndexedTarget {
 // Enters a line that was passed into the index, once.
 void learn(const IndexedTarget& at, const Target& target, const Line& line,
            std::string_view token) {
-  if (token.empty() ||
-      (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
+  if (token.empty() || line.start <= at.section.passed.place().offset) {
     return;
   }
   const LineMark mark = at.index.mark(line, token);
@@ -168,7 +167,7 @@ std::optional<Line> IndexedLookup::glance_at_known(const Section& section, const
 // them are as most are.
 std::optional<Line> IndexedLookup::glance_after_passed(const IndexedTarget& indexed) {
   Section& section = indexed.section;
-  const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
+  const bool has_passed = is_present(section.passed.place().file);
   if (!is_present(section.header.file)) {
     return std::nullopt;
   }
@@ -249,12 +248,9 @@ std::optional<Line> IndexedLookup::find_after_passed(const IndexedTarget& indexe
 
 std::optional<Line> IndexedLookup::find_in_known(const IndexedTarget& indexed) {
   Section& section = indexed.section;
-  const bool has_passed = section.passed.is_set() && is_present(section.passed.place().file);
+  const bool has_passed = is_present(section.passed.place().file);
   if (has_passed && target_.by_key()) {
-    const std::optional<Line> found = find_after_passed(indexed);
-    if (found || changed_ || room_.failed()) {
-      return found;
-    }
+    return find_after_passed(indexed);  // what stands before is known
   }
   const Place header = section.header;
   Line line;
@@ -270,7 +266,7 @@ std::optional<Line> IndexedLookup::find_in_known(const IndexedTarget& indexed) {
 
 std::optional<Line> IndexedLookup::find_in_unknown() {
   const LineMark furthest = index_.furthest();
-  if (furthest.is_set() && is_present(furthest.place().file)) {
+  if (is_present(furthest.place().file)) {
     begin_at(furthest.place(), LineScanner::kFirstBlock);
     Line line;
     if (!next_at(furthest.place(), line) || !furthest.matches(line.text)) {
@@ -288,7 +284,6 @@ std::optional<Line> IndexedLookup::find_in_unknown() {
 }
 
 std::optional<Line> IndexedLookup::find() {
-  changed_ = false;
   Section* const section = index_.section(target_.section);
   if (section == nullptr) {
     return find_in_unknown();
@@ -353,11 +348,11 @@ std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& tar
                                  SectionIndex& index, LookupRoom& room) {
   IndexedLookup lookup(file, target, index, room);
   std::optional<Line> line = lookup.find();
-  if (lookup.changed()) {
-    index.forget();
-    line = lookup.find();
+  if (!lookup.changed()) {
+    return line;
   }
-  return line;
+  index.forget();
+  return IndexedLookup(file, target, index, room).find();
 }
 
 }  // namespace qel

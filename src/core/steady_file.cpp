@@ -140,17 +140,15 @@ std::int64_t SteadyFile::read_pages(std::int64_t offset, char* to, std::size_t c
     } else {
       const std::int64_t whole =
           file_.read_at(at - static_cast<std::int64_t>(within), page->bytes.get(), kPage);
-      page->size = static_cast<std::size_t>(std::max<std::int64_t>(whole, 0));
       if (whole < 0) {
         page->state = State::unknown;
         fresh_.pop_back();
+        return -1;
       }
-      got = whole < 0 ? whole
-                      : static_cast<std::int64_t>(
-                            std::min(in_page, page->size - std::min(page->size, within)));
-      if (got > 0) {
-        std::memcpy(to + done, page->bytes.get() + within, static_cast<std::size_t>(got));
-      }
+      page->size = static_cast<std::size_t>(whole);
+      const std::size_t there = std::min(in_page, page->size - std::min(page->size, within));
+      std::memcpy(to + done, page->bytes.get() + within, there);
+      got = static_cast<std::int64_t>(there);
     }
     if (got < 0) {
       return -1;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <type_traits>
 
 namespace qel {
@@ -12,6 +13,11 @@ bool is_null([[maybe_unused]] Value value) {
   } else {
     return false;
   }
+}
+
+template <class... Values>
+bool any_is_null(Values... values) {
+  return std::max({false, is_null(values)...});
 }
 
 }  // namespace qel

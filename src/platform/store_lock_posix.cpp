@@ -13,8 +13,9 @@
 namespace qel::platform {
 namespace {
 
+constexpr off_t kLockedByte = off_t{1} << 62U;
+
 struct flock store_lock(short kind) {
-  constexpr off_t kLockedByte = off_t{1} << 62U;
   struct flock lock {};
   lock.l_type = kind;
   lock.l_whence = SEEK_SET;
@@ -31,10 +32,13 @@ Holder holder(int fd, short kind) {
   if (::fcntl(fd, F_OFD_GETLK, &other) != 0) {
     return Holder::unknown;
   }
-  // Traditional locks belong to a process; those of an open file to none.
+  // Traditional locks belong to a process; those of an open file to none. A store locks this byte
+  // alone.
   constexpr pid_t kNoProcess = -1;
+  const bool is_of_store =
+      other.l_pid == kNoProcess && other.l_start == kLockedByte && other.l_len == 1;
   return other.l_type == F_UNLCK     ? Holder::nobody
-         : other.l_pid == kNoProcess ? Holder::store
+         : is_of_store               ? Holder::store
          : other.l_pid == ::getpid() ? Holder::own_lock
                                      : Holder::other_lock;
 }

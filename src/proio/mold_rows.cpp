@@ -70,7 +70,9 @@ bool CPROIO_Manipulator::SetMoldRow(const Row& row, const QELPRO_MMM_MECHANICAL&
 
 bool CPROIO_Manipulator::GetMoldbase(int row, double& first, double& second, double& third,
                                      char*& name) {
-  return GetMoldRow(moldbase::kRow.at(row), scratch().mold_base_name, first, second, third, name);
+  return qel::attempt([&] {
+    return GetMoldRow(moldbase::kRow.at(row), scratch().mold_base_name, first, second, third, name);
+  });
 }
 bool CPROIO_Manipulator::SetMoldbase(int row, double first, double second, double third,
                                      char* name) {
@@ -89,8 +91,10 @@ bool CPROIO_Manipulator::SetMoldbase(int row, const QELPRO_MMM_MECHANICAL& recor
 
 bool CPROIO_Manipulator::GetMoldMetalMaterial(int row, double& first, double& second, double& third,
                                               char*& name) {
-  return GetMoldRow(mold_metal::kRow.at(row), scratch().mold_metal_name, first, second, third,
-                    name);
+  return qel::attempt([&] {
+    return GetMoldRow(mold_metal::kRow.at(row), scratch().mold_metal_name, first, second, third,
+                      name);
+  });
 }
 bool CPROIO_Manipulator::SetMoldMetalMaterial(int row, double first, double second, double third,
                                               char* name) {

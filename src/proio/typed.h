@@ -42,7 +42,7 @@ bool CPROIO_Manipulator::GetGated(const qel::proio::Row& row, Values&... values)
 
 template <class... Values>
 bool CPROIO_Manipulator::Set(const qel::proio::Row& row, Values... values) {
-  if ((qel::is_null(values) || ...)) {
+  if (qel::any_is_null(values...)) {
     return false;
   }
   return qel::attempt([&] {

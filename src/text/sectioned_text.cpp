@@ -144,17 +144,6 @@ const TextSection* SectionedText::find(std::string_view section) const {
                                                                                 : nullptr;
 }
 
-std::optional<TextLine> SectionedText::find(const TextSection& section,
-                                            std::string_view key) const {
-  for (std::size_t index = section.header + 1; index < section.after; ++index) {
-    const TextLine candidate = line(index);
-    if (text::first_token_is(candidate.text, key) && kind_of(candidate) != LineKind::comment) {
-      return candidate;
-    }
-  }
-  return std::nullopt;
-}
-
 std::string_view SectionedText::to_line_break(const TextLine& line) const {
   std::string_view text = std::string_view(contents_).substr(line.begin);
   text = text.substr(0, text.find('\n'));

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,9 +64,6 @@ class SectionedText {
 
   /// The first section of that name, or null.
   [[nodiscard]] const TextSection* find(std::string_view section) const;
-  /// The line that a lookup of the key in the section takes.
-  [[nodiscard]] std::optional<TextLine> find(const TextSection& section,
-                                             std::string_view key) const;
 
  private:
   void split();

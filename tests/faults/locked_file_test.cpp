@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "QELPROEngine/QELPROEngine.h"
+#include "faults/io_calls.h"
 #include "support/scratch.h"
 
 // Stores of several programs into one file: each holds a lock while it reads and writes.
@@ -114,6 +115,26 @@ TEST(LockedFile, IsReadMeanwhile) {
 }
 
 // A traditional lock of the whole file, as a host may hold it around what it does.
+// A lock of the whole file is no store's: nobody is at work whose end a read could wait for.
+TEST(LockedFile, IsReadAtOnceWhereSomebodyHasLockedAllOfIt) {
+  const Scratch scratch;
+  const std::string path = scratch.file(kFile);
+  const int fd = ::open(path.c_str(), O_RDWR);
+  struct flock all {};
+  all.l_type = F_WRLCK;
+  ASSERT_EQ(::fcntl(fd, F_OFD_SETLK, &all), 0);
+  io_calls::fail(0, io_calls::Failure::none);
+  CQELPROReader_Manipulator reader;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  double value = 0;
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(value, 1));
+  EXPECT_EQ(value, 1.5);
+  CPROIO_Manipulator object;
+  EXPECT_TRUE(object.SetFilePath(path.c_str()) && object.GetFillTime(value, 1));
+  EXPECT_LT(io_calls::stop().calls, 30) << "who waits asks again and again";
+  ::close(fd);
+}
+
 TEST(LockedFile, IsStoredIntoByTheHostThatLockedIt) {
   const Scratch scratch;
   const std::string path = scratch.file(kFile);

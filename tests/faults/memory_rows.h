@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <thread>
 #include <type_traits>
 #include <vector>
 
@@ -39,6 +40,8 @@ class Stage {
 
   /// A process file that has a value for every member.
   [[nodiscard]] std::string process_file();
+  /// The call is the first one of its thread.
+  void use_new_thread() { is_on_new_thread_ = true; }
   /// It has no line that begins so, from here on.
   void leave_out(const std::string& beginning) { lacks_ = beginning; }
   /// One that has few.
@@ -53,13 +56,20 @@ class Stage {
   void call(Call call, Tell tell) {
     trial.before = tell();
     trial.old_bytes = bytes();
-    allocations::fail(n_, failure_);
-    try {
-      trial.done = answer_of(call);
-    } catch (...) {
-      trial.threw = true;
+    const auto try_it = [&] {
+      allocations::fail(n_, failure_);
+      try {
+        trial.done = answer_of(call);
+      } catch (...) {
+        trial.threw = true;
+      }
+      trial.memory = allocations::stop();
+    };
+    if (is_on_new_thread_) {
+      std::thread(try_it).join();
+    } else {
+      try_it();
     }
-    trial.memory = allocations::stop();
     trial.outputs = tell();
     trial.bytes = bytes();
     allocations::fail(0, allocations::Failure::none);
@@ -98,6 +108,7 @@ class Stage {
   const Scratch& scratch_;
   int n_;
   allocations::Failure failure_;
+  bool is_on_new_thread_ = false;
   std::string watched_;
   std::string lacks_;
 };

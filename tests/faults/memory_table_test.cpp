@@ -152,6 +152,27 @@ TEST(Memory, MayLackAtAnyAllocationOfAnyMember) {
       count.members, rows.size(), count.failures, count.done_nevertheless, seconds);
 }
 
+// A thread that has no memory for what the engine keeps of it, nor for anything else, calls members
+// of objects that others have made.
+TEST(Memory, MayLackFromAThreadsFirstMemberOn) {
+  const std::vector<Row> rows = memory::all_rows();
+  const std::size_t step = load(std::size_t{5}, std::size_t{1});
+  int failures = 0;
+  for (std::size_t i = 0; i < rows.size(); i += step) {
+    const Row& row = rows[i];
+    SCOPED_TRACE(row.member + (*row.way != '\0' ? std::string(", ") + row.way : ""));
+    const Trial calm = tried(row, 0, Failure::none);
+    const Scratch scratch;
+    Stage stage(scratch, 1, Failure::all_after);
+    stage.use_new_thread();
+    row.run(stage);
+    check_first(row, stage.trial, calm);
+    check_again(row, stage.trial, calm);
+    failures += stage.trial.memory.failed ? 1 : 0;
+  }
+  EXPECT_GT(failures, 100);
+}
+
 // The script that holds the table against what the libraries export asks for the names.
 TEST(Memory, HasRowsForMembersOfEveryClass) {
   std::set<std::string> classes;

@@ -170,9 +170,10 @@ TEST_P(EveryCall, TornIsAFailureAndShortIsNone) {
 TEST_P(EveryCall, InterruptedLeavesNothing) {
   on_both([&] {
     const int count = calls();
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGALRM, SIGPIPE, SIGUSR1, SIGUSR2,
+                             SIGXCPU, SIGVTALRM, SIGPROF}) {
       // One signal at every call; the others, which are treated alike, at some.
-      const int step = signal == SIGTERM ? 1 : 5;
+      const int step = signal == SIGTERM ? 1 : 7;
       for (int number = 1; number <= count; number += step) {
         const Outcome outcome =
             with("SIGNAL", number,

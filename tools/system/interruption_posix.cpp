@@ -9,7 +9,10 @@
 namespace qelpro {
 namespace {
 
-constexpr std::array kEnding = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+// Whoever sends them, and for whatever limit. One that nobody can hold back ends the program at
+// once.
+constexpr std::array kEnding = {SIGINT,  SIGTERM, SIGHUP,  SIGQUIT,   SIGALRM, SIGPIPE,
+                                SIGUSR1, SIGUSR2, SIGXCPU, SIGVTALRM, SIGPROF};
 
 }  // namespace
 

@@ -312,6 +312,44 @@ TEST_F(Indexed, TakesWhatItLearntOfAnEarlierFileAsItIs) {
   EXPECT_EQ(find({"[A]", "y"}), "x = 2");
 }
 
+// The offset at which an earlier file's last line began lies in the middle of a line here: what
+// begins there is found again as it was.
+TEST_F(Indexed, FindsAgainAHeaderThatItMetInTheMiddleOfALine) {
+  file.bytes = "[A]\nkey = 1\n";
+  EXPECT_EQ(find({"[A]", "key"}), "key = 1");
+  index.begin_file();
+  file.bytes = "#012[B]\nx = 5\ny = 6\n";
+  for (const char* key : {"x", "y", "x", "y"}) {
+    EXPECT_EQ(find({"[B]", key}), std::string(key) + (*key == 'x' ? " = 5" : " = 6"));
+  }
+}
+
+// A line that begins where the known one did no more is not it, nor is the one after it.
+TEST_F(Indexed, LooksFromTheTopWhereAKnownLineNoLongerBegins) {
+  file.bytes = "[A]\n####\na = 1\nx = 2\nx = 3\n";
+  EXPECT_EQ(find({"[A]", "x"}), "x = 2");
+  file.bytes = "[A]\nx=9 \na = 1#x = 2\nx = 3\n";
+  EXPECT_EQ(find({"[A]", "x"}), "x=9 ");
+}
+
+TEST_F(Indexed, TakesAKnownLineAtAGlance) {
+  struct : MemoryFile {
+    std::int64_t read_some(std::int64_t offset, char* to, std::size_t count) override {
+      ++glances;
+      return read_at(offset, to, count);
+    }
+    int glances = 0;
+  } glanced;
+  glanced.bytes = "\n[A]\na = 1\nb = 2\n";
+  LookupRoom room;
+  find_indexed(glanced, {"[A]", "b"}, index, room);
+  glanced.reads = glanced.glances = 0;
+  find_indexed(glanced, {"[A]", "a"}, index, room);
+  find_indexed(glanced, {"[A]", "b"}, index, room);
+  EXPECT_EQ(glanced.glances, 2);
+  EXPECT_EQ(glanced.reads, 2) << "and nothing else is read";
+}
+
 TEST_F(Indexed, FindsAgainWhatAPieceOfALongLineHolds) {
   file.bytes = "[A]\n" + std::string(qel::text::kLongestLine, 'w') + "x = 1\ny = 2\n";
   EXPECT_EQ(find({"[A]", "x"}), "x = 1");

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "platform/steady_read.h"
 
@@ -19,6 +20,7 @@ class AskedFile final : public qel::platform::RandomAccess {
   std::int64_t size() override { return static_cast<std::int64_t>(bytes.size()); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override {
     const auto at = std::min(static_cast<std::size_t>(offset), bytes.size());
+    longest = std::max(longest, count);
     return fails ? -1 : static_cast<std::int64_t>(bytes.copy(to, count, at));
   }
   bool write_at(std::int64_t, const char*, std::size_t) override { return false; }
@@ -43,6 +45,7 @@ class AskedFile final : public qel::platform::RandomAccess {
   bool settled = true;
   bool is_stored_into = false;
   bool fails = false;
+  std::size_t longest = 0;  // of what was asked for
   int begun = 0;
   int ended = 0;
   int locked = 0;
@@ -163,6 +166,53 @@ TEST_F(Steady, KeepsNothingOfAReadThatFailed) {
   asked_.fails = false;
   asked_.bytes[5] = '#';
   EXPECT_EQ(read(0, 256), asked_.bytes.substr(0, 256));
+}
+
+TEST_F(Steady, KeepsNothingOfAnotherFile) {
+  asked_.bytes = many_lines();
+  read(0, 256);
+  file_.forget();
+  asked_.is_stored_into = true;
+  EXPECT_FALSE(file_.begins_read());
+}
+
+TEST_F(Steady, AsksOnceForASingleByteAndForTheLastOnesOfAPage) {
+  asked_.bytes = many_lines();
+  for (const auto& [offset, count] : {std::pair(5000, std::size_t{1}), {8000, 192}, {8191, 1}}) {
+    read(offset, count);
+    const int ended = asked_.ended;
+    asked_.longest = 0;
+    EXPECT_EQ(read(offset, count), asked_.bytes.substr(static_cast<std::size_t>(offset), count));
+    EXPECT_EQ(asked_.longest, count) << "no more is read than is asked for";
+    EXPECT_EQ(asked_.ended, ended);
+  }
+}
+
+// What is not as it was is asked about, although nothing is read that was not known.
+TEST_F(Steady, AsksAboutBytesThatAreNotAsTheyWere) {
+  asked_.bytes = many_lines();
+  read(0, 256);
+  asked_.bytes[5] = '#';
+  file_.begins_read();
+  char byte = '?';
+  file_.read_at(5, &byte, 1);
+  EXPECT_EQ(byte, '#');
+  asked_.end = ReadEnd::outdated;
+  EXPECT_EQ(file_.ends_read(), ReadEnd::outdated);
+}
+
+// Up to so many pages are kept; a read may go on behind them.
+TEST_F(Steady, KeepsAsManyPagesAsThereIsRoomFor) {
+  constexpr std::size_t kKept = std::size_t{4} << 20U;
+  asked_.bytes.assign(kKept - 5, 'x');
+  asked_.bytes += "0123456789";
+  const auto end = static_cast<std::int64_t>(kKept);
+  EXPECT_EQ(read(end - 8, 3), "xxx");
+  EXPECT_EQ(read(end - 8, 3), "xxx");
+  EXPECT_EQ(asked_.ended, 1);
+  EXPECT_EQ(read(end - 8, 12), "xxx012345678");
+  EXPECT_EQ(read(end - 8, 12), "xxx012345678");
+  EXPECT_EQ(asked_.ended, 3) << "what stands behind them is always new";
 }
 
 // What stands so far behind is read, and asked for each time.
