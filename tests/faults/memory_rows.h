@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <optional>
 #include <string>
 #include <thread>
@@ -32,6 +33,37 @@ struct Trial {
   int left = 0;  // blocks that are not freed when the objects are gone
 };
 
+/// Threads that each do something first, and then stay: what the engine keeps of one that ended
+/// would be the next one's.
+class StayingThreads {
+ public:
+  StayingThreads() = default;
+  StayingThreads(const StayingThreads&) = delete;
+  StayingThreads& operator=(const StayingThreads&) = delete;
+  ~StayingThreads() {
+    end_.set_value();
+    for (std::thread& thread : threads_) {
+      thread.join();
+    }
+  }
+  /// Waits until it is done.
+  template <class Work>
+  void run(Work work) {
+    std::promise<void> done;
+    threads_.emplace_back([&work, &done, ended = ended_] {
+      work();
+      done.set_value();
+      ended.wait();
+    });
+    done.get_future().wait();
+  }
+
+ private:
+  std::promise<void> end_;
+  std::shared_future<void> ended_ = end_.get_future().share();
+  std::vector<std::thread> threads_;
+};
+
 /// Where a row's objects are made and its call is tried.
 class Stage {
  public:
@@ -41,7 +73,7 @@ class Stage {
   /// A process file that has a value for every member.
   [[nodiscard]] std::string process_file();
   /// The call is the first one of its thread.
-  void use_new_thread() { is_on_new_thread_ = true; }
+  void use_new_thread(StayingThreads& threads) { new_threads_ = &threads; }
   /// It has no line that begins so, from here on.
   void leave_out(const std::string& beginning) { lacks_ = beginning; }
   /// One that has few.
@@ -56,7 +88,7 @@ class Stage {
   void call(Call call, Tell tell) {
     trial.before = tell();
     trial.old_bytes = bytes();
-    const auto try_it = [&] {
+    without_memory([&] {
       allocations::fail(n_, failure_);
       try {
         trial.done = answer_of(call);
@@ -64,12 +96,7 @@ class Stage {
         trial.threw = true;
       }
       trial.memory = allocations::stop();
-    };
-    if (is_on_new_thread_) {
-      std::thread(try_it).join();
-    } else {
-      try_it();
-    }
+    });
     trial.outputs = tell();
     trial.bytes = bytes();
     allocations::fail(0, allocations::Failure::none);
@@ -83,6 +110,15 @@ class Stage {
     this->call(call, [] { return std::string(); });
   }
 
+  /// Where the call without memory is made: on this thread, or as the first one of another.
+  template <class Work>
+  void without_memory(Work work) {
+    if (new_threads_ != nullptr) {
+      new_threads_->run(work);
+    } else {
+      work();
+    }
+  }
   /// What `call` does, where the call itself has to say when it begins and ends.
   [[nodiscard]] int n() const { return n_; }
   [[nodiscard]] allocations::Failure failure() const { return failure_; }
@@ -108,7 +144,7 @@ class Stage {
   const Scratch& scratch_;
   int n_;
   allocations::Failure failure_;
-  bool is_on_new_thread_ = false;
+  StayingThreads* new_threads_ = nullptr;
   std::string watched_;
   std::string lacks_;
 };

@@ -37,7 +37,8 @@ void try_call(Stage& stage, const EveryCall<Object>& call, Object& object) {
   trial.old_bytes = stage.bytes();
   planned_n = stage.n();
   planned = stage.failure();
-  const Answer first = call.make(object, kAround);
+  Answer first;
+  stage.without_memory([&] { first = call.make(object, kAround); });
   trial.memory = outcome;
   trial.threw = first.threw;
   trial.done = first.done;
