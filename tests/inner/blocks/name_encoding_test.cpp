@@ -1,4 +1,6 @@
 #include "blocks/name_encoding.h"
+#include "blocks/compound_encoding.h"
+#include "blocks/positional_encoding.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,44 @@ TEST(ContactAngleEncoding, IsANameBetweenTheFirstTwoQuotesAndANumberBehind) {
   EXPECT_TRUE(qel::ContactAngle::scan("\"\" 7", name, angle));
   EXPECT_EQ(name, "");
   EXPECT_EQ(angle, 7);
+  EXPECT_TRUE(qel::ContactAngle::scan("\"Steel\"15", name, angle));
+  EXPECT_EQ(angle, 15) << "right behind the quote";
+}
+
+// Up to three words the name is one; of more, all between the first and the last.
+TEST(PositionalHeaderEncoding, HasANameOfAllWordsBetweenItsNumbers) {
+  struct {
+    const char* text;
+    const char* name;
+    int second;
+  } const lines[] = {{"1 Top 2", "Top", 2},
+                     {"1 Top side 2", "Top side", 2},
+                     {" 1\tTop  left side\t2\n", "Top  left side", 2},
+                     {"1 Top", "Top", 0},
+                     {"1", "", 0}};
+  for (const auto& line : lines) {
+    int first = -7;
+    int second = -7;
+    char* name = nullptr;
+    qel::PositionalHeader::scan(line.text, first, name, second);
+    EXPECT_EQ(first, 1) << line.text;
+    EXPECT_STREQ(name, line.name) << line.text;
+    EXPECT_EQ(second, line.second) << line.text;
+  }
+}
+
+TEST(ZoneCountEncoding, AddsWhatItCanReadOfBothNumbers) {
+  const auto count_in = [](const char* text) {
+    int count = -7;
+    qel::ZoneCount::scan(text, count);
+    return count;
+  };
+  EXPECT_EQ(count_in("2+3"), 5);
+  EXPECT_EQ(count_in("2 + 3"), 2) << "one character stands between them";
+  EXPECT_EQ(count_in("2+x"), 2);
+  EXPECT_EQ(count_in("x+3"), 0);
+  EXPECT_EQ(count_in("4"), 4);
+  EXPECT_EQ(count_in("x"), -7);
 }
 
 }  // namespace
