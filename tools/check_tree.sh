@@ -51,6 +51,7 @@ if found=$(git grep -nE '#include "((text|core|blocks|process|platform)/|api/[a-
 fi
 
 tools/draw_rooms.sh --check || failed=1
+tools/figures.py check || failed=1
 
 # No path of a machine.
 if found=$(git grep -nIE '(^|[^[:alnum:]_.])/(home|root|Users)/' -- . ':!tools/check_tree.sh'); then

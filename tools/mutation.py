@@ -3,6 +3,8 @@
 
 usage: mutation.py BUILD_FOLDER SOURCE_OR_FOLDER ... [--every N] [--again REPORT] [--jobs N] [--list]
 
+tools/mutants_without_effect.txt lists changes that nothing can see, each with its reason: they are counted by themselves.
+
 The build folder holds a debug build with tests. Each mutant is compiled and linked beside the build, whose own files stay as
 they are; it counts as killed when a test fails, crashes, or does not end.
 """
@@ -155,6 +157,22 @@ def is_listed(report, source, line, old, new):
     return False
 
 
+def without_effect():
+    """The changes that nothing can see: file, line as it stands, change."""
+    listed = set()
+    for entry in (pathlib.Path(__file__).parent / "mutants_without_effect.txt").read_text().splitlines():
+        if entry and not entry.startswith("#"):
+            name, line, change, reason = (part.strip() for part in entry.split(" @ "))
+            assert reason, entry
+            listed.add((name, line, change))
+    return listed
+
+
+def as_listed(source, line, old, new):
+    stripped = source.read_text().splitlines()[line - 1].strip()
+    return source.name, stripped, " ".join(f"{old.strip()} -> {new.strip()}".split())
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("build", type=pathlib.Path)
@@ -181,15 +199,19 @@ def main():
     for source in sources:
         if build.verdict(source, source.read_text()) != "survived":
             sys.exit(f"{source.name} fails its tests as it is")
-    counts = {"killed": 0, "survived": 0, "invalid": 0}
+    counts = {"killed": 0, "survived": 0, "invalid": 0, "listed": 0}
+    listed = without_effect()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         verdicts = pool.map(lambda mutant: build.verdict(mutant[0], mutant[4]), mutants)
         for (source, line, old, new, _), verdict in zip(mutants, verdicts):
+            if verdict == "survived" and as_listed(source, line, old, new) in listed:
+                verdict = "listed"
             counts[verdict] += 1
             if verdict == "survived":
                 print(f"{source.name}:{line}: survived: {old.strip()} -> {new.strip()}", flush=True)
     valid = counts["killed"] + counts["survived"]
-    print(f"{counts['killed']} of {valid} mutants killed ({100 * counts['killed'] / max(valid, 1):.1f} %); {counts['invalid']} did not compile")
+    print(f"{counts['killed']} of {valid} mutants killed ({100 * counts['killed'] / max(valid, 1):.1f} %); "
+          f"{counts['listed']} more have no effect, {counts['invalid']} do not compile")
     return 0 if counts["survived"] == 0 else 1
 
 

@@ -63,8 +63,8 @@ TEST(Load, OfALargeFileIsReadWithoutHoldingItAndStoredIntoWithoutLosingAByte) {
   contents.replace(contents.find(old_line), old_line.size(),
                    "[Flow-2]\nFillTime             = 2.03125\n");
   EXPECT_TRUE(bytes_of(path) == contents);
-  std::cout << contents.size() / kMiB << " MiB; " << before / kMiB << " MiB held before, "
-            << after / kMiB << " MiB at most\n";
+  std::cout << "[ measured ] " << contents.size() / kMiB << " MiB; " << before / kMiB
+            << " MiB held before, " << after / kMiB << " MiB at most\n";
 }
 
 TEST(Load, OfASectionOfVeryManyLinesIsReadInFull) {
@@ -135,7 +135,7 @@ TEST(Load, OfFourThousandInletsIsLoadedInFull) {
                  : 1;
   }
   EXPECT_EQ(wrong, 0);
-  std::cout << std::filesystem::file_size(path) << " bytes; the process holds "
+  std::cout << "[ measured ] " << std::filesystem::file_size(path) << " bytes; the process holds "
             << (resident_bytes() - before) / kMiB << " MiB\n";
 }
 

@@ -62,7 +62,7 @@ TEST(Load, OfManyStoresIntoOneFileLeavesItAsLongAsItsLongestContents) {
     EXPECT_EQ(x, as_written(value_of(number - 1, key)));
     EXPECT_EQ(y, key);
   }
-  std::cout << number * kKeys << " stores into a file of " << size << " bytes; "
+  std::cout << "[ measured ] " << number * kKeys << " stores into a file of " << size << " bytes; "
             << resident_bytes() / kMiB << " MiB\n";
 }
 
