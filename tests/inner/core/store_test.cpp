@@ -489,4 +489,19 @@ TEST(Store, ReportsAnAbsentKeyWhereItMayNotInsert) {
   EXPECT_EQ(Store(file).set({{"[B]", "y"}, "2"}, false), Result::done);
 }
 
+// Wherever the line stands: what moves up leaves blanks behind, and nothing else.
+TEST(Store, NeitherShortensNorLengthensAFileOfManyPagesForAShorterValue) {
+  std::string contents = "[A]\n";
+  for (int key = 100; key < 500; ++key) {
+    contents += "K" + std::to_string(key) + "                 = 0123456789\n";
+  }
+  for (const char* key : {"K101", "K230", "K350", "K498"}) {
+    const std::string line = key + std::string("                 = 0123456789\n");
+    std::string expected = contents;
+    expected.replace(expected.find(line), line.size(), key + std::string("                 = 5\n"));
+    expected.append(9, ' ');
+    EXPECT_EQ(after_set(contents, "[A]", key, "5"), expected) << key;
+  }
+}
+
 }  // namespace
