@@ -51,6 +51,16 @@ const std::string kRest = "[Pack-1]\nPackTime = 3\n" + std::string(6000, 'y') + 
 const std::string kFile =
     "[FileHeader]\nName = a.pro\n[Flow-1]\nFillTime = 1.5\nFR-1 = 0 10\n" + kRest;
 
+// Of several pages, in which a change goes on over their ends.
+std::string pages() {
+  std::string text = "[FileHeader]\nName = a.pro\n[Flow-1]\nFillTime             = 1.5\n[Pack-1]\n";
+  for (int key = 100; key < 500; ++key) {
+    text += "K" + std::to_string(key) + "                 = 0123456789\n";
+  }
+  return text;
+}
+const std::string kPages = pages();
+
 const std::string kStamped = "[FileHeader]\nDate           = 2001/01/01 00:00:00\n" + kFile;
 const std::string kConditions =
     "[FileHeader]\nDate           = 2001/01/01 00:00:00\n[Summary]\nTotalNodeBC = 2\n"
@@ -95,6 +105,12 @@ const std::vector<StoreCase>& document_stores() {
       StoreCase{"Formatted", kFile, written([](auto& w) {
                   return w.WriteItems("[Flow-1]", "FillTime", "%d %s", 7, "of a text");
                 })},
+      StoreCase{"LongerOverPages", kPages,
+                written([](auto& w) { return w.FlowX_WriteFillingTime(2.03125, 1); })},
+      StoreCase{"ShorterOverPages", kPages,
+                written([](auto& w) { return w.FlowX_WriteFillingTime(2, 1); })},
+      StoreCase{"NewKeyOverPages", kPages,
+                written([](auto& w) { return w.FlowX_WriteMeltTemperature(230, 1); })},
       StoreCase{"WidePath", kFile,
                 by_wide_path([](auto& w) { return w.FlowX_WriteFillingTime(2.125, 1); })},
   };
@@ -108,6 +124,8 @@ const std::vector<StoreCase>& stream_stores() {
       StoreCase{"Longer", kFile, through_a_stream([](auto& w) {
                   return w.WriteString("[Flow-1]", "FillTime", std::string(3000, 'v').c_str());
                 })},
+      StoreCase{"LongerOverPages", kPages,
+                through_a_stream([](auto& w) { return w.FlowX_WriteFillingTime(2.03125, 1); })},
       StoreCase{"NewSection", kFile,
                 through_a_stream([](auto& w) { return w.Cool_WriteCoolTime(20); })},
   };
