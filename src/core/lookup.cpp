@@ -38,7 +38,8 @@ struct IndexedTarget {
 // Enters a line that was passed into the index, once.
 void learn(const IndexedTarget& at, const Target& target, const Line& line,
            std::string_view token) {
-  if (token.empty() || line.start <= at.section.passed.place().offset) {
+  if (token.empty() ||
+      (at.section.passed.is_set() && line.start <= at.section.passed.place().offset)) {
     return;
   }
   const LineMark mark = at.index.mark(line, token);

@@ -23,6 +23,7 @@ class LineMark {
   LineMark() = default;
   LineMark(const Line& line, std::string_view first_token, std::uint32_t file);
 
+  [[nodiscard]] bool is_set() const { return place_.file != 0; }
   [[nodiscard]] const SeenAt& place() const { return place_; }
 
   /// Whether a line begins with the first token that the marked one had, as far as the mark

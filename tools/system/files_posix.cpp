@@ -135,7 +135,8 @@ class SignalsWait {
   SignalsWait() {
     sigset_t ending;
     sigemptyset(&ending);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGALRM, SIGPIPE, SIGUSR1, SIGUSR2,
+                             SIGXCPU, SIGVTALRM, SIGPROF}) {
       sigaddset(&ending, signal);
     }
     ::sigprocmask(SIG_BLOCK, &ending, &before_);

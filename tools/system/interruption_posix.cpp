@@ -9,10 +9,7 @@
 namespace qelpro {
 namespace {
 
-// Whoever sends them, and for whatever limit. One that nobody can hold back ends the program at
-// once.
-constexpr std::array kEnding = {SIGINT,  SIGTERM, SIGHUP,  SIGQUIT,   SIGALRM, SIGPIPE,
-                                SIGUSR1, SIGUSR2, SIGXCPU, SIGVTALRM, SIGPROF};
+constexpr std::array kEnding = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
 }  // namespace
 
