@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "faults/late/members.h"
 
@@ -231,15 +232,20 @@ void first_uses(const char* plug_in, char* path) {
   std::printf("%zu threads that began before the library was loaded\n", most);
 }
 
-// Threads that start and end, one after the other, and some at once.
+// Threads that start and end, one after the other, and some at once: each with an object of its
+// own.
 void many_threads() {
+  int own_object = 0;
+  while (std::strcmp(library.name(own_object), "open a file") != 0) {
+    ++own_object;
+  }
   constexpr int kThreads = 10000;
   constexpr int kAtOnce = 8;
   static Trial few[kAtOnce];
   std::size_t before = 0;
   for (int thread = 0; thread < kThreads; thread += kAtOnce) {
     for (Trial& trial : few) {
-      trial = {{}, {}, 0, Shortage::none, 0, false, 0, 0};
+      trial = {{}, {}, own_object, Shortage::none, 0, false, 0, 0};
       start(trial);
     }
     for (Trial& trial : few) {
