@@ -2,12 +2,15 @@
 // walk over the lines with memchr, close. "limits" is the ratio of the two, both taken in this run.
 // A store is set beside a store's own limit, too: open, a scan of what stands before the line, one
 // write of the line and all after it, close. That ratio is "store_limits"; beside the same calls
-// without a look at the bytes that were read it is "store_calls".
+// without a look at the bytes that were read it is "store_calls", and "store_safe_calls" beside
+// those and the three that a store makes to be safe: a look at what stands under the path, a lock
+// between programs, a look at what was opened.
 
 #include <QELG/QELG.h>
 #include <QELPROEngine/QELPROEngine.h>
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -64,10 +67,27 @@ std::size_t walk_once(const char* path, std::vector<char>& buffer) {
   return lines;
 }
 
-void store_once(const char* path, std::vector<char>& buffer, std::size_t line, bool scans) {
+enum class Kind { calls, calls_and_scan, safe_calls };
+
+void store_once(const char* path, std::vector<char>& buffer, std::size_t line, Kind kind) {
+  struct statx found {};
+  if (kind == Kind::safe_calls && ::statx(AT_FDCWD, path, 0, STATX_TYPE, &found) != 0) {
+    std::abort();
+  }
   const int file = ::open(path, O_RDWR | O_CLOEXEC);
+  if (kind == Kind::safe_calls) {
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = off_t{1} << 62U;
+    lock.l_len = 1;
+    if (::fcntl(file, F_OFD_SETLK, &lock) != 0 ||
+        ::statx(file, "", AT_EMPTY_PATH, STATX_SIZE, &found) != 0) {
+      std::abort();
+    }
+  }
   const ssize_t before = ::pread(file, buffer.data(), line, 0);
-  if (scans) {
+  if (kind == Kind::calls_and_scan) {
     benchmark::DoNotOptimize(count_lines(buffer.data(), before));
   }
   const ssize_t after =
@@ -95,12 +115,12 @@ double limit_in_seconds(const GeneratedFile& file) {
 }
 
 // Of a store in the section.
-double store_limit_in_seconds(int inlets, const std::string& section, bool scans) {
+double store_limit_in_seconds(int inlets, const std::string& section, Kind kind) {
   const GeneratedFile file(inlets);
   const std::string contents = generated_file(inlets);
   std::vector<char> buffer(contents.begin(), contents.end());
   const std::size_t line = contents.find("\nPackTime", contents.find(section)) + 1;
-  return median_in_seconds([&] { store_once(file.path(), buffer, line, scans); });
+  return median_in_seconds([&] { store_once(file.path(), buffer, line, kind); });
 }
 
 // Runs the work and reports its time as a multiple of the limit.
@@ -218,8 +238,12 @@ void store(benchmark::State& state, double first, double second) {
   });
   const double seconds = state.counters["limits"] * limit_in_seconds(GeneratedFile(inlets));
   const std::string section = "[Pack-" + std::to_string(middle) + "]";
-  state.counters["store_limits"] = seconds / store_limit_in_seconds(inlets, section, true);
-  state.counters["store_calls"] = seconds / store_limit_in_seconds(inlets, section, false);
+  const auto beside = [&](Kind kind) {
+    return seconds / store_limit_in_seconds(inlets, section, kind);
+  };
+  state.counters["store_limits"] = beside(Kind::calls_and_scan);
+  state.counters["store_calls"] = beside(Kind::calls);
+  state.counters["store_safe_calls"] = beside(Kind::safe_calls);
 }
 
 void store_of_the_same_length(benchmark::State& state) { store(state, 1.25, 5.25); }

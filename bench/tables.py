@@ -22,6 +22,7 @@ WORKS = [
     ("the same through a reader that is open", "raw_read_of_an_open_reader", "limits", "read"),
     ("a store of the same length in the middle", "store_of_the_same_length", "store_limits", "store"),
     ("the same beside the bare calls alone", "store_of_the_same_length", "store_calls", "a store's calls"),
+    ("the same beside those and three that make it safe", "store_of_the_same_length", "store_safe_calls", "safe calls"),
     ("a store three bytes longer, then shorter", "store_three_bytes_longer_and_shorter", "store_limits", "store"),
     ("the same beside the bare calls alone", "store_three_bytes_longer_and_shorter", "store_calls", "a store's calls"),
     ("the loader", "loader", "limits", "read"),
