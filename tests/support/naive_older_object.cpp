@@ -18,6 +18,12 @@ std::string leading_word(const std::string& line) {
   return line.substr(0, line.find_first_of("\t\n ="));
 }
 
+// What cannot be read counts nothing; a negative number counts as it is.
+int count_in(const std::string& text) {
+  int number = 0;
+  return std::sscanf(text.c_str(), "%d", &number) == 1 ? number : 0;
+}
+
 }  // namespace
 
 std::string entry(const std::string& key, const std::string& value) {
@@ -76,13 +82,12 @@ std::optional<std::string> NaiveOlderObject::line(std::int64_t position) const {
 
 std::int64_t NaiveOlderObject::line_of_point(int condition, int point, bool& named) const {
   named = after_header("[SURFACE", false).has_value();
-  std::int64_t position =
-      std::max(leading_number(get("[Summary]", "TotalNodeBC").value_or("0")), 0);
+  std::int64_t position = count_in(get("[Summary]", "TotalNodeBC").value_or("0"));
   position += point;
   for (int k = 1; k < condition; ++k) {
     const auto name = line(k);
     named = named && name;
-    position += name ? std::max(leading_number(*name), 0) : 0;
+    position += name ? count_in(*name) : 0;
   }
   return position;
 }

@@ -57,6 +57,9 @@ inline std::string step_beside(NaiveOlderObject& model, CPROIO_Manipulator& obje
       const int point = 1 + pick(3);
       bool named = false;
       const auto line = model.line_of_point(condition, point, named);
+      if (line < 1) {
+        return object.SetBCProfile(condition, point, 3, 4) ? "SetBCProfile" : "";
+      }
       model.set_line(line, std::to_string(point) + " = 3\t4");
       return object.SetBCProfile(condition, point, 3, 4) ? "" : "SetBCProfile";
     }
@@ -64,7 +67,8 @@ inline std::string step_beside(NaiveOlderObject& model, CPROIO_Manipulator& obje
       const int condition = 1 + pick(2);
       const int point = 1 + pick(3);
       bool named = false;
-      const auto expected = model.line(model.line_of_point(condition, point, named));
+      const auto line = model.line_of_point(condition, point, named);
+      const auto expected = line < 1 ? std::nullopt : model.line(line);
       double x = -1;
       double y = -1;
       const bool done = object.GetBCProfile(condition, point, x, y);
