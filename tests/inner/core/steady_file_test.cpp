@@ -201,6 +201,17 @@ TEST_F(Steady, AsksAboutBytesThatAreNotAsTheyWere) {
   EXPECT_EQ(file_.ends_read(), ReadEnd::outdated);
 }
 
+TEST_F(Steady, KeepsBytesAnewThatAreNotAsTheyWere) {
+  asked_.bytes = many_lines();
+  read(0, 256);
+  asked_.bytes[5] = '#';
+  read(0, 256);
+  read(0, 256);
+  const int ended = asked_.ended;
+  EXPECT_EQ(read(0, 256), asked_.bytes.substr(0, 256));
+  EXPECT_EQ(asked_.ended, ended) << "they are known again";
+}
+
 // Up to so many pages are kept; a read may go on behind them.
 TEST_F(Steady, KeepsAsManyPagesAsThereIsRoomFor) {
   constexpr std::size_t kKept = std::size_t{4} << 20U;
