@@ -251,7 +251,11 @@ std::optional<Line> IndexedLookup::find_in_known(const IndexedTarget& indexed) {
   Section& section = indexed.section;
   const bool has_passed = is_present(section.passed.place().file);
   if (has_passed && target_.by_key()) {
-    return find_after_passed(indexed);  // what stands before is known
+    const std::optional<Line> found = find_after_passed(indexed);
+    if (found || changed_ || room_.failed()) {
+      return found;
+    }
+    // Somebody may have put the key into the place of another one before.
   }
   const Place header = section.header;
   Line line;

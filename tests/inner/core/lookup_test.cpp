@@ -289,6 +289,15 @@ TEST_F(Indexed, FindsAKeyAfterTheLinesItLearntWhereThoseMoved) {
   EXPECT_EQ(find({"[B]", "c"}), "c = 5");
 }
 
+// Every line begins where it did, and the one that was passed last is as it was.
+TEST_F(Indexed, FindsAKeyInThePlaceOfOneThatItPassed) {
+  file.bytes = "\n[A]\na = 1\nb = 2\nc = 3\nd = 4\n";
+  EXPECT_EQ(find({"[A]", "c"}), "c = 3");
+  file.bytes = "\n[A]\na = 1\nx = 5\nc = 3\nd = 4\n";
+  EXPECT_EQ(find({"[A]", "x"}), "x = 5");
+  EXPECT_EQ(find({"[A]", "b"}), kNothing);
+}
+
 TEST_F(Indexed, FindsASectionWhoseHeaderMoved) {
   file.bytes = "[A]\na = 1\n[B]\nb = 2\n";
   EXPECT_EQ(find({"[B]", "b"}), "b = 2");
