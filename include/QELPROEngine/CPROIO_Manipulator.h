@@ -131,8 +131,8 @@ class QELPROENGINE_API CPROIO_Manipulator {
 
   /// Writes the default document: headers, counts, units and the filling stage of one inlet, with a
   /// "FileVersion" of 1008. Entries that exist are replaced, the others are added, and all else in
-  /// the file stays. Where the file does not take an entry, those after it are left. False where
-  /// memory is missing, or a time stamp does not go in.
+  /// the file stays. Where the file does not take an entry, those after it are left, which is not
+  /// told. False where memory is missing alone.
   bool SetDefault();
 
   // [FileHeader]: what the file is, who wrote it and when.
