@@ -55,11 +55,10 @@ std::size_t PageLayout::line_from(std::size_t offset) const {
 bool PageLayout::old_line_begins_at(std::size_t boundary) const {
   const auto old_end =
       static_cast<std::size_t>(static_cast<std::ptrdiff_t>(moved_.end) - moved_.shift);
-  if (boundary > moved_.begin && boundary < old_end) {
-    return false;
+  if (boundary < old_end) {
+    return false;  // within the lines that change
   }
-  const auto now = static_cast<std::size_t>(static_cast<std::ptrdiff_t>(boundary) +
-                                            (boundary < old_end ? 0 : moved_.shift));
+  const auto now = static_cast<std::size_t>(static_cast<std::ptrdiff_t>(boundary) + moved_.shift);
   return now > 0 && now <= text_.size() && text_[now - 1] == '\n';
 }
 
@@ -74,7 +73,7 @@ bool PageLayout::hides_next(std::size_t boundary) const {
 // Where the lines end that the page in front of the boundary has in between.
 std::size_t PageLayout::end_of_lines(std::size_t boundary) const {
   std::size_t end = line_from(boundary);
-  if (moved_.replaces && moved_.begin + kPageSize >= boundary) {
+  if (moved_.replaces && boundary == kPageSize) {
     end = std::max(end, moved_.end);
   }
   if (moved_.shift > 0) {
@@ -113,33 +112,52 @@ void PageLayout::look_for_headers(std::size_t boundary) {
   }
 }
 
+// The whole line of the new contents that begins at an offset in front of the first page.
+std::string PageLayout::line_before(std::size_t begin) const {
+  std::string line(line_at(moved_.before, begin));
+  return line.back() == '\n' ? line : line.append(line_at(text_, 0));
+}
+
 // Whether the boundary lies in a section whose lines are known by their positions.
 bool PageLayout::parts_positions(std::size_t boundary) const {
-  const auto begins_positional = [](std::string_view text, std::size_t at) {
-    const std::string_view first = text::first_token(text::kPositionalHeader);
-    return text.substr(at, first.size()) == first;
+  const auto is_header = [](std::string_view line) { return text::is_header(without_break(line)); };
+  const auto is_positional = [](std::string_view line) {
+    return text::first_token_is(line, text::first_token(text::kPositionalHeader));
   };
-  for (const auto& [text, from] :
-       {std::pair(text_, line_from(boundary)), std::pair(moved_.before, moved_.before.size())}) {
-    for (std::size_t at = from; at > 0;) {
-      at = text.rfind('[', at - 1);
-      if (at == std::string_view::npos) {
-        break;
-      }
-      const bool begins_line = at > 0 ? text[at - 1] == '\n' : text.data() != text_.data();
-      if (begins_line && text::is_header(without_break(line_at(text, at)))) {
-        return begins_positional(text, at);
+  for (std::size_t at = line_from(boundary); at > 0;) {
+    at = text_.rfind('[', at - 1);
+    if (at == std::string_view::npos) {
+      break;
+    }
+    if (line_from(at) == at && is_header(line_at(text_, at))) {
+      return is_positional(line_at(text_, at));
+    }
+  }
+  for (std::size_t at = moved_.before.size(); at > 0;) {
+    at = moved_.before.rfind('[', at - 1);
+    if (at == std::string_view::npos) {
+      break;
+    }
+    if (at == 0 || moved_.before[at - 1] == '\n') {
+      const std::string line = line_before(at);
+      if (is_header(line)) {
+        return is_positional(line);
       }
     }
   }
   return false;
 }
 
+// Where the last page's lines end: blanks behind them need no room.
+std::size_t PageLayout::end_before_padding(std::size_t first_line) const {
+  return std::max(text_.find_last_not_of(' ') + 1, first_line);
+}
+
 // The page that begins at an offset; false where its lines do not fit.
 bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end) const {
   const bool is_last = end == text_.size();
   const std::size_t first_line = line_from(begin);
-  const std::size_t lines_end = is_last ? text_.size() : end_of_lines(end);
+  const std::size_t lines_end = is_last ? end_before_padding(first_line) : end_of_lines(end);
   if (first_line > end || (!is_last && parts_positions(end))) {
     return false;
   }

@@ -11,7 +11,7 @@ namespace qel {
 struct MovedText {
   std::string_view before;  ///< The contents in front of that page.
   std::string_view text;    ///< The new contents from there on.
-  std::size_t begin;        ///< Of the lines that changed, in `text`.
+  std::size_t begin;        ///< Of the lines that changed, in the first page of `text`.
   std::size_t end;          ///< Where the lines begin that only move.
   std::ptrdiff_t shift;     ///< How far they move.
   bool replaces;            ///< Whether there were lines in the place of those that changed.
@@ -39,8 +39,10 @@ class PageLayout {
   [[nodiscard]] bool old_line_begins_at(std::size_t boundary) const;
   [[nodiscard]] bool hides_next(std::size_t boundary) const;
   [[nodiscard]] std::size_t end_of_lines(std::size_t boundary) const;
+  [[nodiscard]] std::string line_before(std::size_t begin) const;
   [[nodiscard]] bool parts_positions(std::size_t boundary) const;
   void look_for_headers(std::size_t boundary);
+  [[nodiscard]] std::size_t end_before_padding(std::size_t first_line) const;
   [[nodiscard]] bool put_page(std::string& text, std::size_t begin, std::size_t end) const;
 
   MovedText moved_;

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -65,30 +66,34 @@ using Values = std::map<std::string, std::string>;
 // go on behind it.
 Values values_in(const std::string& bytes) {
   Values values;
-  std::map<std::string, Values> going_on;
+  std::vector<std::pair<std::string, std::string>> found;  // every header, with "", and every entry
+  std::set<std::string> headers;
   std::string section;
   LineScanner lines(bytes);
   for (Line line; lines.next(line);) {
     const std::string token(text::first_token(line.text));
     if (text::is_header(line.text)) {
-      const bool is_first = going_on.emplace(token, Values()).second;
+      const bool is_first = headers.insert(token).second;
       section = is_first ? token : std::string();
       if (is_first) {
         values[token] = "is there";
+        found.emplace_back(token, "");
       }
     } else if (!token.empty()) {
-      const std::string value(text::entry_value(line.text));
+      found.emplace_back(token, text::entry_value(line.text));
       if (!section.empty()) {
-        values.emplace(section + token, value);
-      }
-      for (auto& [name, found] : going_on) {
-        found.emplace(token, value);
+        values.emplace(section + token, found.back().second);
       }
     }
   }
-  for (const auto& [name, found] : going_on) {
-    for (const auto& [key, value] : found) {
-      values[name + key + " or behind"] = value;
+  Values behind;
+  for (auto at = found.rbegin(); at != found.rend(); ++at) {
+    if (headers.count(at->first) == 0) {
+      behind[at->first] = at->second;
+      continue;
+    }
+    for (const auto& [key, value] : behind) {
+      values[at->first + key + " or behind"] = value;
     }
   }
   return values;
@@ -114,6 +119,9 @@ std::string file_of(std::mt19937& random, const Kind& kind, std::size_t size) {
   for (int section = 1; text.size() < size; ++section) {
     text += kind.line_break + "[Flow-" + std::to_string(section) + "]" + kind.line_break;
     for (auto count = random() % 30; count > 0; --count) {
+      if (random() % 16 == 0) {
+        text += (random() % 2 == 0 ? "Remark of   somebody" : "  = nobody's") + kind.line_break;
+      }
       const std::string key = key_of(random);
       const std::string value(1 + random() % 12, static_cast<char>('a' + random() % 26));
       text += (kind.padded ? text::padded_entry(key, value) : text::plain_entry(key, value)) +
