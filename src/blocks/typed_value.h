@@ -16,11 +16,17 @@ namespace qel {
 /// One field of a value; nothing where a name is missing.
 using Field = std::variant<std::monostate, int, double, std::string>;
 
-inline Field to_field(int value) { return value; }
-inline Field to_field(double value) { return value; }
-inline Field to_field(const std::string& value) { return value; }
-inline Field to_field(const char* value) {
-  return value != nullptr ? Field(std::string(value)) : Field();
+inline void add_field(std::vector<Field>& fields, int value) { fields.emplace_back(value); }
+inline void add_field(std::vector<Field>& fields, double value) { fields.emplace_back(value); }
+inline void add_field(std::vector<Field>& fields, const std::string& value) {
+  fields.emplace_back(value);
+}
+inline void add_field(std::vector<Field>& fields, const char* value) {
+  if (value != nullptr) {
+    fields.emplace_back(std::string(value));
+  } else {
+    fields.emplace_back();
+  }
 }
 
 /// Scans as the encoding does. `number` is the number of the entry's key, which some lines lean on.
@@ -47,36 +53,42 @@ template <class Encoding>
 std::vector<Field> fields_of(const char* text, int number) {
   std::string copy(text);
   typename Encoding::Values values{};
-  return std::apply(
+  std::vector<Field> fields;
+  std::apply(
       [&](auto&... outputs) {
         scan_entry<Encoding>(copy.data(), number, outputs...);
-        std::vector<Field> fields;
-        fields.reserve(sizeof...(outputs));
-        (fields.push_back(to_field(outputs)), ...);
-        return fields;
+        (add_field(fields, outputs), ...);
       },
       values);
+  return fields;
 }
+
+inline bool scan_plain(const char*& text, int& value) {
+  std::int64_t wide = 0;
+  if (!platform::scan_int64(text, wide) || wide < std::numeric_limits<int>::min() ||
+      wide > std::numeric_limits<int>::max()) {
+    return false;
+  }
+  value = static_cast<int>(wide);
+  return true;
+}
+
+inline bool scan_plain(const char*& text, double& value) {
+  return platform::scan_real(text, value) && std::isfinite(value);
+}
+
+inline bool ends_plain(const char* text) { return *text == '\0' || *text == ' ' || *text == '\t'; }
 
 /// The fields of a text that is nothing but its numbers with blanks and tabs between them, finite
 /// and in range, as most are. False for any other, which may be read all the same.
 template <class Encoding>
 bool plain_fields_of(const char* text, std::vector<Field>& fields) {
-  const auto ends = [](char c) { return c == '\0' || c == ' ' || c == '\t'; };
   const auto take = [&](auto& value) {
-    using Value = std::remove_reference_t<decltype(value)>;
-    if constexpr (std::is_same_v<Value, int>) {
-      std::int64_t wide = 0;
-      if (!platform::scan_int64(text, wide) || wide < std::numeric_limits<int>::min() ||
-          wide > std::numeric_limits<int>::max()) {
-        return false;
-      }
-      value = static_cast<int>(wide);
-    } else if (!platform::scan_real(text, value) || !std::isfinite(value)) {
+    if (!scan_plain(text, value)) {
       return false;
     }
     fields.emplace_back(value);
-    return ends(*text);
+    return ends_plain(text);
   };
   fields.clear();
   typename Encoding::Values values{};

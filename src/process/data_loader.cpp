@@ -118,6 +118,21 @@ void put_in_order(std::vector<NumberedLine>& points) {
                points.end());
 }
 
+using Points = std::vector<NumberedLine>;
+
+Points::const_iterator end_of_points_up_to(int most, const Points& points) {
+  return std::find_if(points.begin(), points.end(),
+                      [most](const NumberedLine& point) { return point.number > most; });
+}
+
+// Where the first number is missing.
+Points::const_iterator end_of_consecutive(const Points& points) {
+  int expected = 1;
+  return std::find_if(points.begin(), points.end(), [&expected](const NumberedLine& point) {
+    return point.number != expected++;
+  });
+}
+
 // What a section says of an object, put there step by step.
 template <class Object>
 class SectionLoad {
@@ -194,17 +209,14 @@ class SectionLoad {
       from_.file.with_text(text::entry_value(*counting),
                            [&most](const char* text) { most = platform::to_int(text); });
     }
+    const auto end = counting ? end_of_points_up_to(most, points) : end_of_consecutive(points);
     std::visit(
         [&](auto get) {
           auto& to = *(object_.*get)();
-          int expected = 1;
-          for (const NumberedLine& point : points) {
-            if (point.number > most || (!counting && point.number != expected++)) {
-              return;
-            }
+          std::for_each(points.begin(), end, [&](const NumberedLine& point) {
             from_.file.with_text(text::entry_value(point.line),
                                  [&to](const char* text) { append(to, text); });
-          }
+          });
         },
         Of::kLists[static_cast<std::size_t>(list)]);
   }

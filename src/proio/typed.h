@@ -46,7 +46,7 @@ bool CPROIO_Manipulator::Set(const qel::proio::Row& row, Values... values) {
     return false;
   }
   return qel::attempt([&] {
-    return IsOK(Write(SectionOf(row), KeyOf(row), qel::fields::print("\t", values...).c_str(), true,
-                      kByKey));
+    const std::string text = qel::fields::print("\t", values...);
+    return IsOK(Write(SectionOf(row), KeyOf(row), text.c_str(), true, kByKey));
   });
 }

@@ -54,6 +54,24 @@ constexpr int number_behind(std::string_view prefix, std::string_view key) {
   return key.starts_with(prefix) ? number : -1;
 }
 
+/// What a table knows of a key before it looks at its text: the first and the last word tell texts
+/// of up to two words apart.
+struct TableKey {
+  constexpr TableKey() = default;
+  constexpr TableKey(std::size_t owner, std::string_view name, bool is_numbered)
+      : first(name.size() < kWordSize ? word_of(name.data(), name.size()) : word_of(name.data())),
+        last(name.size() < kWordSize ? 0 : word_of(name.data() + name.size() - kWordSize)),
+        kind((owner << 32U) | (name.size() << 1U) | (is_numbered ? 1U : 0U)) {}
+
+  constexpr bool operator==(const TableKey& other) const {
+    return first == other.first && last == other.last && kind == other.kind;
+  }
+
+  std::uint64_t first = 0;
+  std::uint64_t last = 0;
+  std::uint64_t kind = 0;
+};
+
 /// Keys that are known beforehand, and which of them a key of a file is. It is made when the
 /// program is compiled, of at most so many keys with so many characters together; nobody else's
 /// names are ever in it, so that its hash needs no secret.
@@ -88,20 +106,7 @@ class KeyTable {
   [[nodiscard]] constexpr std::size_t size() const { return size_; }
 
  private:
-  // The first and the last word tell texts of up to two words apart.
-  struct Key {
-    constexpr Key() = default;
-    constexpr Key(std::size_t owner, std::string_view name, bool is_numbered)
-        : first(name.size() < kWordSize ? word_of(name.data(), name.size()) : word_of(name.data())),
-          last(name.size() < kWordSize ? 0 : word_of(name.data() + name.size() - kWordSize)),
-          kind((owner << 32U) | (name.size() << 1U) | (is_numbered ? 1U : 0U)) {}
-
-    constexpr bool operator==(const Key& other) const = default;
-
-    std::uint64_t first = 0;
-    std::uint64_t last = 0;
-    std::uint64_t kind = 0;
-  };
+  using Key = TableKey;
 
   static constexpr std::size_t kSlots = std::bit_ceil(2 * most + 1);
 
