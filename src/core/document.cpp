@@ -18,6 +18,7 @@ using qel::ValueBuffer;
 using qel::platform::OsFile;
 using qel::platform::RandomAccess;
 using qel::platform::read_steadily;
+using qel::platform::ReadAccess;
 
 namespace {
 
@@ -39,7 +40,7 @@ Result deliver(bool failed, const std::optional<Line>& line, const Target& targe
 // A lookup that scans the file from its beginning. The names asked for may stand where the value
 // goes, which therefore is put there last.
 template <class Find>
-Result look_up_in(RandomAccess& file, const Target& target, const ValueBuffer& value, Find find) {
+Result look_up_in(ReadAccess& file, const Target& target, const ValueBuffer& value, Find find) {
   std::optional<LineScanner> lines;
   const std::optional<Line> line = read_steadily(file, [&] {
     lines.emplace(file, 0);
@@ -91,7 +92,7 @@ RandomAccess& CQELPROIO::held() {
 }
 
 // A session's own file, with what it read before; a file that gives way to others is scanned alone.
-RandomAccess& CQELPROIO::held_for_reading() {
+ReadAccess& CQELPROIO::held_for_reading() {
   if (lent_ != nullptr) {
     return *lent_;
   }
@@ -236,7 +237,7 @@ qel::Result CQELPROIO::GetValue(std::string_view section, std::string_view key, 
 }
 
 // The held file, or the path's, which `own` opens.
-Result CQELPROIO::choose_file(OsFile& own, RandomAccess*& file) {
+Result CQELPROIO::choose_file(OsFile& own, ReadAccess*& file) {
   if (attached_) {
     file = &held_for_reading();
     return holds_file() ? Result::done : Result::no_file;
@@ -266,7 +267,7 @@ qel::Result CQELPROIO::LookUp(const Target& target, const ValueBuffer& value) {
     return deliver(room.failed(), line, target, value);
   }
   OsFile own;
-  RandomAccess* file = nullptr;
+  ReadAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
     return chosen;
@@ -280,7 +281,7 @@ template <class Work>
 Result CQELPROIO::scan_section(std::string_view section, const std::function<void()>& begin,
                                Work work) {
   OsFile own;
-  RandomAccess* file = nullptr;
+  ReadAccess* file = nullptr;
   const Result chosen = choose_file(own, file);
   if (chosen != Result::done) {
     return chosen;

@@ -105,8 +105,8 @@ class CQELPROIO {
   [[nodiscard]] bool is_read_again(const wchar_t* path) const;
   [[nodiscard]] bool holds_file() const { return file_.is_open() || lent_ != nullptr; }
   qel::platform::RandomAccess& held();
-  qel::platform::RandomAccess& held_for_reading();
-  qel::Result choose_file(qel::platform::OsFile& own, qel::platform::RandomAccess*& file);
+  qel::platform::ReadAccess& held_for_reading();
+  qel::Result choose_file(qel::platform::OsFile& own, qel::platform::ReadAccess*& file);
   template <class Work>
   qel::Result scan_section(std::string_view section, const std::function<void()>& begin, Work work);
   bool open_path(qel::platform::OsFile& file) const;

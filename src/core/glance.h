@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/section_index.h"
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 #include "text/line_scanner.h"
 
 namespace qel {
@@ -19,7 +19,7 @@ class Glance {
   static constexpr std::size_t kOneLine = 256;
 
   /// `room` is where it reads to, up to so many bytes, which outlive its lines.
-  Glance(platform::RandomAccess& file, char* room, std::size_t size)
+  Glance(platform::ReadAccess& file, char* room, std::size_t size)
       : file_(file), room_(room), size_(size) {}
 
   /// Whether the section's header stands at the place. Reads `more` bytes after the offset, too,
@@ -49,7 +49,7 @@ class Glance {
  private:
   void read(std::int64_t offset, std::size_t count);
 
-  platform::RandomAccess& file_;
+  platform::ReadAccess& file_;
   char* room_;
   std::size_t size_;
   std::int64_t begin_ = 0;  // of what was read

@@ -88,7 +88,7 @@ constexpr std::size_t kOneSection = 4096;
 // whether it still stands there, and sets `changed` where it does not.
 class IndexedLookup {
  public:
-  IndexedLookup(platform::RandomAccess& file, const Target& target, SectionIndex& index,
+  IndexedLookup(platform::ReadAccess& file, const Target& target, SectionIndex& index,
                 LookupRoom& room)
       : file_(file), target_(target), index_(index), room_(room) {}
 
@@ -119,7 +119,7 @@ class IndexedLookup {
     return std::nullopt;
   }
 
-  platform::RandomAccess& file_;
+  platform::ReadAccess& file_;
   const Target& target_;
   SectionIndex& index_;
   LookupRoom& room_;
@@ -349,7 +349,7 @@ std::optional<Line> find_in_section(LineScanner& lines, const Target& target) {
              : std::nullopt;
 }
 
-std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target,
+std::optional<Line> find_indexed(platform::ReadAccess& file, const Target& target,
                                  SectionIndex& index, LookupRoom& room) {
   IndexedLookup lookup(file, target, index, room);
   std::optional<Line> line = lookup.find();

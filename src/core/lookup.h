@@ -5,7 +5,7 @@
 
 #include "core/lookup_room.h"
 #include "core/section_index.h"
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 #include "text/line_scanner.h"
 #include "text/target.h"
 
@@ -29,7 +29,7 @@ std::optional<Line> find_in_section(LineScanner& lines, const Target& target);
 /// The indexed lookup of a reading session. A line or header that is known is taken from where it
 /// was seen, if it still stands there; where it does not, the file was changed, and all that was
 /// learnt is forgotten. What was learnt of an earlier file is taken as it is.
-std::optional<Line> find_indexed(platform::RandomAccess& file, const Target& target,
+std::optional<Line> find_indexed(platform::ReadAccess& file, const Target& target,
                                  SectionIndex& index, LookupRoom& room);
 
 }  // namespace qel

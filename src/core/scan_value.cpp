@@ -5,7 +5,7 @@
 
 namespace qel {
 
-std::optional<std::string_view> scan_value(platform::RandomAccess& file, std::string_view section,
+std::optional<std::string_view> scan_value(platform::ReadAccess& file, std::string_view section,
                                            std::string_view key, std::string& contents) {
   constexpr std::string_view kStripped = " \t\f\v\n\r";
   const std::int64_t size = file.size_in_memory();

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 
 namespace qel {
 
@@ -13,23 +13,15 @@ namespace qel {
 /// which no store disturbed are as good as that one's, and ask the system nothing more. So it keeps
 /// a copy of what was read, of one state of the file: where anything is new, the whole read is
 /// looked at as `read_steadily` says, and where the file has changed, the copy goes.
-class SteadyFile final : public platform::RandomAccess {
+class SteadyFile final : public platform::ReadAccess {
  public:
-  explicit SteadyFile(platform::RandomAccess& file) : file_(file) {}
+  explicit SteadyFile(platform::ReadAccess& file) : file_(file) {}
 
   /// Another file is read from now on.
   void forget();
 
   std::int64_t size() override { return file_.size(); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override;
-  bool write_at(std::int64_t offset, const char* from, std::size_t count) override {
-    return file_.write_at(offset, from, count);
-  }
-  bool reserve(std::int64_t old_size, std::int64_t end) override {
-    return file_.reserve(old_size, end);
-  }
-  bool truncate(std::int64_t size) override { return file_.truncate(size); }
-  bool flush() override { return file_.flush(); }
 
   bool begins_read() override;
   platform::ReadEnd ends_read() override;
@@ -58,7 +50,7 @@ class SteadyFile final : public platform::RandomAccess {
   std::int64_t read_pages(std::int64_t offset, char* to, std::size_t count);
   void drop_copy();
 
-  platform::RandomAccess& file_;
+  platform::ReadAccess& file_;
   std::vector<Page> pages_;
   std::vector<std::int64_t> fresh_;  // the numbers of such pages
   bool has_copy_ = false;            // of some page

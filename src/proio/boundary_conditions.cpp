@@ -118,7 +118,7 @@ bool CPROIO_Manipulator::GetBCProfile(int bc, int point, double& x, double& y) {
     }
     Buffer text;
     const bool found = platform::read_steadily(file, [&] {
-      const Place place = place_of<platform::RandomAccess>(file, bc, point);
+      const Place place = place_of<platform::ReadAccess>(file, bc, point);
       if (!place.readable || !place.named || place.line < 1) {
         return false;
       }

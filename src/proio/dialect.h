@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 #include "text/dialect.h"
 #include "text/line_scanner.h"
 
@@ -12,7 +12,7 @@ inline constexpr text::Dialect kDialect{
     .longest_line = 127, .keeps_blanks = true, .key_columns = 14};
 
 /// The lines of a file, or of the contents of one, which outlive the scanner.
-inline LineScanner lines_of(platform::RandomAccess& file) {
+inline LineScanner lines_of(platform::ReadAccess& file) {
   constexpr std::size_t kMostFiles = std::size_t{16} * 1024;
   return LineScanner(file, 0, kMostFiles, kDialect);
 }

@@ -17,7 +17,7 @@ std::size_t end_of_contents(std::string_view contents) {
 }
 
 // The same of a file; below 0 where that cannot be told.
-std::int64_t end_of_contents(platform::RandomAccess& file) {
+std::int64_t end_of_contents(platform::ReadAccess& file) {
   const std::int64_t size = file.size();
   std::int64_t end = size;
   bool marked = false;
@@ -40,7 +40,7 @@ std::int64_t end_of_contents(platform::RandomAccess& file) {
 
 }  // namespace
 
-BoundedLines::BoundedLines(platform::RandomAccess& file)
+BoundedLines::BoundedLines(platform::ReadAccess& file)
     : file_(&file), block_(new char[kBlock]), end_(end_of_contents(file)) {
   char start[kByteOrderMark.size()];
   const std::int64_t got = file.read_at(0, start, sizeof start);

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 
 namespace qel::refdata {
 
@@ -19,7 +19,7 @@ namespace qel::refdata {
 class BoundedLines {
  public:
   /// The file outlives the lines.
-  explicit BoundedLines(platform::RandomAccess& file);
+  explicit BoundedLines(platform::ReadAccess& file);
   /// Over the contents of a whole file, which outlive the lines.
   explicit BoundedLines(std::string_view contents);
 
@@ -37,7 +37,7 @@ class BoundedLines {
   /// The next character, "\r\n" being one.
   bool next_character(char& character);
 
-  platform::RandomAccess* file_ = nullptr;
+  platform::ReadAccess* file_ = nullptr;
   std::unique_ptr<char[]> block_;
   std::int64_t offset_ = 0;  // of what comes after the window
   std::int64_t end_ = 0;     // of the contents; what stands after is no line

@@ -82,7 +82,7 @@ std::array<double, kProperties> Coolant::properties_at(double argument) const {
   return result;
 }
 
-std::optional<std::vector<Coolant>> read_coolants(platform::RandomAccess& file) {
+std::optional<std::vector<Coolant>> read_coolants(platform::ReadAccess& file) {
   std::vector<Coolant> coolants;
   BoundedLines lines(file);
   bool in_section = false;

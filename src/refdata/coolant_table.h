@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 
 namespace qel::refdata {
 
@@ -30,6 +30,6 @@ struct Coolant {
 
 /// The coolants of a settings file, in its order; nothing when it cannot be read to its end: the
 /// rows that are missing would be taken for 0.
-std::optional<std::vector<Coolant>> read_coolants(platform::RandomAccess& file);
+std::optional<std::vector<Coolant>> read_coolants(platform::ReadAccess& file);
 
 }  // namespace qel::refdata

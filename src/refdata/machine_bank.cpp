@@ -97,7 +97,7 @@ BankReport read(BoundedLines& lines, int& version, Makers& makers) {
 
 }  // namespace
 
-bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers) {
+bool read_machine_bank(platform::ReadAccess& file, int& version, Makers& makers) {
   BoundedLines lines(file);
   const bool ends_well = !read(lines, version, makers).has_total;
   if (lines.failed()) {

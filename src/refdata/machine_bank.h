@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 
 namespace qel::refdata {
 
@@ -20,7 +20,7 @@ inline constexpr int kBankVersion = 7007;
 /// Adds the machines of a bank to the makers. `version` takes the version that the bank's header
 /// gives; machines count only while it is 7007. False when the header holds a "TotalNo" line, which
 /// ends the reading; and, without a maker, when the file cannot be read to its end.
-bool read_machine_bank(platform::RandomAccess& file, int& version, Makers& makers);
+bool read_machine_bank(platform::ReadAccess& file, int& version, Makers& makers);
 
 /// What a bank's lines come to, for a program that is to say why it lists no machine.
 struct BankReport {

@@ -24,7 +24,7 @@ class FileEdit {
       : FileEdit(file, file.size_in_memory(), dialect) {}
   /// Of a file that has just been opened.
   explicit FileEdit(platform::OsFile& file, const text::Dialect& dialect = {})
-      : FileEdit(file, platform::RandomAccess::in_memory(file.size_when_opened()), dialect) {}
+      : FileEdit(file, platform::ReadAccess::in_memory(file.size_when_opened()), dialect) {}
 
   /// Comes first; false when the file cannot be read whole.
   bool load();

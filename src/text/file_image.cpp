@@ -4,7 +4,7 @@
 
 namespace qel {
 
-bool FileImage::load(platform::RandomAccess& file, std::int64_t size) {
+bool FileImage::load(platform::ReadAccess& file, std::int64_t size) {
   if (size < 0) {
     return false;
   }

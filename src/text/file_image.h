@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 
 namespace qel {
 
@@ -19,7 +19,7 @@ class FileImage {
 
   /// The file's bytes, of which there are `size`, as `size_in_memory` tells it. False when they
   /// cannot be read.
-  bool load(platform::RandomAccess& file, std::int64_t size);
+  bool load(platform::ReadAccess& file, std::int64_t size);
 
   [[nodiscard]] std::string_view bytes() const { return {begin_, size_}; }
 

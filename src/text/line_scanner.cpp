@@ -17,7 +17,7 @@ const char* find_byte(const char* begin, std::size_t count, char byte) {
 
 }  // namespace
 
-LineScanner::LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected,
+LineScanner::LineScanner(platform::ReadAccess& file, std::int64_t from, std::size_t expected,
                          const text::Dialect& dialect)
     : dialect_(dialect), file_(&file), window_offset_(from), capacity_(expected) {
   if (capacity_ > sizeof few_) {

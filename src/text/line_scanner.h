@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/random_access.h"
+#include "platform/read_access.h"
 #include "text/dialect.h"
 
 namespace qel {
@@ -31,7 +31,7 @@ class LineScanner {
  public:
   /// Over a file, from an offset at which a line begins. `expected` is how much the caller expects
   /// to read.
-  LineScanner(platform::RandomAccess& file, std::int64_t from, std::size_t expected = kFirstBlock,
+  LineScanner(platform::ReadAccess& file, std::int64_t from, std::size_t expected = kFirstBlock,
               const text::Dialect& dialect = {});
   /// Over the contents of a whole file, which outlive the scanner, from an offset at which a line
   /// begins. A caller that knows that they hold no NUL byte saves a search of each line.
@@ -88,7 +88,7 @@ class LineScanner {
   char* block() { return buffer_ != nullptr ? buffer_.get() : few_; }
 
   text::Dialect dialect_;
-  platform::RandomAccess* file_ = nullptr;
+  platform::ReadAccess* file_ = nullptr;
   const char* window_ = nullptr;
   std::int64_t window_offset_ = 0;
   std::size_t capacity_ = 0;

@@ -15,7 +15,7 @@ using qel::SteadyFile;
 using qel::platform::ReadEnd;
 
 // A file in memory, which counts how often it is asked whether it is undisturbed.
-class AskedFile final : public qel::platform::RandomAccess {
+class AskedFile final : public qel::platform::ReadAccess {
  public:
   std::int64_t size() override { return static_cast<std::int64_t>(bytes.size()); }
   std::int64_t read_at(std::int64_t offset, char* to, std::size_t count) override {
@@ -23,10 +23,6 @@ class AskedFile final : public qel::platform::RandomAccess {
     longest = std::max(longest, count);
     return fails ? -1 : static_cast<std::int64_t>(bytes.copy(to, count, at));
   }
-  bool write_at(std::int64_t, const char*, std::size_t) override { return false; }
-  bool reserve(std::int64_t, std::int64_t) override { return false; }
-  bool truncate(std::int64_t) override { return false; }
-  bool flush() override { return true; }
   bool begins_read() override {
     ++begun;
     return !is_stored_into;
