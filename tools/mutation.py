@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Changes one operator, constant or condition of the engine at a time, and tells which changes no test notices.
 
-usage: mutation.py BUILD_FOLDER SOURCE_OR_FOLDER ... [--every N] [--again REPORT] [--jobs N] [--list]
+usage: mutation.py BUILD_FOLDER SOURCE_OR_FOLDER ... [--every N] [--from K] [--again REPORT] [--jobs N] [--list]
 
 tools/mutants_without_effect.txt lists changes that nothing can see, each with its reason: they are counted by themselves.
 
@@ -178,6 +178,7 @@ def main():
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("sources", type=pathlib.Path, nargs="+")
     parser.add_argument("--every", type=int, default=1, help="take every N-th mutant alone")
+    parser.add_argument("--from", type=int, default=0, dest="first", help="of those every N-th, begin with the K-th, from 0 on")
     parser.add_argument("--again", type=pathlib.Path, help="take those alone that an earlier report lists as survivors")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--list", action="store_true", help="print the mutants, and run none")
@@ -185,7 +186,7 @@ def main():
 
     sources = [path.resolve() for given_path in given.sources
                for path in (sorted(given_path.glob("*.cpp")) if given_path.is_dir() else [given_path])]
-    mutants = [(source, *mutant) for source in sources for mutant in mutants_of(source)][::given.every]
+    mutants = [(source, *mutant) for source in sources for mutant in mutants_of(source)][given.first::given.every]
     if given.again:
         report = [entry for entry in given.again.read_text().splitlines() if ": survived: " in entry]
         mutants = [mutant for mutant in mutants if is_listed(report, *mutant[:4])]

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -138,6 +139,34 @@ TEST_F(Steady, ReadsUnderTheLockWhereAStoreRan) {
   asked_.is_stored_into = false;
   EXPECT_EQ(read(0, 256), asked_.bytes.substr(0, 256));
   EXPECT_EQ(asked_.ended, 2) << "nothing is kept of what was read under the lock";
+}
+
+// Bytes that stand in a page of which there is a copy, behind one of which there is none.
+TEST_F(Steady, ReadsOverTheEndOfAPageIntoOneThatItKnows) {
+  asked_.bytes = many_lines();
+  EXPECT_EQ(read(5000, 256), asked_.bytes.substr(5000, 256));
+  EXPECT_EQ(read(4000, 256), asked_.bytes.substr(4000, 256));
+  EXPECT_EQ(asked_.ended, 2);
+  EXPECT_EQ(read(4000, 256), asked_.bytes.substr(4000, 256));
+  EXPECT_EQ(asked_.ended, 2) << "both pages are known";
+}
+
+// A read that ended without an answer leaves nothing that the next one would take for known.
+TEST_F(Steady, KeepsNothingOfAReadThatWasLeft) {
+  asked_.bytes = many_lines();
+  EXPECT_THROW(qel::platform::read_steadily(file_,
+                                            [&]() -> int {
+                                              char byte = 0;
+                                              file_.read_at(100, &byte, 1);
+                                              throw std::bad_alloc();
+                                            }),
+               std::bad_alloc);
+  asked_.bytes[100] = '#';
+  EXPECT_EQ(read(100, 256), asked_.bytes.substr(100, 256));
+  EXPECT_EQ(asked_.begun, 2);
+  EXPECT_EQ(asked_.ended, 1) << "the first read has no end";
+  EXPECT_EQ(read(100, 256), asked_.bytes.substr(100, 256));
+  EXPECT_EQ(asked_.ended, 1) << "the page is known";
 }
 
 // A file that was written a moment ago may be written again without a mark of it.
