@@ -20,7 +20,7 @@ PAGE = ROOT / "docs/reliability.md"
 FIRST, LAST = "<!-- made by tools/figures.py -->", "<!-- made so far -->"
 
 MEASURED = r"^\[ measured \] (.*)"
-MUTATED = "/usr/bin/python3 tools/mutation.py build/mutants --every 2"
+MUTATED = "/usr/bin/python3 tools/mutation.py build/mutants --every 4 --from 1"
 MUTANTS = r"^(.* mutants killed .*)"
 
 # Name, what is measured, the command, and which of the lines that it prints are kept.
@@ -28,7 +28,7 @@ FIGURES = [
     ("memory", "every allocation of every exported member fails", "./dev test --memory", MEASURED),
     ("stops", "stops after every page of random stores", "build/debug/tests/inner_tests --gtest_filter='*PageSteps*'", MEASURED),
     ("kills", "kills at random moments, a fresh file after each 20",
-     "QELPRO_KILLS=20000 build/debug/tests/fault_tests --gtest_filter='KilledWriter.*'", MEASURED),
+     "QELPRO_KILLS=100000 build/debug/tests/fault_tests --gtest_filter='KilledWriter.*'", MEASURED),
     ("programs", "two programs, one file", "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='*Processes*:*OldOrNew*'", MEASURED),
     ("load", "threads, stores and large files",
      "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='-*Processes*:*OldOrNew*'", MEASURED),

@@ -197,12 +197,12 @@ def main():
 
     build = Build(given.build)
     build.prepare()
-    for source in sources:
-        if build.verdict(source, source.read_text()) != "survived":
-            sys.exit(f"{source.name} fails its tests as it is")
     counts = {"killed": 0, "survived": 0, "invalid": 0, "listed": 0}
     listed = without_effect()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
+        for source, verdict in zip(sources, pool.map(lambda source: build.verdict(source, source.read_text()), sources)):
+            if verdict != "survived":
+                sys.exit(f"{source.name} fails its tests as it is")
         verdicts = pool.map(lambda mutant: build.verdict(mutant[0], mutant[4]), mutants)
         for (source, line, old, new, _), verdict in zip(mutants, verdicts):
             if verdict == "survived" and as_listed(source, line, old, new) in listed:
