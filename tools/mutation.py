@@ -141,7 +141,7 @@ class Build:
 
             stages = [("inner_tests", f"-{SLOW}"), ("api_tests", f"-{FOREIGN}"), ("inner_tests", "Model.*"), ("fault_tests", f"-{PATIENT}")]
             if "process" in source.parts:
-                stages = [("api_tests", "DataLoader*:*Adapter*:*Process*:*ValueReader*"), ("api_tests", f"-{FOREIGN}"), ("fault_tests", f"-{PATIENT}")]
+                stages = [("api_tests", "DataLoader*:*Adapter*:*Process*:*ValueReader*"), ("api_tests", f"-{FOREIGN}"), ("fault_tests", f"-{PATIENT.removeprefix('Memory.*:')}")]
             elif source.stem in STEPS:
                 stages.insert(1, ("inner_tests", "*PageSteps*"))
             return "killed" if any(fails(*stage) for stage in stages) else "survived"

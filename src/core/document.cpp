@@ -160,8 +160,7 @@ bool CQELPROIO::open(const Character* path, int mode) {
     remember(path, copy);
     // A file that the document itself opened stays in use; one that was closed gives way to the
     // path.
-    attached_ = holds_file();
-    indexed_ = indexed_ && attached_;
+    attached_ = indexed_ = holds_file();
     return true;
   }
   forget_lent();

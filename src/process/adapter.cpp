@@ -200,10 +200,11 @@ void CQEL_ProcessAdapter::GetMaterialDefaultValue(int kind, double& p1, double& 
 void CQEL_ProcessAdapter::GetMaterialTemperature(double& mold, double& melt) {
   qel::attempt([&] {
     CQELPROReader_Manipulator reader;
-    if (path_ == nullptr || !reader.SetFilePath(shared(writer_)->path.c_str())) {
-      return false;
+    const bool is_open = path_ != nullptr && reader.SetFilePath(shared(writer_)->path.c_str());
+    if (is_open) {
+      reader.FlowCTL_ReadMeltTemperature(melt);
+      reader.FlowCTL_ReadMoldTemperature(mold);
     }
-    const bool has_melt = reader.FlowCTL_ReadMeltTemperature(melt);
-    return reader.FlowCTL_ReadMoldTemperature(mold) && has_melt;
+    return is_open;
   });
 }

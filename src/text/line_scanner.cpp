@@ -86,14 +86,10 @@ void LineScanner::drop_end_mark() {
 
 // Whether everything from here to the end of the file is padding.
 bool LineScanner::is_padding(std::size_t begin) {
-  const std::int64_t offset = window_offset_ + static_cast<std::int64_t>(begin);
-  if (offset < no_padding_before_) {
-    return false;
-  }
-  const std::string_view rest(window_ + begin, length_ - begin);
-  const std::size_t content = rest.find_first_not_of(text::kPadding);
-  if (content != std::string_view::npos) {
-    no_padding_before_ = offset + static_cast<std::int64_t>(content);
+  const auto has_content = [](std::string_view text) {
+    return text.find_first_not_of(text::kPadding) != std::string_view::npos;
+  };
+  if (has_content({window_ + begin, length_ - begin})) {
     return false;
   }
   if (at_end_) {
@@ -105,10 +101,7 @@ bool LineScanner::is_padding(std::size_t begin) {
     if (got <= 0) {
       return true;
     }
-    const std::size_t found =
-        std::string_view(block, static_cast<std::size_t>(got)).find_first_not_of(text::kPadding);
-    if (found != std::string_view::npos) {
-      no_padding_before_ = at + static_cast<std::int64_t>(found);
+    if (has_content({block, static_cast<std::size_t>(got)})) {
       return false;
     }
     at += got;
@@ -187,9 +180,6 @@ bool LineScanner::next_starting_with(std::string_view prefix, Line& line) {
       inside_long_line_ = false;
       if (hit == std::string_view::npos) {
         continue;
-      }
-      if (window_ + at_ == ahead.data() + hit) {
-        return next(line);
       }
     }
     // The hit is inside that line, or after what the window holds of it; parts of a long line

@@ -98,8 +98,6 @@ class LineScanner {
   bool failed_ = false;
   bool inside_long_line_ = false;
   bool may_hold_nul_ = false;
-  std::int64_t no_padding_before_ =
-      0;  // up to here, blanks without a line break are known not to be padding
   std::unique_ptr<char[]> buffer_;  // null while a few lines are all that is expected
   char few_[kFew];
 };
