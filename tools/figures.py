@@ -4,7 +4,7 @@
 usage: figures.py list | measure NAME ... | write | check
 
 "measure" runs the commands of those figures, keeps what they print in docs/figures.json with the state of the tree and the date, and
-puts the page's table anew, as "write" does alone. "check" fails where the table is not that of the kept figures.
+puts the page's table anew, as "write" does alone; all that they print is in build/figures. "check" fails where the table is not that of the kept figures.
 """
 import datetime
 import json
@@ -17,6 +17,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 KEPT = ROOT / "docs/figures.json"
 PAGE = ROOT / "docs/reliability.md"
+LOGS = ROOT / "build/figures"
 FIRST, LAST = "<!-- made by tools/figures.py -->", "<!-- made so far -->"
 
 MEASURED = r"^\[ measured \] (.*)"
@@ -64,12 +65,14 @@ def measure(names):
     for name, _, command, pattern in FIGURES:
         if name in names:
             print(f"== {command}", flush=True)
-            run = subprocess.run(command, shell=True, cwd=ROOT, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
-                                 env=dict(os.environ, LC_ALL="C.UTF-8"))
-            printed = re.findall(pattern, run.stdout, flags=re.M)
+            LOGS.mkdir(parents=True, exist_ok=True)
+            log = LOGS / f"{name}.log"
+            with log.open("w") as to:
+                subprocess.run(command, shell=True, cwd=ROOT, stdout=to, stderr=subprocess.STDOUT, env=dict(os.environ, LC_ALL="C.UTF-8"))
+            printed = re.findall(pattern, log.read_text(errors="replace"), flags=re.M)
             print("\n".join(printed))
             if not printed:
-                sys.exit(f"{name}: nothing was measured:\n{run.stdout[-4000:]}")
+                sys.exit(f"{name}: nothing was measured: {log.relative_to(ROOT)}")
             keep(name, printed)
 
 
