@@ -33,6 +33,12 @@ std::string_view line_at(std::string_view text, std::size_t begin) {
 
 std::string_view without_break(std::string_view line) { return text::trim_end(line, "\r\n"); }
 
+bool is_header(std::string_view line) { return text::is_header(without_break(line)); }
+
+bool is_positional(std::string_view header) {
+  return text::first_token_is(header, text::first_token(text::kPositionalHeader));
+}
+
 }  // namespace
 
 PageLayout::PageLayout(const MovedText& moved) : moved_(moved), text_(moved.text) {
@@ -98,7 +104,7 @@ void PageLayout::look_for_headers(std::size_t boundary) {
   }
   while (begin < end) {
     const std::string_view line = line_at(text_, begin);
-    if (text::is_header(without_break(line))) {
+    if (is_header(line)) {
       const auto old_begin = static_cast<std::ptrdiff_t>(begin) - moved_.shift;
       const std::ptrdiff_t way = static_cast<std::ptrdiff_t>(boundary) - old_begin;
       const bool is_hidden =
@@ -120,10 +126,6 @@ std::string PageLayout::line_before(std::size_t begin) const {
 
 // Whether the boundary lies in a section whose lines are known by their positions.
 bool PageLayout::parts_positions(std::size_t boundary) const {
-  const auto is_header = [](std::string_view line) { return text::is_header(without_break(line)); };
-  const auto is_positional = [](std::string_view line) {
-    return text::first_token_is(line, text::first_token(text::kPositionalHeader));
-  };
   for (std::size_t at = line_from(boundary); at > 0;) {
     at = text_.rfind('[', at - 1);
     if (at == std::string_view::npos) {
@@ -170,9 +172,12 @@ bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end)
   }
   text.append(text_, begin, first_line - begin);
   std::size_t at = first_line;
+  bool is_by_position = parts_positions(begin);
   while (needed > room && at < lines_end) {
     const std::string_view line = line_at(text_, at);
-    needed -= put_tight(text, line);
+    is_by_position = is_header(line) ? is_positional(line) : is_by_position;
+    const bool drops = without_break(line).empty() && !is_by_position;
+    needed -= drops ? line.size() : put_tight(text, line);
     at += line.size();
   }
   if (needed > room) {

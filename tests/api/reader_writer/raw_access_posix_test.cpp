@@ -29,6 +29,22 @@ TEST_F(RawAccess, SectionMembersKeepTheFileThatWasOpenedUntilThePathIsSetAgain) 
   EXPECT_EQ(time, 4.5);
 }
 
+// What was learnt of the file that stood there before stands in this one, too, in a section that is
+// not the first of its name any more.
+TEST_F(RawAccess, LearnsAFileAnewThatTookTheOthersPlace) {
+  const std::string path = scratch_.file("[Flow-1]\nFillTime = 1.5\n[Flow-2]\nFillTime = 2.5\n");
+  Reader reader;
+  double time = 0;
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 2));
+  EXPECT_EQ(time, 2.5);
+  std::filesystem::rename(
+      scratch_.file("[Flow-2]\nFillTime = 3.5\n[Flow-2]\nFillTime = 2.5\n", "new.pro"), path);
+  ASSERT_TRUE(reader.SetFilePath(path.c_str()));
+  EXPECT_TRUE(reader.FlowX_ReadFillingTime(time, 2));
+  EXPECT_EQ(time, 3.5);
+}
+
 TEST_F(RawAccess, FailsOnAFileThatIsGone) {
   const std::string path = scratch_.file(kFile);
   Reader reader;

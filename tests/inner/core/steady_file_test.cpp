@@ -151,6 +151,17 @@ TEST_F(Steady, ReadsOverTheEndOfAPageIntoOneThatItKnows) {
   EXPECT_EQ(asked_.ended, 2) << "both pages are known";
 }
 
+// One byte of it is as much a part of that page as any other.
+TEST_F(Steady, KeepsWhatItHasWhereOneByteMoreIsNew) {
+  asked_.bytes = many_lines();
+  read(0, 256);
+  EXPECT_EQ(read(4000, 97), asked_.bytes.substr(4000, 97));
+  EXPECT_EQ(asked_.ended, 2);
+  EXPECT_EQ(read(0, 256), asked_.bytes.substr(0, 256));
+  EXPECT_EQ(read(4096, 1), asked_.bytes.substr(4096, 1));
+  EXPECT_EQ(asked_.ended, 2) << "both pages are known";
+}
+
 // A read that ended without an answer leaves nothing that the next one would take for known.
 TEST_F(Steady, KeepsNothingOfAReadThatWasLeft) {
   asked_.bytes = many_lines();

@@ -58,6 +58,21 @@ TEST(PageLayout, TakesTheBlanksOnBothSidesOfTheEqualsSign) {
       LongerLine{"Key" + std::string(5, ' ') + "=" + std::string(6, ' ') + "value\n"}.text());
 }
 
+// Those are what a kill leaves where blanks were.
+TEST(PageLayout, TakesEmptyLines) {
+  EXPECT_TRUE(LongerLine{std::string(12, '\n')}.text());
+  EXPECT_FALSE(LongerLine{std::string(11, '\n')}.text());
+  EXPECT_TRUE(LongerLine{"\r\n\r\n\r\n\r\n\r\n\r\n"}.text());
+  EXPECT_FALSE(LongerLine{"\r\n\r\n\r\n\r\n\r\n \n"}.text());
+  const std::string empty(12, '\n');
+  EXPECT_TRUE(LongerLine{"[Flow-1]\n" + empty}.text());
+  const std::string header = std::string(text::kPositionalHeader) + "\n";
+  EXPECT_FALSE(LongerLine{header + empty + "[Flow-1]\n"}.text()) << "a line in front counts";
+  EXPECT_TRUE(LongerLine{header + "[Flow-1]\n" + empty}.text());
+  EXPECT_TRUE(LongerLine{empty + header + "[Flow-1]\n"}.text());
+  EXPECT_FALSE((LongerLine{empty + "[Flow-1]\n", 4107, header}.text()));
+}
+
 TEST(PageLayout, LeavesLongerLinesAsTheyAre) {
   EXPECT_TRUE(LongerLine{with_blanks(127, 60)}.text());
   EXPECT_FALSE(LongerLine{with_blanks(128, 60)}.text());
