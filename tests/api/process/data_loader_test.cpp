@@ -293,6 +293,12 @@ TEST(DataLoader, RepeatedKeysCountOnce) {
             "inlet 1\n  FlowRateProfile (1 1) (2 2)\n");
 }
 
+TEST(DataLoader, KeysThatStandTwiceInARowCountOnce) {
+  EXPECT_EQ(loaded("[Flow-1]\nFRSet = 2\nFR-1 = 1 1\nFR-1 = 9 9\nFR-2 = 2 2\n"
+                   "TimeConstFR-1 = 1\nTimeConstFR-1 = 9\nTimeConstFR-2 = 2\n"),
+            "inlet 1\n  FlowRateProfile (1 1) (2 2)\n  FlowRateTimeConstants 1 2\n");
+}
+
 TEST(DataLoader, RamPositionListsHoldTheFirstNumberOfEachItem) {
   EXPECT_EQ(loaded("[RamPosition]\nRP_FRSet = 3\nRP_FR-1 = 100\t0\nRP_FR-3 = 20\nRP_IPSet = "
                    "2\nRP_IP-1 = far\nRP_IP-2 = 7.5\n"),
