@@ -28,7 +28,7 @@ MUTANTS = r"^(.* mutants killed .*)"
 # Name, what is measured, the command, and which of the lines that it prints are kept.
 FIGURES = [
     ("memory", "every allocation of every exported member fails", "./dev test --memory", MEASURED),
-    ("stops", "stops after every page of random stores", "build/debug/tests/inner_tests --gtest_filter='*PageSteps*'", MEASURED),
+    ("stops", "stops after every page of random stores", "QELPRO_LOAD=whole build/debug/tests/inner_tests --gtest_filter='*PageSteps*'", MEASURED),
     ("kills", "kills at random moments, a fresh file after each 20",
      "QELPRO_KILLS=100000 build/debug/tests/fault_tests --gtest_filter='KilledWriter.*'", MEASURED),
     ("programs", "two programs, one file", "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='*Processes*:*OldOrNew*'", MEASURED),
