@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <random>
-#include <utility>
 
 #include "text/sip_hash.h"
 
@@ -34,7 +33,7 @@ std::uint64_t name_hash(std::string_view name) { return SipHash(key_of_program()
 std::uint64_t name_hash(std::uint64_t owner, std::string_view name) {
   SipHash hash(key_of_program());
   hash.take(owner);
-  return std::move(hash).with(name);
+  return hash.with(name);
 }
 
 }  // namespace qel

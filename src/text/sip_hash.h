@@ -29,7 +29,7 @@ class SipHash {
     a_ ^= word;
   }
 
-  [[nodiscard]] std::uint64_t with(std::string_view text) && {
+  [[nodiscard]] std::uint64_t with(std::string_view text) {
     const char* at = text.data();
     std::size_t left = text.size();
     for (; left >= kWordSize; left -= kWordSize, at += kWordSize) {

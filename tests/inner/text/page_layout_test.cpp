@@ -92,9 +92,9 @@ TEST(PageLayout, TakesBlanksOfAPagesFirstLineWhereItBeginsThere) {
 TEST(PageLayout, HasAllOfTheLinesThatReplaceOthersInTheirPage) {
   const std::string first = with_blanks(100, 80);
   const std::string lines = "One=" + std::string(20, '1') + "\nTwo=2\nThree=3\n";
+  const std::string contents =
+      first + full_lines(4090 - first.size()) + lines + with_blanks(100, 80) + full_lines(4700);
   for (const std::ptrdiff_t shift : {10, -10, 0}) {
-    const std::string contents =
-        first + full_lines(4090 - first.size()) + lines + with_blanks(100, 80) + full_lines(4700);
     const auto text = PageLayout({"", contents, 4090, 4090 + lines.size(), shift, true}).text();
     ASSERT_TRUE(text) << shift;
     EXPECT_NE(text->substr(0, 4096).find("\nThree=3\n"), std::string::npos) << shift;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <map>
@@ -87,15 +88,15 @@ Values values_in(const std::string& bytes) {
     }
   }
   Values behind;
-  for (auto at = found.rbegin(); at != found.rend(); ++at) {
-    if (headers.count(at->first) == 0) {
-      behind[at->first] = at->second;
-      continue;
+  std::for_each(found.rbegin(), found.rend(), [&](const auto& entry) {
+    if (!headers.contains(entry.first)) {
+      behind[entry.first] = entry.second;
+      return;
     }
     for (const auto& [key, value] : behind) {
-      values[at->first + key + " or behind"] = value;
+      values[entry.first + key + " or behind"] = value;
     }
-  }
+  });
   return values;
 }
 
