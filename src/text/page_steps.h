@@ -28,9 +28,10 @@ struct PageSteps {
   bool moves_all = false;          ///< Whether they reach to where the contents end.
 };
 
-/// A text in between has each line whole in one page. It takes the blanks around "=" and empty lines
-/// for the room that this needs: a file with too few of them has no such way. Nor has a change that moves a
-/// section whose lines are known by their position over the end of a page, or a mebibyte.
+/// A text in between has each line whole in one page. It takes the blanks around "=" and empty
+/// lines for the room that this needs: a file with too few of them has no such way. Nor has a
+/// change that moves a section whose lines are known by their position over the end of a page, or a
+/// mebibyte.
 PageSteps page_steps(const LineChange& change);
 
 }  // namespace qel
