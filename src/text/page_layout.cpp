@@ -172,7 +172,8 @@ bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end)
   }
   text.append(text_, begin, first_line - begin);
   std::size_t at = first_line;
-  bool is_by_position = parts_positions(begin);
+  // No page behind the first one begins in such a section: there is no text in between then.
+  bool is_by_position = begin == 0 && parts_positions(begin);
   while (needed > room && at < lines_end) {
     const std::string_view line = line_at(text_, at);
     is_by_position = is_header(line) ? is_positional(line) : is_by_position;
