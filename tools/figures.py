@@ -56,9 +56,9 @@ def state():
     return git("rev-parse", "--short=7", "HEAD") + ("" if not git("status", "--porcelain", "--untracked-files=no", "--", ".", *OWN) else " and changes")
 
 
-def keep(name, printed):
+def keep(name, printed, measured):
     found = kept()
-    found[name] = {"printed": printed, "state": state(), "date": datetime.date.today().isoformat()}
+    found[name] = {"printed": printed, "state": measured, "date": datetime.date.today().isoformat()}
     KEPT.write_text(json.dumps({known: found[known] for known, *_ in FIGURES if known in found}, indent=1) + "\n")
 
 
@@ -68,13 +68,14 @@ def measure(names):
             print(f"== {command}", flush=True)
             LOGS.mkdir(parents=True, exist_ok=True)
             log = LOGS / f"{name}.log"
+            measured = state()
             with log.open("w") as to:
                 subprocess.run(command, shell=True, cwd=ROOT, stdout=to, stderr=subprocess.STDOUT, env=dict(os.environ, LC_ALL="C.UTF-8"))
             printed = re.findall(pattern, log.read_text(errors="replace"), flags=re.M)
             print("\n".join(printed))
             if not printed:
                 sys.exit(f"{name}: nothing was measured: {log.relative_to(ROOT)}")
-            keep(name, printed)
+            keep(name, printed, measured)
 
 
 def table():
