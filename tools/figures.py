@@ -22,6 +22,7 @@ OWN = (":!docs/figures.json", ":!docs/reliability.md")  # written by whatever wa
 FIRST, LAST = "<!-- made by tools/figures.py -->", "<!-- made so far -->"
 
 MEASURED = r"^\[ measured \] (.*)"
+FUZZED = r"^(\w+_fuzz: Done .*)"
 MUTATED = "/usr/bin/python3 tools/mutation.py build/mutants --every 4 --from 1"
 MUTANTS = r"^(.* mutants killed .*)"
 
@@ -34,7 +35,8 @@ FIGURES = [
     ("programs", "two programs, one file", "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='*Processes*:*OldOrNew*'", MEASURED),
     ("load", "threads, stores and large files",
      "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='-*Processes*:*OldOrNew*'", MEASURED),
-    ("fuzz", "fuzzing, each target so long", "./dev fuzz 360", r"^(\w+_fuzz: Done .*)"),
+    ("fuzz", "fuzzing, each target so long", "./dev fuzz 360", FUZZED),
+    ("older", "the older object beside its model", "./dev fuzz 360 older_model", FUZZED),
     ("coverage", "lines and branches that the tests reach", "./dev coverage", r"^\| (together .*) \|$"),
     ("text", "mutants of the text engine", f"{MUTATED} src/text", MUTANTS),
     ("core", "mutants of lookups, stores and sessions", f"{MUTATED} src/core", MUTANTS),
@@ -70,11 +72,11 @@ def measure(names):
             log = LOGS / f"{name}.log"
             measured = state()
             with log.open("w") as to:
-                subprocess.run(command, shell=True, cwd=ROOT, stdout=to, stderr=subprocess.STDOUT, env=dict(os.environ, LC_ALL="C.UTF-8"))
+                run = subprocess.run(command, shell=True, cwd=ROOT, stdout=to, stderr=subprocess.STDOUT, env=dict(os.environ, LC_ALL="C.UTF-8"))
             printed = re.findall(pattern, log.read_text(errors="replace"), flags=re.M)
             print("\n".join(printed))
-            if not printed:
-                sys.exit(f"{name}: nothing was measured: {log.relative_to(ROOT)}")
+            if run.returncode != 0 or not printed:
+                sys.exit(f"{name}: failed with {run.returncode}, and is not kept: {log.relative_to(ROOT)}")
             keep(name, printed, measured)
 
 

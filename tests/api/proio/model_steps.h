@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cctype>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -9,6 +10,18 @@
 #include "support/naive_older_object.h"
 
 namespace qelpro_test {
+
+/// The number that a text begins with, or what else there is to be.
+inline double real_in(const std::string& text, double otherwise) {
+  // The C library at hand takes the point of a hexadecimal number that has no digits.
+  const std::size_t number = text.find_first_not_of(" \t\n\v\f\r+-");
+  const std::string front = number != std::string::npos ? text.substr(number, 4) : "";
+  const bool lacks_digits =
+      (front.starts_with("0x.") || front.starts_with("0X.")) &&
+      (front.size() < 4 || std::isxdigit(static_cast<unsigned char>(front[3])) == 0);
+  double value = otherwise;
+  return !lacks_digits && std::sscanf(text.c_str(), "%lf", &value) == 1 ? value : otherwise;
+}
 
 /// Makes one store or lookup in the object and in its model. `pick` chooses a number below its
 /// argument; `found` counts the lookups that found something. What they disagree in, or nothing.
@@ -91,10 +104,7 @@ inline std::string step_beside(NaiveOlderObject& model, CPROIO_Manipulator& obje
       double time = -1;
       const bool done = object.GetFillTime(time, stage);
       const auto expected = model.get(flow, "FillTime");
-      double value = -1;
-      if (expected && std::sscanf(expected->c_str(), "%lf", &value) != 1) {
-        value = -1;
-      }
+      const double value = expected ? real_in(*expected, -1) : -1;
       found += done ? 1 : 0;
       return done == expected.has_value() && (time == value || (time != time && value != value))
                  ? ""
