@@ -98,8 +98,8 @@ std::int64_t SteadyFile::compared(std::int64_t offset, const char* bytes, std::i
   return got;
 }
 
-// Null where no copy can be kept, or this read has one already.
-SteadyFile::Page* SteadyFile::new_page(std::int64_t number) {
+// Null where no copy can be kept, or this read has one already. A read does not need its copy.
+SteadyFile::Page* SteadyFile::new_page(std::int64_t number) try {
   if (number >= kMostPages) {
     return nullptr;
   }
@@ -111,16 +111,14 @@ SteadyFile::Page* SteadyFile::new_page(std::int64_t number) {
   if (page.state != State::unknown) {
     return nullptr;
   }
-  fresh_.push_back(number);
   if (page.bytes == nullptr) {
-    page.bytes.reset(new (std::nothrow) char[kPage]);
-    if (page.bytes == nullptr) {
-      fresh_.pop_back();
-      return nullptr;
-    }
+    page.bytes.reset(new char[kPage]);
   }
+  fresh_.push_back(number);
   page.state = State::fresh;
   return &page;
+} catch (const std::bad_alloc&) {
+  return nullptr;
 }
 
 // Reads the whole pages that a few bytes stand in: the next ones asked for stand there, too.

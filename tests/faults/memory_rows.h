@@ -171,6 +171,10 @@ struct Row {
   bool same_again = true;
 };
 
+/// A reason to be done: the lookups of a call that find bytes that a session has not read yet.
+inline constexpr const char* kCopy =
+    "a session's copy of what it reads is for the next reads: this one does without";
+
 /// Members that are made from the rows of the catalogue, and others whose names stand in the
 /// headers' lists.
 std::vector<Row> listed_rows();

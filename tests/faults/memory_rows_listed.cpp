@@ -83,6 +83,9 @@ void add_readers(std::vector<Row>& rows) {
     // A session's second lookup by position goes by what the first one learnt, also where that
     // found no memory to end.
     by_path.same_again = call.name != "MoldTemperatureBCX_ReadBC";
+    if (call.name == "PartInsertContactAngle_ReadAngle") {
+      by_path.done_nevertheless = kCopy;
+    }
     rows.push_back(by_path);
     Row by_stream{member, "over a lent stream",
                   [&call](Stage& stage) { over_stream(stage, call, "r"); }};

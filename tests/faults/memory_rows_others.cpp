@@ -245,6 +245,7 @@ void add_value_reader(std::vector<Row>& rows) {
                      std::to_string(value);
             });
       }};
+  row.done_nevertheless = kCopy;
   rows.push_back(row);
 }
 
