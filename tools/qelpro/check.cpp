@@ -39,9 +39,9 @@ Color color_of(Severity severity) {
 }
 
 /// Prints findings as they come.
-class Printer {
+class FindingPrinter {
  public:
-  explicit Printer(const CheckArguments& arguments)
+  explicit FindingPrinter(const CheckArguments& arguments)
       : arguments_(arguments), painter_(arguments.color) {}
 
   void print(Finding&& finding) {
@@ -99,7 +99,7 @@ class Printer {
 };
 
 void check_file(const std::string& file, const std::vector<std::string>& disabled,
-                Printer& printer) {
+                FindingPrinter& printer) {
   check_document(file, load_document(file), [&](Finding&& finding) {
     if (std::ranges::find(disabled, finding.code) == disabled.end()) {
       printer.print(std::move(finding));
@@ -111,7 +111,7 @@ void check_file(const std::string& file, const std::vector<std::string>& disable
 
 int run_check(const CheckArguments& arguments) {
   check_codes(arguments.disabled);
-  Printer printer(arguments);
+  FindingPrinter printer(arguments);
   int status = kDone;
   Progress progress(arguments.files.size(), "files");
   std::uint64_t done = 0;

@@ -253,7 +253,7 @@ class Line {
   bool only_positionals_ = false;
 };
 
-Words commands_of(const CLI::App& app) {
+Words names_of_commands(const CLI::App& app) {
   Words names;
   for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
     names.push_back(command->get_name());
@@ -264,7 +264,7 @@ Words commands_of(const CLI::App& app) {
 std::optional<Words> candidates(const CLI::App& app, std::span<const std::string> words) {
   const std::string& begun = words.back();
   if (words.size() == 1) {
-    return begun.starts_with('-') ? Line(app, {}).candidates(begun) : commands_of(app);
+    return begun.starts_with('-') ? Line(app, {}).candidates(begun) : names_of_commands(app);
   }
   for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
     if (command->get_name() == words.front()) {

@@ -17,7 +17,7 @@ namespace qelpro {
 
 namespace {
 
-struct Request {
+struct CoolantRequest {
   std::string file;
   int coolant = 0;
   std::vector<double> temperatures;
@@ -35,7 +35,7 @@ std::string own_file() {
   return path.data();
 }
 
-void take_table(const CoolantArguments& arguments, Request& request) {
+void take_table(const CoolantArguments& arguments, CoolantRequest& request) {
   constexpr double kMostRows = 1e6;
   for (const auto& [given, name] : {std::pair(arguments.from.has_value(), "--from"),
                                     std::pair(arguments.to.has_value(), "--to"),
@@ -61,7 +61,7 @@ void take_table(const CoolantArguments& arguments, Request& request) {
 }
 
 // The last two words are the coolant and the temperature.
-void take_point(std::vector<std::string>& words, Request& request) {
+void take_point(std::vector<std::string>& words, CoolantRequest& request) {
   if (words.size() < 2) {
     refuse(words.empty()
                ? "ID and TEMPERATURE are missing; or give --table"
@@ -91,8 +91,8 @@ void take_point(std::vector<std::string>& words, Request& request) {
   request.temperatures.push_back(temperature);
 }
 
-Request request_of(const CoolantArguments& arguments) {
-  Request request;
+CoolantRequest coolant_request_of(const CoolantArguments& arguments) {
+  CoolantRequest request;
   std::vector<std::string> words = arguments.words;
   if (arguments.table) {
     take_table(arguments, request);
@@ -118,7 +118,7 @@ std::string in_columns(const std::vector<double>& numbers) {
 }  // namespace
 
 int run_coolant(const CoolantArguments& arguments) {
-  const Request request = request_of(arguments);
+  const CoolantRequest request = coolant_request_of(arguments);
   CoolantTable coolants(request.file);
   Json rows = Json::array();
   for (const double temperature : request.temperatures) {
