@@ -166,7 +166,8 @@ bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end)
   const std::size_t room = end - begin - (is_last ? 0 : 1);
   std::size_t needed = lines_end - begin;
   const std::size_t page_at = text.size();
-  if (begin > 0 && first_line == begin && hides_next(begin) && end_of_lines(begin) == begin) {
+  const bool hides_first_line = begin > 0 && first_line == begin && hides_next(begin);
+  if (hides_first_line && end_of_lines(begin) == begin) {
     text.push_back('\n');  // nobody else has the line that would be hidden
     ++needed;
   }
@@ -177,7 +178,8 @@ bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end)
   while (needed > room && at < lines_end) {
     const std::string_view line = line_at(text_, at);
     is_by_position = is_header(line) ? is_positional(line) : is_by_position;
-    const bool drops = without_break(line).empty() && !is_by_position;
+    const bool ends_hidden_line = hides_first_line && at == begin;  // or the next one is hidden
+    const bool drops = without_break(line).empty() && !is_by_position && !ends_hidden_line;
     needed -= drops ? line.size() : put_tight(text, line);
     at += line.size();
   }
@@ -188,6 +190,9 @@ bool PageLayout::put_page(std::string& text, std::size_t begin, std::size_t end)
   const std::size_t filler = page_at + (end - begin) - text.size();
   if (is_last) {
     text.append(filler, ' ');
+    if (text_.find_first_not_of(' ', begin) == std::string_view::npos) {
+      text.back() = '\n';  // behind the "=" of the page before: a file ends in a line break
+    }
   } else {
     text.append(filler - 1, '\n').push_back(hides_next(end) ? '=' : '\n');
   }

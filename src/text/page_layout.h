@@ -31,6 +31,9 @@ class PageLayout {
   /// second one would end the section. Nothing where the whole way will do.
   [[nodiscard]] std::optional<std::size_t> nearer() const { return nearer_; }
 
+  /// Whether the last section is one whose lines are known by their positions.
+  [[nodiscard]] bool ends_in_positions() const { return parts_positions(text_.size()); }
+
   /// Nothing where a page has no room.
   [[nodiscard]] std::optional<std::string> text() const;
 

@@ -23,6 +23,18 @@ std::string with_empty_lines(std::string_view lines, std::size_t count) {
   return text.append(count, '\n');
 }
 
+std::size_t pages_of(std::string_view text) { return (text.size() + kPageSize - 1) / kPageSize; }
+
+// The text with a line of blanks behind it, up to a size. The text in between, whose pages end in
+// the middle of a line, never is the end of the file then: a file that does not end in a line break
+// has no next one.
+std::string with_room(std::string_view now, std::size_t size) {
+  std::string text(now);
+  text.resize(size, ' ');
+  text.back() = '\n';
+  return text;
+}
+
 class Steps {
  public:
   explicit Steps(const LineChange& change)
@@ -34,7 +46,7 @@ class Steps {
     const std::size_t new_size = change_.lines.size();
     left_ = std::max(old_size, new_size) - std::min(old_size, new_size);
     std::size_t way = left_;
-    while (texts_.size() < 2 * kMostWays) {
+    for (std::size_t ways = 0; ways < kMostWays;) {
       const std::string lines = lines_after(way);
       std::string text = contents_with(lines);
       const std::size_t begin = change_.begin - at_;
@@ -52,6 +64,10 @@ class Steps {
       if (!between) {
         return false;
       }
+      if (std::string_view now = now_there();
+          pages_of(text) > pages_of(now) && !layout.ends_in_positions()) {
+        texts_.push_back(with_room(now, text.size()));
+      }
       texts_.push_back(*std::move(between));
       texts_.push_back(std::move(text));
       old_end_ = change_.begin + lines.size();
@@ -59,6 +75,7 @@ class Steps {
       if (left_ == 0) {
         return true;
       }
+      ++ways;
       way = left_;
     }
     return false;
@@ -70,6 +87,11 @@ class Steps {
 
  private:
   [[nodiscard]] bool grows() const { return change_.lines.size() > change_.end - change_.begin; }
+
+  // What stands there when the next text goes over it.
+  [[nodiscard]] std::string_view now_there() const {
+    return texts_.empty() ? change_.contents.substr(at_) : std::string_view(texts_.back());
+  }
 
   // The lines that change, when those behind them have gone so much of the way that is left.
   [[nodiscard]] std::string lines_after(std::size_t way) const {

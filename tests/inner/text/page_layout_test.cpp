@@ -73,6 +73,18 @@ TEST(PageLayout, TakesEmptyLines) {
   EXPECT_FALSE((LongerLine{empty + "[Flow-1]\n", 4107, header}.text()));
 }
 
+// An empty line that begins a page ends the "=" in front of it: without it the next line would be
+// hidden.
+TEST(PageLayout, KeepsTheEmptyLineThatEndsAHiddenOne) {
+  const std::string changed = "Changed=" + std::string(11, '#') + "\n";
+  std::string contents = with_blanks(60, 40) + changed;
+  contents += full_lines(kPageSize - contents.size()) + "\n" + with_blanks(60, 40);
+  contents += full_lines(2 * kPageSize + 20 - contents.size());
+  const auto text = PageLayout({{}, contents, 60, 60 + changed.size(), 10, true}).text();
+  ASSERT_TRUE(text);
+  EXPECT_EQ(text->substr(kPageSize - 1, 7), "=\nKey=v");
+}
+
 TEST(PageLayout, LeavesLongerLinesAsTheyAre) {
   EXPECT_TRUE(LongerLine{with_blanks(127, 60)}.text());
   EXPECT_FALSE(LongerLine{with_blanks(128, 60)}.text());
@@ -138,7 +150,7 @@ TEST(PageLayout, NeedsNoRoomForTheBlanksBehindTheLastLine) {
     const auto text = PageLayout({"", contents, 0, changed.size(), -6, true}).text();
     ASSERT_TRUE(text) << end;
     EXPECT_EQ(text->size(), contents.size()) << end;
-    EXPECT_EQ(text->back(), ' ') << end;
+    EXPECT_EQ(text->back(), end > kPageSize ? ' ' : '\n') << end;
   }
 }
 

@@ -111,6 +111,13 @@ struct Kind {
   std::size_t padding;
 };
 
+// There is a text in between only where the last line has its line break, behind which may be
+// padding.
+bool ends_in_line_break(const std::string& bytes) {
+  const std::size_t last = bytes.find_last_not_of(' ');
+  return last != std::string::npos && bytes[last] == '\n';
+}
+
 class PageSteps : public testing::TestWithParam<Kind> {};
 
 std::string key_of(std::mt19937& random) { return "Key" + std::to_string(random() % 40); }
@@ -156,6 +163,7 @@ TEST_P(PageSteps, LeaveEveryEntryOldOrNewAfterEveryPage) {
     bool is_whole = true;
     for (const std::string& state : file.states()) {
       ++stops;
+      EXPECT_TRUE(ends_in_line_break(state)) << "round " << round << ": the next store has no way";
       const Values values = values_in(state);
       all.insert(values.begin(), values.end());
       for (const auto& [name, unused] : all) {
@@ -172,6 +180,35 @@ TEST_P(PageSteps, LeaveEveryEntryOldOrNewAfterEveryPage) {
   }
   std::cout << "[ measured ] " << stops << " stops\n";
   EXPECT_GT(stops, rounds);
+}
+
+// Where the text's last page comes or goes, no page in front of it is left as the last one.
+TEST(PageStepsOverTheEnd, LeaveAFileThatEndsInALineBreak) {
+  constexpr std::size_t kLonger = 20;
+  for (std::size_t size = 2 * kPageSize - kLonger; size <= 2 * kPageSize + kLonger; ++size) {
+    std::string old = "[Flow-1]\n" + text::padded_entry("Key1", std::string(30, 'a')) + "\n";
+    while (old.size() + 100 < size) {
+      old += text::padded_entry("Key" + std::to_string(old.size()), "v") + "\n";
+    }
+    old += "Last=" + std::string(size - old.size() - 6, 'v') + "\n";
+    for (const std::size_t length : {30 + kLonger, 30 - kLonger}) {
+      for (const bool drops_padding : {false, true}) {
+        StoppingFile file(old);
+        Store store(file);
+        const std::string value(length, '#');
+        const Entry entry{{"[Flow-1]", "Key1"}, value};
+        ASSERT_EQ(drops_padding ? store.replace(entry) : store.set(entry, true), Result::done);
+        EXPECT_GT(file.states().size(), 3U) << size << ": in one write";
+        for (const std::string& state : file.states()) {
+          EXPECT_TRUE(ends_in_line_break(state)) << size << " bytes, a value of " << length;
+          const Values values = values_in(state);
+          EXPECT_TRUE(found_in(values, "[Flow-1]Key1") == value ||
+                      found_in(values, "[Flow-1]Key1") == std::string(30, 'a'));
+          EXPECT_EQ(found_in(values, "[Flow-1]Last"), found_in(values_in(old), "[Flow-1]Last"));
+        }
+      }
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, PageSteps,
