@@ -49,14 +49,15 @@ struct Row;
 /// Setters yield true even when the file cannot be written, and the file then keeps every byte, its
 /// "Date" too. False is for an object without a path, a null text, one that holds the byte 0x1A,
 /// which ends a file for other programs, a position that no line can have, and for memory that is
-/// missing. What is replaced is a whole line, however long: the same store twice leaves what one
-/// leaves. A text with a line break makes several lines.
+/// missing before the entry is written; "Date" keeps its text where memory is missing after that.
+/// What is replaced is a whole line, however long: the same store twice leaves what one leaves. A
+/// text with a line break makes several lines.
 ///
 /// Where the boundary conditions are the file's last section, a new key goes to the end of its own
 /// section: at the end of the file it would be one of their lines.
 ///
-/// Every member opens the file and closes it again, which on POSIX drops the record locks that the
-/// program itself holds on it (`fcntl` with `F_SETLK`).
+/// Every member that reads or writes an entry opens the file and closes it again, which on POSIX
+/// drops the record locks that the program itself holds on it (`fcntl` with `F_SETLK`).
 ///
 /// Copies share the caller's path. One object is used by one thread at a time; different objects on
 /// different files need no lock.

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <string>
@@ -24,7 +23,7 @@ namespace {
 
 constexpr std::size_t kKiB = 1024;
 
-// What each member takes of the stack, in bytes; QELPRO_STACKS prints the most of each class.
+// What each member takes of the stack, in bytes. Prints the most of each class.
 TEST(SmallStack, HoldsEveryMember) {
 #ifdef QELPRO_OTHER_FRAMES
   GTEST_SKIP() << QELPRO_OTHER_FRAMES;
@@ -44,10 +43,8 @@ TEST(SmallStack, HoldsEveryMember) {
     }
   });
   Uses::before = Uses::after = [] {};
-  if (std::getenv("QELPRO_STACKS") != nullptr) {
-    for (const auto& [name, use] : most) {
-      std::cout << name << ": " << use.first << " bytes, " << use.second << '\n';
-    }
+  for (const auto& [name, use] : most) {
+    std::cout << "[ measured ] " << name << ": " << use.first << " bytes, " << use.second << '\n';
   }
   EXPECT_TRUE(in_child({}, [&] {
     on_stack_of(32 * kKiB, [&] {
