@@ -13,6 +13,7 @@
 #include "QELG/QELG.h"
 #include "QELPROEngine/QELPROEngine.h"
 #include "faults/io_calls.h"
+#include "support/in_c_locale.h"
 #include "support/scratch.h"
 
 // Another program stores while a read goes on: before each of the read's calls to the operating
@@ -106,13 +107,13 @@ bool core(Reader& reader, double& value) {
 bool text(Reader& reader, double& value) {
   char* found = nullptr;
   const bool done = reader.ReadString("[Flow-1]", "FillTime", found, nullptr, 0);
-  value = done ? std::strtod(found, nullptr) : value;
+  value = done ? to_double(found) : value;
   return done;
 }
 bool scanned_text(Reader& reader, double& value) {
   char* found = nullptr;
   const bool done = reader.ReadValue("Flow-1", "FillTime", found, nullptr, 0);
-  value = done ? std::strtod(found, nullptr) : value;
+  value = done ? to_double(found) : value;
   return done;
 }
 

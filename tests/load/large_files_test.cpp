@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <locale>
 #include <memory>
 #include <string>
 
@@ -30,6 +31,7 @@ TEST(Load, OfALargeFileIsReadWithoutHoldingItAndStoredIntoWithoutLosingAByte) {
   const std::string path = scratch.path();
   {
     std::ofstream file(path, std::ios::binary);
+    file.imbue(std::locale::classic());  // 1000, not 1.000
     file << "[Flow-1]\nFillTime = 1.5\n[Filler]\n";
     fill_up(file, size / 2);
     file << "[Flow-2]\nFillTime = 2.5\n[Filler]\n";
@@ -73,6 +75,7 @@ TEST(Load, OfASectionOfVeryManyLinesIsReadInFull) {
   const std::string path = scratch.path();
   {
     std::ofstream file(path, std::ios::binary);
+    file.imbue(std::locale::classic());  // 1000, not 1.000
     file << "[CaeHeader]\nProjectType = 1 0\n[Flow-1]\nFRSet = " << kPoints << "\n";
     for (int point = 1; point <= kPoints; ++point) {
       file << "FR-" << point << " = " << point << "\t0.5\n";
@@ -106,6 +109,7 @@ TEST(Load, OfFourThousandInletsIsLoadedInFull) {
   const std::string path = scratch.path();
   {
     std::ofstream file(path, std::ios::binary);
+    file.imbue(std::locale::classic());  // 1000, not 1.000
     file << "[CaeHeader]\nProjectType = 1 0\n[Summary]\nTotalNodeEM = " << kInlets
          << "\n[FlowCTLInfo]\nTotalInlet = " << kInlets << "\n";
     for (int inlet = 1; inlet <= kInlets; ++inlet) {
