@@ -4,13 +4,16 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <locale>
 
 namespace qelpro_test {
 
 std::size_t resident_bytes() {
   std::size_t all = 0;
   std::size_t resident = 0;
-  std::ifstream("/proc/self/statm") >> all >> resident;
+  std::ifstream statm("/proc/self/statm");
+  statm.imbue(std::locale::classic());  // in which a blank never goes on a number
+  statm >> all >> resident;
   return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
 

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <locale>
 #include <set>
 #include <sstream>
 #include <string>
@@ -73,8 +74,9 @@ class EveryCall : private InMemory, public WritingCommand {
   }
   [[nodiscard]] Report report() const {
     Report report;
-    std::istringstream(bytes_of(reports_.path("report"))) >> report.calls >> report.failed_call >>
-        report.role;
+    std::istringstream words(bytes_of(reports_.path("report")));
+    words.imbue(std::locale::classic());  // in which a blank never goes on a number
+    words >> report.calls >> report.failed_call >> report.role;
     report.failed_call += report.role.empty() ? "" : " " + report.role;
     return report;
   }
