@@ -34,7 +34,7 @@ FIGURES = [
      "QELPRO_KILLS=100000 build/debug/tests/fault_tests --gtest_filter='KilledWriter.*'", MEASURED),
     ("stacks", "stack that a member takes, the most of each class",
      "cmake --preset release -B build/stacks -DQELPRO_BENCHMARKS=OFF && cmake --build build/stacks --target qelpro_guest_tests && "
-     "build/stacks/tests/guest_tests --gtest_filter='SmallStack.*'", MEASURED),
+     "cd build/stacks && tests/guest_tests --gtest_filter='SmallStack.*'", MEASURED),
     ("programs", "two programs, one file", "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='*Processes*:*OldOrNew*'", MEASURED),
     ("load", "threads, stores and large files",
      "QELPRO_LOAD=whole build/debug/tests/load_tests --gtest_filter='-*Processes*:*OldOrNew*'", MEASURED),
