@@ -211,6 +211,29 @@ TEST(PageStepsOverTheEnd, LeaveAFileThatEndsInALineBreak) {
   }
 }
 
+// A line of blanks would be one more line of a section whose lines have a position.
+TEST(PageStepsOverTheEnd, PutNoLineBehindASectionOfPositions) {
+  const auto steps_before = [](const std::string& header) {
+    const std::string first = text::padded_entry("Key1", "a") + "\n";
+    std::string contents = "[Flow-1]\n" + first;
+    while (contents.size() + 100 < kPageSize) {
+      contents += text::padded_entry("Key" + std::to_string(contents.size()), "v") + "\n";
+    }
+    const std::string last = header + "\n1 2\n";
+    contents += "Last=" + std::string(kPageSize - contents.size() - 6 - last.size(), 'v') + "\n";
+    contents += last;
+    const std::string longer = text::padded_entry("Key1", std::string(90, 'a')) + "\n";
+    const std::size_t begin = contents.find("Key1");
+    return page_steps({contents, begin, begin + first.size(), longer}).texts;
+  };
+  const auto has_room = [](const std::string& text) { return text.ends_with(" \n"); };
+  const auto other = steps_before("[Flow-2]");
+  EXPECT_EQ(std::ranges::count_if(other, has_room), 1);
+  const auto positions = steps_before(std::string(text::kPositionalHeader));
+  EXPECT_FALSE(positions.empty());
+  EXPECT_EQ(std::ranges::count_if(positions, has_room), 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Files, PageSteps,
                          testing::Values(Kind{true, "\n", 0}, Kind{true, "\r\n", 0},
                                          Kind{true, "\n", 100}));
